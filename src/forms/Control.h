@@ -1,0 +1,73 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "forms/Handler.h"
+#include "forms/Property.h"
+
+namespace ondelis {
+
+class ControlVisitor;
+class Frame;
+
+/// Where a control stands by design: twips from the upper left corner of its panel, or of its frame.
+struct Box {
+    double Left = 0;
+    double Top = 0;
+    double Width = 0;
+    double Height = 0;
+};
+
+/// The top of a row of the grid that panels are laid out on.
+[[nodiscard]] constexpr double ligne(double row)
+{
+    return 240 + 360 * row;
+}
+
+/// How a text stands in its control.
+enum class Align { Left, Right, Center };
+
+/// The type of a control's text, in points; panels are written in the default one.
+struct Font {
+    double size = 9;
+    bool bold = false;
+};
+
+/// What all controls are: an element of one panel, under one name, at one place.
+class Control : public Element {
+public:
+    Control(FeuilleCalcul* panel, std::string name, Box at, Frame* container);
+
+    [[nodiscard]] const std::string& name() const { return name_; }
+    [[nodiscard]] FeuilleCalcul& panel() const { return panel_; }
+    [[nodiscard]] const Box& at() const { return at_; }
+    /// The frame around it; null where it stands on the panel itself.
+    [[nodiscard]] Frame* container() const { return container_; }
+
+    /// Whether it is on screen when its panel is: itself and the frame around it.
+    [[nodiscard]] bool onScreen() const;
+    /// Whether a person can give it the keyboard.
+    [[nodiscard]] virtual bool focusable() const { return false; }
+
+    virtual void accept(ControlVisitor& visitor) = 0;
+    /// Back to the properties of its design.
+    virtual void reset() = 0;
+
+    void touch() final;
+    void changed() final;
+
+protected:
+    [[nodiscard]] virtual bool ownVisible() const = 0;
+    /// Runs the procedure that listens to an event of this control.
+    void raise(const Handler& handler);
+
+private:
+    // NOLINTNEXTLINE(cppcoreguidelines-avoid-const-or-ref-data-members): a control never leaves its panel
+    FeuilleCalcul& panel_;
+    std::string name_;
+    Box at_;
+    Frame* container_;
+};
+
+} // namespace ondelis

@@ -1,0 +1,78 @@
+#include "forms/Desk.h"
+
+#include <algorithm>
+
+#include "forms/Handler.h"
+
+namespace ondelis {
+
+Desk::Desk(Surroundings& surroundings) : surroundings_{surroundings} { }
+
+Desk::~Desk() = default;
+
+void Desk::Unload(FeuilleCalcul& panel)
+{
+    if (panel.loaded())
+        panel.unload();
+}
+
+void Desk::End()
+{
+    end(0);
+    throw Unwinding{};
+}
+
+void Desk::close()
+{
+    end(0);
+}
+
+void Desk::raise(FeuilleCalcul& panel, const Handler& handler)
+{
+    const RunningHandler running{*this, panel};
+    handler.run(panel);
+}
+
+void Desk::raise(FeuilleCalcul& panel, const KeyHandler& handler, Integer& key)
+{
+    const RunningHandler running{*this, panel};
+    handler.run(panel, key);
+}
+
+Answer Desk::MsgBox(const MessageBox& box)
+{
+    const Answer answer = surroundings_.showBox(box);
+    leaveDeadHandlers();
+    return answer;
+}
+
+void Desk::DoEvents()
+{
+    surroundings_.runPendingEvents();
+    leaveDeadHandlers();
+}
+
+void Desk::fail(const Fault& fault)
+{
+    surroundings_.showFault(fault);
+    end(1);
+}
+
+void Desk::end(int status)
+{
+    if (ended_)
+        return;
+    ended_ = true;
+    surroundings_.programEnded(status);
+}
+
+void Desk::leaveDeadHandlers() const
+{
+    const bool dead = std::ranges::any_of(running_, [](const Running& handler) {
+        return !handler.panel->loaded() || handler.panel->loading() != handler.loading;
+    });
+    if (ended_ || dead)
+        throw Unwinding{};
+}
+
+} // namespace ondelis

@@ -1,0 +1,119 @@
+#pragma once
+
+#include <concepts>
+#include <memory>
+#include <typeindex>
+#include <unordered_map>
+#include <vector>
+
+#include "forms/FeuilleCalcul.h"
+#include "forms/Surroundings.h"
+
+namespace ondelis {
+
+/// Owns the panels, runs handlers, and is the one place where a fault or the end of the program is caught.
+class Desk {
+public:
+    explicit Desk(Surroundings& surroundings);
+    ~Desk();
+    Desk(const Desk&) = delete;
+    Desk& operator=(const Desk&) = delete;
+
+    [[nodiscard]] Surroundings& surroundings() const { return surroundings_; }
+
+    /// The one instance of a panel, made at the first reference, which shows nothing.
+    template <std::derived_from<FeuilleCalcul> Panel>
+    Panel& get()
+    {
+        std::unique_ptr<FeuilleCalcul>& panel = panels_[typeid(Panel)];
+        if (panel == nullptr)
+            panel = std::make_unique<Panel>(*this);
+        return static_cast<Panel&>(*panel);
+    }
+
+    /// Closes a panel: its controls go, its variables stay. Does nothing where it is not loaded.
+    template <std::derived_from<FeuilleCalcul> Panel>
+    void Unload()
+    {
+        if (const auto found = panels_.find(typeid(Panel)); found != panels_.end())
+            Unload(*found->second);
+    }
+    void Unload(FeuilleCalcul& panel);
+
+    /// The panels that are loaded, in the order of their loading.
+    [[nodiscard]] const std::vector<FeuilleCalcul*>& loadedPanels() const { return loadedPanels_; }
+
+    /// Runs one action of the user to its end, nested events included. A fault is shown and ends the program
+    /// with status 1. Does nothing once the program has ended.
+    template <class Action>
+    void perform(Action&& action)
+    {
+        if (ended_)
+            return;
+        try {
+            action();
+        } catch (const Fault& fault) {
+            fail(fault);
+        } catch (const Unwinding&) { // NOLINT(bugprone-empty-catch): it has done its work by coming here
+        }
+    }
+
+    /// Ends the program from code: nothing after it runs.
+    [[noreturn]] void End();
+    /// The user closes the program, perhaps while a handler waits in a nested event loop.
+    void close();
+    [[nodiscard]] bool ended() const { return ended_; }
+
+    /// Runs the procedure that listens to an event.
+    void raise(FeuilleCalcul& panel, const Handler& handler);
+    void raise(FeuilleCalcul& panel, const KeyHandler& handler, Integer& key);
+
+    /// Shows a box and gives the answer; leaves the handlers that wait for it where the program or their
+    /// panel is gone.
+    Answer MsgBox(const MessageBox& box);
+    void DoEvents();
+
+    /// The control that has the keyboard, null at the start and after its panel is gone.
+    [[nodiscard]] Control* focused() const { return focused_; }
+    void setFocused(Control* control) { focused_ = control; }
+
+private:
+    friend class FeuilleCalcul;
+
+    /// Thrown through handlers that must not go on: the program has ended, or their panel is gone.
+    struct Unwinding { };
+
+    /// A handler that runs now, and the loading of its panel that it belongs to.
+    struct Running {
+        FeuilleCalcul* panel;
+        unsigned loading;
+    };
+
+    /// Notes a handler for as long as it runs.
+    class RunningHandler {
+    public:
+        RunningHandler(Desk& desk, FeuilleCalcul& panel) : running_{desk.running_}
+        {
+            running_.push_back({.panel = &panel, .loading = panel.loading()});
+        }
+        ~RunningHandler() { running_.pop_back(); }
+        RunningHandler(const RunningHandler&) = delete;
+        RunningHandler& operator=(const RunningHandler&) = delete;
+
+    private:
+        std::vector<Running>& running_;
+    };
+
+    void fail(const Fault& fault);
+    void end(int status);
+    void leaveDeadHandlers() const;
+
+    Surroundings& surroundings_;
+    std::unordered_map<std::type_index, std::unique_ptr<FeuilleCalcul>> panels_;
+    std::vector<FeuilleCalcul*> loadedPanels_;
+    std::vector<Running> running_;
+    Control* focused_ = nullptr;
+    bool ended_ = false;
+};
+
+} // namespace ondelis

@@ -1,0 +1,78 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "forms/Control.h"
+#include "forms/ResumeNext.h"
+#include "forms/Surroundings.h"
+
+namespace ondelis {
+
+class Desk;
+
+/// A panel: controls, panel-level variables, handlers. Its object lives from the first reference to the end
+/// of the program; its controls have their design values at each loading, its variables keep theirs.
+class FeuilleCalcul : public Element {
+public:
+    struct Design {
+        std::string name; ///< of the class
+        std::string Caption;
+        double Width;
+        double Height;
+    };
+    FeuilleCalcul(Desk& desk, Design design);
+
+    Property<std::string> Caption{*this};
+    Property<Single> Left{*this};
+    Property<Single> Top{*this};
+    Property<Single> Width{*this};
+    Property<Single> Height{*this};
+
+    /// Loads the panel when needed and brings it on screen.
+    void Show();
+    /// Takes the panel off the screen; its controls stay. Loads it when needed.
+    void Hide();
+
+    [[nodiscard]] const Design& design() const { return design_; }
+    [[nodiscard]] Desk& desk() const { return desk_; }
+    [[nodiscard]] bool loaded() const { return loaded_; }
+    [[nodiscard]] bool visible() const { return visible_; }
+    /// Counts the loadings: a handler of an earlier loading must not go on in a later one.
+    [[nodiscard]] unsigned loading() const { return loading_; }
+    /// In the order of the form, which is the tab order.
+    [[nodiscard]] const std::vector<Control*>& controls() const { return controls_; }
+    /// Null where the panel has no control of that name.
+    [[nodiscard]] Control* find(std::string_view name) const;
+
+    void touch() final;
+    void changed() final;
+
+protected:
+    /// Shows a message box with one "OK" button.
+    void MsgBox(const std::string& prompt);
+    /// Shows a message box; `buttons` 4 asks "Oui" or "Non".
+    Answer MsgBox(const std::string& prompt, int buttons, const std::string& title);
+    /// Lets the user's pending actions happen before the handler goes on.
+    void DoEvents();
+
+private:
+    friend class Control;
+    friend class Desk;
+
+    virtual void Form_Load() { }
+
+    void load();
+    void unload();
+
+    // NOLINTNEXTLINE(cppcoreguidelines-avoid-const-or-ref-data-members): a panel never leaves its desk
+    Desk& desk_;
+    Design design_;
+    std::vector<Control*> controls_;
+    bool loaded_ = false;
+    bool visible_ = false;
+    bool hideAsked_ = false;
+    unsigned loading_ = 0;
+};
+
+} // namespace ondelis

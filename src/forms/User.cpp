@@ -1,0 +1,185 @@
+#include "forms/User.h"
+
+#include "kit/Text.h"
+
+namespace ondelis {
+namespace {
+
+constexpr int backspaceKey = 8;
+
+/// The code point of a character; 0 for the empty text.
+char32_t codePoint(std::string_view character)
+{
+    if (character.empty())
+        return 0;
+    const auto lead = static_cast<unsigned char>(character[0]);
+    char32_t code = character.size() == 1 ? lead : lead & (0xFFU >> (character.size() + 1));
+    for (const char byte : character.substr(1))
+        code = code << 6U | (static_cast<unsigned char>(byte) & 0x3FU);
+    return code;
+}
+
+/// The code of a key as `KeyPress` gets it: "?" for a character that 16 bits do not hold.
+Integer keyCode(char32_t character)
+{
+    return character <= 32767 ? static_cast<int>(character) : '?';
+}
+
+} // namespace
+
+User::Refusal User::type(TextBox& box, std::string_view text)
+{
+    if (auto refusal = unwritable(box))
+        return refusal;
+    for (int i = 1; i <= Len(text); ++i) {
+        const std::string character = Mid(text, i, 1);
+        desk_.perform([&] {
+            takeFocus(box);
+            box.keyPress(keyCode(codePoint(character)));
+            const std::string before = box.Text;
+            const int limit = box.design().MaxLength;
+            if (limit == 0 || Len(before) < limit)
+                box.Text = before + character;
+        });
+        if (unwritable(box)) // the key before has ended the program, or closed the field
+            break;
+    }
+    return {};
+}
+
+User::Refusal User::backspace(TextBox& box)
+{
+    if (auto refusal = unwritable(box))
+        return refusal;
+    desk_.perform([&] {
+        takeFocus(box);
+        const std::string before = box.Text;
+        box.keyPress(backspaceKey);
+        if (box.Text == before && !before.empty())
+            box.Text = Left(before, Len(before) - 1);
+    });
+    return {};
+}
+
+User::Refusal User::replace(TextBox& box, std::string_view text)
+{
+    if (auto refusal = unwritable(box))
+        return refusal;
+    desk_.perform([&] {
+        takeFocus(box);
+        const int limit = box.design().MaxLength;
+        box.Text = limit == 0 ? std::string{text} : Left(text, limit);
+    });
+    return {};
+}
+
+bool User::key(TextBox& box, char32_t character)
+{
+    bool rewritten = false;
+    desk_.perform([&] {
+        const std::string before = box.Text;
+        box.keyPress(keyCode(character));
+        rewritten = !(box.Text == before);
+    });
+    return rewritten;
+}
+
+User::Refusal User::click(OptionButton& option)
+{
+    if (auto refusal = unreachable(option))
+        return refusal;
+    desk_.perform([&] {
+        takeFocus(option);
+        option.Value = true;
+    });
+    return {};
+}
+
+User::Refusal User::click(CommandButton& button)
+{
+    if (auto refusal = unreachable(button))
+        return refusal;
+    desk_.perform([&] {
+        takeFocus(button);
+        button.Value = true;
+    });
+    return {};
+}
+
+User::Refusal User::choose(ListBox& list, int row)
+{
+    if (auto refusal = unreachable(list))
+        return refusal;
+    if (row < 0 || row >= list.ListCount().value())
+        return "the list has no such row";
+    desk_.perform([&] {
+        takeFocus(list);
+        list.choose(row);
+    });
+    return {};
+}
+
+User::Refusal User::move(ScrollBar& bar, int value)
+{
+    if (auto refusal = unreachable(bar))
+        return refusal;
+    if (value < -32768 || value > 32767 || !bar.allows(value))
+        return "the bar does not reach that value";
+    desk_.perform([&] {
+        takeFocus(bar);
+        bar.Value = value;
+    });
+    return {};
+}
+
+User::Refusal User::focus(Control& control)
+{
+    if (auto refusal = unreachable(control))
+        return refusal;
+    if (!control.focusable())
+        return "the control takes no keyboard";
+    desk_.perform([&] { takeFocus(control); });
+    return {};
+}
+
+User::Refusal User::close(FeuilleCalcul& panel)
+{
+    if (desk_.ended())
+        return "the program has ended";
+    if (!panel.loaded() || !panel.visible())
+        return "the panel is not on screen";
+    desk_.perform([&] { desk_.Unload(panel); });
+    return {};
+}
+
+User::Refusal User::unreachable(const Control& control) const
+{
+    if (desk_.ended())
+        return "the program has ended";
+    if (!control.panel().loaded() || !control.panel().visible())
+        return "the panel is not on screen";
+    if (!control.onScreen())
+        return "the control is hidden";
+    return {};
+}
+
+User::Refusal User::unwritable(const TextBox& box) const
+{
+    if (auto refusal = unreachable(box))
+        return refusal;
+    if (box.Locked)
+        return "the field is locked";
+    return {};
+}
+
+void User::takeFocus(Control& control)
+{
+    if (desk_.focused() == &control)
+        return;
+    desk_.setFocused(&control);
+    desk_.surroundings().focusMoved(control);
+    if (auto* const list = dynamic_cast<ListBox*>(&control))
+        list->gotFocus();
+}
+
+} // namespace ondelis

@@ -1,0 +1,51 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "forms/Controls.h"
+#include "forms/Desk.h"
+
+namespace ondelis {
+
+/// What a person does, by mouse and by key, told to the desk: the one road of every user action. Each action
+/// first gives its control the keyboard, and runs the whole chain of handlers before it returns. What a
+/// person could not do changes nothing and is refused with the reason.
+class User {
+public:
+    using Refusal = std::optional<std::string>;
+
+    explicit User(Desk& desk) : desk_{desk} { }
+
+    /// Types a text key by key at the end of a field: `KeyPress`, then the character lands, unless
+    /// `MaxLength` is reached, and `Change` is raised.
+    Refusal type(TextBox& box, std::string_view text);
+    /// The backspace key at the end of a field: `KeyPress` 8, then, if the handler left the text alone, the
+    /// last character goes.
+    Refusal backspace(TextBox& box);
+    /// Gives a field another text at once, cut to `MaxLength`: a paste, or an edit in the middle. No
+    /// `KeyPress`.
+    Refusal replace(TextBox& box, std::string_view text);
+    /// A key on its way into a field; tells whether the panel rewrote the text meanwhile.
+    bool key(TextBox& box, char32_t character);
+
+    Refusal click(OptionButton& option);
+    Refusal click(CommandButton& button);
+    Refusal choose(ListBox& list, int row);
+    Refusal move(ScrollBar& bar, int value);
+    Refusal focus(Control& control);
+    /// The close box of a panel.
+    Refusal close(FeuilleCalcul& panel);
+
+private:
+    /// Why a person cannot reach the control; nothing where they can.
+    [[nodiscard]] Refusal unreachable(const Control& control) const;
+    [[nodiscard]] Refusal unwritable(const TextBox& box) const;
+    void takeFocus(Control& control);
+
+    // NOLINTNEXTLINE(cppcoreguidelines-avoid-const-or-ref-data-members): a user sits at one desk
+    Desk& desk_;
+};
+
+} // namespace ondelis

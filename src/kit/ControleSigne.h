@@ -1,0 +1,14 @@
+#pragma once
+
+#include <functional>
+#include <string>
+
+#include "kit/Double.h"
+
+namespace ondelis {
+
+/// Gives back a number that is zero or positive. For a negative one it shows a message by `msgBox` and gives
+/// 0.
+[[nodiscard]] Double ControleSigne(Double v, const std::function<void(const std::string& prompt)>& msgBox);
+
+} // namespace ondelis

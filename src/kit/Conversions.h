@@ -1,0 +1,31 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "kit/Double.h"
+#include "kit/Maths.h"
+
+namespace ondelis {
+
+/// The number that a text starts with, 0 where it starts with none. Blanks, tabs and line feeds count
+/// nowhere; the decimal point is "." in every region; an exponent is marked by E, e, D or d; &H and &O begin
+/// a hexadecimal or octal whole number. Throws an overflow beyond the range of a `Double`, and nothing else.
+[[nodiscard]] Double Val(std::string_view text);
+
+/// The number that a text is, by the separators of the region. Throws a type mismatch where the whole text,
+/// but for blanks around it, is not a number, and an overflow beyond the range of a `Double`.
+[[nodiscard]] Double CDbl(std::string_view text);
+
+/// `CDbl`, then `CInt` of the number.
+[[nodiscard]] Integer CInt(std::string_view text);
+
+/// At most 15 significant digits with the decimal separator of the region: "0,5" or "0.5". From 1E+15 and
+/// below 0.0001 in scientific form: "2.5E-05".
+[[nodiscard]] std::string CStr(Double x);
+
+/// The digits of `CStr` with a "." in every region, a leading blank unless negative, and no "0" before the
+/// point: " .5", "-.5", " 3".
+[[nodiscard]] std::string Str(Double x);
+
+} // namespace ondelis

@@ -1,0 +1,57 @@
+#include "kit/Text.h"
+
+#include <algorithm>
+
+#include "kit/Fault.h"
+
+namespace ondelis {
+namespace {
+
+/// The first byte of a character: any but a continuation byte.
+constexpr bool begins(char byte)
+{
+    return (static_cast<unsigned char>(byte) & 0xC0U) != 0x80U;
+}
+
+/// Where the character numbered `index`, from 0, starts; the end of the text past its last one.
+std::size_t startOf(std::string_view text, int index)
+{
+    std::size_t at = 0;
+    for (; at < text.size(); ++at)
+        if (begins(text[at]) && index-- == 0)
+            break;
+    return at;
+}
+
+void require(bool sound)
+{
+    if (!sound)
+        throw Fault{FaultKind::InvalidArgument};
+}
+
+} // namespace
+
+int Len(std::string_view text)
+{
+    return static_cast<int>(std::ranges::count_if(text, begins));
+}
+
+std::string Left(std::string_view text, int count)
+{
+    require(count >= 0);
+    return std::string{text.substr(0, startOf(text, count))};
+}
+
+std::string Right(std::string_view text, int count)
+{
+    require(count >= 0);
+    return std::string{text.substr(startOf(text, std::max(0, Len(text) - count)))};
+}
+
+std::string Mid(std::string_view text, int start, int count)
+{
+    require(start >= 1 && count >= 0);
+    return Left(text.substr(startOf(text, start - 1)), count);
+}
+
+} // namespace ondelis

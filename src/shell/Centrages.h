@@ -1,0 +1,23 @@
+#pragma once
+
+#include "forms/Surroundings.h"
+
+namespace ondelis {
+
+/// Puts a panel in the middle of the outer size of the frame.
+template <class Frame, class Panel>
+void CentrerFeuille(const Frame& frame, Panel& panel)
+{
+    panel.Top = (frame.Height - panel.Height) / 2;
+    panel.Left = (frame.Width - panel.Width) / 2;
+}
+
+/// Puts a window in the middle of the screen.
+template <class Form>
+void CentrerEcran(const Extent& screen, Form& form)
+{
+    form.Top = (screen.Height - form.Height) / 2;
+    form.Left = (screen.Width - form.Width) / 2;
+}
+
+} // namespace ondelis

@@ -1,0 +1,55 @@
+#include "shell/MDIOndelis.h"
+
+#include "forms/ResumeNext.h"
+#include "panels/resonance/CircuitsOscillants.h"
+#include "shell/Centrages.h"
+
+namespace ondelis {
+
+void MDIOndelis::start()
+{
+    desk_.perform([this] { MDIForm_Load(); });
+}
+
+void MDIOndelis::click(const MenuEntry& entry)
+{
+    if (entry.steps.empty())
+        return;
+    desk_.perform([&] {
+        CacherFeuilles();
+        for (const MenuStep& step : entry.steps)
+            step(*this);
+    });
+}
+
+void MDIOndelis::close()
+{
+    desk_.close();
+}
+
+void MDIOndelis::placed(const Extent& corner, const Extent& size)
+{
+    Left.reset(Double{corner.Width});
+    Top.reset(Double{corner.Height});
+    Width.reset(Double{size.Width});
+    Height.reset(Double{size.Height});
+}
+
+void MDIOndelis::changed()
+{
+    desk_.surroundings().frameChanged();
+}
+
+void MDIOndelis::MDIForm_Load()
+{
+    resumeNext([this] { Width = 19470; }, [this] { Height = 15000; },
+        [this] { Caption = "Kervane : Veloris divers V21.5.0 du 20 Janvier 2021"; },
+        [this] { CentrerEcran(desk_.surroundings().screen(), *this); }, [this] { CacherFeuilles(); });
+}
+
+void MDIOndelis::CacherFeuilles()
+{
+    desk_.Unload<CircuitsOscillants>();
+}
+
+} // namespace ondelis

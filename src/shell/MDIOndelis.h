@@ -1,0 +1,44 @@
+#pragma once
+
+#include "forms/Desk.h"
+#include "forms/Property.h"
+#include "shell/Menu.h"
+
+namespace ondelis {
+
+/// The main frame: the first and the last window of the program, and the only place where panels are opened.
+class MDIOndelis final : public Element {
+public:
+    explicit MDIOndelis(Desk& desk) : desk_{desk} { }
+
+    /// Place and outer size on the screen, in twips.
+    Property<Single> Left{*this};
+    Property<Single> Top{*this};
+    Property<Single> Width{*this};
+    Property<Single> Height{*this};
+    Property<std::string> Caption{*this};
+
+    /// Sizes and centres the frame. The program starts here.
+    void start();
+    /// The user clicks an entry of the menu.
+    void click(const MenuEntry& entry);
+    /// The close box of the frame: the program ends.
+    void close();
+    /// The user has moved or resized the window; twips.
+    void placed(const Extent& corner, const Extent& size);
+
+    [[nodiscard]] Desk& desk() const { return desk_; }
+
+    void touch() override { }
+    void changed() override;
+
+private:
+    void MDIForm_Load();
+    /// Closes all panels, whatever was typed into them.
+    void CacherFeuilles();
+
+    // NOLINTNEXTLINE(cppcoreguidelines-avoid-const-or-ref-data-members): one frame, one desk
+    Desk& desk_;
+};
+
+} // namespace ondelis

@@ -1,0 +1,152 @@
+#include "shell/Menu.h"
+
+#include "panels/resonance/CircuitsOscillants.h"
+#include "shell/Centrages.h"
+#include "shell/MDIOndelis.h"
+
+namespace ondelis {
+namespace {
+
+// The steps. Each is named for what it does to the panel of its parameter; positions are twips in the client
+// area.
+
+template <class Panel>
+MenuStep show()
+{
+    return [](MDIOndelis& frame) { frame.desk().get<Panel>().Show(); };
+}
+
+template <class Panel>
+MenuStep left(double twips)
+{
+    return [twips](MDIOndelis& frame) { frame.desk().get<Panel>().Left = Double{twips}; };
+}
+
+template <class Panel>
+MenuStep top(double twips)
+{
+    return [twips](MDIOndelis& frame) { frame.desk().get<Panel>().Top = Double{twips}; };
+}
+
+template <class Panel>
+MenuStep width(double twips)
+{
+    return [twips](MDIOndelis& frame) { frame.desk().get<Panel>().Width = Double{twips}; };
+}
+
+template <class Panel>
+MenuStep height(double twips)
+{
+    return [twips](MDIOndelis& frame) { frame.desk().get<Panel>().Height = Double{twips}; };
+}
+
+template <class Panel>
+MenuStep centre()
+{
+    return [](MDIOndelis& frame) { CentrerFeuille(frame, frame.desk().get<Panel>()); };
+}
+
+template <class Panel>
+std::vector<MenuStep> centred()
+{
+    return {show<Panel>(), centre<Panel>()};
+}
+
+MenuStep quit()
+{
+    return [](MDIOndelis& frame) { frame.desk().End(); };
+}
+
+std::vector<Menu> makeTree()
+{
+    // clang-format off
+    return {
+        {"MenuFinTravail", "Fin de travail", {
+            {"MenuQuitter", "Quitter", {quit()}},
+        }},
+        {"mnuCalculAntennes", "Antennes", {
+            {"mnuLPDA", "Antenne Log Périodique (LPDA)", {}},
+            {"mnuDipoleRaccourci", "Dipôle raccourci", {}},
+            {"mnuDoubleQuad", "Double Quad", {}},
+            {"mnuGammaMatch", "Gamma match", {}},
+            {"mnuHB9CV_HF", "HB9CV HF", {}},
+            {"mnuHB9CV_VUSHF", "HB9CV VUSHF", {}},
+            {"mnuHighQLoop", "High Q Loop", {}},
+            {"mnuTrappesCoaxiales", "Trappes en coaxial", {}},
+        }},
+        {"MenuCircuitsOscillants", "Circuits oscillants et Selfs", {
+            {"MenuAdaptationImpedance", "Adaptation d'impédance", {}},
+            {"MenuCircuitOscillant", "Circuits oscillants", centred<CircuitsOscillants>()},
+            {"MenuRLCparallele", "Circuits RLC Parallèles", {}},
+            {"MenuRLCserie", "Circuit RLC Série", {}},
+            {"MenuWireInductance", "Epingle", {}},
+            {"MenuThomson", "Formule de Thomson", {}},
+            {"mnuSelfNbSpires", "Nombre de spires d'une self", {}},
+            {"mnuCalculSelfSurTore", "Selfs sur tores", {}},
+            {"MenuStripLine", "Strip line", {}},
+            {"mnuCalculsSurSelf", "Valeur d'une self", {}},
+        }},
+        {"MenuAccèsAuxApplications", "Condensateurs", {
+            {"MenuCondensateursCMS", "Condensateurs CMS", {}},
+            {"MenuCondensateurFixe", "Condensateurs Fixes", {}},
+            {"MenuCondensateurVariable", "Condensateurs Variables", {}},
+            {"menuEnergieEmmagasinée", "Energie emmagasinée", {}},
+        }},
+        {"MenuTimer555", "Le timer 555", {
+            {"MenuAstable", "Astable", {}},
+            {"MenuMonostable", "Monostable", {}},
+            {"MenuRapportCyclique", "Rapport cyclique variable", {}},
+        }},
+        {"MenuDecibel", "Décibels", {
+            {"MenuDécibels", "Décibels", {}},
+        }},
+        {"MenuFiltres", "Filtres", {
+            {"menuFiltreEliminationDeBande", "Filtre à élimination de bande", {}},
+            {"MenuFiltrePasseBasEnPi", "Filtre en Pi f(Ze, Zs, Q)", {}},
+            {"MenuFiltreEnDoublePi", "Filtre en double Pi", {}},
+            {"menuFiltrePasseBande", "Filtre passe-bande", {}},
+            {"menuFiltrePasseBas", "Filtre Passe-bas", {}},
+            {"MenuPasseHaut", "Filtre passe haut", {}},
+        }},
+        {"MenuLignes", "Lignes", {
+            {"mnuCoaxiauxSectionCarree", "Coaxiaux Section Carrée", {}},
+            {"mnuCoaxialeSectionCylindrique", "Coaxiale Section Cylindrique", {}},
+            {"mnuEchelleGrenouille", "Echelle à grenouille", {}},
+        }},
+        {"mnuTransfo", "Transformateurs", {
+            {"mnuCalcTransfo", "Calcul Transfo 500VA maxi", {}},
+        }},
+        {"MenuPontDiviseur", "Ponts diviseurs", {
+            {"MenuShunt", "Calculs de Shunts", {}},
+            {"MenuPontDeRésitances", "Pont de résistances avec charge", {}},
+        }},
+        {"MenuRubiquesEnVrac", "Rubiques en vrac", {
+            {"MenuCoaxiauxCourants", "Coaxiaux Courants", {}},
+            {"MenuSectionDiametre", "Section vers diamètre", {}},
+            {"MenuUnitésDePression", "Unités de Pression", {}},
+        }},
+        {"MenuHelp", "?", {
+            {"MenuLogiciel", "A propos", {}},
+        }},
+    };
+    // clang-format on
+}
+
+} // namespace
+
+const std::vector<Menu>& menuTree()
+{
+    static const std::vector<Menu> tree = makeTree();
+    return tree;
+}
+
+const MenuEntry* findMenuEntry(std::string_view control)
+{
+    for (const Menu& menu : menuTree())
+        for (const MenuEntry& entry : menu.entries)
+            if (entry.control == control)
+                return &entry;
+    return nullptr;
+}
+
+} // namespace ondelis

@@ -1,0 +1,38 @@
+#pragma once
+
+#include <functional>
+#include <string_view>
+#include <vector>
+
+#include "forms/FeuilleCalcul.h"
+
+namespace ondelis {
+
+class Desk;
+class MDIOndelis;
+
+/// One step of what an entry does once all panels are closed.
+using MenuStep = std::function<void(MDIOndelis& frame)>;
+
+/// An entry of the second level: its control, its caption, and what a click does, step by step. No step at
+/// all stands for a panel that the program does not have.
+struct MenuEntry {
+    std::string_view control;
+    std::string_view caption;
+    std::vector<MenuStep> steps;
+};
+
+/// A drop-down of the first level.
+struct Menu {
+    std::string_view control;
+    std::string_view caption;
+    std::vector<MenuEntry> entries;
+};
+
+/// The whole tree, in display order.
+[[nodiscard]] const std::vector<Menu>& menuTree();
+
+/// The entry of that control; null where there is none.
+[[nodiscard]] const MenuEntry* findMenuEntry(std::string_view control);
+
+} // namespace ondelis
