@@ -82,11 +82,12 @@ public:
 
 protected:
     /// Takes the value; tells whether it is a new one.
-    bool keep(Stored value)
+    template <class Value>
+    bool keep(Value&& value)
     {
-        if (value == value_)
+        if (value_ == value)
             return false;
-        value_ = std::move(value);
+        value_ = std::forward<Value>(value);
         return true;
     }
 
