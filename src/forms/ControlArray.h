@@ -15,12 +15,10 @@ class ControlArray {
 public:
     /// `design` gives the design of each element by its index.
     template <class DesignOf, class... Handlers>
-    ControlArray(
-        FeuilleCalcul* panel, const std::string& name, int count, DesignOf design, Handlers... handlers)
+    ControlArray(FeuilleCalcul* panel, const std::string& name, int count, DesignOf design, Handlers... handlers)
     {
         for (int i = 0; i < count; ++i)
-            elements_.emplace_back(
-                panel, name + "(" + std::to_string(i) + ")", design(i), Handler{handlers}.at(i)...);
+            elements_.emplace_back(panel, name + "(" + std::to_string(i) + ")", design(i), Handler{handlers}.at(i)...);
     }
 
     /// Throws a subscript out of range where there is no such element.

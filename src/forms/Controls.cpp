@@ -29,8 +29,8 @@ void Label::reset()
 }
 
 TextBox::TextBox(FeuilleCalcul* panel, std::string name, Design design, Handler change, KeyHandler keyPress)
-    : Control{panel, std::move(name), design.at, design.container}, design_{std::move(design)},
-      change_{change}, keyPress_{keyPress}
+    : Control{panel, std::move(name), design.at, design.container}, design_{std::move(design)}, change_{change},
+      keyPress_{keyPress}
 {
 }
 
@@ -157,8 +157,7 @@ void OptionButton::storeValue(bool chosen)
         return;
     for (Control* control : panel().controls()) {
         auto* const other = dynamic_cast<OptionButton*>(control);
-        if (other != nullptr && other != this && other->container() == container()
-            && other->Value.keep(false))
+        if (other != nullptr && other != this && other->container() == container() && other->Value.keep(false))
             other->changed();
     }
     raise(click_);

@@ -16,11 +16,11 @@ namespace ondelis {
 class Label final : public Control {
 public:
     struct Design {
-        std::string Caption;
-        Box at;
+        std::string Caption = {};
+        Box at = {};
         Color ForeColor = windowTextColor;
         Align align = Align::Left;
-        Font font;
+        Font font = {};
         bool Visible = true;
         Frame* container = nullptr;
     };
@@ -46,21 +46,20 @@ class TextBox final : public Control {
 
 public:
     struct Design {
-        std::string Text;
-        Box at;
+        std::string Text = {};
+        Box at = {};
         Color BackColor = windowColor;
         Color ForeColor = windowTextColor;
         bool Locked = false;
         int MaxLength = 0; ///< characters that can be typed; 0 for no limit
         bool multiLine = false;
         Align align = Align::Left;
-        Font font;
+        Font font = {};
         bool Visible = true;
         Label* label = nullptr; ///< the caption that names it
         Frame* container = nullptr;
     };
-    TextBox(
-        FeuilleCalcul* panel, std::string name, Design design, Handler change = {}, KeyHandler keyPress = {});
+    TextBox(FeuilleCalcul* panel, std::string name, Design design, Handler change = {}, KeyHandler keyPress = {});
 
     ActiveProperty<TextBox, std::string, &TextBox::storeText> Text{*this};
     Property<Color> BackColor{*this};
@@ -88,14 +87,20 @@ private:
     KeyHandler keyPress_;
 };
 
+/// The design of a field that only shows a result: locked, on the background of its role.
+[[nodiscard]] inline TextBox::Design resultField(Box at, Label* label, Color background = 0xFFFFC0)
+{
+    return {.at = at, .BackColor = background, .Locked = true, .label = label};
+}
+
 /// A list of texts of which at most one is chosen. Raises `Click` when `ListIndex` changes.
 class ListBox final : public Control {
     void storeListIndex(Integer row);
 
 public:
     struct Design {
-        std::vector<std::string> Items;
-        Box at;
+        std::vector<std::string> Items = {};
+        Box at = {};
         Color BackColor = windowColor;
         bool clickOnChosenRow = false; ///< a person's click on the chosen row raises `Click` too
         bool Visible = true;
@@ -120,14 +125,8 @@ public:
     class ChosenText {
     public:
         explicit ChosenText(const ListBox& list) : list_{list} { }
-        operator std::string() const
-        {
-            return list_.List(list_.ListIndex);
-        } // NOLINT(google-explicit-constructor)
-        friend bool operator==(const ChosenText& chosen, std::string_view text)
-        {
-            return std::string{chosen} == text;
-        }
+        operator std::string() const { return list_.List(list_.ListIndex); } // NOLINT(google-explicit-constructor)
+        friend bool operator==(const ChosenText& chosen, std::string_view text) { return std::string{chosen} == text; }
 
     private:
         // NOLINTNEXTLINE(cppcoreguidelines-avoid-const-or-ref-data-members): part of its list
@@ -162,8 +161,8 @@ class OptionButton final : public Control {
 
 public:
     struct Design {
-        std::string Caption;
-        Box at;
+        std::string Caption = {};
+        Box at = {};
         bool Value = false;
         Color ForeColor = windowTextColor;
         bool Visible = true;
@@ -193,8 +192,8 @@ class CommandButton final : public Control {
 
 public:
     struct Design {
-        std::string Caption;
-        Box at;
+        std::string Caption = {};
+        Box at = {};
         bool Visible = true;
         Frame* container = nullptr;
     };
@@ -229,7 +228,7 @@ public:
         Integer Value = 0;
         Integer SmallChange = 1;
         Integer LargeChange = 1;
-        Box at;
+        Box at = {};
         bool Visible = true;
         Label* label = nullptr; ///< the caption that names it
         Frame* container = nullptr;
@@ -272,9 +271,9 @@ public:
 class Frame final : public Control {
 public:
     struct Design {
-        std::string Caption;
-        Box at;
-        std::string picture; ///< the drawing inside it: a name in resources/dessins
+        std::string Caption = {};
+        Box at = {};
+        std::string picture = {}; ///< the drawing inside it: a name in resources/dessins
         bool Visible = true;
     };
     Frame(FeuilleCalcul* panel, std::string name, Design design);
@@ -295,8 +294,8 @@ private:
 class Picture : public Control {
 public:
     struct Design {
-        std::string picture; ///< a name in resources/dessins
-        Box at;
+        std::string picture = {}; ///< a name in resources/dessins
+        Box at = {};
         bool Visible = true;
         Frame* container = nullptr;
     };
@@ -359,7 +358,7 @@ private:
 class Shape final : public Control {
 public:
     struct Design {
-        Box at;
+        Box at = {};
         Frame* container = nullptr;
     };
     Shape(FeuilleCalcul* panel, std::string name, Design design);
@@ -375,7 +374,7 @@ private:
 class MaskEdBox final : public Control {
 public:
     struct Design {
-        Box at;
+        Box at = {};
         Color BackColor = windowColor;
         Label* label = nullptr; ///< the caption that names it
         Frame* container = nullptr;

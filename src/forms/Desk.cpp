@@ -68,9 +68,8 @@ void Desk::end(int status)
 
 void Desk::leaveDeadHandlers() const
 {
-    const bool dead = std::ranges::any_of(running_, [](const Running& handler) {
-        return !handler.panel->loaded() || handler.panel->loading() != handler.loading;
-    });
+    const bool dead = std::ranges::any_of(running_,
+        [](const Running& handler) { return !handler.panel->loaded() || handler.panel->loading() != handler.loading; });
     if (ended_ || dead)
         throw Unwinding{};
 }

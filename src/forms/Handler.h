@@ -15,8 +15,7 @@ public:
     Handler() = default;
 
     template <class Panel>
-    Handler(void (
-        Panel::*procedure)()) // NOLINT(google-explicit-constructor): forms name their procedures plainly
+    Handler(void (Panel::*procedure)()) // NOLINT(google-explicit-constructor): forms name their procedures plainly
         : plain_{static_cast<Plain>(procedure)}
     {
     }

@@ -50,10 +50,7 @@ public:
             owner_.changed();
         return *this;
     }
-    Property& operator=(const Property& other)
-    {
-        return *this = Stored{static_cast<const Stored&>(other.get())};
-    }
+    Property& operator=(const Property& other) { return *this = Stored{static_cast<const Stored&>(other.get())}; }
 
     [[nodiscard]] const Stored& get() const
     {
@@ -71,8 +68,7 @@ public:
     {
         return get();
     }
-    friend bool operator==(const Property& property, std::string_view text) requires(
-        std::same_as<Read, std::string>)
+    friend bool operator==(const Property& property, std::string_view text) requires(std::same_as<Read, std::string>)
     {
         return property.get() == text;
     }

@@ -172,8 +172,7 @@ Digits digitsOf(Double x)
 
 /// A number's text: after `sign` the digits with `point`, and with `zero` before the point of a number
 /// below 1.
-std::string written(
-    const Digits& digits, std::string_view sign, std::string_view point, std::string_view zero)
+std::string written(const Digits& digits, std::string_view sign, std::string_view point, std::string_view zero)
 {
     std::string text{sign};
     const std::string_view all{digits.digit.data(), static_cast<std::size_t>(digits.count)};
@@ -188,10 +187,7 @@ std::string written(
         std::array<char, 4> number{};
         text.append(number.data(), std::to_chars(number.data(), number.data() + number.size(), power).ptr);
     } else if (digits.exponent < 0) {
-        text.append(zero)
-            .append(point)
-            .append(static_cast<std::size_t>(-digits.exponent) - 1, '0')
-            .append(all);
+        text.append(zero).append(point).append(static_cast<std::size_t>(-digits.exponent) - 1, '0').append(all);
     } else {
         const auto whole = static_cast<std::size_t>(digits.exponent) + 1;
         if (all.size() <= whole)

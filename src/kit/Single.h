@@ -19,10 +19,7 @@ public:
     {
     }
 
-    constexpr operator Double() const
-    {
-        return static_cast<double>(value_);
-    } // NOLINT(google-explicit-constructor)
+    constexpr operator Double() const { return static_cast<double>(value_); } // NOLINT(google-explicit-constructor)
 
     friend constexpr bool operator==(Single, Single) = default;
 

@@ -15,18 +15,14 @@ template <class Repr>
 class Whole {
 public:
     constexpr Whole() = default;
-    constexpr Whole(
-        std::same_as<int> auto value) // NOLINT(google-explicit-constructor): counters mix with literals
+    constexpr Whole(std::same_as<int> auto value) // NOLINT(google-explicit-constructor): counters mix with literals
         : value_{narrowed(value)}
     {
     }
 
     [[nodiscard]] constexpr int value() const { return value_; }
 
-    constexpr operator Double() const
-    {
-        return static_cast<int>(value_);
-    } // NOLINT(google-explicit-constructor)
+    constexpr operator Double() const { return static_cast<int>(value_); } // NOLINT(google-explicit-constructor)
 
     friend constexpr Whole operator+(Whole a, Whole b) { return wide(std::int64_t{a.value_} + b.value_); }
     friend constexpr Whole operator-(Whole a, Whole b) { return wide(std::int64_t{a.value_} - b.value_); }

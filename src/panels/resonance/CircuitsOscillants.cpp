@@ -1,8 +1,328 @@
 #include "panels/resonance/CircuitsOscillants.h"
+
+#include "kit/Conversions.h"
+#include "kit/Maths.h"
+#include "kit/TraitementMultiplicateur.h"
+
 namespace ondelis {
+namespace {
+
+const std::string puissanceActive = "Eeff * Ieff * cos(phi)";
+
+/// The factor of a unit; an unknown text leaves the present one.
+Double facteur(const std::string& unite, Double present)
+{
+    struct Row {
+        const char* unite;
+        int exposant;
+    };
+    static constexpr std::array<Row, 14> table{{
+        {"GHz", 9},
+        {"MHz", 6},
+        {"KHz", 3},
+        {"Hz", 0},
+        {"MOhms", 6},
+        {"KOhms", 3},
+        {"Ohms", 0},
+        {"mH", -3},
+        {"µH", -6},
+        {"nH", -9},
+        {"pH", -12},
+        {"µF", -6},
+        {"nF", -9},
+        {"pF", -12},
+    }};
+    for (const Row& row : table)
+        if (unite == row.unite)
+            return Pow(10, row.exposant);
+    return present;
+}
+
+} // namespace
+
 CircuitsOscillants::CircuitsOscillants(Desk& desk)
     : FeuilleCalcul{
-        desk, {.name = "CircuitsOscillants", .Caption = "Circuits résonants", .Width = 9600, .Height = 7200}}
+        desk, {.name = "CircuitsOscillants", .Caption = "Circuits résonants", .Width = 9720, .Height = 6900}}
 {
 }
+
+Frame::Design CircuitsOscillants::frmCircuitDesign(int index)
+{
+    struct Row {
+        const char* Caption;
+        const char* picture;
+    };
+    static constexpr std::array<Row, 7> table{{
+        {"Circuit RC Série", "circuit-rc-serie"},
+        {"Circuit RC Parallèle", "circuit-rc-parallele"},
+        {"Circuit RL Parallèle", "circuit-rl-parallele"},
+        {"Circuit RLC  Série", "circuit-rlc-serie"},
+        {"Circuit RLC Parallèle", "circuit-rlc-parallele"},
+        {"Circuit RL Série C Parallèle", "circuit-rl-serie-c-parallele"},
+        {"Circuit LC Série", "circuit-lc-serie"},
+    }};
+    const Row& row = table.at(static_cast<std::size_t>(index));
+    return {.Caption = row.Caption, .at = {5040, 180, 4320, 3840}, .picture = row.picture};
+}
+
+void CircuitsOscillants::Form_Load()
+{
+    resumeNext( //
+        [&] { TypeCircuit = LstCalcul.List(0); }, [&] { Ouvrir(TxtRes); }, [&] { Ouvrir(TxtInd); },
+        [&] { Ouvrir(TxtCapa); }, [&] { LstFreq.ListIndex = 1; }, [&] { UniteFreq = Pow(10, 6); },
+        [&] { LstInd.ListIndex = 1; }, [&] { UniteInd = Pow(10, -6); }, [&] { LstRes.ListIndex = 2; },
+        [&] { UniteRes = 1; }, [&] { LstCapa.ListIndex = 2; }, [&] { UniteCapa = Pow(10, -12); }, [&] { Capacite = 0; },
+        [&] { LstCalcul.ListIndex = 0; });
+}
+
+void CircuitsOscillants::TxtFreq_Change()
+{
+    Frequence = Val(TxtFreq.Text) * UniteFreq;
+    Omega = 2 * Pi() * Frequence;
+    Calculer();
+}
+
+void CircuitsOscillants::TxtRes_Change()
+{
+    Resistance = Val(TxtRes.Text) * UniteRes;
+    Calculer();
+}
+
+void CircuitsOscillants::TxtInd_Change()
+{
+    Inductance = Val(TxtInd.Text) * UniteInd;
+    Calculer();
+}
+
+void CircuitsOscillants::TxtCapa_Change()
+{
+    Capacite = Val(TxtCapa.Text) * UniteCapa;
+    Calculer();
+}
+
+void CircuitsOscillants::LstFreq_Click()
+{
+    UniteFreq = facteur(LstFreq.Text, UniteFreq);
+    TxtFreq_Change();
+}
+
+void CircuitsOscillants::LstRes_Click()
+{
+    UniteRes = facteur(LstRes.Text, UniteRes);
+    TxtRes_Change();
+}
+
+void CircuitsOscillants::LstInd_Click()
+{
+    UniteInd = facteur(LstInd.Text, UniteInd);
+    TxtInd_Change();
+}
+
+void CircuitsOscillants::LstCapa_Click()
+{
+    UniteCapa = facteur(LstCapa.Text, UniteCapa);
+    TxtCapa_Change();
+}
+
+void CircuitsOscillants::LstCalcul_Click()
+{
+    TypeCircuit = LstCalcul.Text;
+    if (TypeCircuit == "RC Série") {
+        Ouvrir(TxtRes);
+        Fermer(TxtInd);
+        TxtInd.Text = "";
+        Ouvrir(TxtCapa);
+        AfficherCircuit(0);
+        Calculer();
+    } else if (TypeCircuit == "RC Parallèle") {
+        Ouvrir(TxtRes);
+        Fermer(TxtInd);
+        TxtInd.Text = "";
+        Ouvrir(TxtCapa);
+        AfficherCircuit(1);
+        Calculer();
+        Calculer();
+    } else if (TypeCircuit == "RL Parallèle") {
+        Ouvrir(TxtRes);
+        Ouvrir(TxtInd);
+        Fermer(TxtCapa);
+        TxtCapa.Text = "";
+        AfficherCircuit(2);
+    } else if (TypeCircuit == "RLC Série") {
+        Ouvrir(TxtRes);
+        Ouvrir(TxtInd);
+        Ouvrir(TxtCapa);
+        AfficherCircuit(3);
+    } else if (TypeCircuit == "RLC Parallèle") {
+        Ouvrir(TxtRes);
+        Ouvrir(TxtInd);
+        Ouvrir(TxtCapa);
+        AfficherCircuit(4);
+    } else if (TypeCircuit == "RL Série C Parallèle") {
+        Ouvrir(TxtRes);
+        Ouvrir(TxtInd);
+        Ouvrir(TxtCapa);
+        AfficherCircuit(5);
+        Calculer();
+    } else if (TypeCircuit == "LC Série") {
+        Fermer(TxtRes);
+        Ouvrir(TxtInd);
+        Ouvrir(TxtCapa);
+        AfficherCircuit(6);
+        Calculer();
+    }
+}
+
+void CircuitsOscillants::Ouvrir(TextBox& champ)
+{
+    champ.Locked = false;
+    champ.BackColor = ouvert;
+}
+
+void CircuitsOscillants::Fermer(TextBox& champ)
+{
+    champ.Locked = true;
+    champ.BackColor = ferme;
+}
+
+void CircuitsOscillants::AfficherCircuit(int index)
+{
+    for (int i = 0; i < frmCircuit.count(); ++i)
+        frmCircuit(i).Visible = false;
+    frmCircuit(index).Visible = true;
+}
+
+void CircuitsOscillants::Calculer()
+{
+    std::string puissance;
+    if (Frequence != 0) {
+        LblResonance.Visible = false;
+        TxtResonance.Visible = false;
+        if (TypeCircuit == "RC Série")
+            puissance = RCSerie();
+        else if (TypeCircuit == "RC Parallèle")
+            puissance = RCParallele();
+        else if (TypeCircuit == "RL Parallèle")
+            puissance = RLParallele();
+        else if (TypeCircuit == "RLC Série")
+            puissance = RLCSerie();
+        else if (TypeCircuit == "RLC Parallèle")
+            puissance = RLCParallele();
+        else if (TypeCircuit == "LC Série")
+            puissance = LCSerie();
+        else if (TypeCircuit == "RL Série C Parallèle")
+            puissance = RLSerieCParallele();
+    }
+    // Also with no frequency or a failed guard: the last values stay on show.
+    TxtImp.Text = TraitementMultiplicateur(Impedance);
+    if (Phi != 0) {
+        TxtDephase.Text = CStr(0); // whatever the phase: the panel shows none
+        TxtPuiss.Text = puissance;
+    } else {
+        TxtDephase.Text = "";
+        TxtPuiss.Text = "";
+    }
+}
+
+std::string CircuitsOscillants::RCSerie()
+{
+    const Double R = Resistance;
+    const Double C = Capacite;
+    const Double W = Omega;
+    if (R == 0 || C == 0)
+        return "";
+    Impedance = Sqr(1 / (Pow(W, 2) * Pow(C, 2)) + Pow(R, 2));
+    Phi = Atn(-1 / (W * R * C));
+    Tau = R * 0.69 * C;
+    AfficherResonance(1 / Tau);
+    return puissanceActive;
+}
+
+std::string CircuitsOscillants::RCParallele()
+{
+    const Double R = Resistance;
+    const Double C = Capacite;
+    const Double W = Omega;
+    if (R == 0 || C == 0)
+        return "";
+    Impedance = R / (W * C * Sqr(1 / (Pow(W, 2) * Pow(C, 2)) + Pow(R, 2)));
+    Phi = Atn(-(W * R * C));
+    return puissanceActive;
+}
+
+std::string CircuitsOscillants::RLParallele()
+{
+    const Double R = Resistance;
+    const Double L = Inductance;
+    const Double W = Omega;
+    if (L == 0 || R == 0)
+        return "";
+    Impedance = L * R * W / Sqr(Pow(L, 2) * Pow(W, 2) + Pow(R, 2));
+    Phi = Atn(R / (W * L));
+    return puissanceActive;
+}
+
+std::string CircuitsOscillants::RLCSerie()
+{
+    const Double R = Resistance;
+    const Double L = Inductance;
+    const Double C = Capacite;
+    const Double W = Omega;
+    if (L == 0 || C == 0)
+        return "";
+    Impedance = Sqr(W * L - Pow(1 / (W * C), 2) + Pow(R, 2)); // only the capacitive term is squared
+    Phi = R == 0 ? Atn(W * L - 1 / (W * C)) : Atn((W * L - 1 / (W * C)) / R);
+    AfficherResonance(Sqr(1 / (L * C)) / (2 * Pi()));
+    return puissanceActive;
+}
+
+std::string CircuitsOscillants::RLCParallele()
+{
+    Omega = 2 * Pi() * Frequence;
+    const Double R = Resistance;
+    const Double L = Inductance;
+    const Double C = Capacite;
+    const Double W = Omega;
+    if (L == 0 || C == 0 || R == 0)
+        return "";
+    Impedance = L * R * W / (C * Sqr(Pow(W * L - 1 / (W * C), 2) * Pow(R, 2) + Pow(L, 2) / Pow(C, 2)));
+    Phi = Atn((W * L - 1 / (W * C)) / L);
+    AfficherResonance(1 / (2 * Pi() * Sqr(L * C)));
+    return puissanceActive;
+}
+
+std::string CircuitsOscillants::RLSerieCParallele()
+{
+    Omega = 2 * Pi() * Frequence;
+    const Double R = Resistance;
+    const Double L = Inductance;
+    const Double C = Capacite;
+    const Double W = Omega;
+    if (L == 0 || C == 0 || R == 0)
+        return "";
+    Impedance = Sqr((Pow(W, 2) * Pow(L, 2) + Pow(R, 2)) / (Pow(W * L - 1 / (W * C), 2) + Pow(R, 2))) / (W * C);
+    Phi = Atn((Pow(R, 2) + Pow(W, 2) * L * C * (W * L - 1 / (W * C))) / (W * L));
+    return puissanceActive;
+}
+
+std::string CircuitsOscillants::LCSerie()
+{
+    const Double L = Inductance;
+    const Double C = Capacite;
+    const Double W = Omega;
+    if (L == 0 || C == 0)
+        return "";
+    Impedance = Abs(W * L - 1 / (W * C));
+    Phi = 1 / (W * C) < W * L ? 90 : -90;
+    AfficherResonance(Sqr(1 / (L * C)) / (2 * Pi()));
+    return "";
+}
+
+void CircuitsOscillants::AfficherResonance(Double hertz)
+{
+    TxtResonance.Visible = true;
+    LblResonance.Visible = true;
+    TxtResonance.Text = CStr(Fix(hertz * 100) / 100);
+}
+
 } // namespace ondelis
