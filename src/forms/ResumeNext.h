@@ -4,18 +4,15 @@
 
 namespace ondelis {
 
-/// Runs statements one after the other. A fault anywhere inside one, nested handlers included, ends that
-/// statement and the next one runs. It is how `Form_Load` and `MDIForm_Load` run, and nothing else.
-template <class... Statements>
-void resumeNext(Statements&&... statements)
+/// Runs one statement of `Form_Load` or `MDIForm_Load`: a fault anywhere inside it, nested handlers included, ends the
+/// statement, and the next one runs. Nothing else passes over a fault.
+template <class Statement>
+void resumeNext(Statement&& statement)
 {
-    const auto guarded = [](auto& statement) {
-        try {
-            statement();
-        } catch (const Fault&) { // NOLINT(bugprone-empty-catch): passing over it is the rule
-        }
-    };
-    (guarded(statements), ...);
+    try {
+        statement();
+    } catch (const Fault&) { // NOLINT(bugprone-empty-catch): passing over it is the rule
+    }
 }
 
 } // namespace ondelis
