@@ -18,8 +18,8 @@ void FeuilleCalcul::Show()
 
 void FeuilleCalcul::Hide()
 {
-    hideAsked_ = true;
-    load();
+    load(true);
+    staysHidden_ = true;
     if (std::exchange(visible_, false))
         changed();
 }
@@ -56,11 +56,12 @@ void FeuilleCalcul::DoEvents()
     desk_.DoEvents();
 }
 
-void FeuilleCalcul::load()
+void FeuilleCalcul::load(bool hidden)
 {
     if (loaded_)
         return;
     loaded_ = true;
+    staysHidden_ = hidden;
     visible_ = false;
     ++loading_;
     desk_.loadedPanels_.push_back(this);
@@ -74,7 +75,7 @@ void FeuilleCalcul::load()
     desk_.surroundings().panelLoaded(*this);
     desk_.raise(*this, Handler{&FeuilleCalcul::Form_Load});
     // Any reference that loads a panel brings it on screen, unless the panel or the reference hides it.
-    visible_ = !std::exchange(hideAsked_, false);
+    visible_ = !staysHidden_;
     changed();
 }
 

@@ -62,7 +62,7 @@ private:
 
     virtual void Form_Load() { }
 
-    void load();
+    void load(bool hidden = false);
     void unload();
 
     // NOLINTNEXTLINE(cppcoreguidelines-avoid-const-or-ref-data-members): a panel never leaves its desk
@@ -71,7 +71,7 @@ private:
     std::vector<Control*> controls_;
     bool loaded_ = false;
     bool visible_ = false;
-    bool hideAsked_ = false;
+    bool staysHidden_ = false; ///< asked while it loads
     unsigned loading_ = 0;
 };
 
