@@ -1,0 +1,44 @@
+#!/usr/bin/env python3
+"""Writes every picture of the program to resources/, and the table of pictures in README.md."""
+
+from __future__ import annotations
+
+from pathlib import Path
+
+import circuits  # noqa: F401  (each family registers its pictures)
+import fond
+import icone
+from sheet import PICTURES, Sheet
+
+HERE = Path(__file__).resolve().parent
+RESOURCES = HERE.parent.parent / "resources"
+BEGIN, END = "<!-- table: written by dessiner.py -->", "<!-- end of the table -->"
+TWIPS_PER_PIXEL = 15  # at 96 dots per inch
+
+
+def row(sheet: Sheet) -> str:
+    """The line of the table for one picture."""
+    rooms = ", ".join(f'`{r.label}` "{r.text}" ({r.x / sheet.width:.3f}, {r.y / sheet.height:.3f})' for r in sheet.rooms)
+    twips = f"{sheet.width * TWIPS_PER_PIXEL} x {sheet.height * TWIPS_PER_PIXEL}"
+    return f"| `{sheet.name}` | {sheet.width} x {sheet.height} | {twips} | {rooms} |"
+
+
+def main() -> None:
+    target = RESOURCES / "dessins"
+    target.mkdir(parents=True, exist_ok=True)
+    rows = ["| Picture | Pixels | Twips | Labels of the panel: name, text, centre |", "|---|---|---|---|"]
+    for item in PICTURES:
+        sheet = item.sheet()
+        (target / f"{item.name}.svg").write_text(sheet.svg(), encoding="utf-8")
+        rows.append(row(sheet))
+    (RESOURCES / "ondelis.svg").write_text(icone.svg(), encoding="utf-8")
+    (RESOURCES / "fond.svg").write_text(fond.svg(), encoding="utf-8")
+    readme = HERE / "README.md"
+    text = readme.read_text(encoding="utf-8")
+    head, tail = text.split(BEGIN)[0], text.split(END)[1]
+    readme.write_text(head + BEGIN + "\n" + "\n".join(rows) + "\n" + END + tail, encoding="utf-8")
+    print(f"{len(PICTURES)} pictures written to {target}")
+
+
+if __name__ == "__main__":
+    main()

@@ -1,0 +1,244 @@
+"""The drawing sheet: colours, strokes, lettering, and the few shapes that every picture is made of.
+
+A picture is a function that draws on a Sheet; the decorator `picture` gives it its name and its
+nominal size in pixels. Only plain SVG Tiny attributes are written, so that every renderer shows
+the same picture: no style sheets, markers, masks or clip paths.
+"""
+
+from __future__ import annotations
+
+import math
+from dataclasses import dataclass
+from typing import Callable
+from xml.sax.saxutils import escape
+
+Point = tuple[float, float]
+
+# Colours, by role.
+INK = "#1f2d3d"  # circuits and outlines
+COPPER = "#a8561f"  # metal that radiates or is wound: elements, wire, braid
+DIM = "#3d6499"  # dimension lines and what they say
+METAL = "#d3dae2"  # fill: sheet metal, blocks
+PALE = "#edf2f7"  # fill: the inside of a symbol
+DIELECTRIC = "#f6ecd0"  # fill: insulators
+COPPER_PALE = "#e9c9ad"  # fill: copper seen in section
+
+# Strokes, in pixels at nominal size.
+MAIN = 1.6
+THIN = 1.0
+TUBE = 3.4
+
+# Lettering, in pixels at nominal size.
+LETTER = 13
+WORD = 11
+
+# Arrow heads: length and half width.
+ARROW = (7.0, 2.5)
+
+
+@dataclass(frozen=True)
+class Room:
+    """A place left free for a label of the panel: its name, its text, its centre."""
+
+    label: str
+    text: str
+    x: float
+    y: float
+
+
+@dataclass(frozen=True)
+class Picture:
+    """One picture of the program."""
+
+    name: str
+    width: int
+    height: int
+    title: str
+    draw: Callable[["Sheet"], None]
+
+    def sheet(self) -> "Sheet":
+        """The picture, drawn."""
+        sheet = Sheet(self.name, self.width, self.height, self.title)
+        self.draw(sheet)
+        return sheet
+
+
+PICTURES: list[Picture] = []
+
+
+def picture(name: str, width: int, height: int, title: str):
+    """Registers the decorated function as the picture `name`; `title` is what it shows, in French."""
+
+    def register(draw: Callable[[Sheet], None]) -> Callable[[Sheet], None]:
+        PICTURES.append(Picture(name, width, height, title, draw))
+        return draw
+
+    return register
+
+
+def number(value: float) -> str:
+    """A coordinate with two decimals at most."""
+    text = f"{value:.2f}".rstrip("0").rstrip(".")
+    return "0" if text == "-0" else text
+
+
+def text_width(text: str, size: float, bold: bool = False) -> float:
+    """The width of a text in pixels, near enough to leave room for it."""
+    narrow, wide = "iIjl1.,:;'()| ", "mwMWΩ@%"
+    ems = sum(0.38 if c in narrow else 0.88 if c in wide else 0.64 for c in text)
+    return ems * size * (1.1 if bold else 1.0)
+
+
+def towards(a: Point, b: Point) -> Point:
+    """The unit vector from a to b."""
+    length = math.dist(a, b)
+    return ((b[0] - a[0]) / length, (b[1] - a[1]) / length)
+
+
+def along(origin: Point, u: Point, t: float, n: float = 0.0) -> Point:
+    """The point t along u and n to its left (up for a line that goes right) from origin."""
+    return (origin[0] + u[0] * t + u[1] * n, origin[1] + u[1] * t - u[0] * n)
+
+
+def polar(centre: Point, radius: float, degrees: float) -> Point:
+    """The point at an angle, counted from the right and counter-clockwise as seen."""
+    a = math.radians(degrees)
+    return (centre[0] + radius * math.cos(a), centre[1] - radius * math.sin(a))
+
+
+class Sheet:
+    """One picture while it is drawn."""
+
+    def __init__(self, name: str, width: int, height: int, title: str) -> None:
+        self.name, self.width, self.height, self.title = name, width, height, title
+        self.items: list[str] = []
+        self.rooms: list[Room] = []
+
+    # Shapes.
+
+    def path(self, d: str, stroke: str | None = INK, width: float = MAIN, fill: str | None = None,
+             dash: str | None = None, cap: str | None = None) -> None:
+        """A path by its data; a stroke of None leaves the outline out."""
+        attributes = [f'd="{d}"']
+        if stroke is None:
+            attributes.append('stroke="none"')
+        else:
+            if stroke != INK:
+                attributes.append(f'stroke="{stroke}"')
+            if width != MAIN:
+                attributes.append(f'stroke-width="{number(width)}"')
+        if fill:
+            attributes.append(f'fill="{fill}"')
+        if dash:
+            attributes.append(f'stroke-dasharray="{dash}"')
+        if cap:
+            attributes.append(f'stroke-linecap="{cap}"')
+        self.items.append(f"<path {' '.join(attributes)}/>")
+
+    def wire(self, *points: Point, **look) -> None:
+        """A line through the points."""
+        self.path("M" + " L".join(f"{number(x)} {number(y)}" for x, y in points), **look)
+
+    def polygon(self, *points: Point, **look) -> None:
+        """A closed line through the points."""
+        self.path("M" + " L".join(f"{number(x)} {number(y)}" for x, y in points) + " Z", **look)
+
+    def rect(self, x: float, y: float, width: float, height: float, **look) -> None:
+        """A rectangle by its upper left corner and its size."""
+        self.path(f"M{number(x)} {number(y)} h{number(width)} v{number(height)} h{number(-width)} Z", **look)
+
+    def ellipse(self, centre: Point, rx: float, ry: float, **look) -> None:
+        """An ellipse with upright axes."""
+        x, y = centre
+        self.path(f"M{number(x - rx)} {number(y)} a{number(rx)} {number(ry)} 0 1 1 {number(2 * rx)} 0"
+                  f" a{number(rx)} {number(ry)} 0 1 1 {number(-2 * rx)} 0 Z", **look)
+
+    def circle(self, centre: Point, radius: float, **look) -> None:
+        """A circle."""
+        self.ellipse(centre, radius, radius, **look)
+
+    def arc(self, centre: Point, radius: float, start: float, end: float, **look) -> None:
+        """An arc counter-clockwise between two angles in degrees."""
+        (x1, y1), (x2, y2) = polar(centre, radius, start), polar(centre, radius, end)
+        large = 1 if (end - start) % 360 > 180 else 0
+        self.path(f"M{number(x1)} {number(y1)} A{number(radius)} {number(radius)} 0 {large} 0"
+                  f" {number(x2)} {number(y2)}", **look)
+
+    def head(self, tip: Point, u: Point, colour: str = INK) -> None:
+        """A filled arrow head that points along u."""
+        length, half = ARROW
+        self.polygon(tip, along(tip, u, -length, half), along(tip, u, -length, -half), stroke=None, fill=colour)
+
+    def arrow(self, a: Point, b: Point, colour: str = INK, width: float = MAIN) -> None:
+        """A line from a to b with a head at b."""
+        u = towards(a, b)
+        self.wire(a, along(b, u, -ARROW[0] + 1), stroke=colour, width=width)
+        self.head(b, u, colour)
+
+    # Lettering.
+
+    def text(self, x: float, y: float, text: str, size: float = LETTER, anchor: str = "middle",
+             colour: str = INK, bold: bool = False) -> None:
+        """A text whose middle height is at y; it must stay inside the sheet."""
+        width = text_width(text, size, bold)
+        left = x - {"start": 0.0, "middle": width / 2, "end": width}[anchor]
+        if not (0 <= left and left + width <= self.width and size / 2 <= y <= self.height - size / 2):
+            raise ValueError(f'{self.name}: "{text}" leaves the sheet')
+        weight = ' font-weight="bold"' if bold else ""
+        self.items.append(f'<text x="{number(x)}" y="{number(y + 0.36 * size)}" font-size="{number(size)}"'
+                          f' text-anchor="{anchor}"{weight} stroke="none" fill="{colour}">{escape(text)}</text>')
+
+    def room(self, label: str, text: str, x: float, y: float) -> None:
+        """Leaves the place around (x, y) to a label of the panel; nothing is drawn."""
+        self.rooms.append(Room(label, text, x, y))
+
+    # Dimensions.
+
+    def dimension(self, a: Point, b: Point, text: str = "", offset: float = 0.0, label: str = "",
+                  extend: bool = True) -> None:
+        """A dimension between a and b, drawn `offset` to the left of the way from a to b.
+
+        The text stands in a gap of the line; with `label` the gap is left to that label of the
+        panel. A span too short for its heads takes them from outside, and the text then stands
+        beyond b.
+        """
+        u = towards(a, b)
+        p, q = along(a, u, 0, offset), along(b, u, 0, offset)
+        if extend and offset:
+            side = math.copysign(1, offset)
+            for foot, end in ((a, p), (b, q)):
+                self.wire(along(foot, u, 0, 3 * side), along(end, u, 0, 3 * side), stroke=DIM, width=THIN)
+        length = math.dist(p, q)
+        upright = abs(u[1]) > 0.7
+        gap = (WORD + 6 if upright else text_width(text, WORD) + 8) if text else 0
+        if length >= gap + 2 * ARROW[0] + 4:
+            middle = along(p, u, length / 2)
+            self.head(p, (-u[0], -u[1]), DIM)
+            self.head(q, u, DIM)
+            self.wire(along(p, u, ARROW[0] - 1), along(middle, u, -gap / 2), stroke=DIM, width=THIN)
+            self.wire(along(middle, u, gap / 2), along(q, u, 1 - ARROW[0]), stroke=DIM, width=THIN)
+        else:
+            self.arrow(along(p, u, -16), p, DIM, THIN)
+            self.arrow(along(q, u, 16), q, DIM, THIN)
+            reach = 19 + (WORD / 2 + 2 if upright else text_width(text, WORD) / 2)
+            middle = along(q, u, reach)
+        if label:
+            self.room(label, text, *middle)
+        elif text:
+            self.text(*middle, text, WORD, colour=DIM)
+
+    def leader(self, tip: Point, knee: Point, text: str, right: bool = True) -> None:
+        """A thin line from a part to the words that name it."""
+        end = (knee[0] + (10 if right else -10), knee[1])
+        self.wire(tip, knee, end, stroke=DIM, width=THIN)
+        self.circle(tip, 1.6, stroke=None, fill=DIM)
+        self.text(end[0] + (4 if right else -4), end[1], text, WORD, "start" if right else "end", DIM)
+
+    def svg(self) -> str:
+        """The picture as an SVG document."""
+        body = "\n".join(self.items)
+        return (f'<svg xmlns="http://www.w3.org/2000/svg" version="1.2" baseProfile="tiny"'
+                f' width="{self.width}" height="{self.height}" viewBox="0 0 {self.width} {self.height}">\n'
+                f"<title>{escape(self.title)}</title>\n"
+                f'<g fill="none" stroke="{INK}" stroke-width="{MAIN}" stroke-linecap="round"'
+                f' stroke-linejoin="round" font-family="DejaVu Sans, sans-serif">\n{body}\n</g>\n</svg>\n')

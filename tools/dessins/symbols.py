@@ -1,0 +1,207 @@
+"""The circuit symbols, after IEC 60617: rectangular resistors, half-circle windings.
+
+A part with two ends is drawn between two points, its body in the middle and its leads up to the
+points. Its letter stands on the left of the way from a to b: above a part drawn to the right, on
+the right of a part drawn downwards; `side=-1` puts it on the other side.
+"""
+
+from __future__ import annotations
+
+import math
+
+from sheet import INK, LETTER, MAIN, PALE, THIN, WORD, Point, Sheet, along, number, text_width, towards
+
+RESISTOR = (34.0, 12.0)
+PLATES = (20.0, 6.0)  # length of the plates, distance between them
+TURN = 5.0  # radius of one half circle of a winding
+
+
+def middle(a: Point, b: Point) -> Point:
+    """The point half way from a to b."""
+    return ((a[0] + b[0]) / 2, (a[1] + b[1]) / 2)
+
+
+def letter(s: Sheet, a: Point, b: Point, text: str, clear: float, side: int = 1, label: str = "") -> None:
+    """The letter of a part that reaches `clear` from its axis; left to the panel when `label` is given."""
+    if not text:
+        return
+    u, m = towards(a, b), middle(a, b)
+    upright = abs(u[1]) > 0.7
+    if upright:
+        x, y = along(m, u, 0, side * (clear + 6))
+        anchor = "start" if x > m[0] else "end"
+    else:
+        x, y = along(m, u, 0, side * (clear + 4 + LETTER / 2))
+        anchor = "middle"
+    if label:
+        half = text_width(text, LETTER) / 2
+        s.room(label, text, x + {"start": half, "middle": 0, "end": -half}[anchor], y)
+    else:
+        s.text(x, y, text, LETTER, anchor)
+
+
+def leads(s: Sheet, a: Point, b: Point, body: float) -> None:
+    """The two leads of a part whose body is `body` long."""
+    u, half = towards(a, b), math.dist(a, b) / 2
+    if half > body / 2:
+        s.wire(a, along(a, u, half - body / 2))
+        s.wire(along(b, u, body / 2 - half), b)
+
+
+def resistor(s: Sheet, a: Point, b: Point, text: str = "", side: int = 1, label: str = "") -> None:
+    """A resistor."""
+    length, width = RESISTOR
+    u, m = towards(a, b), middle(a, b)
+    leads(s, a, b, length)
+    s.polygon(along(m, u, -length / 2, width / 2), along(m, u, length / 2, width / 2),
+              along(m, u, length / 2, -width / 2), along(m, u, -length / 2, -width / 2), fill=PALE)
+    letter(s, a, b, text, width / 2, side, label)
+
+
+def impedance(s: Sheet, a: Point, b: Point, text: str = "Z", side: int = 1, label: str = "") -> None:
+    """A load: the resistor's body, wider."""
+    length, width = 36.0, 16.0
+    u, m = towards(a, b), middle(a, b)
+    leads(s, a, b, length)
+    s.polygon(along(m, u, -length / 2, width / 2), along(m, u, length / 2, width / 2),
+              along(m, u, length / 2, -width / 2), along(m, u, -length / 2, -width / 2), fill=PALE)
+    letter(s, a, b, text, width / 2, side, label)
+
+
+def capacitor(s: Sheet, a: Point, b: Point, text: str = "", side: int = 1, label: str = "",
+              variable: bool = False) -> None:
+    """A capacitor; a variable one is crossed by an arrow."""
+    plate, gap = PLATES
+    u, m = towards(a, b), middle(a, b)
+    leads(s, a, b, gap)
+    for t in (-gap / 2, gap / 2):
+        s.wire(along(m, u, t, plate / 2), along(m, u, t, -plate / 2), width=2.2, cap="butt")
+    if variable:
+        s.arrow(along(m, u, -12, -12), along(m, u, 12, 12), width=1.2)
+    letter(s, a, b, text, plate / 2, side, label)
+
+
+def inductor(s: Sheet, a: Point, b: Point, text: str = "", side: int = 1, label: str = "", turns: int = 4,
+             core: bool = False) -> None:
+    """A winding of half circles that bulge towards its letter; `core` adds the iron."""
+    length = 2 * TURN * turns
+    u, m = towards(a, b), middle(a, b)
+    leads(s, a, b, length)
+    x, y = along(m, u, -length / 2)
+    d = f"M{number(x)} {number(y)}"
+    for i in range(1, turns + 1):
+        x, y = along(m, u, -length / 2 + 2 * TURN * i)
+        d += f" A{number(TURN)} {number(TURN)} 0 0 {1 if side > 0 else 0} {number(x)} {number(y)}"
+    s.path(d)
+    clear = TURN
+    if core:
+        clear = TURN + 5
+        s.wire(along(m, u, -length / 2, side * clear), along(m, u, length / 2, side * clear), width=2.2)
+    letter(s, a, b, text, clear, side, label)
+
+
+def diode(s: Sheet, a: Point, b: Point, text: str = "", side: int = 1) -> None:
+    """A diode that conducts from a to b."""
+    half = 5.5
+    u, m = towards(a, b), middle(a, b)
+    leads(s, a, b, 2 * half)
+    s.polygon(along(m, u, -half, half), along(m, u, -half, -half), along(m, u, half), fill=PALE)
+    s.wire(along(m, u, half, half), along(m, u, half, -half))
+    letter(s, a, b, text, half, side)
+
+
+def generator(s: Sheet, a: Point, b: Point, text: str = "", side: int = 1) -> None:
+    """A source of alternating voltage."""
+    radius = 13.0
+    x, y = middle(a, b)
+    leads(s, a, b, 2 * radius)
+    s.circle((x, y), radius, fill=PALE)
+    s.path(f"M{number(x - 7)} {number(y)} q3.5 -8 7 0 t7 0")
+    letter(s, a, b, text, radius, side)
+
+
+def meter(s: Sheet, a: Point, b: Point, text: str = "", label: str = "") -> None:
+    """A measuring instrument with its letter inside; the letter is left to the panel when `label` is given."""
+    radius = 13.0
+    x, y = middle(a, b)
+    leads(s, a, b, 2 * radius)
+    s.circle((x, y), radius, fill=PALE)
+    if label:
+        s.room(label, text, x, y)
+    elif text:
+        s.text(x, y, text)
+
+
+def battery(s: Sheet, a: Point, b: Point, text: str = "", side: int = 1) -> None:
+    """A direct supply, its positive pole towards a."""
+    u, m = towards(a, b), middle(a, b)
+    leads(s, a, b, 6)
+    s.wire(along(m, u, -3, 12), along(m, u, -3, -12), cap="butt")
+    s.wire(along(m, u, 3, 6), along(m, u, 3, -6), width=3.2, cap="butt")
+    letter(s, a, b, text, 12, side)
+
+
+def potentiometer(s: Sheet, a: Point, b: Point, wiper: Point, text: str = "", side: int = 1) -> None:
+    """A resistor with a wiper whose arrow comes straight from the point `wiper`."""
+    resistor(s, a, b, text, side)
+    u, m = towards(a, b), middle(a, b)
+    across = (wiper[0] - m[0]) * u[1] - (wiper[1] - m[1]) * u[0]
+    foot = along(m, u, (wiper[0] - m[0]) * u[0] + (wiper[1] - m[1]) * u[1],
+                 math.copysign(RESISTOR[1] / 2 + 1, across))
+    s.arrow(wiper, foot)
+
+
+def ground(s: Sheet, at: Point) -> None:
+    """The earth, hanging from a point."""
+    x, y = at
+    s.wire(at, (x, y + 6))
+    for i, half in enumerate((9, 6, 3)):
+        s.wire((x - half, y + 6 + 4 * i), (x + half, y + 6 + 4 * i))
+
+
+def junction(s: Sheet, *points: Point) -> None:
+    """Dots where wires meet."""
+    for point in points:
+        s.circle(point, 2.4, stroke=None, fill=INK)
+
+
+def terminal(s: Sheet, *points: Point) -> None:
+    """Open ends that something outside is joined to."""
+    for point in points:
+        s.circle(point, 3, fill="#ffffff", width=1.4)
+
+
+def ports(s: Sheet, x: float, top: float, bottom: float, text: str = "", outward: int = -1) -> None:
+    """A pair of terminals, one above the other, with a letter and the arrow of the impedance seen there."""
+    terminal(s, (x, top), (x, bottom))
+    if text:
+        s.text(x + outward * 2, (top + bottom) / 2, text)
+
+
+def pin(s: Sheet, edge: Point, outward: Point, text: str, name: str = "") -> None:
+    """The number of a pin outside the edge of a block, and its name inside."""
+    u = outward
+    if abs(u[0]) > 0.5:
+        s.text(edge[0] + u[0] * 7, edge[1] - 7, text, WORD)
+        if name:
+            s.text(edge[0] - u[0] * 5, edge[1], name, WORD, "end" if u[0] > 0 else "start")
+    else:
+        s.text(edge[0] + 7, edge[1] + u[1] * 8, text, WORD)
+        if name:
+            s.text(edge[0], edge[1] - u[1] * 9, name, WORD)
+
+
+def tube(s: Sheet, a: Point, b: Point, colour: str, width: float) -> None:
+    """A rod or tube seen from the side, with square ends."""
+    s.wire(a, b, stroke=colour, width=width, cap="butt")
+
+
+def sine(s: Sheet, start: Point, period: float, height: float, count: float, **look) -> None:
+    """A sine wave that starts upwards and runs to the right for `count` periods."""
+    x, y = start
+    d = f"M{number(x)} {number(y)}"
+    steps = int(count * 16)
+    for i in range(1, steps + 1):
+        t = i / 16
+        d += f" L{number(x + t * period)} {number(y - height * math.sin(2 * math.pi * t))}"
+    s.path(d, **look)
