@@ -1,0 +1,154 @@
+#include <algorithm>
+#include <stdexcept>
+
+#include "Pilote.h"
+#include "forms/FeuilleCalcul.h"
+
+namespace ondelis::pilote {
+namespace {
+
+/// There is nothing under the name that an expectation asks for; says why.
+class Absent final : public std::runtime_error {
+public:
+    using std::runtime_error::runtime_error;
+};
+
+/// Numbers compare as numbers; one with a fraction as a position does, which is held in a Single.
+bool same(const Json& wanted, const Json& got)
+{
+    if (got.is_number_float() && wanted.is_number())
+        return wanted.get<float>() == got.get<float>();
+    return wanted == got;
+}
+
+Json judged(const Json& wanted, const Json& got)
+{
+    if (same(wanted, got))
+        return {{"ok", true}, {"got", got}};
+    return {{"ok", false}, {"wanted", wanted}, {"got", got}};
+}
+
+/// A text, a number, true, false, null, or an array of these.
+Json jsonValue(Words& words)
+{
+    if (words.quotedNext()) {
+        const Json text = words.next();
+        words.finish();
+        return text;
+    }
+    const Json value = Json::parse(words.rest(), nullptr, false);
+    const bool flat = value.is_primitive()
+        || (value.is_array() && std::ranges::all_of(value, [](const Json& v) { return v.is_primitive(); }));
+    if (value.is_discarded() || !flat)
+        throw Malformed{"not a JSON value"};
+    return value;
+}
+
+} // namespace
+
+Json Pilote::expect(Words& words)
+{
+    const std::string subject = words.next();
+    if (subject == "message")
+        return expectMessage(words);
+    if (subject == "no")
+        return expectNothing(words);
+    if (subject == "fault")
+        return expectFault(words);
+    if (subject == "refused")
+        return expectRefused(words);
+    if (subject.find('.') == std::string::npos)
+        return expectVisibility(subject, words);
+    return expectMember(subject, words);
+}
+
+Json Pilote::expectMessage(Words& words)
+{
+    const std::string prompt = words.next();
+    words.finish();
+    const auto& boxes = surroundings_.boxes();
+    const std::size_t next = expectedBoxes_++;
+    return judged(prompt, next < boxes.size() ? Json(boxes[next].prompt) : Json{});
+}
+
+Json Pilote::expectNothing(Words& words)
+{
+    const std::string what = words.next();
+    words.finish();
+    if (what == "message") {
+        const auto& boxes = surroundings_.boxes();
+        return judged({}, expectedBoxes_ < boxes.size() ? Json(boxes[expectedBoxes_].prompt) : Json{});
+    }
+    if (what == "fault") {
+        const auto& fault = surroundings_.fault();
+        return judged({}, fault ? Json(fault->what()) : Json{});
+    }
+    throw Malformed{"neither \"no message\" nor \"no fault\""};
+}
+
+Json Pilote::expectFault(Words& words)
+{
+    const std::string name = words.next();
+    words.finish();
+    const auto& fault = surroundings_.fault();
+    return judged(name, fault ? Json(fault->what()) : Json{});
+}
+
+Json Pilote::expectRefused(Words& words)
+{
+    words.finish();
+    if (refusal_)
+        return {{"ok", true}, {"got", *refusal_}};
+    return {{"ok", false}, {"wanted", "refused"}, {"got", nullptr}};
+}
+
+Json Pilote::expectVisibility(const std::string& name, Words& words)
+{
+    const std::string wanted = words.next();
+    words.finish();
+    if (wanted != "visible" && wanted != "hidden" && wanted != "unloaded")
+        throw Malformed{"neither visible nor hidden nor unloaded: " + wanted};
+    const FeuilleCalcul* const loaded = panel(name);
+    return judged(wanted, loaded == nullptr ? "unloaded" : loaded->visible() ? "visible" : "hidden");
+}
+
+Json Pilote::expectMember(const std::string& target, Words& words)
+{
+    const Json wanted = jsonValue(words);
+    try {
+        return judged(wanted, member(target));
+    } catch (const Absent& absent) {
+        return {{"ok", false}, {"wanted", wanted}, {"got", nullptr}, {"why", absent.what()}};
+    }
+}
+
+Json Pilote::member(const std::string& target) const
+{
+    if (!running())
+        throw Absent{"the program does not run"};
+    const std::size_t first = target.find('.');
+    const std::size_t last = target.rfind('.');
+    const std::string name = target.substr(0, first);
+    const std::string memberName = target.substr(last + 1);
+    Json state;
+    if (name == "MDIOndelis" && first == last) {
+        state = stateOf(frame_);
+    } else {
+        const FeuilleCalcul* const loaded = panel(name);
+        if (loaded == nullptr)
+            throw Absent{"the panel is not loaded"};
+        if (first == last) {
+            state = stateOf(*loaded);
+        } else {
+            Control* const control = loaded->find(target.substr(first + 1, last - first - 1));
+            if (control == nullptr)
+                throw Absent{"the panel has no such control"};
+            state = stateOf(*control);
+        }
+    }
+    if (!state.contains(memberName))
+        throw Absent{"no such member"};
+    return state[memberName];
+}
+
+} // namespace ondelis::pilote

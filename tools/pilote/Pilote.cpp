@@ -1,0 +1,266 @@
+#include "Pilote.h"
+
+#include <algorithm>
+#include <array>
+#include <charconv>
+#include <limits>
+
+#include "forms/Controls.h"
+#include "kit/Text.h"
+#include "shell/Menu.h"
+
+namespace ondelis::pilote {
+namespace {
+
+/// A size in twips.
+double extent(const std::string& word)
+{
+    double twips = 0;
+    const char* const end = word.data() + word.size();
+    const auto [stop, error] = std::from_chars(word.data(), end, twips);
+    if (error != std::errc{} || stop != end || !(twips > 0) || twips > std::numeric_limits<float>::max())
+        throw Malformed{"not a size in twips: " + word};
+    return twips;
+}
+
+/// A whole number; one that is too long to be held is as large as can be.
+int whole(const std::string& word)
+{
+    int number = 0;
+    const char* const end = word.data() + word.size();
+    const auto [stop, error] = std::from_chars(word.data(), end, number);
+    if (error == std::errc::invalid_argument || stop != end)
+        throw Malformed{"not a whole number: " + word};
+    if (error == std::errc::result_out_of_range)
+        return word.front() == '-' ? std::numeric_limits<int>::min() : std::numeric_limits<int>::max();
+    return number;
+}
+
+} // namespace
+
+Json Pilote::answer(std::string_view line)
+{
+    try {
+        Words words{line};
+        return run(words);
+    } catch (const Malformed& malformed) {
+        return {{"ok", false}, {"error", malformed.what()}};
+    }
+}
+
+const Pilote::Command* Pilote::find(std::string_view word)
+{
+    static constexpr std::array<Command, 13> commands{{
+        {"region", When::BeforeStart, &Pilote::region},
+        {"screen", When::BeforeStart, &Pilote::screen},
+        {"start", When::BeforeStart, &Pilote::start},
+        {"menu", When::Running, &Pilote::menu},
+        {"close", When::Running, &Pilote::close},
+        {"type", When::Running, &Pilote::type},
+        {"backspace", When::Running, &Pilote::backspace},
+        {"replace", When::Running, &Pilote::replace},
+        {"click", When::Running, &Pilote::click},
+        {"select", When::Running, &Pilote::select},
+        {"scroll", When::Running, &Pilote::scroll},
+        {"focus", When::Running, &Pilote::focus},
+        {"answer", When::Running, &Pilote::answerNext},
+    }};
+    const auto* const found = std::ranges::find(commands, word, &Command::word);
+    return found == commands.end() ? nullptr : found;
+}
+
+Json Pilote::run(Words& words)
+{
+    const std::string word = words.next();
+    if (word == "expect")
+        return expect(words);
+    if (word == "state") {
+        words.finish();
+        if (const Refusal refusal = outOfTime(When::Running))
+            return {{"ok", false}, {"refused", *refusal}};
+        Json state{{"ok", true}};
+        state.update(stateOfAll(frame_));
+        return state;
+    }
+    const Command* const command = find(word);
+    if (command == nullptr)
+        throw Malformed{"no such command: " + word};
+    surroundings_.forget();
+    expectedBoxes_ = 0;
+    refusal_ = outOfTime(command->when);
+    if (!refusal_)
+        refusal_ = (this->*command->action)(words);
+    return done();
+}
+
+Json Pilote::done() const
+{
+    if (refusal_)
+        return {{"ok", false}, {"refused", *refusal_}};
+    Json messages = Json::array();
+    for (const MessageBox& box : surroundings_.boxes())
+        messages.push_back({{"prompt", box.prompt}, {"buttons", box.buttons}, {"title", box.title}});
+    const auto& fault = surroundings_.fault();
+    return {{"ok", true}, {"messages", std::move(messages)}, {"fault", fault ? Json(fault->what()) : Json{}},
+        {"ended", desk_.ended()}};
+}
+
+Pilote::Refusal Pilote::outOfTime(When when) const
+{
+    if (desk_.ended())
+        return "the program has ended";
+    if (when == When::Running && !started_)
+        return "the program has not started";
+    if (when == When::BeforeStart && started_)
+        return "the program has started";
+    return {};
+}
+
+Pilote::Refusal Pilote::region(Words& words)
+{
+    const std::string decimal = words.next();
+    const std::string thousands = words.next();
+    words.finish();
+    if (Len(decimal) != 1 || Len(thousands) > 1 || decimal == thousands)
+        throw Malformed{"not two separators: one character, and another one or none"};
+    setRegion({.decimal = decimal, .thousands = thousands});
+    return {};
+}
+
+Pilote::Refusal Pilote::screen(Words& words)
+{
+    const double width = extent(words.next());
+    const double height = extent(words.next());
+    words.finish();
+    surroundings_.setScreen({.Width = width, .Height = height});
+    return {};
+}
+
+Pilote::Refusal Pilote::start(Words& words)
+{
+    words.finish();
+    started_ = true;
+    frame_.start();
+    return {};
+}
+
+Pilote::Refusal Pilote::menu(Words& words)
+{
+    const std::string name = words.next();
+    words.finish();
+    const MenuEntry* const entry = findMenuEntry(name);
+    if (entry == nullptr)
+        return "the menu has no such entry";
+    frame_.click(*entry);
+    return {};
+}
+
+Pilote::Refusal Pilote::close(Words& words)
+{
+    const std::string name = words.next();
+    words.finish();
+    if (name == "MDIOndelis") {
+        frame_.close();
+        return {};
+    }
+    FeuilleCalcul* const open = panel(name);
+    return open == nullptr ? "the panel is not on screen" : user_.close(*open);
+}
+
+Pilote::Refusal Pilote::type(Words& words)
+{
+    const std::string target = words.next();
+    const std::string text = words.next();
+    words.finish();
+    return with<TextBox>(target, [&](TextBox& box) { return user_.type(box, text); });
+}
+
+Pilote::Refusal Pilote::backspace(Words& words)
+{
+    const std::string target = words.next();
+    words.finish();
+    return with<TextBox>(target, [&](TextBox& box) { return user_.backspace(box); });
+}
+
+Pilote::Refusal Pilote::replace(Words& words)
+{
+    const std::string target = words.next();
+    const std::string text = words.next();
+    words.finish();
+    return with<TextBox>(target, [&](TextBox& box) { return user_.replace(box, text); });
+}
+
+Pilote::Refusal Pilote::click(Words& words)
+{
+    const std::string target = words.next();
+    words.finish();
+    return with<Control>(target, [&](Control& control) -> Refusal {
+        if (auto* const option = dynamic_cast<OptionButton*>(&control))
+            return user_.click(*option);
+        if (auto* const button = dynamic_cast<CommandButton*>(&control))
+            return user_.click(*button);
+        return "the control is neither an option nor a button";
+    });
+}
+
+Pilote::Refusal Pilote::select(Words& words)
+{
+    const std::string target = words.next();
+    const int row = whole(words.next());
+    words.finish();
+    return with<ListBox>(target, [&](ListBox& list) { return user_.choose(list, row); });
+}
+
+Pilote::Refusal Pilote::scroll(Words& words)
+{
+    const std::string target = words.next();
+    const int value = whole(words.next());
+    words.finish();
+    return with<ScrollBar>(target, [&](ScrollBar& bar) { return user_.move(bar, value); });
+}
+
+Pilote::Refusal Pilote::focus(Words& words)
+{
+    const std::string target = words.next();
+    words.finish();
+    return with<Control>(target, [&](Control& control) { return user_.focus(control); });
+}
+
+Pilote::Refusal Pilote::answerNext(Words& words)
+{
+    const std::string word = words.next();
+    words.finish();
+    if (word != "yes" && word != "no")
+        throw Malformed{"neither yes nor no: " + word};
+    surroundings_.answer(word == "yes" ? Answer::Yes : Answer::No);
+    return {};
+}
+
+template <class ControlClass, class Act>
+Pilote::Refusal Pilote::with(const std::string& target, Act&& act)
+{
+    const std::size_t dot = target.find('.');
+    if (dot == std::string::npos)
+        throw Malformed{"not PANEL.CONTROL: " + target};
+    const FeuilleCalcul* const open = panel(target.substr(0, dot));
+    if (open == nullptr)
+        return "the panel is not on screen";
+    Control* const control = open->find(target.substr(dot + 1));
+    if (control == nullptr)
+        return "the panel has no such control";
+    auto* const wanted = dynamic_cast<ControlClass*>(control);
+    if (wanted == nullptr)
+        return "the control is of another class";
+    return act(*wanted);
+}
+
+FeuilleCalcul* Pilote::panel(std::string_view name) const
+{
+    if (!running())
+        return nullptr;
+    const auto& loaded = desk_.loadedPanels();
+    const auto found = std::ranges::find(loaded, name, [](const FeuilleCalcul* one) { return one->design().name; });
+    return found == loaded.end() ? nullptr : *found;
+}
+
+} // namespace ondelis::pilote

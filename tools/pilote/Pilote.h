@@ -1,0 +1,85 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "ScriptedSurroundings.h"
+#include "State.h"
+#include "Words.h"
+#include "forms/Desk.h"
+#include "forms/User.h"
+#include "kit/Region.h"
+#include "shell/MDIOndelis.h"
+
+namespace ondelis::pilote {
+
+/// One run of the program with no window, driven by commands. The region is the process's for as long as it
+/// lives.
+class Pilote {
+public:
+    /// Carries out one line and answers it; never throws.
+    Json answer(std::string_view line);
+
+private:
+    using Refusal = User::Refusal;
+    using Action = Refusal (Pilote::*)(Words& words);
+    enum class When { BeforeStart, Running };
+
+    /// A command that does something: its word, when it may come, what it does.
+    struct Command {
+        std::string_view word;
+        When when;
+        Action action;
+    };
+    static const Command* find(std::string_view word);
+
+    Json run(Words& words);
+    Json done() const;
+    [[nodiscard]] Refusal outOfTime(When when) const;
+
+    Refusal region(Words& words);
+    Refusal screen(Words& words);
+    Refusal start(Words& words);
+    Refusal menu(Words& words);
+    Refusal close(Words& words);
+    Refusal type(Words& words);
+    Refusal backspace(Words& words);
+    Refusal replace(Words& words);
+    Refusal click(Words& words);
+    Refusal select(Words& words);
+    Refusal scroll(Words& words);
+    Refusal focus(Words& words);
+    Refusal answerNext(Words& words);
+
+    /// Runs `act` on the control of the next word, "PANEL.CONTROL", if it is of that class.
+    template <class ControlClass, class Act>
+    Refusal with(const std::string& target, Act&& act);
+
+    // The expectations, in Expectations.cpp.
+    Json expect(Words& words);
+    Json expectMessage(Words& words);
+    Json expectNothing(Words& words);
+    Json expectFault(Words& words);
+    Json expectRefused(Words& words);
+    Json expectVisibility(const std::string& panel, Words& words);
+    Json expectMember(const std::string& target, Words& words);
+    /// The value of "PANEL.Member" or "PANEL.CONTROL.Member"; throws Absent where there is none.
+    [[nodiscard]] Json member(const std::string& target) const;
+
+    [[nodiscard]] bool running() const { return started_ && !desk_.ended(); }
+    /// Null where the panel is not loaded, or the program does not run.
+    [[nodiscard]] FeuilleCalcul* panel(std::string_view name) const;
+
+    ScopedRegion region_{Region{}};
+    ScriptedSurroundings surroundings_;
+    Desk desk_{surroundings_};
+    MDIOndelis frame_{desk_};
+    User user_{desk_};
+    bool started_ = false;
+
+    // What the last command did.
+    Refusal refusal_;
+    std::size_t expectedBoxes_ = 0;
+};
+
+} // namespace ondelis::pilote

@@ -1,0 +1,109 @@
+#include "Scenario.h"
+
+#include <fstream>
+#include <optional>
+
+#include "Pilote.h"
+
+namespace ondelis::pilote {
+namespace {
+
+class Player {
+public:
+    Player(std::string file, std::ostream& out) : file_{std::move(file)}, out_{out} { }
+
+    void play(const std::string& line)
+    {
+        ++number_;
+        try {
+            Words words{line};
+            if (words.atEnd())
+                return;
+            if (words.next() == "expect")
+                expectation(line, words);
+            else
+                command(line);
+        } catch (const Malformed& malformed) {
+            fail(number_, line, malformed.what());
+        }
+    }
+
+    Tally end()
+    {
+        reportUnnamed();
+        return tally_;
+    }
+
+private:
+    /// What a command did that an expectation must name.
+    struct Unnamed {
+        int number;
+        std::string line;
+        const char* kind; // "refused" or "fault"
+        std::string what;
+    };
+
+    void command(const std::string& line)
+    {
+        reportUnnamed();
+        const Json reply = pilote_.answer(line);
+        if (reply.contains("error"))
+            fail(number_, line, reply["error"].get<std::string>());
+        for (const char* const kind : {"refused", "fault"})
+            if (reply.contains(kind) && reply[kind].is_string())
+                unnamed_ = {.number = number_, .line = line, .kind = kind, .what = reply[kind]};
+    }
+
+    void expectation(const std::string& line, Words& words)
+    {
+        ++tally_.expectations;
+        const Json reply = pilote_.answer(line);
+        if (unnamed_ && !words.atEnd() && words.next() == unnamed_->kind)
+            unnamed_.reset();
+        if (reply.contains("error"))
+            fail(number_, line, reply["error"].get<std::string>());
+        else if (!reply["ok"].get<bool>())
+            fail(number_, line,
+                "wanted " + reply["wanted"].dump() + ", got " + reply["got"].dump()
+                    + (reply.contains("why") ? ": " + reply["why"].get<std::string>() : ""));
+    }
+
+    void reportUnnamed()
+    {
+        if (unnamed_)
+            fail(unnamed_->number, unnamed_->line, std::string{unnamed_->kind} + ": " + unnamed_->what);
+        unnamed_.reset();
+    }
+
+    void fail(int number, const std::string& line, const std::string& why)
+    {
+        ++tally_.failures;
+        out_ << file_ << ':' << number << ": " << line << ": " << why << '\n';
+    }
+
+    std::string file_;
+    std::ostream& out_;
+    Pilote pilote_;
+    int number_ = 0;
+    std::optional<Unnamed> unnamed_;
+    Tally tally_;
+};
+
+} // namespace
+
+Tally playScenario(const std::string& file, std::ostream& out)
+{
+    std::ifstream in{file};
+    Player player{file, out};
+    std::string line;
+    while (std::getline(in, line))
+        player.play(line);
+    Tally tally = player.end();
+    if (!in.eof()) {
+        ++tally.failures;
+        out << file << ": cannot be read\n";
+    }
+    return tally;
+}
+
+} // namespace ondelis::pilote

@@ -1,0 +1,141 @@
+#include "State.h"
+
+#include <cmath>
+
+#include "forms/Controls.h"
+#include "forms/Desk.h"
+
+namespace ondelis::pilote {
+namespace {
+
+/// A position; a whole one as a whole number.
+Json twips(const Property<Single>& position)
+{
+    const double value = Double{position}.value();
+    constexpr double wholeBelow = 9007199254740992; // every whole number below it is a double
+    if (std::trunc(value) == value && std::abs(value) < wholeBelow)
+        return static_cast<std::int64_t>(value);
+    return value;
+}
+
+int number(const Property<Integer>& property)
+{
+    return property.get().value();
+}
+
+std::string text(const Property<std::string>& property)
+{
+    return property;
+}
+
+bool yes(const Property<bool>& property)
+{
+    return property;
+}
+
+Color color(const Property<Color>& property)
+{
+    return plainColor(property);
+}
+
+template <class Form>
+Json placeAndCaption(const Form& form)
+{
+    return {{"Left", twips(form.Left)}, {"Top", twips(form.Top)}, {"Width", twips(form.Width)},
+        {"Height", twips(form.Height)}, {"Caption", text(form.Caption)}};
+}
+
+class ControlState final : public ControlVisitor {
+public:
+    Json state;
+
+    void visit(Label& label) override
+    {
+        state = {{"kind", "Label"}, {"Caption", text(label.Caption)}, {"Visible", yes(label.Visible)},
+            {"Top", twips(label.Top)}};
+    }
+    void visit(TextBox& box) override
+    {
+        state = {{"kind", "TextBox"}, {"Text", text(box.Text)}, {"BackColor", color(box.BackColor)},
+            {"ForeColor", color(box.ForeColor)}, {"Locked", yes(box.Locked)}, {"Visible", yes(box.Visible)},
+            {"Top", twips(box.Top)}, {"MaxLength", box.design().MaxLength}};
+    }
+    void visit(ListBox& list) override
+    {
+        state = {{"kind", "ListBox"}, {"ListIndex", number(list.ListIndex)}, {"ListCount", list.ListCount().value()},
+            {"Text", std::string{list.Text}}, {"Items", list.items()}, {"Visible", yes(list.Visible)},
+            {"BackColor", color(list.BackColor)}};
+    }
+    void visit(OptionButton& option) override
+    {
+        state = {{"kind", "OptionButton"}, {"Caption", option.design().Caption}, {"Value", yes(option.Value)},
+            {"ForeColor", color(option.ForeColor)}, {"Visible", yes(option.Visible)}};
+    }
+    void visit(CommandButton& button) override
+    {
+        state = {{"kind", "CommandButton"}, {"Caption", button.design().Caption}, {"Value", yes(button.Value)},
+            {"Visible", yes(button.Visible)}};
+    }
+    void visit(HScrollBar& bar) override { visitBar("HScrollBar", bar); }
+    void visit(VScrollBar& bar) override { visitBar("VScrollBar", bar); }
+    void visit(Frame& frame) override
+    {
+        state = {{"kind", "Frame"}, {"Caption", frame.design().Caption}, {"Visible", yes(frame.Visible)}};
+    }
+    void visit(PictureBox& picture) override { state = {{"kind", "PictureBox"}, {"Visible", yes(picture.Visible)}}; }
+    void visit(Image& image) override { state = {{"kind", "Image"}, {"Visible", yes(image.Visible)}}; }
+    void visit(Line& line) override
+    {
+        state = {{"kind", "Line"}, {"X1", twips(line.X1)}, {"Y1", twips(line.Y1)}, {"X2", twips(line.X2)},
+            {"Y2", twips(line.Y2)}, {"Visible", yes(line.Visible)}};
+    }
+    void visit(Shape& /*shape*/) override { state = {{"kind", "Shape"}}; }
+    void visit(MaskEdBox& box) override
+    {
+        state = {{"kind", "MaskEdBox"}, {"Text", text(box.Text)}, {"Display", box.display()}};
+    }
+
+private:
+    void visitBar(const char* kind, const ScrollBar& bar)
+    {
+        state = {{"kind", kind}, {"Value", number(bar.Value)}, {"Min", number(bar.Min)}, {"Max", number(bar.Max)},
+            {"Visible", yes(bar.Visible)}};
+    }
+};
+
+} // namespace
+
+Json stateOf(const MDIOndelis& frame)
+{
+    return placeAndCaption(frame);
+}
+
+Json stateOf(const FeuilleCalcul& panel)
+{
+    Json state{{"visible", panel.visible()}};
+    state.update(placeAndCaption(panel));
+    return state;
+}
+
+Json stateOf(Control& control)
+{
+    ControlState visitor;
+    control.accept(visitor);
+    return visitor.state;
+}
+
+Json stateOfAll(const MDIOndelis& frame)
+{
+    Json panels = Json::object();
+    for (const FeuilleCalcul* panel : frame.desk().loadedPanels()) {
+        Json controls = Json::object();
+        for (Control* control : panel->controls())
+            controls[control->name()] = stateOf(*control);
+        Json state = stateOf(*panel);
+        state["controls"] = std::move(controls);
+        panels[panel->design().name] = std::move(state);
+    }
+    return {{"frame", stateOf(frame)}, {"panels", std::move(panels)}};
+}
+
+} // namespace ondelis::pilote

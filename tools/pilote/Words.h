@@ -1,0 +1,41 @@
+#pragma once
+
+#include <stdexcept>
+#include <string>
+#include <string_view>
+
+namespace ondelis::pilote {
+
+/// The line is not a command; says why.
+class Malformed final : public std::runtime_error {
+public:
+    using std::runtime_error::runtime_error;
+};
+
+/// Reads a line of the driver's language: words separated by blanks; a word in double quotes may hold blanks
+/// and the escapes \n \t \" \\; `#` outside quotes starts a comment. What does not keep these rules throws
+/// Malformed.
+class Words {
+public:
+    /// Throws where the line is not UTF-8.
+    explicit Words(std::string_view line);
+
+    /// Whether only blanks and a comment are left.
+    [[nodiscard]] bool atEnd() const;
+    /// Whether the next word stands in quotes.
+    [[nodiscard]] bool quotedNext() const;
+    /// The next word, without its quotes and with its escapes read. Throws at the end.
+    std::string next();
+    /// All that is left as it stands, without the comment.
+    std::string rest();
+    /// Throws where a word is left.
+    void finish() const;
+
+private:
+    std::string quoted();
+    void skipBlanks();
+
+    std::string_view rest_;
+};
+
+} // namespace ondelis::pilote
