@@ -339,7 +339,7 @@ MaskEdBox::MaskEdBox(FeuilleCalcul* panel, std::string name, Design design)
 
 std::string MaskEdBox::display() const
 {
-    const std::string text = Text;
+    std::string text = Text;
     if (text.empty())
         return text;
     std::array<char, 32> form{};

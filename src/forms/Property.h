@@ -50,7 +50,11 @@ public:
             owner_.changed();
         return *this;
     }
-    Property& operator=(const Property& other) { return *this = Stored{static_cast<const Stored&>(other.get())}; }
+    Property& operator=(const Property& other)
+    {
+        *this = Stored{static_cast<const Stored&>(other.get())};
+        return *this;
+    }
 
     [[nodiscard]] const Stored& get() const
     {
@@ -106,7 +110,11 @@ public:
         (static_cast<Owner&>(this->owner_).*Store)(std::move(value));
         return *this;
     }
-    ActiveProperty& operator=(const ActiveProperty& other) { return *this = Stored{other.get()}; }
+    ActiveProperty& operator=(const ActiveProperty& other)
+    {
+        *this = Stored{other.get()};
+        return *this;
+    }
 
 private:
     friend Owner;

@@ -1,7 +1,7 @@
 #include "kit/Region.h"
 
 #include <langinfo.h>
-#include <locale.h>
+#include <locale.h> // NOLINT(modernize-deprecated-headers): newlocale is POSIX, not C++
 
 #include <utility>
 

@@ -7,7 +7,7 @@ namespace ondelis {
 namespace {
 
 struct Multiplier {
-    const char* word;
+    const char* word = nullptr;
     Double p;
 };
 

@@ -31,7 +31,7 @@ public:
     friend constexpr Double operator/(Whole a, Whole b) { return Double{a.value()} / Double{b.value()}; }
 
     friend constexpr bool operator==(Whole, Whole) = default;
-    friend constexpr auto operator<=>(Whole, Whole) = default;
+    friend constexpr auto operator<=>(Whole, Whole) = default; // NOLINT(modernize-use-nullptr): a false alarm
 
 private:
     static constexpr Repr narrowed(std::int64_t value)

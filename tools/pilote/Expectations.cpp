@@ -32,11 +32,11 @@ Json judged(const Json& wanted, const Json& got)
 Json jsonValue(Words& words)
 {
     if (words.quotedNext()) {
-        const Json text = words.next();
+        Json text = words.next();
         words.finish();
         return text;
     }
-    const Json value = Json::parse(words.rest(), nullptr, false);
+    Json value = Json::parse(words.rest(), nullptr, false);
     const bool flat = value.is_primitive()
         || (value.is_array() && std::ranges::all_of(value, [](const Json& v) { return v.is_primitive(); }));
     if (value.is_discarded() || !flat)

@@ -61,7 +61,7 @@ private:
     Json expectNothing(Words& words);
     Json expectFault(Words& words);
     Json expectRefused(Words& words);
-    Json expectVisibility(const std::string& panel, Words& words);
+    Json expectVisibility(const std::string& name, Words& words);
     Json expectMember(const std::string& target, Words& words);
     /// The value of "PANEL.Member" or "PANEL.CONTROL.Member"; throws Absent where there is none.
     [[nodiscard]] Json member(const std::string& target) const;
