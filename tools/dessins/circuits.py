@@ -77,3 +77,50 @@ def lc_serie(s: Sheet) -> None:
     inductor(s, (LEFT, TOP), (RIGHT, TOP), "L")
     capacitor(s, (RIGHT, TOP), (RIGHT, BOTTOM), "C")
     s.wire((RIGHT, BOTTOM), (LEFT, BOTTOM))
+
+
+@picture("rlc-serie", 280, 180, "R, L et C en série, un courant commun")
+def sweep_serie(s: Sheet) -> None:
+    right = RIGHT + 20
+    source(s)
+    s.wire((LEFT, TOP), (78, TOP))
+    s.head((72, TOP), (1, 0))
+    s.text(66, TOP - 13, "I")
+    resistor(s, (78, TOP), (154, TOP), "R")
+    inductor(s, (154, TOP), (right, TOP), "L")
+    capacitor(s, (right, TOP), (right, BOTTOM), "C")
+    s.wire((right, BOTTOM), (LEFT, BOTTOM))
+
+
+@picture("rlc-parallele", 280, 200, "R et L en série, C en parallèle, et leurs courants")
+def sweep_parallele(s: Sheet) -> None:
+    top, bottom, coil, right = 28.0, 174.0, 136.0, RIGHT + 20
+    generator(s, (LEFT, top), (LEFT, bottom))
+    for y in (top, bottom):
+        s.wire((LEFT, y), (right, y))
+    junction(s, (coil, top), (coil, bottom))
+    for x, text in ((coil, "I1"), (right, "I2")):
+        s.wire((x, top), (x, top + 32))
+        s.head((x, top + 22), (0, 1))
+        s.text(x + 10, top + 18, text, anchor="start")
+    resistor(s, (coil, top + 32), (coil, 116), "R")
+    inductor(s, (coil, 116), (coil, bottom), "L")
+    capacitor(s, (right, top + 32), (right, bottom), "C")
+
+
+@picture("circuit-lc", 200, 130, "Circuit oscillant")
+def lc(s: Sheet) -> None:
+    """A coil and a capacitor, closed on each other."""
+    inductor(s, (60, 25), (60, 105), "L", side=-1, turns=5)
+    capacitor(s, (140, 25), (140, 105), "C")
+    for y in (25, 105):
+        s.wire((60, y), (140, y))
+
+
+@picture("thomson-icone", 64, 64, "Circuit oscillant")
+def thomson_icone(s: Sheet) -> None:
+    """The same circuit as a small sign, without letters."""
+    inductor(s, (16, 8), (16, 56), side=-1, turns=4)
+    capacitor(s, (46, 8), (46, 56))
+    for y in (8, 56):
+        s.wire((16, y), (46, y))

@@ -5,9 +5,14 @@ from __future__ import annotations
 
 from pathlib import Path
 
-import circuits  # noqa: F401  (each family registers its pictures)
+import antennes  # noqa: F401  (each family registers its pictures)
+import bobines  # noqa: F401
+import circuits  # noqa: F401
+import filtres  # noqa: F401
 import fond
 import icone
+import lignes  # noqa: F401
+import puissance  # noqa: F401
 from sheet import PICTURES, Sheet
 
 HERE = Path(__file__).resolve().parent
@@ -18,7 +23,8 @@ TWIPS_PER_PIXEL = 15  # at 96 dots per inch
 
 def row(sheet: Sheet) -> str:
     """The line of the table for one picture."""
-    rooms = ", ".join(f'`{r.label}` "{r.text}" ({r.x / sheet.width:.3f}, {r.y / sheet.height:.3f})' for r in sheet.rooms)
+    rooms = ", ".join(f'{f"`{r.label}` " if r.label else ""}"{r.text}"'
+                      f" ({r.x / sheet.width:.3f}, {r.y / sheet.height:.3f})" for r in sheet.rooms)
     twips = f"{sheet.width * TWIPS_PER_PIXEL} x {sheet.height * TWIPS_PER_PIXEL}"
     return f"| `{sheet.name}` | {sheet.width} x {sheet.height} | {twips} | {rooms} |"
 

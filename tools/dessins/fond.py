@@ -80,7 +80,8 @@ def antenna() -> list[str]:
     lines.append(f'<path d="M{MAST - 150} {BEAM} H{MAST + 122}" stroke-width="4"/>')
     # Directors shorten towards the front, the reflector at the back is the longest.
     for x, half in ((-146, 47), (-98, 50), (-50, 53), (-2, 56), (46, 60), (116, 69)):
-        lines.append(f'<path d="M{MAST + x + half * 0.34:.1f} {BEAM - half} L{MAST + x - half * 0.34:.1f} {BEAM + half}"'
+        slant = number(half * 0.34)
+        lines.append(f'<path d="M{MAST + x} {BEAM} m{slant} {-half} L{number(MAST + x - half * 0.34)} {BEAM + half}"'
                      ' stroke-width="2.6"/>')
     for side in (-1, 1):
         lines.append(f'<path d="M{MAST} {BEAM + 96} L{MAST + side * 190} {foot + 12}" stroke-width="0.9"/>')

@@ -38,7 +38,7 @@ ARROW = (7.0, 2.5)
 
 @dataclass(frozen=True)
 class Room:
-    """A place left free for a label of the panel: its name, its text, its centre."""
+    """A place left free for a label of the panel: its name (empty if it is free), its text, its centre."""
 
     label: str
     text: str

@@ -9,7 +9,7 @@ from __future__ import annotations
 
 import math
 
-from sheet import INK, LETTER, MAIN, PALE, THIN, WORD, Point, Sheet, along, number, text_width, towards
+from sheet import INK, LETTER, PALE, WORD, Point, Sheet, along, number, text_width, towards
 
 RESISTOR = (34.0, 12.0)
 PLATES = (20.0, 6.0)  # length of the plates, distance between them
@@ -171,13 +171,6 @@ def terminal(s: Sheet, *points: Point) -> None:
         s.circle(point, 3, fill="#ffffff", width=1.4)
 
 
-def ports(s: Sheet, x: float, top: float, bottom: float, text: str = "", outward: int = -1) -> None:
-    """A pair of terminals, one above the other, with a letter and the arrow of the impedance seen there."""
-    terminal(s, (x, top), (x, bottom))
-    if text:
-        s.text(x + outward * 2, (top + bottom) / 2, text)
-
-
 def pin(s: Sheet, edge: Point, outward: Point, text: str, name: str = "") -> None:
     """The number of a pin outside the edge of a block, and its name inside."""
     u = outward
@@ -189,11 +182,6 @@ def pin(s: Sheet, edge: Point, outward: Point, text: str, name: str = "") -> Non
         s.text(edge[0] + 7, edge[1] + u[1] * 8, text, WORD)
         if name:
             s.text(edge[0], edge[1] - u[1] * 9, name, WORD)
-
-
-def tube(s: Sheet, a: Point, b: Point, colour: str, width: float) -> None:
-    """A rod or tube seen from the side, with square ends."""
-    s.wire(a, b, stroke=colour, width=width, cap="butt")
 
 
 def sine(s: Sheet, start: Point, period: float, height: float, count: float, **look) -> None:
