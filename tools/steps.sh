@@ -1,0 +1,32 @@
+# What run.sh and test.sh share; both source it from the root of the project.
+# shellcheck shell=bash
+
+steps=()
+
+# step WORDS COMMAND...: runs a command under a heading and notes how long it took. The first one that fails
+# ends the script.
+step() {
+    local words=$1 start=$SECONDS
+    shift
+    printf '\n== %s\n' "$words"
+    if ! "$@"; then
+        report
+        printf 'FAILED  %s\n' "$words"
+        exit 1
+    fi
+    steps+=("$(printf '%6d s  %s' $((SECONDS - start)) "$words")")
+}
+
+# The steps that ran to their end, with their times.
+report() {
+    printf '\n'
+    [[ ${#steps[@]} -eq 0 ]] || printf 'passed %s\n' "${steps[@]}"
+    printf 'in all %6d s\n' "$SECONDS"
+}
+
+# build PRESET [TARGET...]
+build() {
+    local preset=$1
+    shift
+    cmake --preset "$preset" --log-level=WARNING && cmake --build --preset "$preset" ${1:+--target "$@"}
+}
