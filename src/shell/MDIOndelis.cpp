@@ -1,6 +1,7 @@
 #include "shell/MDIOndelis.h"
 
 #include "forms/ResumeNext.h"
+#include "panels/resonance/CalculNombreSpires.h"
 #include "panels/resonance/CircuitsOscillants.h"
 #include "shell/Centrages.h"
 
@@ -51,6 +52,7 @@ void MDIOndelis::MDIForm_Load()
 
 void MDIOndelis::CacherFeuilles()
 {
+    desk_.Unload<CalculNombreSpires>();
     desk_.Unload<CircuitsOscillants>();
 }
 

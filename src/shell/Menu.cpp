@@ -1,5 +1,6 @@
 #include "shell/Menu.h"
 
+#include "panels/resonance/CalculNombreSpires.h"
 #include "panels/resonance/CircuitsOscillants.h"
 #include "shell/Centrages.h"
 #include "shell/MDIOndelis.h"
@@ -81,7 +82,7 @@ std::vector<Menu> makeTree()
             {"MenuRLCserie", "Circuit RLC Série", {}},
             {"MenuWireInductance", "Epingle", {}},
             {"MenuThomson", "Formule de Thomson", {}},
-            {"mnuSelfNbSpires", "Nombre de spires d'une self", {}},
+            {"mnuSelfNbSpires", "Nombre de spires d'une self", centred<CalculNombreSpires>()},
             {"mnuCalculSelfSurTore", "Selfs sur tores", {}},
             {"MenuStripLine", "Strip line", {}},
             {"mnuCalculsSurSelf", "Valeur d'une self", {}},

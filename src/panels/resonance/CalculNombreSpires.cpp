@@ -1,0 +1,110 @@
+#include "panels/resonance/CalculNombreSpires.h"
+
+#include "kit/Conversions.h"
+#include "kit/Maths.h"
+
+namespace ondelis {
+
+CalculNombreSpires::CalculNombreSpires(Desk& desk)
+    : FeuilleCalcul{desk,
+        {.name = "CalculNombreSpires",
+            .Caption = "N = SQR((18 D + 40 L) / D²) par Kervane",
+            .Width = 10260,
+            .Height = 6675}}
+{
+}
+
+void CalculNombreSpires::Form_Load()
+{
+    resumeNext([&] { Height = 6675; });
+    resumeNext([&] { Width = 10260; });
+    resumeNext([&] { Caption = "Calcul du nombre de spires d'une self"; });
+    resumeNext([&] { Label7.Caption = "Référence : The ARRL HANDBOOK 1996 $6.22"; });
+    resumeNext([&] {
+        Label8.Caption
+            = "Dans cette formule, les dimensions sont en inches. Les valeurs de D et L sont donc converties "
+              "avant le calcul. Le diametre moyen de la self est aussi calculer à la valeur D+e .";
+    });
+    resumeNext([&] { OptmmH.Value = true; });
+    resumeNext([&] { TxtS.Text = "10"; });
+    resumeNext([&] { TxtF.Text = CStr(1.75); });
+    resumeNext([&] { HscrlE.Value = 3; });
+    resumeNext([&] { TxtD.Text = "100"; });
+}
+
+void CalculNombreSpires::OptmH_Click()
+{
+    UniteSelf = 1000;
+    TxtS_Change();
+}
+
+void CalculNombreSpires::OptmmH_Click()
+{
+    UniteSelf = 1;
+    TxtS_Change();
+}
+
+void CalculNombreSpires::OpnH_Click()
+{
+    UniteSelf = 0.001;
+    TxtS_Change();
+}
+
+void CalculNombreSpires::OptpH_Click()
+{
+    UniteSelf = 0.000001;
+    TxtS_Change();
+}
+
+void CalculNombreSpires::TxtS_Change()
+{
+    if (Val(TxtS.Text) > 0)
+        S = Val(TxtS.Text) * UniteSelf; // Calculer reads S anew, without the unit; but the product can overflow
+    Calculer();
+}
+
+void CalculNombreSpires::TxtD_Change()
+{
+    Calculer();
+}
+
+void CalculNombreSpires::TxtF_Change()
+{
+    Calculer();
+}
+
+void CalculNombreSpires::HscrlE_Change()
+{
+    TxtE.Text = CStr(HscrlE.Value / 10);
+    Calculer();
+}
+
+void CalculNombreSpires::Calculer()
+{
+    constexpr int tours = 10000;
+    Double N = 1;
+    TxtN.Text = "1";
+    S = Val(TxtS.Text); // in µH, whatever the option
+    Double D = Val(TxtD.Text);
+    Double F = Val(TxtF.Text);
+    Double E = HscrlE.Value / 10;
+    TxtE.Text = CStr(E);
+    if (S == 0 || D == 0 || F == 0 || E == 0)
+        return;
+
+    // In inches from here. P is the pitch at first, the length of the winding then.
+    F = F / 25.4;
+    E = E / 25.4;
+    D = E + D / 25.4;
+    Double P = E + F;
+    // The formula is that of the ARRL Handbook. It is computed at every test, after the last round too.
+    const auto inductance = [&] { return Pow(N, 2) * Pow(D, 2) / (40 * P + 18 * D); };
+    for (int tour = 0; inductance() < S && tour < tours; ++tour) {
+        N = Sqr((40 * P + 18 * D) * S) / D;
+        P = (E + F) * N;
+    }
+    TxtN.Text = CStr(Int(10 * N) / 10);
+    TxtL.Text = Str(Int(10 * (25.4 * P)) / 10);
+}
+
+} // namespace ondelis
