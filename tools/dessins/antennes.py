@@ -2,7 +2,8 @@
 
 from __future__ import annotations
 
-from sheet import COPPER, DIM, INK, PALE, THIN, TUBE, Sheet, picture
+from sheet import COPPER, DIELECTRIC, DIM, INK, METAL, PALE, THIN, TUBE, WORD, Sheet, picture, polar
+from symbols import bar, cable, capacitor
 
 
 @picture("lpda-structure", 340, 270, "Structure de l'antenne log-périodique")
@@ -37,8 +38,117 @@ def lpda_structure(s: Sheet) -> None:
     for side in (-1, 1):
         s.wire((last, axis + side * half_gap), (last + 22, axis + side * half_gap))
     s.room("", "Balun", last + 41, axis + 31)
-    s.wire((last + 60, axis), (s.width - 6, axis), width=4.5, cap="butt")
-    s.wire((last + 60, axis), (s.width - 6, axis), stroke=PALE, width=1.4, cap="butt")
+    cable(s, (last + 60, axis), (s.width - 6, axis))
     for x, _ in places:
         for side in (-1, 1):
             s.circle((x, axis + side * half_gap), 2.4, stroke=None, fill=INK)
+
+
+@picture("high-q-loop", 280, 262, "Boucle accordée à grand coefficient de qualité")
+def high_q_loop(s: Sheet) -> None:
+    """A polygon of thick tube, tuned by a capacitor, with its coupling loop opposite."""
+    centre, radius = (128.0, 132.0), 96.0
+    corners = [polar(centre, radius, 67.5 - 45 * i) for i in range(8)]
+    (right, top), left = corners[0], corners[-1][0]
+    middle = (left + right) / 2
+    s.wire((middle + 14, top), *corners, (middle - 14, top), stroke=COPPER, width=5, cap="butt")
+    capacitor(s, (middle - 15, top), (middle + 15, top), "C", variable=True)
+    s.circle(centre, 1.8, stroke=None, fill=DIM)
+    s.dimension(centre, corners[1], "Rayon")
+    s.dimension(corners[2], corners[3], "Côté", 20)
+    floor = corners[4][1]
+    s.path(f"M{middle - 4} {floor - 12} A19 19 0 1 1 {middle + 4} {floor - 12}")
+    cable(s, (middle, floor - 14), (middle, 256))
+
+
+def earth_line(s: Sheet, y: float, x1: float, x2: float) -> None:
+    """The ground under a vertical antenna."""
+    s.wire((x1, y), (x2, y))
+    for i in range(int((x2 - x1) / 12)):
+        x = x1 + 12 * i + 10
+        s.wire((x, y), (x - 6, y + 7), width=THIN)
+
+
+@picture("gamma-monopole", 270, 290, "Gamma match d'un monopôle")
+def gamma_monopole(s: Sheet) -> None:
+    """The element stands on the ground; the rod, in series with C, joins it by a strap."""
+    mast, rod, top, strap, foot, cap = 150.0, 100.0, 34.0, 106.0, 250.0, 224.0
+    bar(s, (mast, foot), (mast, top), 14)
+    bar(s, (rod, cap - 14), (rod, strap - 4), 7)
+    s.rect(rod - 6, strap - 4, mast - rod + 14, 8, width=1.3, fill=METAL)
+    capacitor(s, (rod, cap - 14), (rod, foot), "C", side=-1)
+    earth_line(s, foot, 40, 214)
+    cable(s, (rod, foot + 2), (rod, 284))
+    s.dimension((mast, foot), (mast, top), "Brin piloté", -64)
+    s.dimension((rod - 7, strap), (rod - 7, foot), "Gamma", -39)
+    s.dimension((rod, 150), (mast, 150), "S")
+    s.dimension((mast - 7, top), (mast + 7, top), "DE", 12)
+    s.dimension((rod + 3.5, strap + 26), (rod - 3.5, strap + 26), "DR", extend=False)
+
+
+@picture("gamma-dipole", 380, 182, "Gamma match d'un dipôle")
+def gamma_dipole(s: Sheet) -> None:
+    """The element is whole; the rod, in series with C, joins one half of it by a strap."""
+    axis, rod, left, right, middle, strap = 66.0, 122.0, 26.0, 330.0, 178.0, 284.0
+    bar(s, (left, axis), (right, axis), 14)
+    bar(s, (middle + 40, rod), (strap + 4, rod), 7)
+    s.rect(strap - 4, axis - 8, 8, rod - axis + 14, width=1.3, fill=METAL)
+    s.rect(middle - 6, axis - 10, 12, 20, width=1.3, fill=METAL)
+    capacitor(s, (middle, rod), (middle + 40, rod), "C", side=1)
+    # The braid to the middle of the element, the inner conductor to C.
+    s.wire((middle, axis + 10), (middle, rod - 14), (middle - 20, rod - 14), (middle - 20, rod - 2.5))
+    s.wire((middle - 14, rod), (middle, rod))
+    cable(s, (20, rod), (middle - 14, rod))
+    s.dimension((left, axis - 7), (right, axis - 7), "Brin piloté", 29)
+    s.dimension((middle, rod), (strap, rod), "Gamma", -40)
+    s.dimension((strap - 34, rod), (strap - 34, axis), "S", extend=False)
+    s.dimension((right, axis + 7), (right, axis - 7), "DE", -12)
+    s.dimension((strap + 4, rod + 3.5), (strap + 4, rod - 3.5), "DR", -14)
+
+
+@picture("trappe-coaxiale", 356, 210, "Trappe en coaxial")
+def trappe_coaxiale(s: Sheet) -> None:
+    """Coax wound on a former: the inner conductor of one end is joined to the braid of the other."""
+    x, top, bottom, pitch, turns = 116.0, 76.0, 140.0, 16.0, 8
+    s.rect(x - 26, top, turns * pitch + 52, bottom - top, fill=DIELECTRIC)
+    for i in range(turns):
+        a, b = (x + (i + 0.5) * pitch - 3, top - 5), (x + (i + 0.5) * pitch + 3, bottom + 5)
+        s.wire(a, b, width=15.5)
+        s.wire(a, b, stroke="#8597a9", width=12.9)
+    first, last = x + 5, x + turns * pitch - 11
+    for end, inner in ((first, 28.0), (last, 40.0)):
+        s.wire((end, top - 6), (end, 62), width=15.5)
+        s.wire((end, top - 6), (end, 62), stroke="#8597a9", width=12.9)
+        s.rect(end - 4.5, 46, 9, 11, width=1.2, fill=METAL)
+        s.wire((end, 46), (end, inner), stroke=COPPER, width=2.2)
+    # Inner of the first end to the braid of the last one; the other two carry the wires of the antenna.
+    s.wire((first, 28), (last - 18, 28), (last - 18, 51), (last - 4.5, 51), stroke=COPPER, width=2.2)
+    s.wire((14, 51), (first - 4.5, 51), stroke=COPPER, width=2.2)
+    s.wire((last, 40), (342, 40), stroke=COPPER, width=2.2)
+    s.dimension((x - 26, bottom), (x - 26, top), "Ø mandrin", 42)
+    s.dimension((x, bottom + 13), (x + turns * pitch, bottom + 13), "Longueur", -40)
+    s.dimension((x + 6 * pitch, bottom + 13), (x + 7 * pitch, bottom + 13), "Ø coaxial", -16)
+
+
+def insulator(s: Sheet, x: float, y: float) -> None:
+    """A strain insulator in a wire."""
+    s.ellipse((x, y), 7, 4.5, width=1.3, fill=DIELECTRIC)
+
+
+@picture("trappe-antenne", 460, 110, "Dipôle à trappes")
+def trappe_antenne(s: Sheet) -> None:
+    """On either side of the feed: a wire, a trap, a wire."""
+    axis, middle, trap, end = 40.0, 230.0, 106.0, 212.0
+    insulator(s, middle, axis)
+    for side in (-1, 1):
+        s.wire((middle + 7 * side, axis), (middle + end * side, axis), stroke=COPPER, width=2.4)
+        s.wire((middle + 8 * side, axis), (middle + 2 * side, axis + 20))
+        insulator(s, middle + (end + 6) * side, axis)
+        left = middle + trap * side - 15
+        s.rect(left, axis - 9, 30, 18, fill=DIELECTRIC)
+        for i in range(5):
+            s.wire((left + 4 + 5 * i, axis - 9), (left + 6 + 5 * i, axis + 9), width=2)
+        s.text(middle + trap * side, axis - 20, "Trappe", WORD, colour=DIM)
+        s.text(middle + 52 * side, axis + 34, "Brin en amont", WORD, colour=DIM)
+        s.text(middle + 168 * side, axis + 34, "Brin suivant", WORD, colour=DIM)
+    cable(s, (middle, axis + 20), (middle, 106))

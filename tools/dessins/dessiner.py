@@ -8,11 +8,13 @@ from pathlib import Path
 import antennes  # noqa: F401  (each family registers its pictures)
 import bobines  # noqa: F401
 import circuits  # noqa: F401
+import condensateurs  # noqa: F401
 import filtres  # noqa: F401
 import fond
 import icone
 import lignes  # noqa: F401
 import puissance  # noqa: F401
+import timer555  # noqa: F401
 from sheet import PICTURES, Sheet
 
 HERE = Path(__file__).resolve().parent

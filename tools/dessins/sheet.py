@@ -143,9 +143,9 @@ class Sheet:
         """A closed line through the points."""
         self.path("M" + " L".join(f"{number(x)} {number(y)}" for x, y in points) + " Z", **look)
 
-    def rect(self, x: float, y: float, width: float, height: float, **look) -> None:
+    def rect(self, x: float, y: float, across: float, down: float, **look) -> None:
         """A rectangle by its upper left corner and its size."""
-        self.path(f"M{number(x)} {number(y)} h{number(width)} v{number(height)} h{number(-width)} Z", **look)
+        self.path(f"M{number(x)} {number(y)} h{number(across)} v{number(down)} h{number(-across)} Z", **look)
 
     def ellipse(self, centre: Point, rx: float, ry: float, **look) -> None:
         """An ellipse with upright axes."""

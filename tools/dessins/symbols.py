@@ -9,7 +9,7 @@ from __future__ import annotations
 
 import math
 
-from sheet import INK, LETTER, PALE, WORD, Point, Sheet, along, number, text_width, towards
+from sheet import COPPER, COPPER_PALE, INK, LETTER, PALE, WORD, Point, Sheet, along, number, text_width, towards
 
 RESISTOR = (34.0, 12.0)
 PLATES = (20.0, 6.0)  # length of the plates, distance between them
@@ -120,16 +120,13 @@ def generator(s: Sheet, a: Point, b: Point, text: str = "", side: int = 1) -> No
     letter(s, a, b, text, radius, side)
 
 
-def meter(s: Sheet, a: Point, b: Point, text: str = "", label: str = "") -> None:
-    """A measuring instrument with its letter inside; the letter is left to the panel when `label` is given."""
+def meter(s: Sheet, a: Point, b: Point, text: str) -> None:
+    """A measuring instrument; its letter is left to a label of the panel, on the bare card."""
     radius = 13.0
     x, y = middle(a, b)
     leads(s, a, b, 2 * radius)
-    s.circle((x, y), radius, fill=PALE)
-    if label:
-        s.room(label, text, x, y)
-    elif text:
-        s.text(x, y, text)
+    s.circle((x, y), radius)
+    s.room("", text, x, y)
 
 
 def battery(s: Sheet, a: Point, b: Point, text: str = "", side: int = 1) -> None:
@@ -171,25 +168,35 @@ def terminal(s: Sheet, *points: Point) -> None:
         s.circle(point, 3, fill="#ffffff", width=1.4)
 
 
-def pin(s: Sheet, edge: Point, outward: Point, text: str, name: str = "") -> None:
-    """The number of a pin outside the edge of a block, and its name inside."""
-    u = outward
-    if abs(u[0]) > 0.5:
-        s.text(edge[0] + u[0] * 7, edge[1] - 7, text, WORD)
-        if name:
-            s.text(edge[0] - u[0] * 5, edge[1], name, WORD, "end" if u[0] > 0 else "start")
+def pin(s: Sheet, edge: Point, outward: Point, text: str) -> None:
+    """The number of a pin, beside its wire and outside the edge of the block."""
+    x, y = edge[0] + 7 * outward[0], edge[1] + 8 * outward[1]
+    if outward[0]:
+        s.text(x, y - 7, text, WORD)
     else:
-        s.text(edge[0] + 7, edge[1] + u[1] * 8, text, WORD)
-        if name:
-            s.text(edge[0], edge[1] - u[1] * 9, name, WORD)
+        s.text(x + 7, y, text, WORD)
 
 
-def sine(s: Sheet, start: Point, period: float, height: float, count: float, **look) -> None:
-    """A sine wave that starts upwards and runs to the right for `count` periods."""
-    x, y = start
-    d = f"M{number(x)} {number(y)}"
-    steps = int(count * 16)
-    for i in range(1, steps + 1):
-        t = i / 16
-        d += f" L{number(x + t * period)} {number(y - height * math.sin(2 * math.pi * t))}"
-    s.path(d, **look)
+def block(s: Sheet, x: float, y: float, width: float, height: float, depth: float, fill: str, edge: str = INK,
+          top: str | None = None, side: str | None = None) -> None:
+    """A box in oblique view: its front with the upper left corner at (x, y), its depth up to the right."""
+    dx, dy = 0.8 * depth, -0.45 * depth
+    s.rect(x, y, width, height, stroke=edge, width=1.3, fill=fill)
+    s.polygon((x, y), (x + dx, y + dy), (x + width + dx, y + dy), (x + width, y), stroke=edge, width=1.3,
+              fill=top or fill)
+    s.polygon((x + width, y), (x + width + dx, y + dy), (x + width + dx, y + height + dy), (x + width, y + height),
+              stroke=edge, width=1.3, fill=side or fill)
+
+
+def cable(s: Sheet, *points: Point) -> None:
+    """A coaxial cable as a double line."""
+    s.wire(*points, width=5, cap="butt")
+    s.wire(*points, stroke="#ffffff", width=2, cap="butt")
+
+
+def bar(s: Sheet, a: Point, b: Point, diameter: float) -> None:
+    """A tube or rod of copper colour that is thick enough to show its diameter."""
+    u = towards(a, b)
+    half = diameter / 2
+    s.polygon(along(a, u, 0, half), along(b, u, 0, half), along(b, u, 0, -half), along(a, u, 0, -half),
+              stroke=COPPER, width=1.3, fill=COPPER_PALE)
