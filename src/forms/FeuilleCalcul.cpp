@@ -30,6 +30,12 @@ Control* FeuilleCalcul::find(std::string_view name) const
     return found == controls_.end() ? nullptr : *found;
 }
 
+void FeuilleCalcul::placed(const Extent& corner)
+{
+    Left.reset(Double{corner.Width});
+    Top.reset(Double{corner.Height});
+}
+
 void FeuilleCalcul::touch()
 {
     if (!loaded_)

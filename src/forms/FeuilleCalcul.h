@@ -45,6 +45,9 @@ public:
     /// Null where the panel has no control of that name.
     [[nodiscard]] Control* find(std::string_view name) const;
 
+    /// The user has moved the panel; twips.
+    void placed(const Extent& corner);
+
     void touch() final;
     void changed() final;
 
