@@ -1,0 +1,94 @@
+#include "view/Colors.h"
+
+#include <QPalette>
+#include <QtMath>
+#include <algorithm>
+
+namespace ondelis {
+namespace {
+
+/// Relative luminance after WCAG 2.1, from 0 to 1.
+double luminance(const QColor& color)
+{
+    const auto linear
+        = [](double channel) { return channel <= 0.04045 ? channel / 12.92 : qPow((channel + 0.055) / 1.055, 2.4); };
+    return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) + 0.0722 * linear(color.blueF());
+}
+
+/// Contrast after WCAG 2.1, from 1 to 21.
+double contrast(const QColor& one, const QColor& other)
+{
+    const auto [darker, lighter] = std::minmax(luminance(one), luminance(other));
+    return (lighter + 0.05) / (darker + 0.05);
+}
+
+QColor blackOrWhite(const QColor& background)
+{
+    return contrast(Qt::black, background) >= contrast(Qt::white, background) ? Qt::black : Qt::white;
+}
+
+} // namespace
+
+QColor toQColor(Color color)
+{
+    const Color plain = plainColor(color);
+    return {
+        static_cast<int>(plain & 0xFFU), static_cast<int>(plain >> 8U & 0xFFU), static_cast<int>(plain >> 16U & 0xFFU)};
+}
+
+bool isDark(const QPalette& palette)
+{
+    return palette.color(QPalette::WindowText).lightness() > palette.color(QPalette::Window).lightness();
+}
+
+QColor readable(const QColor& text, const QColor& background)
+{
+    constexpr double enough = 3;
+    constexpr int steps = 10;
+    const QColor extreme = blackOrWhite(background);
+    QColor mixed = text;
+    for (int step = 1; step <= steps && contrast(mixed, background) < enough; ++step) {
+        const auto mix = [&](int from, int to) { return from + (to - from) * step / steps; };
+        mixed = {mix(text.red(), extreme.red()), mix(text.green(), extreme.green()), mix(text.blue(), extreme.blue())};
+    }
+    return mixed;
+}
+
+void Colors::applyToField(QWidget& widget, Color background, Color text)
+{
+    if (isApplied(background, text))
+        return;
+    QPalette palette;
+    const bool ownBackground = !isSystemColor(background);
+    const bool ownText = !isSystemColor(text);
+    if (ownBackground)
+        palette.setColor(QPalette::Base, toQColor(background));
+    const QColor base = ownBackground ? toQColor(background) : widget.parentWidget()->palette().color(QPalette::Base);
+    if (ownText)
+        palette.setColor(QPalette::Text, ownBackground ? toQColor(text) : readable(toQColor(text), base));
+    else if (ownBackground)
+        palette.setColor(QPalette::Text, blackOrWhite(base));
+    widget.setPalette(palette);
+}
+
+void Colors::applyToText(QWidget& widget, Color text)
+{
+    if (isApplied(windowColor, text))
+        return;
+    QPalette palette;
+    if (!isSystemColor(text))
+        palette.setColor(
+            QPalette::WindowText, readable(toQColor(text), widget.parentWidget()->palette().color(QPalette::Window)));
+    widget.setPalette(palette);
+}
+
+bool Colors::isApplied(Color background, Color text)
+{
+    const bool same = applied_ && background_ == background && text_ == text;
+    background_ = background;
+    text_ = text;
+    applied_ = true;
+    return same;
+}
+
+} // namespace ondelis

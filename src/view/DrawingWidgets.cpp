@@ -1,0 +1,106 @@
+#include "view/DrawingWidgets.h"
+
+#include <QPainter>
+#include <QStyleOptionGroupBox>
+#include <QSvgRenderer>
+#include <algorithm>
+
+#include "view/Colors.h"
+
+namespace ondelis {
+namespace {
+
+/// Turns the lightness of each pixel round; hue and chroma stay.
+void turnLightness(QImage& image)
+{
+    for (int y = 0; y < image.height(); ++y) {
+        auto* const line = reinterpret_cast<QRgb*>(image.scanLine(y));
+        for (QRgb* pixel = line; pixel != line + image.width(); ++pixel) {
+            const int red = qRed(*pixel);
+            const int green = qGreen(*pixel);
+            const int blue = qBlue(*pixel);
+            const int alpha = qAlpha(*pixel);
+            const auto [low, high] = std::minmax({red, green, blue});
+            const int shift = alpha - low - high; // channels are multiplied by alpha: it is their white
+            *pixel = qRgba(red + shift, green + shift, blue + shift, alpha);
+        }
+    }
+}
+
+} // namespace
+
+Drawing::Drawing(std::string_view name)
+    : file_{name.empty() ? QString{} : QStringLiteral(":/dessins/%1.svg").arg(toQString(name))}
+{
+}
+
+void Drawing::paint(QWidget& widget, const QRect& into)
+{
+    if (file_.isEmpty() || into.isEmpty())
+        return;
+    const double ratio = widget.devicePixelRatioF();
+    const QSize pixels = into.size() * ratio;
+    const bool dark = isDark(widget.palette());
+    if (rendered_.size() != pixels || dark_ != dark) {
+        rendered_ = render(pixels, dark);
+        rendered_.setDevicePixelRatio(ratio);
+        dark_ = dark;
+    }
+    QPainter{&widget}.drawPixmap(into.topLeft(), rendered_);
+}
+
+QPixmap Drawing::render(const QSize& pixels, bool dark) const
+{
+    QSvgRenderer renderer{file_};
+    renderer.setAspectRatioMode(Qt::KeepAspectRatio);
+    QImage image{pixels, QImage::Format_ARGB32_Premultiplied};
+    image.fill(Qt::transparent);
+    QPainter painter{&image};
+    painter.setRenderHint(QPainter::Antialiasing);
+    renderer.render(&painter);
+    painter.end();
+    if (dark)
+        turnLightness(image);
+    return QPixmap::fromImage(std::move(image));
+}
+
+FrameWidget::FrameWidget(PanelWindow& window, Frame& frame, QWidget* parent)
+    : QGroupBox{withoutShortcut(frame.design().Caption), parent},
+      ControlWidget{window}, frame_{frame}, drawing_{frame.design().picture}
+{
+}
+
+void FrameWidget::follow()
+{
+    place(frame_);
+    setVisible(frame_.Visible);
+}
+
+void FrameWidget::paintEvent(QPaintEvent* event)
+{
+    QGroupBox::paintEvent(event);
+    QStyleOptionGroupBox option;
+    initStyleOption(&option);
+    drawing_.paint(*this, style()->subControlRect(QStyle::CC_GroupBox, &option, QStyle::SC_GroupBoxContents, this));
+}
+
+PictureWidget::PictureWidget(PanelWindow& window, Picture& picture, Border border, QWidget* parent)
+    : QFrame{parent}, ControlWidget{window}, picture_{picture}, drawing_{picture.design().picture}
+{
+    if (border == Border::Yes)
+        setFrameStyle(QFrame::StyledPanel | QFrame::Sunken);
+}
+
+void PictureWidget::follow()
+{
+    place(picture_);
+    setVisible(picture_.Visible);
+}
+
+void PictureWidget::paintEvent(QPaintEvent* event)
+{
+    QFrame::paintEvent(event);
+    drawing_.paint(*this, contentsRect());
+}
+
+} // namespace ondelis

@@ -1,0 +1,179 @@
+#include "view/FieldWidgets.h"
+
+#include <QInputMethodEvent>
+#include <QKeyEvent>
+#include <QSignalBlocker>
+#include <algorithm>
+
+#include "forms/Desk.h"
+#include "view/Fonts.h"
+
+namespace ondelis {
+namespace {
+
+constexpr char32_t backspaceKey = 8;
+constexpr int unlimited = 32767;
+
+std::string toText(const QString& text)
+{
+    return text.toStdString();
+}
+
+/// The character that a key enters, or 0. Backspace is one of them.
+char32_t enteredBy(const QKeyEvent& event)
+{
+    const Qt::KeyboardModifiers commands
+        = event.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier);
+    if (event.key() == Qt::Key_Backspace)
+        return commands == Qt::NoModifier ? backspaceKey : 0;
+    const auto characters = event.text().toUcs4();
+    if (characters.size() != 1 || !QChar::isPrint(characters.front()))
+        return 0;
+    // Ctrl and Alt together are the AltGr of some keyboards.
+    const bool command = commands != Qt::NoModifier && commands != (Qt::ControlModifier | Qt::AltModifier);
+    return command ? 0 : characters.front();
+}
+
+} // namespace
+
+TextBoxWidget::TextBoxWidget(PanelWindow& window, TextBox& box, QWidget* parent)
+    : QLineEdit{parent}, ControlWidget{window}, box_{box}
+{
+    setFont(fontOf(box.design().font, *parent));
+    setAlignment(horizontal(box.design().align));
+    connect(this, &QLineEdit::textChanged, this, [this] { tellText(); });
+}
+
+void TextBoxWidget::follow()
+{
+    place(box_, Double{box_.Top}.value());
+    followText();
+    setReadOnly(box_.Locked);
+    colors_.applyToField(*this, box_.BackColor, box_.ForeColor);
+    setVisible(box_.Visible);
+}
+
+void TextBoxWidget::followText()
+{
+    const QSignalBlocker quiet{this};
+    const QString stored = toQString(box_.Text.get());
+    if (stored != text()) {
+        setMaxLength(unlimited);
+        setText(stored);
+        // A text shows its start, but the caret of the field that is being typed in stays where typing goes on.
+        if (panelWindow().panel().desk().focused() != &box_)
+            setCursorPosition(0);
+    }
+    limitLength();
+}
+
+void TextBoxWidget::limitLength()
+{
+    const int limit = box_.design().MaxLength;
+    const int length = limit == 0 ? unlimited : std::max(limit, static_cast<int>(text().size()));
+    if (length == maxLength())
+        return;
+    const int caret = cursorPosition();
+    setMaxLength(length);
+    setCursorPosition(caret);
+}
+
+void TextBoxWidget::tellText()
+{
+    act(box_, [&](User& user) { user.replace(box_, toText(text())); });
+}
+
+bool TextBoxWidget::tellKey(char32_t character)
+{
+    if (isReadOnly())
+        return true;
+    bool rewritten = false;
+    act(box_, [&](User& user) { rewritten = user.key(box_, character); });
+    return !gone() && !(rewritten && character == backspaceKey);
+}
+
+void TextBoxWidget::keyPressEvent(QKeyEvent* event)
+{
+    const char32_t character = enteredBy(*event);
+    if (character == 0 || tellKey(character))
+        QLineEdit::keyPressEvent(event);
+}
+
+void TextBoxWidget::inputMethodEvent(QInputMethodEvent* event)
+{
+    for (const char32_t character : event->commitString().toUcs4())
+        tellKey(character);
+    if (!gone())
+        QLineEdit::inputMethodEvent(event);
+}
+
+void TextBoxWidget::focusInEvent(QFocusEvent* event)
+{
+    QLineEdit::focusInEvent(event);
+    act(box_, [&](User& user) { user.focus(box_); });
+}
+
+TextAreaWidget::TextAreaWidget(PanelWindow& window, TextBox& box, QWidget* parent)
+    : QPlainTextEdit{parent}, ControlWidget{window}, box_{box}
+{
+    setFont(fontOf(box.design().font, *parent));
+    setTabChangesFocus(true);
+    connect(this, &QPlainTextEdit::textChanged, this, [this] { tellText(); });
+}
+
+void TextAreaWidget::follow()
+{
+    place(box_, Double{box_.Top}.value());
+    const QSignalBlocker quiet{this};
+    const QString stored = toQString(box_.Text.get());
+    if (stored != toPlainText()) {
+        setPlainText(stored);
+        if (panelWindow().panel().desk().focused() == &box_)
+            moveCursor(QTextCursor::End);
+    }
+    setReadOnly(box_.Locked);
+    // Locked, it can still be walked through, selected and copied from by key.
+    setTextInteractionFlags(textInteractionFlags() | Qt::TextSelectableByKeyboard | Qt::TextSelectableByMouse);
+    colors_.applyToField(*this, box_.BackColor, box_.ForeColor);
+    setVisible(box_.Visible);
+}
+
+void TextAreaWidget::focusInEvent(QFocusEvent* event)
+{
+    QPlainTextEdit::focusInEvent(event);
+    act(box_, [&](User& user) { user.focus(box_); });
+}
+
+void TextAreaWidget::tellText()
+{
+    act(box_, [&](User& user) { user.replace(box_, toText(toPlainText())); });
+}
+
+MaskEdBoxWidget::MaskEdBoxWidget(PanelWindow& window, MaskEdBox& box, QWidget* parent)
+    : QLineEdit{parent}, ControlWidget{window}, box_{box}
+{
+    setReadOnly(true);
+}
+
+void MaskEdBoxWidget::follow()
+{
+    place(box_);
+    setText(toQString(hasFocus() ? box_.Text.get() : box_.display()));
+    setCursorPosition(0);
+    colors_.applyToField(*this, box_.design().BackColor, windowTextColor);
+}
+
+void MaskEdBoxWidget::focusInEvent(QFocusEvent* event)
+{
+    QLineEdit::focusInEvent(event);
+    act(box_, [&](User& user) { user.focus(box_); });
+}
+
+void MaskEdBoxWidget::focusOutEvent(QFocusEvent* event)
+{
+    QLineEdit::focusOutEvent(event);
+    if (!gone())
+        follow();
+}
+
+} // namespace ondelis

@@ -1,0 +1,39 @@
+#pragma once
+
+#include <QLineF>
+#include <vector>
+
+#include "forms/Controls.h"
+#include "view/ControlWidget.h"
+
+namespace ondelis {
+
+/// The lines and shapes of a panel or of a frame, painted over its drawings. The mouse goes through it.
+class LinesWidget final : public QWidget, public ControlWidget {
+public:
+    LinesWidget(PanelWindow& window, QWidget* parent);
+
+    void add(const Line& line) { lines_.push_back(&line); }
+    void add(const Shape& shape) { shapes_.push_back(&shape); }
+
+    QWidget& widget() override { return *this; }
+    void follow() override;
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    /// What is painted, in pixels.
+    struct Stroke {
+        QLineF line;
+        Color color;
+        double width;
+    };
+
+    std::vector<const Line*> lines_;
+    std::vector<const Shape*> shapes_;
+    std::vector<Stroke> strokes_;
+    std::vector<QRect> rectangles_;
+};
+
+} // namespace ondelis

@@ -1,0 +1,95 @@
+#include "view/ListBoxWidget.h"
+
+#include <QMouseEvent>
+#include <QScopedValueRollback>
+
+namespace ondelis {
+
+ListBoxWidget::ListBoxWidget(PanelWindow& window, ListBox& list, QWidget* parent)
+    : QListWidget{parent}, ControlWidget{window}, list_{list}
+{
+    setUniformItemSizes(true);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setEditTriggers(NoEditTriggers);
+}
+
+void ListBoxWidget::follow()
+{
+    const QScopedValueRollback following{following_, true};
+    place(list_);
+    followRows();
+    const int row = list_.ListIndex.get().value();
+    setCurrentRow(row, QItemSelectionModel::ClearAndSelect);
+    colors_.applyToField(*this, list_.BackColor, windowTextColor);
+    setVisible(list_.Visible);
+}
+
+void ListBoxWidget::followRows()
+{
+    QStringList rows;
+    for (const std::string& text : list_.items())
+        rows.append(toQString(text));
+    bool same = rows.size() == count();
+    for (int row = 0; same && row < count(); ++row)
+        same = item(row)->text() == rows[row];
+    if (same)
+        return;
+    clear();
+    addItems(rows);
+    const QSize size{0, Scale{*this}.pixels(rowHeight)};
+    for (int row = 0; row < count(); ++row)
+        item(row)->setSizeHint(size);
+}
+
+bool ListBoxWidget::event(QEvent* event)
+{
+    ++events_;
+    const bool done = QListWidget::event(event);
+    --events_;
+    tellChoice();
+    return done;
+}
+
+bool ListBoxWidget::viewportEvent(QEvent* event)
+{
+    ++events_;
+    const bool done = QListWidget::viewportEvent(event);
+    --events_;
+    tellChoice();
+    return done;
+}
+
+void ListBoxWidget::mousePressEvent(QMouseEvent* event)
+{
+    QListWidget::mousePressEvent(event);
+    // A click on the row that is chosen already is told too: some lists listen to it.
+    chosen_ = chosen_ || (event->button() == Qt::LeftButton && itemAt(event->pos()) != nullptr);
+}
+
+void ListBoxWidget::focusInEvent(QFocusEvent* event)
+{
+    // Not the base class's way, which would choose the first row.
+    QAbstractScrollArea::focusInEvent(event);
+    viewport()->update();
+    act(list_, [&](User& user) { user.focus(list_); });
+}
+
+void ListBoxWidget::selectionChanged(const QItemSelection& selected, const QItemSelection& deselected)
+{
+    QListWidget::selectionChanged(selected, deselected);
+    if (following_)
+        return;
+    chosen_ = true;
+    if (events_ == 0) // not by mouse or key: a screen reader did it
+        tellChoice();
+}
+
+void ListBoxWidget::tellChoice()
+{
+    if (events_ > 0 || !chosen_)
+        return;
+    chosen_ = false;
+    act(list_, [&](User& user) { user.choose(list_, currentRow()); });
+}
+
+} // namespace ondelis

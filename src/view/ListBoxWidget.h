@@ -1,0 +1,41 @@
+#pragma once
+
+#include <QListWidget>
+
+#include "forms/Controls.h"
+#include "view/Colors.h"
+#include "view/ControlWidget.h"
+
+namespace ondelis {
+
+/// A list of texts.
+class ListBoxWidget final : public QListWidget, public ControlWidget {
+public:
+    ListBoxWidget(PanelWindow& window, ListBox& list, QWidget* parent);
+
+    QWidget& widget() override { return *this; }
+    void follow() override;
+    void forgetColors() override { colors_.forget(); }
+
+protected:
+    bool event(QEvent* event) override;
+    bool viewportEvent(QEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
+    void selectionChanged(const QItemSelection& selected, const QItemSelection& deselected) override;
+
+private:
+    static constexpr double rowHeight = 240; ///< twips
+
+    void followRows();
+    /// Tells the desk which row the user has chosen, once the base class is done with the event.
+    void tellChoice();
+
+    ListBox& list_;
+    Colors colors_;
+    bool chosen_ = false; ///< by the event that the base class is working on
+    bool following_ = false;
+    unsigned events_ = 0; ///< that the base class is working on
+};
+
+} // namespace ondelis

@@ -1,0 +1,85 @@
+#include "view/MainWindow.h"
+
+#include <QCloseEvent>
+#include <QMenuBar>
+#include <QShortcut>
+
+#include "shell/MDIOndelis.h"
+#include "shell/Menu.h"
+#include "view/ClientArea.h"
+#include "view/ControlWidget.h"
+#include "view/Scale.h"
+#include "view/View.h"
+
+namespace ondelis {
+
+MainWindow::MainWindow(View& view, MDIOndelis& frame) : view_{view}, frame_{frame}, area_{new ClientArea{this}}
+{
+    setObjectName(QStringLiteral("MDIOndelis"));
+    setCentralWidget(area_);
+    makeMenu();
+    makeShortcuts();
+}
+
+void MainWindow::follow()
+{
+    setWindowTitle(toQString(frame_.Caption.get()));
+    takePlace();
+}
+
+void MainWindow::closeEvent(QCloseEvent* event)
+{
+    event->accept();
+    view_.close();
+}
+
+void MainWindow::moveEvent(QMoveEvent* event)
+{
+    QMainWindow::moveEvent(event);
+    tellPlace();
+}
+
+void MainWindow::resizeEvent(QResizeEvent* event)
+{
+    QMainWindow::resizeEvent(event);
+    tellPlace();
+}
+
+void MainWindow::makeMenu()
+{
+    for (const Menu& menu : menuTree()) {
+        QMenu* const dropDown = menuBar()->addMenu(withoutShortcut(menu.caption));
+        dropDown->setObjectName(toQString(menu.control));
+        for (const MenuEntry& entry : menu.entries) {
+            QAction* const action = dropDown->addAction(
+                withoutShortcut(entry.caption), [this, &entry] { view_.act([&](User&) { frame_.click(entry); }); });
+            action->setObjectName(toQString(entry.control));
+        }
+    }
+}
+
+void MainWindow::makeShortcuts()
+{
+    connect(new QShortcut{Qt::CTRL | Qt::Key_F4, this}, &QShortcut::activated, area_, &QMdiArea::closeActiveSubWindow);
+    connect(new QShortcut{Qt::Key_F10, this}, &QShortcut::activated, menuBar(),
+        [this] { menuBar()->setActiveAction(menuBar()->actions().front()); });
+}
+
+void MainWindow::takePlace()
+{
+    const Scale scale{*this};
+    const QSize border = frameGeometry().size() - geometry().size();
+    resize(QSize{scale.pixels(Double{frame_.Width}.value()), scale.pixels(Double{frame_.Height}.value())} - border);
+    move(scale.pixels(Double{frame_.Left}.value()), scale.pixels(Double{frame_.Top}.value()));
+}
+
+void MainWindow::tellPlace()
+{
+    if (!isVisible() || isMinimized())
+        return;
+    const Scale scale{*this};
+    frame_.placed({scale.twips(frameGeometry().x()), scale.twips(frameGeometry().y())},
+        {scale.twips(frameGeometry().width()), scale.twips(frameGeometry().height())});
+}
+
+} // namespace ondelis

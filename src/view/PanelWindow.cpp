@@ -1,0 +1,147 @@
+#include "view/PanelWindow.h"
+
+#include <QCloseEvent>
+#include <QMdiArea>
+#include <QMenu>
+#include <QScopedValueRollback>
+#include <QScrollBar>
+#include <ranges>
+
+#include "view/ControlWidget.h"
+#include "view/View.h"
+#include "view/WidgetMaker.h"
+
+namespace ondelis {
+
+PanelWindow::PanelWindow(View& view, FeuilleCalcul& panel)
+    : QMdiSubWindow{nullptr,
+        Qt::SubWindow | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint
+            | Qt::WindowCloseButtonHint},
+      view_{view}, panel_{panel}
+{
+    setObjectName(toQString(panel.design().name));
+    setAttribute(Qt::WA_DeleteOnClose, false);
+    makeMenu();
+    makeWidgets();
+}
+
+PanelWindow::~PanelWindow()
+{
+    leave(); // widgets that lose the keyboard while they go tell it to nobody
+}
+
+ControlWidget* PanelWindow::find(const Control& control) const
+{
+    const auto found = widgets_.find(&control);
+    return found == widgets_.end() ? nullptr : found->second;
+}
+
+void PanelWindow::follow()
+{
+    const QScopedValueRollback following{following_, true};
+    setWindowTitle(toQString(panel_.Caption.get()));
+    const Scale scale{*this};
+    setFixedSize(scale.pixels(Double{panel_.Width}.value()), scale.pixels(Double{panel_.Height}.value()));
+    const QPoint corner{scale.pixels(Double{panel_.Left}.value()), scale.pixels(Double{panel_.Top}.value())};
+    move(corner - scrolled());
+}
+
+void PanelWindow::follow(const Control& control)
+{
+    ControlWidget* const shown = find(control);
+    if (shown == nullptr)
+        return;
+    shown->follow();
+    if (const auto* const label = dynamic_cast<const Label*>(&control)) {
+        const auto [first, last] = named_.equal_range(label);
+        for (const auto& entry : std::ranges::subrange{first, last})
+            entry.second->setAccessibleName(toQString(label->Caption.get()));
+    }
+}
+
+void PanelWindow::act(const std::function<void(User&)>& action, Control* control)
+{
+    if (gone_)
+        return;
+    view_.act([&](User& user) {
+        action(user);
+        if (!gone_ && control != nullptr)
+            view_.controlChanged(*control);
+    });
+}
+
+unsigned PanelWindow::boxesShown() const
+{
+    return view_.boxesShown();
+}
+
+void PanelWindow::nameAfter(const Label& label, QWidget& widget)
+{
+    named_.emplace(&label, &widget);
+}
+
+void PanelWindow::closeEvent(QCloseEvent* event)
+{
+    event->ignore(); // the window goes once the panel is unloaded and no handler runs
+    act([this](User& user) { user.close(panel_); });
+}
+
+void PanelWindow::moveEvent(QMoveEvent* event)
+{
+    QMdiSubWindow::moveEvent(event);
+    if (gone_ || following_ || mdiArea() == nullptr)
+        return;
+    const Scale scale{*this};
+    const QPoint told{scale.pixels(Double{panel_.Left}.value()), scale.pixels(Double{panel_.Top}.value())};
+    if (corner() != told)
+        panel_.placed({scale.twips(corner().x()), scale.twips(corner().y())});
+}
+
+void PanelWindow::changeEvent(QEvent* event)
+{
+    QMdiSubWindow::changeEvent(event);
+    if (event->type() != QEvent::PaletteChange || gone_)
+        return;
+    for (const auto& [control, shown] : widgets_) {
+        shown->forgetColors();
+        shown->follow();
+    }
+}
+
+void PanelWindow::makeWidgets()
+{
+    auto* const form = new QWidget{this};
+    QFont font = form->font();
+    font.setPointSizeF(Font{}.size);
+    form->setFont(font);
+    setWidget(form);
+
+    WidgetMaker maker{*this};
+    for (Control* control : panel_.controls())
+        if (ControlWidget* const made = maker.make(*control))
+            widgets_.emplace(control, made);
+    maker.stack();
+    for (Control* control : panel_.controls())
+        follow(*control);
+}
+
+void PanelWindow::makeMenu()
+{
+    auto* const menu = new QMenu{this};
+    menu->addAction(QMdiSubWindow::tr("&Close") + QLatin1String{"\tCtrl+F4"}, this, &QWidget::close);
+    setSystemMenu(menu);
+}
+
+QPoint PanelWindow::corner() const
+{
+    return pos() + scrolled();
+}
+
+QPoint PanelWindow::scrolled() const
+{
+    const QMdiArea* const area = mdiArea();
+    return area == nullptr ? QPoint{}
+                           : QPoint{area->horizontalScrollBar()->value(), area->verticalScrollBar()->value()};
+}
+
+} // namespace ondelis

@@ -1,0 +1,66 @@
+#pragma once
+
+#include <QMdiSubWindow>
+#include <functional>
+#include <unordered_map>
+
+#include "forms/FeuilleCalcul.h"
+#include "forms/User.h"
+
+namespace ondelis {
+
+class ControlWidget;
+class View;
+
+/// The window of any panel: made when the panel comes on screen, gone when it is closed. A panel that is opened again
+/// gets another one.
+class PanelWindow final : public QMdiSubWindow {
+public:
+    PanelWindow(View& view, FeuilleCalcul& panel);
+    ~PanelWindow() override;
+
+    /// The panel is closed. From here on nothing of it is read.
+    void leave() { gone_ = true; }
+    [[nodiscard]] bool gone() const { return gone_; }
+
+    [[nodiscard]] FeuilleCalcul& panel() const { return panel_; }
+    /// The client area of the panel, in which its controls stand.
+    [[nodiscard]] QWidget& form() const { return *widget(); }
+    /// The widget of a control; null where it has none.
+    [[nodiscard]] ControlWidget* find(const Control& control) const;
+
+    /// Shows caption, place and size of the panel.
+    void follow();
+    /// Shows the properties of a control.
+    void follow(const Control& control);
+
+    /// Runs an action of the user, on a control or on the panel itself.
+    void act(const std::function<void(User&)>& action, Control* control = nullptr);
+
+    /// Counts the boxes that have been shown so far.
+    [[nodiscard]] unsigned boxesShown() const;
+
+    /// Makes a widget bear the caption of a label as its name, whatever the caption becomes.
+    void nameAfter(const Label& label, QWidget& widget);
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+    void moveEvent(QMoveEvent* event) override;
+    void changeEvent(QEvent* event) override;
+
+private:
+    void makeWidgets();
+    void makeMenu();
+    /// The upper left corner in the client area of the main window, which may be scrolled.
+    [[nodiscard]] QPoint corner() const;
+    [[nodiscard]] QPoint scrolled() const;
+
+    View& view_;
+    FeuilleCalcul& panel_;
+    std::unordered_map<const Control*, ControlWidget*> widgets_;
+    std::unordered_multimap<const Label*, QWidget*> named_;
+    bool gone_ = false;
+    bool following_ = false;
+};
+
+} // namespace ondelis

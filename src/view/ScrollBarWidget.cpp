@@ -1,0 +1,136 @@
+#include "view/ScrollBarWidget.h"
+
+#include <QAccessible>
+#include <QAccessibleWidget>
+#include <QKeyEvent>
+#include <QSignalBlocker>
+#include <QStyleOptionFocusRect>
+#include <QStylePainter>
+#include <algorithm>
+
+namespace ondelis {
+namespace {
+
+/// Tells screen readers the values of the control, not the positions of the widget.
+class ScrollBarAccessible final : public QAccessibleWidget, public QAccessibleValueInterface {
+public:
+    explicit ScrollBarAccessible(ScrollBarWidget& bar) : QAccessibleWidget{&bar, QAccessible::ScrollBar}, bar_{bar} { }
+
+    void* interface_cast(QAccessible::InterfaceType type) override
+    {
+        if (type == QAccessible::ValueInterface)
+            return static_cast<QAccessibleValueInterface*>(this);
+        return QAccessibleWidget::interface_cast(type);
+    }
+    [[nodiscard]] QString text(QAccessible::Text kind) const override
+    {
+        return kind == QAccessible::Value ? QString::number(bar_.shownValue()) : QAccessibleWidget::text(kind);
+    }
+
+    [[nodiscard]] QVariant currentValue() const override { return bar_.shownValue(); }
+    void setCurrentValue(const QVariant& value) override { bar_.setShownValue(value.toInt()); }
+    [[nodiscard]] QVariant minimumValue() const override { return std::min(bar_.limitAtStart(), bar_.limitAtEnd()); }
+    [[nodiscard]] QVariant maximumValue() const override { return std::max(bar_.limitAtStart(), bar_.limitAtEnd()); }
+    [[nodiscard]] QVariant minimumStepSize() const override { return bar_.singleStep(); }
+
+private:
+    ScrollBarWidget& bar_;
+};
+
+QAccessibleInterface* makeAccessible(const QString& /*className*/, QObject* object)
+{
+    auto* const bar = dynamic_cast<ScrollBarWidget*>(object);
+    return bar == nullptr ? nullptr : new ScrollBarAccessible{*bar};
+}
+
+} // namespace
+
+ScrollBarWidget::ScrollBarWidget(PanelWindow& window, ScrollBar& bar, Qt::Orientation orientation, QWidget* parent)
+    : QScrollBar{orientation, parent}, ControlWidget{window}, bar_{bar}
+{
+    QAccessible::installFactory(makeAccessible); // counts once however often it is called
+    setFocusPolicy(Qt::StrongFocus);
+    setContextMenuPolicy(Qt::NoContextMenu);
+    setSingleStep(bar.design().SmallChange.value());
+    setPageStep(bar.design().LargeChange.value());
+    connect(this, &QScrollBar::valueChanged, this, [this] { tellValue(); });
+}
+
+void ScrollBarWidget::follow()
+{
+    place(bar_);
+    const QSignalBlocker quiet{this};
+    min_ = bar_.Min.get().value();
+    max_ = bar_.Max.get().value();
+    setRange(0, positionOf(max_));
+    setValue(positionOf(bar_.Value.get().value()));
+    setVisible(bar_.Visible);
+}
+
+void ScrollBarWidget::keyPressEvent(QKeyEvent* event)
+{
+    // The base class turns some of the keys round.
+    switch (event->key()) {
+    case Qt::Key_Left:
+    case Qt::Key_Up:
+        triggerAction(SliderSingleStepSub);
+        break;
+    case Qt::Key_Right:
+    case Qt::Key_Down:
+        triggerAction(SliderSingleStepAdd);
+        break;
+    case Qt::Key_PageUp:
+        triggerAction(SliderPageStepSub);
+        break;
+    case Qt::Key_PageDown:
+        triggerAction(SliderPageStepAdd);
+        break;
+    case Qt::Key_Home:
+        triggerAction(SliderToMinimum);
+        break;
+    case Qt::Key_End:
+        triggerAction(SliderToMaximum);
+        break;
+    default:
+        event->ignore();
+    }
+}
+
+void ScrollBarWidget::focusInEvent(QFocusEvent* event)
+{
+    QScrollBar::focusInEvent(event);
+    update();
+    act(bar_, [&](User& user) { user.focus(bar_); });
+}
+
+void ScrollBarWidget::focusOutEvent(QFocusEvent* event)
+{
+    QScrollBar::focusOutEvent(event);
+    update();
+}
+
+void ScrollBarWidget::paintEvent(QPaintEvent* event)
+{
+    QScrollBar::paintEvent(event);
+    if (!hasFocus())
+        return;
+    QPainter painter{this}; // the style does not show which bar the keys move
+    painter.setPen(palette().color(QPalette::Highlight));
+    painter.drawRect(rect().adjusted(0, 0, -1, -1));
+}
+
+void ScrollBarWidget::tellValue()
+{
+    const unsigned boxes = panelWindow().boxesShown();
+    act(bar_, [&](User& user) { user.move(bar_, shownValue()); });
+    if (panelWindow().boxesShown() != boxes)
+        letGo();
+}
+
+void ScrollBarWidget::letGo()
+{
+    setRepeatAction(SliderNoAction);
+    setSliderDown(false);
+}
+
+} // namespace ondelis

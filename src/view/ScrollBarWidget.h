@@ -1,0 +1,43 @@
+#pragma once
+
+#include <QScrollBar>
+
+#include "forms/Controls.h"
+#include "view/ControlWidget.h"
+
+namespace ondelis {
+
+/// A bar. `Min` stands at its left or upper end, be it the smaller limit or the larger: the widget counts positions
+/// from that end.
+class ScrollBarWidget final : public QScrollBar, public ControlWidget {
+public:
+    ScrollBarWidget(PanelWindow& window, ScrollBar& bar, Qt::Orientation orientation, QWidget* parent);
+
+    QWidget& widget() override { return *this; }
+    void follow() override;
+
+    /// The limits and the value of the control, as a screen reader is told them.
+    [[nodiscard]] int limitAtStart() const { return min_; }
+    [[nodiscard]] int limitAtEnd() const { return max_; }
+    [[nodiscard]] int shownValue() const { return valueAt(value()); }
+    void setShownValue(int value) { setValue(positionOf(value)); }
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    [[nodiscard]] int positionOf(int value) const { return min_ <= max_ ? value - min_ : min_ - value; }
+    [[nodiscard]] int valueAt(int position) const { return min_ <= max_ ? min_ + position : min_ - position; }
+    void tellValue();
+    /// Lets the mouse button go: it was released over a box.
+    void letGo();
+
+    ScrollBar& bar_;
+    int min_ = 0;
+    int max_ = 0;
+};
+
+} // namespace ondelis

@@ -1,0 +1,220 @@
+#include "view/View.h"
+
+#include <QApplication>
+#include <QMdiArea>
+#include <QScopedValueRollback>
+#include <QScreen>
+#include <algorithm>
+#include <utility>
+
+#include "shell/MDIOndelis.h"
+#include "view/ClientArea.h"
+#include "view/ControlWidget.h"
+#include "view/Dialogs.h"
+#include "view/MainWindow.h"
+#include "view/PanelWindow.h"
+#include "view/Scale.h"
+
+namespace ondelis {
+namespace {
+
+/// Counts one up for the length of a scope.
+class Counted {
+public:
+    explicit Counted(unsigned& counter) : counter_{++counter} { }
+    ~Counted() { --counter_; }
+    Counted(const Counted&) = delete;
+    Counted& operator=(const Counted&) = delete;
+
+private:
+    unsigned& counter_;
+};
+
+template <class Noted>
+void note(std::vector<Noted*>& list, Noted& one)
+{
+    if (std::ranges::find(list, &one) == list.end())
+        list.push_back(&one);
+}
+
+} // namespace
+
+View::View() = default;
+
+View::~View() = default;
+
+void View::open(MDIOndelis& frame)
+{
+    frame_ = &frame;
+    mainWindow_ = std::make_unique<MainWindow>(*this, frame);
+    frame.start();
+    show();
+    mainWindow_->show();
+}
+
+int View::run()
+{
+    return status_ ? *status_ : QApplication::exec();
+}
+
+PanelWindow* View::find(const FeuilleCalcul& panel) const
+{
+    const auto found = windows_.find(&panel);
+    return found == windows_.end() ? nullptr : found->second;
+}
+
+void View::act(const std::function<void(User&)>& action)
+{
+    if (waitingBoxes_ > 0 || status_)
+        return;
+    {
+        const Counted running{actions_};
+        User user{frame_->desk()};
+        action(user);
+    }
+    show();
+    bury();
+}
+
+void View::close()
+{
+    frame_->close();
+}
+
+Answer View::showBox(const MessageBox& box)
+{
+    show();
+    const Counted waiting{waitingBoxes_};
+    ++boxesShown_;
+    return ask(*mainWindow_, box);
+}
+
+void View::showFault(const Fault& fault)
+{
+    show();
+    const Counted waiting{waitingBoxes_};
+    ++boxesShown_;
+    tell(*mainWindow_, fault);
+}
+
+void View::runPendingEvents()
+{
+    show();
+    QCoreApplication::processEvents();
+}
+
+Extent View::screen() const
+{
+    const QScreen& screen = *QGuiApplication::primaryScreen();
+    const Scale scale{qRound(screen.logicalDotsPerInchY())};
+    return {scale.twips(screen.size().width()), scale.twips(screen.size().height())};
+}
+
+void View::frameChanged()
+{
+    frameNoted_ = true;
+}
+
+void View::panelLoaded(FeuilleCalcul& panel)
+{
+    note(notedPanels_, panel);
+}
+
+void View::panelChanged(FeuilleCalcul& panel)
+{
+    note(notedPanels_, panel);
+}
+
+void View::panelRaised(FeuilleCalcul& panel)
+{
+    note(notedPanels_, panel);
+    raised_ = &panel;
+}
+
+void View::panelUnloaded(FeuilleCalcul& panel)
+{
+    std::erase(notedPanels_, &panel);
+    std::erase_if(notedControls_, [&](const Control* control) { return &control->panel() == &panel; });
+    if (raised_ == &panel)
+        raised_ = nullptr;
+    if (focused_ != nullptr && &focused_->panel() == &panel)
+        focused_ = nullptr;
+    if (const auto found = windows_.find(&panel); found != windows_.end()) {
+        found->second->leave();
+        closedWindows_.push_back(found->second);
+        windows_.erase(found);
+    }
+}
+
+void View::controlChanged(Control& control)
+{
+    note(notedControls_, control);
+}
+
+void View::focusMoved(Control& control)
+{
+    focused_ = &control;
+}
+
+void View::programEnded(int status)
+{
+    status_ = status;
+    for (const auto& [panel, window] : windows_)
+        window->leave();
+    QCoreApplication::exit(status);
+}
+
+void View::show()
+{
+    if (status_)
+        return;
+    if (std::exchange(frameNoted_, false))
+        mainWindow_->follow();
+    for (PanelWindow* window : closedWindows_)
+        if (window->mdiArea() != nullptr)
+            mainWindow_->area().removeSubWindow(window);
+    showPanels();
+    showControls();
+}
+
+void View::showPanels()
+{
+    for (FeuilleCalcul* panel : std::exchange(notedPanels_, {})) {
+        if (!panel->loaded())
+            continue;
+        PanelWindow* window = find(*panel);
+        if (window == nullptr && panel->visible()) {
+            window = new PanelWindow{*this, *panel};
+            windows_.emplace(panel, window);
+            mainWindow_->area().addSubWindow(window);
+        }
+        if (window == nullptr)
+            continue;
+        window->follow();
+        window->setVisible(panel->visible());
+    }
+}
+
+void View::showControls()
+{
+    for (Control* control : std::exchange(notedControls_, {}))
+        if (PanelWindow* const window = find(control->panel()))
+            window->follow(*control);
+    if (const Control* const control = std::exchange(focused_, nullptr))
+        if (const PanelWindow* const window = find(control->panel()))
+            if (ControlWidget* const shown = window->find(*control))
+                shown->widget().setFocus(Qt::OtherFocusReason);
+    if (const FeuilleCalcul* const panel = std::exchange(raised_, nullptr))
+        if (PanelWindow* const window = find(*panel))
+            mainWindow_->area().setActiveSubWindow(window);
+}
+
+void View::bury()
+{
+    if (actions_ > 0)
+        return;
+    for (PanelWindow* window : std::exchange(closedWindows_, {}))
+        window->deleteLater();
+}
+
+} // namespace ondelis

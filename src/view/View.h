@@ -1,0 +1,82 @@
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <optional>
+#include <unordered_map>
+#include <vector>
+
+#include "forms/Desk.h"
+#include "forms/Surroundings.h"
+#include "forms/User.h"
+
+namespace ondelis {
+
+class MainWindow;
+class MDIOndelis;
+class PanelWindow;
+
+/// The world around the desk, by Qt. While handlers run nothing of Qt is touched: what they change is noted, and shown
+/// once the action of the user is over, or before a handler waits.
+class View final : public Surroundings {
+public:
+    View();
+    ~View() override;
+
+    /// Opens the main window and starts the program. The frame and its desk live until the view is told the end.
+    void open(MDIOndelis& frame);
+    /// Runs the program to its end; gives its exit status.
+    int run();
+
+    [[nodiscard]] MainWindow& mainWindow() const { return *mainWindow_; }
+    /// The window of a panel; null where the panel is not on screen.
+    [[nodiscard]] PanelWindow* find(const FeuilleCalcul& panel) const;
+
+    /// Runs one action of the user and shows what it changed. While a box waits for its answer only `close` gets
+    /// through.
+    void act(const std::function<void(User&)>& action);
+    /// The user closes the main window.
+    void close();
+    /// Counts the boxes that were shown: a widget that is held down is let go by them.
+    [[nodiscard]] unsigned boxesShown() const { return boxesShown_; }
+
+    Answer showBox(const MessageBox& box) override;
+    void showFault(const Fault& fault) override;
+    void runPendingEvents() override;
+    [[nodiscard]] Extent screen() const override;
+
+    void frameChanged() override;
+    void panelLoaded(FeuilleCalcul& panel) override;
+    void panelChanged(FeuilleCalcul& panel) override;
+    void panelRaised(FeuilleCalcul& panel) override;
+    void panelUnloaded(FeuilleCalcul& panel) override;
+    void controlChanged(Control& control) override;
+    void focusMoved(Control& control) override;
+    void programEnded(int status) override;
+
+private:
+    /// Shows all that was noted.
+    void show();
+    void showPanels();
+    void showControls();
+    void bury();
+
+    std::unique_ptr<MainWindow> mainWindow_;
+    MDIOndelis* frame_ = nullptr;
+    std::unordered_map<const FeuilleCalcul*, PanelWindow*> windows_;
+
+    // What handlers have changed and is not shown yet.
+    bool frameNoted_ = false;
+    std::vector<FeuilleCalcul*> notedPanels_;
+    std::vector<Control*> notedControls_;
+    FeuilleCalcul* raised_ = nullptr;
+    Control* focused_ = nullptr;
+
+    std::vector<PanelWindow*> closedWindows_; ///< kept until no handler runs that one of their widgets has started
+    unsigned actions_ = 0; ///< that run now, one inside the other
+    unsigned waitingBoxes_ = 0;
+    unsigned boxesShown_ = 0;
+    std::optional<int> status_; ///< of the ended program
+};
+
+} // namespace ondelis

@@ -1,0 +1,130 @@
+#include "view/WidgetMaker.h"
+
+#include <ranges>
+
+#include "view/ButtonWidgets.h"
+#include "view/DrawingWidgets.h"
+#include "view/FieldWidgets.h"
+#include "view/LabelWidget.h"
+#include "view/LinesWidget.h"
+#include "view/ListBoxWidget.h"
+#include "view/ScrollBarWidget.h"
+
+namespace ondelis {
+
+ControlWidget* WidgetMaker::make(Control& control)
+{
+    made_ = nullptr;
+    control.accept(*this);
+    return made_;
+}
+
+void WidgetMaker::stack()
+{
+    for (const auto& [parent, lines] : lines_)
+        lines->lower();
+    for (QWidget* drawing : drawings_ | std::views::reverse)
+        drawing->lower();
+}
+
+void WidgetMaker::visit(Label& label)
+{
+    take(*new LabelWidget{window_, label, parentOf(label)}, label);
+}
+
+void WidgetMaker::visit(TextBox& box)
+{
+    ControlWidget* made = nullptr;
+    if (box.design().multiLine)
+        made = new TextAreaWidget{window_, box, parentOf(box)};
+    else
+        made = new TextBoxWidget{window_, box, parentOf(box)};
+    take(*made, box, box.design().label);
+}
+
+void WidgetMaker::visit(ListBox& list)
+{
+    take(*new ListBoxWidget{window_, list, parentOf(list)}, list, list.design().label);
+}
+
+void WidgetMaker::visit(OptionButton& option)
+{
+    take(*new OptionButtonWidget{window_, option, parentOf(option)}, option);
+}
+
+void WidgetMaker::visit(CommandButton& button)
+{
+    take(*new CommandButtonWidget{window_, button, parentOf(button)}, button);
+}
+
+void WidgetMaker::visit(HScrollBar& bar)
+{
+    take(*new ScrollBarWidget{window_, bar, Qt::Horizontal, parentOf(bar)}, bar, bar.design().label);
+}
+
+void WidgetMaker::visit(VScrollBar& bar)
+{
+    take(*new ScrollBarWidget{window_, bar, Qt::Vertical, parentOf(bar)}, bar, bar.design().label);
+}
+
+void WidgetMaker::visit(Frame& frame)
+{
+    auto* const made = new FrameWidget{window_, frame, parentOf(frame)};
+    frames_.emplace(&frame, made);
+    drawings_.push_back(made);
+    take(*made, frame);
+}
+
+void WidgetMaker::visit(PictureBox& picture)
+{
+    auto* const made = new PictureWidget{window_, picture, PictureWidget::Border::Yes, parentOf(picture)};
+    drawings_.push_back(made);
+    take(*made, picture);
+}
+
+void WidgetMaker::visit(Image& image)
+{
+    auto* const made = new PictureWidget{window_, image, PictureWidget::Border::No, parentOf(image)};
+    drawings_.push_back(made);
+    take(*made, image);
+}
+
+void WidgetMaker::visit(Line& line)
+{
+    linesOn(line).add(line);
+}
+
+void WidgetMaker::visit(Shape& shape)
+{
+    linesOn(shape).add(shape);
+}
+
+void WidgetMaker::visit(MaskEdBox& box)
+{
+    take(*new MaskEdBoxWidget{window_, box, parentOf(box)}, box, box.design().label);
+}
+
+QWidget* WidgetMaker::parentOf(const Control& control) const
+{
+    return control.container() == nullptr ? &window_.form() : frames_.at(control.container());
+}
+
+void WidgetMaker::take(ControlWidget& made, const Control& control, const Label* label)
+{
+    made_ = &made;
+    made.widget().setObjectName(toQString(control.name()));
+    if (label != nullptr)
+        window_.nameAfter(*label, made.widget());
+}
+
+LinesWidget& WidgetMaker::linesOn(const Control& control)
+{
+    QWidget* const parent = parentOf(control);
+    LinesWidget*& lines = lines_[parent];
+    if (lines == nullptr)
+        lines = new LinesWidget{window_, parent};
+    made_ = lines;
+    return *lines;
+}
+
+} // namespace ondelis

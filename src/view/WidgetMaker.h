@@ -1,0 +1,53 @@
+#pragma once
+
+#include <QWidget>
+#include <unordered_map>
+#include <vector>
+
+#include "forms/Controls.h"
+
+namespace ondelis {
+
+class ControlWidget;
+class LinesWidget;
+class PanelWindow;
+
+/// Makes the widget of each control of a panel. Made in the order of the form, they have its tab order.
+class WidgetMaker final : private ControlVisitor {
+public:
+    explicit WidgetMaker(PanelWindow& window) : window_{window} { }
+
+    ControlWidget* make(Control& control);
+    /// Puts the drawings under the lines, and the lines under all other controls.
+    void stack();
+
+private:
+    void visit(Label& label) override;
+    void visit(TextBox& box) override;
+    void visit(ListBox& list) override;
+    void visit(OptionButton& option) override;
+    void visit(CommandButton& button) override;
+    void visit(HScrollBar& bar) override;
+    void visit(VScrollBar& bar) override;
+    void visit(Frame& frame) override;
+    void visit(PictureBox& picture) override;
+    void visit(Image& image) override;
+    void visit(Line& line) override;
+    void visit(Shape& shape) override;
+    void visit(MaskEdBox& box) override;
+
+    /// The frame around the control, or the panel.
+    [[nodiscard]] QWidget* parentOf(const Control& control) const;
+    /// Takes a new widget, and has it named after the label of its control, if there is one.
+    void take(ControlWidget& made, const Control& control, const Label* label = nullptr);
+    /// What paints the lines and shapes on the panel, or in the frame.
+    LinesWidget& linesOn(const Control& control);
+
+    PanelWindow& window_;
+    std::unordered_map<const Control*, QWidget*> frames_;
+    std::vector<QWidget*> drawings_;
+    std::unordered_map<QWidget*, LinesWidget*> lines_; ///< by what they are on
+    ControlWidget* made_ = nullptr;
+};
+
+} // namespace ondelis
