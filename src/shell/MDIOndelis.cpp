@@ -1,6 +1,7 @@
 #include "shell/MDIOndelis.h"
 
 #include "forms/ResumeNext.h"
+#include "panels/antennes/AntennesLPDA1.h"
 #include "panels/resonance/CalculNombreSpires.h"
 #include "panels/resonance/CircuitsOscillants.h"
 #include "shell/Centrages.h"
@@ -52,6 +53,7 @@ void MDIOndelis::MDIForm_Load()
 
 void MDIOndelis::CacherFeuilles()
 {
+    desk_.Unload<AntennesLPDA1>();
     desk_.Unload<CalculNombreSpires>();
     desk_.Unload<CircuitsOscillants>();
 }

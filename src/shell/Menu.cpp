@@ -1,5 +1,6 @@
 #include "shell/Menu.h"
 
+#include "panels/antennes/AntennesLPDA1.h"
 #include "panels/resonance/CalculNombreSpires.h"
 #include "panels/resonance/CircuitsOscillants.h"
 #include "shell/Centrages.h"
@@ -66,7 +67,7 @@ std::vector<Menu> makeTree()
             {"MenuQuitter", "Quitter", {quit()}},
         }},
         {"mnuCalculAntennes", "Antennes", {
-            {"mnuLPDA", "Antenne Log Périodique (LPDA)", {}},
+            {"mnuLPDA", "Antenne Log Périodique (LPDA)", centred<AntennesLPDA1>()},
             {"mnuDipoleRaccourci", "Dipôle raccourci", {}},
             {"mnuDoubleQuad", "Double Quad", {}},
             {"mnuGammaMatch", "Gamma match", {}},
