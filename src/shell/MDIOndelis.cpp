@@ -2,6 +2,7 @@
 
 #include "forms/ResumeNext.h"
 #include "panels/antennes/AntennesLPDA1.h"
+#include "panels/lignes/RVListeCoaxiaux.h"
 #include "panels/resonance/CalculNombreSpires.h"
 #include "panels/resonance/CircuitsOscillants.h"
 #include "shell/Centrages.h"
@@ -56,6 +57,7 @@ void MDIOndelis::CacherFeuilles()
     desk_.Unload<AntennesLPDA1>();
     desk_.Unload<CalculNombreSpires>();
     desk_.Unload<CircuitsOscillants>();
+    desk_.Unload<RVListeCoaxiaux>();
 }
 
 } // namespace ondelis

@@ -1,6 +1,7 @@
 #include "shell/Menu.h"
 
 #include "panels/antennes/AntennesLPDA1.h"
+#include "panels/lignes/RVListeCoaxiaux.h"
 #include "panels/resonance/CalculNombreSpires.h"
 #include "panels/resonance/CircuitsOscillants.h"
 #include "shell/Centrages.h"
@@ -123,7 +124,7 @@ std::vector<Menu> makeTree()
             {"MenuPontDeRésitances", "Pont de résistances avec charge", {}},
         }},
         {"MenuRubiquesEnVrac", "Rubiques en vrac", {
-            {"MenuCoaxiauxCourants", "Coaxiaux Courants", {}},
+            {"MenuCoaxiauxCourants", "Coaxiaux Courants", centred<RVListeCoaxiaux>()},
             {"MenuSectionDiametre", "Section vers diamètre", {}},
             {"MenuUnitésDePression", "Unités de Pression", {}},
         }},
