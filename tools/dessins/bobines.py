@@ -2,7 +2,10 @@
 
 from __future__ import annotations
 
-from sheet import COPPER, COPPER_PALE, DIM, THIN, Point, Sheet, number, picture
+from sheet import COPPER, COPPER_PALE, DIELECTRIC, DIM, INK, THIN, Point, Sheet, number, picture, polar
+from symbols import inductor, junction, terminal
+
+CORE = "#8a98a6"  # iron powder and ferrite
 
 
 def helix(s: Sheet, x: float, axis: float, radius: float, pitch: float, turns: int, wire: float = 4.2) -> float:
@@ -75,3 +78,92 @@ def bobine_bout(s: Sheet) -> None:
     s.circle(centre, radius, stroke=DIM, width=THIN, dash="9 3 2 3")
     s.dimension((centre[0] - radius + 5.5, centre[1]), (centre[0] + radius - 5.5, centre[1]), "D")
     s.dimension((centre[0], centre[1] + radius), (centre[0], centre[1] - radius), "D + e", -84, extend=True)
+
+
+@picture("self-vue", 240, 120, "Bobine sur son mandrin")
+def self_vue(s: Sheet) -> None:
+    """The coil on its former."""
+    top, bottom = 24.0, 92.0
+    s.path(f"M18 {top} H214 A12 34 0 0 1 214 {bottom} H18 Z", stroke=None, fill=DIELECTRIC)
+    s.path(f"M18 {top} H214 M18 {bottom} H214", width=1.3)
+    s.ellipse((18, 58), 10, 34, width=1.3, fill=DIELECTRIC)
+    s.path(f"M214 {top} A10 34 0 0 1 214 {bottom}", width=1.3)
+    for i in range(10):
+        x = 44 + 14 * i
+        s.path(f"M{x} {top - 2} C{x + 12} {top - 2} {x + 16} {bottom + 2} {x + 7} {bottom + 2}", stroke=COPPER,
+               width=4.2)
+    s.wire((44, top - 2), (44, 8), stroke=COPPER, width=4.2)
+    s.wire((177, bottom + 2), (177, 114), stroke=COPPER, width=4.2)
+
+
+@picture("self-cotes", 250, 180, "Cotes de la bobine : 1, 2 et 3")
+def self_cotes(s: Sheet) -> None:
+    """The numbers are those of the fields: inner diameter, length, turns."""
+    pitch, wire, turns, x, top, bottom = 17.0, 12.0, 9, 66.0, 60.0, 130.0
+    section(s, x, top, bottom, wire, pitch, turns)
+    axis_line(s, (52, 95), (230, 95))
+    right = x + (turns - 0.5) * pitch + wire / 2
+    s.dimension((x - wire / 2, bottom + wire / 2), (right, bottom + wire / 2), "2", -22)
+    s.dimension((x - wire / 2 - 2, bottom - wire / 2), (x - wire / 2 - 2, top + wire / 2), "1", 26)
+    for i in range(turns):
+        s.wire((x + i * pitch, top - 9), (x + i * pitch, top - 17), stroke=DIM, width=THIN)
+    s.wire((x, top - 17), (x + (turns - 1) * pitch, top - 17), stroke=DIM, width=THIN)
+    s.wire((x + 4 * pitch, top - 17), (x + 4 * pitch, top - 25), stroke=DIM, width=THIN)
+    s.text(x + 4 * pitch, top - 34, "3", 11, colour=DIM)
+
+
+@picture("tore", 270, 190, "Bobine sur un tore")
+def tore(s: Sheet) -> None:
+    """The wound core seen from above, and its thickness seen from the side."""
+    centre, outer, inside = (92.0, 82.0), 64.0, 34.0
+    s.path("M28 82 a64 64 0 1 1 128 0 a64 64 0 1 1 -128 0 Z M58 82 a34 34 0 1 0 68 0 a34 34 0 1 0 -68 0 Z", fill=CORE)
+    for i in range(19):
+        angle = -60 + 16.7 * i
+        a, b = polar(centre, inside + 1, angle + 3), polar(centre, outer + 3, angle - 3)
+        s.wire(a, b, stroke=COPPER, width=3.6)
+    left, width = 196.0, 30.0
+    s.rect(left, centre[1] - outer, width, 2 * outer, fill=CORE)
+    for i in range(9):
+        y = centre[1] - outer + 8 + 14 * i
+        s.wire((left - 3, y), (left + width + 3, y + 3), stroke=COPPER, width=3.6)
+    s.dimension((centre[0] - inside, centre[1]), (centre[0] + inside, centre[1]), "Ø int")
+    s.dimension((centre[0] - outer, centre[1]), (centre[0] + outer, centre[1]), "Ø ext", -90)
+    s.dimension((left, centre[1] + outer), (left + width, centre[1] + outer), "Ep", -26)
+
+
+@picture("epingle", 300, 150, "Épingle")
+def epingle(s: Sheet) -> None:
+    """A wire bent into a long U."""
+    left, right, top, bottom = 86.0, 258.0, 32.0, 88.0
+    for width, colour in ((9, COPPER), (6.4, COPPER_PALE)):
+        s.wire((left, top), (right, top), (right, bottom), (left, bottom), stroke=colour, width=width, cap="butt")
+    for y in (top, bottom):
+        s.wire((left, y - 4.5), (left, y + 4.5), stroke=COPPER, width=1.3)
+    s.dimension((left, bottom), (left, top), "Hauteur", 40)
+    s.dimension((left, bottom + 4), (right, bottom + 4), "Longueur", -32)
+    s.dimension((right - 40, top - 4.5), (right - 40, top + 4.5), "Ø", extend=False)
+
+
+@picture("autotransformateur", 240, 190, "Autotransformateur")
+def autotransformateur(s: Sheet) -> None:
+    """One winding; Z1 sees a part of it, Z2 the whole."""
+    coil, top, tap, bottom, left, right = 120.0, 24.0, 59.0, 164.0, 34.0, 206.0
+    inductor(s, (coil, top), (coil, bottom), turns=13)
+    s.wire((left, tap), (coil, tap))
+    s.wire((coil, top), (right, top))
+    s.wire((left, bottom), (right, bottom))
+    junction(s, (coil, tap), (coil, bottom))
+    terminal(s, (left, tap), (left, bottom), (right, top), (right, bottom))
+    for x, upper, text in ((left, tap, "Z1"), (right, top, "Z2")):
+        middle = (upper + bottom) / 2
+        s.text(x, middle, text)
+        s.arrow((x, middle - 11), (x, upper + 7), DIM, THIN)
+        s.arrow((x, middle + 11), (x, bottom - 7), DIM, THIN)
+
+
+@picture("section-diametre", 64, 64, "Section d'un fil et son diamètre")
+def section_diametre(s: Sheet) -> None:
+    """A round wire in section, crossed by its diameter."""
+    s.circle((32, 32), 24, stroke=COPPER, fill=COPPER_PALE)
+    s.arrow((32, 32), (49, 15), INK, 1.3)
+    s.arrow((32, 32), (15, 49), INK, 1.3)

@@ -2,8 +2,9 @@
 
 from __future__ import annotations
 
-from sheet import COPPER, COPPER_PALE, DIELECTRIC, METAL, Sheet, picture
-from symbols import block
+from sheet import (COPPER, COPPER_PALE, DIELECTRIC, DIM, METAL, PAPER, THIN, WORD, Point, Sheet, number, picture,
+                   polar)
+from symbols import block, capacitor, current_source, junction, lamp, switch
 
 
 @picture("condensateur-plan", 230, 140, "Condensateur plan")
@@ -28,3 +29,43 @@ def cms(s: Sheet) -> None:
     s.text(x + length / 2, y + width / 2, "103", 22, colour="#ffffff")
     s.dimension((x, y + width), (x + length, y + width), "Longueur", -24)
     s.dimension((x + length, y + width), (x + length, y), "Largeur", -40)
+
+
+def blade(s: Sheet, centre: Point, outer: float, inner: float, start: float, end: float, fill: str) -> None:
+    """A blade: the sector of a ring between two angles."""
+    (x1, y1), (x2, y2) = polar(centre, outer, start), polar(centre, outer, end)
+    (x3, y3), (x4, y4) = polar(centre, inner, end), polar(centre, inner, start)
+    s.path(f"M{number(x1)} {number(y1)} A{outer} {outer} 0 0 0 {number(x2)} {number(y2)} L{number(x3)} {number(y3)}"
+           f" A{inner} {inner} 0 0 1 {number(x4)} {number(y4)} Z", fill=fill)
+
+
+@picture("condensateur-variable", 240, 220, "Lames d'un condensateur variable")
+def condensateur_variable(s: Sheet) -> None:
+    """A moving blade turned halfway out of a fixed one, with its two diameters and its angle."""
+    centre, outer, inner = (108.0, 106.0), 76.0, 20.0
+    blade(s, centre, outer, inner, 180.5, 359.5, METAL)
+    blade(s, centre, outer, inner, 40.5, 219.5, COPPER_PALE)
+    s.circle(centre, 7, fill=PAPER)
+    reach = 48.0
+    tip, tail = polar(centre, reach, 219), polar(centre, reach, 41)
+    s.arc(centre, reach, 46, 105, stroke=DIM, width=THIN)
+    s.arc(centre, reach, 158, 214, stroke=DIM, width=THIN)
+    s.head(tip, (0.69, 0.72), DIM)
+    s.head(tail, (0.72, 0.69), DIM)
+    s.text(*polar(centre, reach, 131), "Angle", WORD, colour=DIM)
+    s.dimension((centre[0] - outer, centre[1]), (centre[0] + outer, centre[1]), "Ø ext", -100)
+    s.dimension((centre[0], centre[1] + inner), (centre[0], centre[1] - inner), "Ø int", -98)
+
+
+@picture("energie-condensateur", 280, 150, "Charge et décharge d'un condensateur")
+def energie_condensateur(s: Sheet) -> None:
+    """A constant current charges C to U; the contact discharges it into the flash lamp."""
+    left, middle, right, top, bottom = 48.0, 134.0, 236.0, 30.0, 122.0
+    current_source(s, (left, top), (left, bottom), "I", side=-1)
+    s.wire((left, top), (middle, top))
+    s.wire((left, bottom), (right, bottom))
+    capacitor(s, (middle, top), (middle, bottom), "C", side=-1)
+    switch(s, (middle, top), (right, top))
+    lamp(s, (right, top), (right, bottom))
+    junction(s, (middle, top), (middle, bottom))
+    s.dimension((middle, bottom), (middle, top), "U", -34, extend=False)

@@ -19,6 +19,7 @@ INK = "#1f2d3d"  # circuits and outlines
 COPPER = "#a8561f"  # metal that radiates or is wound: elements, wire, braid
 DIM = "#3d6499"  # dimension lines and what they say
 METAL = "#d3dae2"  # fill: sheet metal, blocks
+PAPER = "#ffffff"  # fill: what must hide the lines under it
 PALE = "#edf2f7"  # fill: the inside of a symbol
 DIELECTRIC = "#f6ecd0"  # fill: insulators
 COPPER_PALE = "#e9c9ad"  # fill: copper seen in section
@@ -194,12 +195,12 @@ class Sheet:
 
     # Dimensions.
 
-    def dimension(self, a: Point, b: Point, text: str = "", offset: float = 0.0, label: str = "",
-                  extend: bool = True) -> None:
+    def dimension(self, a: Point, b: Point, text: str = "", offset: float = 0.0,
+                  label: str | None = None, extend: bool = True) -> None:
         """A dimension between a and b, drawn `offset` to the left of the way from a to b.
 
         The text stands in a gap of the line; with `label` the gap is left to that label of the
-        panel. A span too short for its heads takes them from outside, and the text then stands
+        panel ("" for one of any name). A span too short for its heads takes them from outside, and the text then stands
         beyond b.
         """
         u = towards(a, b)
@@ -222,17 +223,10 @@ class Sheet:
             self.arrow(along(q, u, 16), q, DIM, THIN)
             reach = 19 + (WORD / 2 + 2 if upright else text_width(text, WORD) / 2)
             middle = along(q, u, reach)
-        if label:
+        if label is not None:
             self.room(label, text, *middle)
         elif text:
             self.text(*middle, text, WORD, colour=DIM)
-
-    def leader(self, tip: Point, knee: Point, text: str, right: bool = True) -> None:
-        """A thin line from a part to the words that name it."""
-        end = (knee[0] + (10 if right else -10), knee[1])
-        self.wire(tip, knee, end, stroke=DIM, width=THIN)
-        self.circle(tip, 1.6, stroke=None, fill=DIM)
-        self.text(end[0] + (4 if right else -4), end[1], text, WORD, "start" if right else "end", DIM)
 
     def svg(self) -> str:
         """The picture as an SVG document."""

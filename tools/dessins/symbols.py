@@ -9,7 +9,7 @@ from __future__ import annotations
 
 import math
 
-from sheet import COPPER, COPPER_PALE, INK, LETTER, PALE, WORD, Point, Sheet, along, number, text_width, towards
+from sheet import COPPER, COPPER_PALE, INK, LETTER, PALE, PAPER, WORD, Point, Sheet, along, number, text_width, towards
 
 RESISTOR = (34.0, 12.0)
 PLATES = (20.0, 6.0)  # length of the plates, distance between them
@@ -21,7 +21,7 @@ def middle(a: Point, b: Point) -> Point:
     return ((a[0] + b[0]) / 2, (a[1] + b[1]) / 2)
 
 
-def letter(s: Sheet, a: Point, b: Point, text: str, clear: float, side: int = 1, label: str = "") -> None:
+def letter(s: Sheet, a: Point, b: Point, text: str, clear: float, side: int = 1, label: str | None = None) -> None:
     """The letter of a part that reaches `clear` from its axis; left to the panel when `label` is given."""
     if not text:
         return
@@ -33,7 +33,7 @@ def letter(s: Sheet, a: Point, b: Point, text: str, clear: float, side: int = 1,
     else:
         x, y = along(m, u, 0, side * (clear + 4 + LETTER / 2))
         anchor = "middle"
-    if label:
+    if label is not None:
         half = text_width(text, LETTER) / 2
         s.room(label, text, x + {"start": half, "middle": 0, "end": -half}[anchor], y)
     else:
@@ -48,7 +48,7 @@ def leads(s: Sheet, a: Point, b: Point, body: float) -> None:
         s.wire(along(b, u, body / 2 - half), b)
 
 
-def resistor(s: Sheet, a: Point, b: Point, text: str = "", side: int = 1, label: str = "") -> None:
+def resistor(s: Sheet, a: Point, b: Point, text: str = "", side: int = 1, label: str | None = None) -> None:
     """A resistor."""
     length, width = RESISTOR
     u, m = towards(a, b), middle(a, b)
@@ -58,7 +58,7 @@ def resistor(s: Sheet, a: Point, b: Point, text: str = "", side: int = 1, label:
     letter(s, a, b, text, width / 2, side, label)
 
 
-def impedance(s: Sheet, a: Point, b: Point, text: str = "Z", side: int = 1, label: str = "") -> None:
+def impedance(s: Sheet, a: Point, b: Point, text: str = "Z", side: int = 1, label: str | None = None) -> None:
     """A load: the resistor's body, wider."""
     length, width = 36.0, 16.0
     u, m = towards(a, b), middle(a, b)
@@ -68,7 +68,7 @@ def impedance(s: Sheet, a: Point, b: Point, text: str = "Z", side: int = 1, labe
     letter(s, a, b, text, width / 2, side, label)
 
 
-def capacitor(s: Sheet, a: Point, b: Point, text: str = "", side: int = 1, label: str = "",
+def capacitor(s: Sheet, a: Point, b: Point, text: str = "", side: int = 1, label: str | None = None,
               variable: bool = False) -> None:
     """A capacitor; a variable one is crossed by an arrow."""
     plate, gap = PLATES
@@ -81,7 +81,7 @@ def capacitor(s: Sheet, a: Point, b: Point, text: str = "", side: int = 1, label
     letter(s, a, b, text, plate / 2, side, label)
 
 
-def inductor(s: Sheet, a: Point, b: Point, text: str = "", side: int = 1, label: str = "", turns: int = 4,
+def inductor(s: Sheet, a: Point, b: Point, text: str = "", side: int = 1, label: str | None = None, turns: int = 4,
              core: bool = False) -> None:
     """A winding of half circles that bulge towards its letter; `core` adds the iron."""
     length = 2 * TURN * turns
@@ -148,6 +148,37 @@ def potentiometer(s: Sheet, a: Point, b: Point, wiper: Point, text: str = "", si
     s.arrow(wiper, foot)
 
 
+def lamp(s: Sheet, a: Point, b: Point, text: str = "", side: int = 1) -> None:
+    """A lamp."""
+    radius = 13.0
+    x, y = middle(a, b)
+    leads(s, a, b, 2 * radius)
+    s.circle((x, y), radius, fill=PALE)
+    reach = radius * math.sqrt(0.5)
+    s.wire((x - reach, y - reach), (x + reach, y + reach))
+    s.wire((x - reach, y + reach), (x + reach, y - reach))
+    letter(s, a, b, text, radius, side)
+
+
+def current_source(s: Sheet, a: Point, b: Point, text: str = "", side: int = 1) -> None:
+    """A source of constant current, which leaves it at a: a circle crossed by a line across its leads."""
+    radius = 13.0
+    u, m = towards(a, b), middle(a, b)
+    leads(s, a, b, 2 * radius)
+    s.circle(m, radius, fill=PALE)
+    s.wire(along(m, u, 0, radius), along(m, u, 0, -radius))
+    s.head(along(m, u, -radius - 8), (-u[0], -u[1]))
+    letter(s, a, b, text, radius, side)
+
+
+def switch(s: Sheet, a: Point, b: Point) -> None:
+    """An open contact whose blade is hinged towards b."""
+    u, m = towards(a, b), middle(a, b)
+    leads(s, a, b, 24)
+    s.wire(along(m, u, 12), along(m, u, -11, 11))
+    s.circle(along(m, u, -12), 2.2, width=1.2, fill=PAPER)
+
+
 def ground(s: Sheet, at: Point) -> None:
     """The earth, hanging from a point."""
     x, y = at
@@ -165,7 +196,7 @@ def junction(s: Sheet, *points: Point) -> None:
 def terminal(s: Sheet, *points: Point) -> None:
     """Open ends that something outside is joined to."""
     for point in points:
-        s.circle(point, 3, fill="#ffffff", width=1.4)
+        s.circle(point, 3, fill=PAPER, width=1.4)
 
 
 def pin(s: Sheet, edge: Point, outward: Point, text: str) -> None:
@@ -191,7 +222,7 @@ def block(s: Sheet, x: float, y: float, width: float, height: float, depth: floa
 def cable(s: Sheet, *points: Point) -> None:
     """A coaxial cable as a double line."""
     s.wire(*points, width=5, cap="butt")
-    s.wire(*points, stroke="#ffffff", width=2, cap="butt")
+    s.wire(*points, stroke=PAPER, width=2, cap="butt")
 
 
 def bar(s: Sheet, a: Point, b: Point, diameter: float) -> None:
