@@ -18,7 +18,7 @@ Region& setting()
 
 Region Region::ofUser()
 {
-    const locale_t numeric = newlocale(LC_NUMERIC_MASK | LC_CTYPE_MASK, "", nullptr);
+    const locale_t numeric = newlocale(LC_NUMERIC_MASK, "", nullptr);
     if (numeric == nullptr)
         return {.decimal = ".", .thousands = ""};
     Region user{.decimal = nl_langinfo_l(RADIXCHAR, numeric), .thousands = nl_langinfo_l(THOUSEP, numeric)};
