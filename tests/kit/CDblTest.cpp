@@ -1,0 +1,175 @@
+#include <gtest/gtest.h>
+
+#include <initializer_list>
+#include <string>
+
+#include "Support.h"
+#include "kit/Conversions.h"
+
+namespace ondelis {
+namespace {
+
+using test::faultOf;
+
+struct Row {
+    const char* text;
+    double number;
+};
+
+void expect(const Region& inside, std::initializer_list<Row> rows)
+{
+    const ScopedRegion scope{inside};
+    for (const auto& [text, number] : rows)
+        EXPECT_EQ(CDbl(text), number) << '"' << text << '"';
+}
+
+void expectMismatch(const Region& inside, std::initializer_list<const char*> texts)
+{
+    const ScopedRegion scope{inside};
+    for (const char* text : texts)
+        EXPECT_EQ(faultOf([&] { return CDbl(text); }), FaultKind::TypeMismatch) << '"' << text << '"';
+}
+
+TEST(CDbl, readsNumbersOfAPointRegion)
+{
+    expect(test::english,
+        {
+            {"0", 0},
+            {"12", 12},
+            {"12.5", 12.5},
+            {".5", 0.5},
+            {"5.", 5},
+            {"-3", -3},
+            {"+3", 3},
+            {"-.5", -0.5},
+            {"1,234", 1234},
+            {"1,234.5", 1234.5},
+            {"1,234,567.25", 1234567.25},
+            {"-1,234", -1234},
+        });
+}
+
+TEST(CDbl, readsNumbersOfACommaRegionWithPoints)
+{
+    expect(test::german,
+        {
+            {"12", 12},
+            {"12,5", 12.5},
+            {",5", 0.5},
+            {"5,", 5},
+            {"-3,25", -3.25},
+            {"1.234", 1234},
+            {"1.234,5", 1234.5},
+            {"1.234.567,25", 1234567.25},
+            {"-1.234", -1234},
+        });
+}
+
+TEST(CDbl, readsNumbersOfACommaRegionWithBlanks)
+{
+    for (const Region& inside : {test::french, test::olderFrench})
+        expect(inside,
+            {
+                {"12", 12},
+                {"12,5", 12.5},
+                {"-,5", -0.5},
+                {"1\u202f234,5", 1234.5},
+                {"1\u00a0234,5", 1234.5},
+                {"1 234,5", 1234.5},
+                {"1\u202f234\u202f567", 1234567},
+                {"1e3", 1000},
+                {"1,5e3", 1500},
+            });
+}
+
+TEST(CDbl, readsAThousandsSeparatorAsItIsTyped)
+{
+    expect(test::english, {{"1,", 1}, {"1,2", 12}, {"1,23", 123}, {"1,234", 1234}, {"1,2345", 12345}});
+    expect(test::french, {{"1 ", 1}, {"1 2", 12}, {"1 23", 123}, {"1 234", 1234}});
+}
+
+TEST(CDbl, readsAnExponentMarkedByEOrD)
+{
+    expect(test::english,
+        {{"1e3", 1000}, {"1E3", 1000}, {"1d3", 1000}, {"1D3", 1000}, {"25e-1", 2.5}, {"1,000.5d+2", 100050}});
+}
+
+TEST(CDbl, leavesOutBlanksAroundTheNumber)
+{
+    expect(test::english, {{" 12.5", 12.5}, {"12.5 ", 12.5}, {"\t12.5\n", 12.5}});
+    expect(test::german, {{" 12,5 ", 12.5}});
+}
+
+TEST(CDbl, ofATextThatIsNoNumberIsATypeMismatch)
+{
+    for (const Region& inside : {test::english, test::german, test::french, test::olderFrench})
+        expectMismatch(inside,
+            {"", " ", "abc", "12abc", "12 kHz", "-", "+", ".", ",", "-.", "--3", "- 3", "3-", "1e", "1e+", "e5",
+                "1e2e3", "1d2d3", "1..5", "1,,5,,e", "inf", "nan", "-inf", "0x10", "&HFF", "1;5", "€", "1e1,000",
+                "1e1.5"});
+}
+
+TEST(CDbl, ofAPointInACommaRegionIsATypeMismatch)
+{
+    for (const Region& inside : {test::german, test::french, test::olderFrench})
+        expectMismatch(inside, {"12.5", ".5", "5.", "1.5e3", "0.001,5e", "1.23456", "1,5.5", "1,5.555"});
+    expectMismatch(test::french, {"1.234"});
+    expectMismatch(test::german, {".234", "-.234", "1.2345"});
+}
+
+TEST(CDbl, ofASecondDecimalSeparatorIsATypeMismatch)
+{
+    expectMismatch(test::english, {"1.5.5", "1.5,5", "1.,5"});
+    expectMismatch(test::german, {"1,5,5"});
+}
+
+TEST(CDbl, ofAThousandsSeparatorWithoutADigitAheadIsATypeMismatch)
+{
+    expectMismatch(test::english, {",5", "-,5", ",234"});
+    expectMismatch(test::french, {"\u202f5"});
+}
+
+TEST(CDbl, ofInnerBlanksInAPointRegionIsATypeMismatch)
+{
+    expectMismatch(test::english, {"1 000", "1\u00a0000", "1 . 5", "1 e3"});
+}
+
+TEST(CDbl, knowsNoThousandsSeparatorWhereTheRegionHasNone)
+{
+    const Region plain{.decimal = ".", .thousands = ""};
+    expect(plain, {{"1234.5", 1234.5}});
+    expectMismatch(plain, {"1,234", "1 234"});
+}
+
+TEST(CDbl, beyondTheRangeIsAnOverflow)
+{
+    for (const char* text : {"1e309", "-1e309", "1d309", "1.8e308", "1e99999999999999999999"})
+        EXPECT_EQ(faultOf([&] { return CDbl(text); }), FaultKind::Overflow) << text;
+    const ScopedRegion scope{test::french};
+    EXPECT_EQ(faultOf([] { return CDbl("1,8e308"); }), FaultKind::Overflow);
+}
+
+TEST(CDbl, tooSmallIsZero)
+{
+    expect(test::english, {{"1e-400", 0}, {"-1e-400", 0}});
+}
+
+TEST(CIntOfText, readsByTheRegionAndRoundsTiesToEven)
+{
+    EXPECT_EQ(CInt("2.5"), 2);
+    EXPECT_EQ(CInt("3.5"), 4);
+    EXPECT_EQ(CInt("1,000"), 1000);
+    const ScopedRegion scope{test::french};
+    EXPECT_EQ(CInt("2,5"), 2);
+    EXPECT_EQ(CInt("-3,5"), -4);
+}
+
+TEST(CIntOfText, hasTheFaultsOfBothConversions)
+{
+    EXPECT_EQ(faultOf([] { return CInt(""); }), FaultKind::TypeMismatch);
+    EXPECT_EQ(faultOf([] { return CInt("abc"); }), FaultKind::TypeMismatch);
+    EXPECT_EQ(faultOf([] { return CInt("32768"); }), FaultKind::Overflow);
+}
+
+} // namespace
+} // namespace ondelis

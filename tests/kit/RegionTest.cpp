@@ -1,0 +1,98 @@
+#include "kit/Region.h"
+
+#include <gtest/gtest.h>
+
+#include "Support.h"
+#include "kit/Conversions.h"
+
+namespace ondelis {
+namespace {
+
+TEST(Region, isEnglishAtFirst)
+{
+    EXPECT_EQ(region().decimal, ".");
+    EXPECT_EQ(region().thousands, ",");
+}
+
+TEST(Region, holdsForAScope)
+{
+    {
+        const ScopedRegion outer{test::french};
+        EXPECT_EQ(CStr(0.5), "0,5");
+        {
+            const ScopedRegion inner{test::english};
+            EXPECT_EQ(CStr(0.5), "0.5");
+        }
+        EXPECT_EQ(CStr(0.5), "0,5");
+    }
+    EXPECT_EQ(CStr(0.5), "0.5");
+}
+
+TEST(Region, canBeSetForTheProcess)
+{
+    const ScopedRegion restored{region()};
+    setRegion(test::german);
+    EXPECT_EQ(region().decimal, ",");
+    EXPECT_EQ(region().thousands, ".");
+}
+
+/// The regional settings of a user as the environment names them, for the length of a test.
+struct RegionOfUser : testing::Test {
+    static void SetUpTestSuite() { setenv("LOCPATH", TEST_LOCALES, 1); }
+    static void TearDownTestSuite() { unsetenv("LOCPATH"); }
+
+    void SetUp() override
+    {
+        for (const char* name : {"LC_ALL", "LC_NUMERIC", "LANG"})
+            unsetenv(name);
+    }
+    void TearDown() override { SetUp(); }
+
+    static void expect(const char* decimal, const char* thousands)
+    {
+        const Region user = Region::ofUser();
+        EXPECT_EQ(user.decimal, decimal);
+        EXPECT_EQ(user.thousands, thousands);
+    }
+};
+
+TEST_F(RegionOfUser, isPlainWithoutAnyName)
+{
+    expect(".", "");
+}
+
+TEST_F(RegionOfUser, isPlainWhereTheSystemDoesNotKnowTheName)
+{
+    setenv("LANG", "xx_XX.UTF-8", 1);
+    expect(".", "");
+}
+
+TEST_F(RegionOfUser, followsLang)
+{
+    setenv("LANG", "fr_FR.UTF-8", 1);
+    expect(",", "\u202f");
+}
+
+TEST_F(RegionOfUser, followsNumericBeforeLang)
+{
+    setenv("LANG", "fr_FR.UTF-8", 1);
+    setenv("LC_NUMERIC", "de_DE.UTF-8", 1);
+    expect(",", ".");
+}
+
+TEST_F(RegionOfUser, followsNumericWhateverTheOtherCategoriesAre)
+{
+    setenv("LANG", "xx_XX.UTF-8", 1);
+    setenv("LC_NUMERIC", "fr_FR.UTF-8", 1);
+    expect(",", "\u202f");
+}
+
+TEST_F(RegionOfUser, followsAllBeforeNumeric)
+{
+    setenv("LC_NUMERIC", "fr_FR.UTF-8", 1);
+    setenv("LC_ALL", "en_US.UTF-8", 1);
+    expect(".", ",");
+}
+
+} // namespace
+} // namespace ondelis
