@@ -16,6 +16,8 @@ packages=(
     clang-format clang-tidy shellcheck
     # A display where there is none, and a person's keys, clipboard and eyes on it
     xvfb xdotool xclip imagemagick
+    # The drawings, made anew by tools/dessins
+    python3 librsvg2-bin
     # A region with a decimal comma, for tests
     locales
 )

@@ -40,44 +40,48 @@ def axis_line(s: Sheet, a: Point, b: Point) -> None:
     s.wire(a, b, stroke=DIM, width=THIN, dash="9 3 2 3")
 
 
-@picture("bobine-vue", 220, 110, "Bobine à une couche")
+# Four pictures of one size, which stand in a row.
+
+
+@picture("bobine-vue", 150, 120, "Bobine à une couche")
 def bobine_vue(s: Sheet) -> None:
     """The coil as it looks, with its two leads."""
-    end = helix(s, 38, 54, 34, 18, 8)
-    for foot, outer in ((38, 12), (end, end + 26)):
-        s.wire((foot, 88), (outer, 88), stroke=COPPER, width=4.2)
+    end = helix(s, 30, 58, 34, 18, 5)
+    for foot, outer in ((30, 10), (end, end + 20)):
+        s.wire((foot, 92), (outer, 92), stroke=COPPER, width=4.2)
 
 
-@picture("bobine-cotes", 240, 170, "Bobine à une couche : D et L")
-def bobine_cotes(s: Sheet) -> None:
-    """The winding in section, with its inner diameter and its length."""
-    pitch, wire, turns, x, top, bottom = 17.0, 12.0, 9, 62.0, 42.0, 116.0
-    section(s, x, top, bottom, wire, pitch, turns)
-    axis_line(s, (48, 79), (224, 79))
-    s.dimension((x - wire / 2, bottom + wire / 2), (x + (turns - 0.5) * pitch + wire / 2, bottom + wire / 2), "L", -24)
-    s.dimension((x - wire / 2 - 2, bottom - wire / 2), (x - wire / 2 - 2, top + wire / 2), "D", 26)
-
-
-@picture("bobine-pas", 260, 120, "Diamètre du fil et espacement des spires")
-def bobine_pas(s: Sheet) -> None:
-    """Three turns close up: the wire's diameter and the space e between turns."""
-    wire, space, axis = 44.0, 36.0, 44.0
-    xs = [50.0 + i * (wire + space) for i in range(3)]
-    for x in xs:
-        s.circle((x, axis), wire / 2, stroke=COPPER, width=1.6, fill=COPPER_PALE)
-    s.dimension((xs[0] - wire / 2, axis), (xs[0] + wire / 2, axis), "Ø", -36)
-    s.dimension((xs[1] + wire / 2, axis), (xs[2] - wire / 2, axis), "e", -36)
-
-
-@picture("bobine-bout", 220, 170, "Diamètre intérieur et diamètre moyen")
-def bobine_bout(s: Sheet) -> None:
+@picture("bobine-diametre", 150, 120, "Diamètre intérieur et diamètre moyen")
+def bobine_diametre(s: Sheet) -> None:
     """The coil end on: D inside the wire, D + e as the mean diameter."""
-    centre, radius = (92.0, 84.0), 54.0
-    s.circle(centre, radius, stroke=COPPER, width=11)
-    s.circle(centre, radius, stroke=COPPER_PALE, width=8.4)
-    s.circle(centre, radius, stroke=DIM, width=THIN, dash="9 3 2 3")
-    s.dimension((centre[0] - radius + 5.5, centre[1]), (centre[0] + radius - 5.5, centre[1]), "D")
-    s.dimension((centre[0], centre[1] + radius), (centre[0], centre[1] - radius), "D + e", -84, extend=True)
+    x, y, radius = 52.0, 60.0, 41.0
+    s.circle((x, y), radius, stroke=COPPER, width=10)
+    s.circle((x, y), radius, stroke=COPPER_PALE, width=7.4)
+    s.circle((x, y), radius, stroke=DIM, width=THIN, dash="9 3 2 3")
+    s.dimension((x - radius + 5, y), (x + radius - 5, y), "D")
+    s.dimension((x, y + radius), (x, y - radius), "D + e", -71)
+
+
+@picture("bobine-espacement", 150, 120, "Diamètre du fil et espacement des spires")
+def bobine_espacement(s: Sheet) -> None:
+    """Two turns close up: the wire's diameter and the space e between turns."""
+    wire, space, axis = 40.0, 34.0, 46.0
+    left, right = 38.0, 38.0 + wire + space
+    for x in (left, right):
+        s.circle((x, axis), wire / 2, stroke=COPPER, fill=COPPER_PALE)
+    s.dimension((left - wire / 2, axis), (left + wire / 2, axis), "Ø", -36)
+    s.dimension((left + wire / 2, axis), (right - wire / 2, axis), "e", -36)
+
+
+@picture("bobine-longueur", 150, 120, "Longueur et diamètre de l'enroulement")
+def bobine_longueur(s: Sheet) -> None:
+    """The winding in section, with its inner diameter and its length."""
+    pitch, wire, turns, x, top, bottom = 14.0, 10.0, 6, 52.0, 20.0, 76.0
+    section(s, x, top, bottom, wire, pitch, turns)
+    axis_line(s, (40, 48), (146, 48))
+    right = x + (turns - 0.5) * pitch + wire / 2
+    s.dimension((x - wire / 2, bottom + wire / 2), (right, bottom + wire / 2), "L", -24)
+    s.dimension((x - wire / 2 - 2, bottom - wire / 2), (x - wire / 2 - 2, top + wire / 2), "D", 22)
 
 
 @picture("self-vue", 240, 120, "Bobine sur son mandrin")
