@@ -52,7 +52,7 @@ def condensateur_variable(s: Sheet) -> None:
     s.arc(centre, reach, 158, 214, stroke=DIM, width=THIN)
     s.head(tip, (0.69, 0.72), DIM)
     s.head(tail, (0.72, 0.69), DIM)
-    s.text(*polar(centre, reach, 131), "Angle", WORD, colour=DIM)
+    s.text(*polar(centre, reach, 131), "Angle", WORD)
     s.dimension((centre[0] - outer, centre[1]), (centre[0] + outer, centre[1]), "Ø ext", -100)
     s.dimension((centre[0], centre[1] + inner), (centre[0], centre[1] - inner), "Ø int", -98)
 
