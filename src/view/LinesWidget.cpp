@@ -13,7 +13,6 @@ LinesWidget::LinesWidget(PanelWindow& window, QWidget* parent) : QWidget{parent}
 
 void LinesWidget::follow()
 {
-    resize(panelWindow().size());
     const Scale scale{*this};
     strokes_.clear();
     for (const Line* line : lines_) {
@@ -27,7 +26,20 @@ void LinesWidget::follow()
     rectangles_.clear();
     for (const Shape* shape : shapes_)
         rectangles_.push_back(scale.pixels(shape->at()));
+    cover();
     update();
+}
+
+void LinesWidget::cover()
+{
+    QRectF area;
+    for (const Stroke& stroke : strokes_) {
+        const QRectF box = QRectF{stroke.line.p1(), stroke.line.p2()}.normalized();
+        area |= box.adjusted(-stroke.width, -stroke.width, stroke.width, stroke.width);
+    }
+    for (const QRect& rectangle : rectangles_)
+        area |= rectangle;
+    setGeometry(QRect{QPoint{}, area.toAlignedRect().bottomRight()});
 }
 
 void LinesWidget::paintEvent(QPaintEvent* /*event*/)
@@ -35,10 +47,9 @@ void LinesWidget::paintEvent(QPaintEvent* /*event*/)
     QPainter painter{this};
     const QColor text = palette().color(QPalette::WindowText);
     const QColor window = palette().color(QPalette::Window);
-    for (const QRect& rectangle : rectangles_) {
-        painter.setPen(text);
+    painter.setPen(palette().color(QPalette::Mid)); // as quiet as the edge of a frame
+    for (const QRect& rectangle : rectangles_)
         painter.drawRect(rectangle.adjusted(0, 0, -1, -1));
-    }
     for (const Stroke& stroke : strokes_) {
         const bool straight = stroke.line.dx() == 0 || stroke.line.dy() == 0;
         painter.setRenderHint(QPainter::Antialiasing, !straight);

@@ -30,6 +30,9 @@ private:
         double width;
     };
 
+    /// Makes the widget as large as what it paints: it stands from the upper left corner of the panel on.
+    void cover();
+
     std::vector<const Line*> lines_;
     std::vector<const Shape*> shapes_;
     std::vector<Stroke> strokes_;
