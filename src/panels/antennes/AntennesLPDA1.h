@@ -57,8 +57,8 @@ public:
     CommandButton BtnSuite2      {this, "BtnSuite2",       {.Caption = "Suite", .at = {7470, 5805, 1200, 375}}, &AntennesLPDA1::BtnSuite2_Click};
 
     Frame         Frame1         {this, "Frame1",          {.Caption = "Structure de la LPDA", .at = {9030, 180, 5460, 4980}, .picture = "lpda-structure"}};
-    Label         LblFrameBalun  {this, "LblFrameBalun",   {.Caption = "Balun", .at = {3880, 2620, 780, 255}, .container = &Frame1}};
-    Label         LblFrameZt     {this, "LblFrameZt",      {.Caption = "Stub Zt", .at = {332, 2560, 900, 255}, .container = &Frame1}};
+    Label         LblFrameBalun  {this, "LblFrameBalun",   {.Caption = "Balun", .at = {3980, 2945, 780, 255}, .align = Align::Center, .container = &Frame1}};
+    Label         LblFrameZt     {this, "LblFrameZt",      {.Caption = "Stub Zt", .at = {206, 2880, 900, 255}, .align = Align::Center, .container = &Frame1}};
     TextBox       Text1          {this, "Text1",           {.Text = "Si l'aérien est trop grand :\n\taugmenter FreqMin\n\tou réduire Rho\n\tou réduire Theta\n\nRéduire Rho réduit L boom de façon prépondérante",
                                                             .at = {9030, 180, 5460, 2700}, .Locked = true, .multiLine = true}};
     TextBox       Text2          {this, "Text2",           {.Text = "En HF, court-circuiter l'élément le plus long par une \népingle de 6\" (1,8288m) de longueur non pliée\n\nEn VHF et UHF :  Zt = LambdaMax/8",
