@@ -1,0 +1,33 @@
+#include "kit/Table.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+
+#include "Support.h"
+
+namespace ondelis {
+namespace {
+
+using test::faultOf;
+
+TEST(Table, keepsAValueUnderEachIndex)
+{
+    Table<Double, 2> table;
+    table(0) = 1.5;
+    table(2) = 2.5;
+    EXPECT_EQ(table(0), 1.5);
+    EXPECT_EQ(table(1), 0);
+    EXPECT_EQ(table(2), 2.5);
+    EXPECT_EQ((Table<std::string, 0>{}(0)), "");
+}
+
+TEST(Table, anyOtherIndexIsOutOfRange)
+{
+    Table<Double, 2> table;
+    EXPECT_EQ(faultOf([&] { return table(3); }), FaultKind::SubscriptOutOfRange);
+    EXPECT_EQ(faultOf([&] { return table(-1); }), FaultKind::SubscriptOutOfRange);
+}
+
+} // namespace
+} // namespace ondelis
