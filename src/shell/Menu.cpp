@@ -1,6 +1,7 @@
 #include "shell/Menu.h"
 
 #include "panels/antennes/AntennesLPDA1.h"
+#include "panels/filtres/FiltrePasseBasEnPi.h"
 #include "panels/lignes/RVListeCoaxiaux.h"
 #include "panels/resonance/CalculNombreSpires.h"
 #include "panels/resonance/CircuitsOscillants.h"
@@ -105,7 +106,9 @@ std::vector<Menu> makeTree()
         }},
         {"MenuFiltres", "Filtres", {
             {"menuFiltreEliminationDeBande", "Filtre à élimination de bande", {}},
-            {"MenuFiltrePasseBasEnPi", "Filtre en Pi f(Ze, Zs, Q)", {}},
+            {"MenuFiltrePasseBasEnPi", "Filtre en Pi f(Ze, Zs, Q)", {show<FiltrePasseBasEnPi>(), top<FiltrePasseBasEnPi>(2000),
+                left<FiltrePasseBasEnPi>(800), height<FiltrePasseBasEnPi>(7200), width<FiltrePasseBasEnPi>(7500),
+                top<CalculNombreSpires>(3500), left<CalculNombreSpires>(8600), show<CalculNombreSpires>()}},
             {"MenuFiltreEnDoublePi", "Filtre en double Pi", {}},
             {"menuFiltrePasseBande", "Filtre passe-bande", {}},
             {"menuFiltrePasseBas", "Filtre Passe-bas", {}},
