@@ -5,10 +5,13 @@
 // Writes FOLDER/PANEL-96.png and FOLDER/PANEL-192.png for each panel of the menu, or for those that are named, and
 // FOLDER/Ondelis-96.png and -192.png, the main window with the first of them.
 
+#include <QAbstractButton>
 #include <QApplication>
 #include <QDir>
+#include <QMessageBox>
 #include <QProcess>
 #include <QTextStream>
+#include <QTimer>
 #include <utility>
 
 #include "forms/Desk.h"
@@ -34,6 +37,17 @@ void settle()
         QCoreApplication::processEvents();
 }
 
+/// Answers the box that a panel shows as it opens, by "Oui" or "OK".
+void answerBox()
+{
+    const auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+    if (box == nullptr)
+        return;
+    for (QAbstractButton* button : box->buttons())
+        if (box->buttonRole(button) != QMessageBox::NoRole)
+            button->click();
+}
+
 bool save(QWidget& widget, const QDir& folder, const QString& name)
 {
     const QString file
@@ -53,6 +67,9 @@ int draw(const QDir& folder, const QStringList& wanted)
     Desk desk{view};
     MDIOndelis frame{desk};
     view.open(frame);
+    QTimer boxes;
+    QObject::connect(&boxes, &QTimer::timeout, answerBox);
+    boxes.start(10);
 
     bool allSaved = true;
     bool framed = false;
