@@ -2,7 +2,7 @@
 
 #include <algorithm>
 #include <array>
-#include <cstdio>
+#include <charconv>
 #include <utility>
 
 #include "forms/Desk.h"
@@ -340,11 +340,17 @@ MaskEdBox::MaskEdBox(FeuilleCalcul* panel, std::string name, Design design)
 std::string MaskEdBox::display() const
 {
     std::string text = Text;
-    if (text.empty())
+    double number = 0;
+    try {
+        number = CDbl(text).value();
+    } catch (const Fault&) { // an empty text, or one that is no number, shows as it is
         return text;
+    }
     std::array<char, 32> form{};
-    const int length = std::snprintf(form.data(), form.size(), "%.3E", CDbl(text).value());
-    std::string shown{form.data(), static_cast<std::size_t>(length)};
+    char* const end
+        = std::to_chars(form.data(), form.data() + form.size(), number, std::chars_format::scientific, 3).ptr;
+    std::replace(form.data(), end, 'e', 'E');
+    std::string shown{form.data(), end};
     shown.replace(shown.find('.'), 1, region().decimal);
     return shown;
 }
