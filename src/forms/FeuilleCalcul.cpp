@@ -12,6 +12,7 @@ FeuilleCalcul::FeuilleCalcul(Desk& desk, Design design) : desk_{desk}, design_{s
 void FeuilleCalcul::Show()
 {
     load();
+    staysHidden_ = false;
     visible_ = true;
     desk_.surroundings().panelRaised(*this);
 }
