@@ -1,6 +1,7 @@
 #include "forms/Desk.h"
 
 #include <algorithm>
+#include <span>
 
 #include "forms/Handler.h"
 
@@ -68,7 +69,8 @@ void Desk::end(int status)
 
 void Desk::leaveDeadHandlers() const
 {
-    const bool dead = std::ranges::any_of(running_,
+    const auto ofThisAction = std::span{running_}.subspan(actionBegin_);
+    const bool dead = std::ranges::any_of(ofThisAction,
         [](const Running& handler) { return !handler.panel->loaded() || handler.panel->loading() != handler.loading; });
     if (ended_ || dead)
         throw Unwinding{};

@@ -4,6 +4,7 @@
 #include <memory>
 #include <typeindex>
 #include <unordered_map>
+#include <utility>
 #include <vector>
 
 #include "forms/FeuilleCalcul.h"
@@ -50,12 +51,14 @@ public:
     {
         if (ended_)
             return;
+        const std::size_t outerBegin = std::exchange(actionBegin_, running_.size());
         try {
             action();
         } catch (const Fault& fault) {
             fail(fault);
         } catch (const Unwinding&) { // NOLINT(bugprone-empty-catch): it has done its work by coming here
         }
+        actionBegin_ = outerBegin;
     }
 
     /// Ends the program from code: nothing after it runs.
@@ -68,8 +71,8 @@ public:
     void raise(FeuilleCalcul& panel, const Handler& handler);
     void raise(FeuilleCalcul& panel, const KeyHandler& handler, Integer& key);
 
-    /// Shows a box and gives the answer; leaves the handlers that wait for it where the program or their
-    /// panel is gone.
+    /// Shows a box and gives the answer. Where meanwhile the program has ended, or the panel of a handler that
+    /// waits for it is gone, all handlers of the present action are left.
     Answer MsgBox(const MessageBox& box);
     void DoEvents();
 
@@ -112,6 +115,7 @@ private:
     std::unordered_map<std::type_index, std::unique_ptr<FeuilleCalcul>> panels_;
     std::vector<FeuilleCalcul*> loadedPanels_;
     std::vector<Running> running_;
+    std::size_t actionBegin_ = 0; ///< where the handlers of the present action begin in `running_`
     Control* focused_ = nullptr;
     bool ended_ = false;
 };
