@@ -55,8 +55,9 @@ void Desk::DoEvents()
 
 void Desk::fail(const Fault& fault)
 {
+    ended_ = true; // whatever happens while the fault is read finds the program over
     surroundings_.showFault(fault);
-    end(1);
+    surroundings_.programEnded(1);
 }
 
 void Desk::end(int status)
