@@ -31,8 +31,9 @@ User::Refusal User::type(TextBox& box, std::string_view text)
 {
     if (auto refusal = unwritable(box))
         return refusal;
-    for (int i = 1; i <= Len(text); ++i) {
-        const std::string character = Mid(text, i, 1);
+    while (!text.empty()) {
+        const std::string character = Left(text, 1);
+        text.remove_prefix(character.size());
         desk_.perform([&] {
             takeFocus(box);
             box.keyPress(keyCode(codePoint(character)));
