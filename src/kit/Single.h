@@ -1,5 +1,7 @@
 #pragma once
 
+#include <concepts>
+
 #include "kit/Double.h"
 #include "kit/Fault.h"
 
@@ -14,7 +16,9 @@ public:
         : value_{rounded(value.value())}
     {
     }
-    constexpr Single(int value) // NOLINT(google-explicit-constructor)
+    template <class Literal>
+    requires std::same_as<Literal, int> || std::same_as<Literal, double>
+    constexpr Single(Literal value) // NOLINT(google-explicit-constructor)
         : Single{Double{value}}
     {
     }
