@@ -1,0 +1,122 @@
+#include "Support.h"
+
+namespace ondelis::tests {
+namespace {
+
+/// Two options and a button on the panel, two options in a frame.
+class Choix final : public FeuilleCalcul {
+public:
+    explicit Choix(Desk& desk)
+        : FeuilleCalcul{desk, {.name = "Choix", .Caption = "", .Width = 6000, .Height = 4000}} { }
+
+    OptionButton OptF{this, "OptF", {.Caption = "F", .Value = true}, &Choix::OptF_Click};
+    OptionButton OptL{this, "OptL", {.Caption = "L"}, &Choix::OptL_Click};
+    Frame Cadre{this, "Cadre", {.Caption = "Unité"}};
+    OptionButton OptMm{this, "OptMm", {.Value = true, .container = &Cadre}, &Choix::OptMm_Click};
+    OptionButton OptPo{this, "OptPo", {.container = &Cadre}, &Choix::OptPo_Click};
+    CommandButton BtnCalculer{this, "BtnCalculer", {.Caption = "Calculer"}, &Choix::BtnCalculer_Click};
+
+    Log log;
+
+private:
+    void OptF_Click() { log.emplace_back("F"); }
+    void OptL_Click() { log.emplace_back(OptF.Value ? "L beside F" : "L alone"); }
+    void OptMm_Click() { log.emplace_back("mm"); }
+    void OptPo_Click() { log.emplace_back("po"); }
+    void BtnCalculer_Click() { log.emplace_back(BtnCalculer.Value ? "pressed" : "calcul"); }
+};
+
+class ButtonTest : public DeskTest {
+protected:
+    ButtonTest() { panel.Show(); }
+    Choix& panel = desk.get<Choix>();
+};
+
+TEST_F(ButtonTest, AnOptionRaisesClickWhenItBecomesTheChosenOne)
+{
+    panel.OptL.Value = true;
+    panel.OptL.Value = true;
+    EXPECT_EQ(panel.log, Log{"L alone"});
+}
+
+TEST_F(ButtonTest, TheOptionThatLosesTheChoiceRaisesNothing)
+{
+    panel.OptL.Value = true;
+    panel.log.clear();
+    panel.OptF.Value = true;
+    EXPECT_EQ(panel.log, Log{"F"});
+    EXPECT_FALSE(panel.OptL.Value);
+}
+
+TEST_F(ButtonTest, AnOptionSetToFalseRaisesNothingAndLeavesNoChoice)
+{
+    panel.OptF.Value = false;
+    EXPECT_TRUE(panel.log.empty());
+    EXPECT_FALSE(panel.OptF.Value);
+    EXPECT_FALSE(panel.OptL.Value);
+    panel.OptF.Value = true;
+    EXPECT_EQ(panel.log, Log{"F"});
+}
+
+TEST_F(ButtonTest, TheOptionsOfAFrameExcludeOneAnotherAlone)
+{
+    panel.OptPo.Value = true;
+    EXPECT_FALSE(panel.OptMm.Value);
+    EXPECT_TRUE(panel.OptF.Value);
+    panel.OptL.Value = true;
+    EXPECT_TRUE(panel.OptPo.Value);
+    EXPECT_EQ(panel.log, (Log{"po", "L alone"}));
+}
+
+TEST_F(ButtonTest, TheUserChoosesAnOptionOnce)
+{
+    user.click(panel.OptL);
+    user.click(panel.OptL);
+    EXPECT_EQ(panel.log, Log{"L alone"});
+    EXPECT_EQ(desk.focused(), &panel.OptL);
+}
+
+TEST_F(ButtonTest, AnOptionHasItsDesignValueAgainAfterUnload)
+{
+    panel.OptL.Value = true;
+    desk.Unload(panel);
+    EXPECT_TRUE(panel.OptF.Value);
+    EXPECT_FALSE(panel.OptL.Value);
+}
+
+TEST_F(ButtonTest, StoringTrueIntoAButtonIsAClickEachTime)
+{
+    panel.BtnCalculer.Value = true;
+    panel.BtnCalculer.Value = true;
+    EXPECT_EQ(panel.log, (Log{"calcul", "calcul"}));
+    EXPECT_FALSE(panel.BtnCalculer.Value);
+}
+
+TEST_F(ButtonTest, StoringFalseIntoAButtonDoesNothing)
+{
+    panel.BtnCalculer.Value = false;
+    EXPECT_TRUE(panel.log.empty());
+}
+
+TEST_F(ButtonTest, AHiddenButtonIsClickedByCodeButNotByTheUser)
+{
+    panel.BtnCalculer.Visible = false;
+    panel.BtnCalculer.Value = true;
+    EXPECT_EQ(panel.log, Log{"calcul"});
+    EXPECT_TRUE(user.click(panel.BtnCalculer).has_value());
+    EXPECT_EQ(panel.log, Log{"calcul"});
+}
+
+TEST_F(ButtonTest, WhatStandsInAHiddenFrameIsHidden)
+{
+    panel.Cadre.Visible = false;
+    EXPECT_TRUE(panel.OptPo.Visible);
+    EXPECT_FALSE(panel.OptPo.onScreen());
+    EXPECT_TRUE(user.click(panel.OptPo).has_value());
+    panel.Cadre.Visible = true;
+    EXPECT_FALSE(user.click(panel.OptPo).has_value());
+    EXPECT_EQ(panel.log, Log{"po"});
+}
+
+} // namespace
+} // namespace ondelis::tests

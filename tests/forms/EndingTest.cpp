@@ -1,0 +1,306 @@
+#include "Support.h"
+
+namespace ondelis::tests {
+namespace {
+
+/// Buttons whose handlers wait, fault and end, each within another one.
+class Fins final : public FeuilleCalcul {
+public:
+    explicit Fins(Desk& desk) : FeuilleCalcul{desk, {.name = "Fins", .Caption = "", .Width = 6000, .Height = 4000}} { }
+
+    CommandButton BtnBoite{this, "BtnBoite", {}, &Fins::BtnBoite_Click};
+    CommandButton BtnAttente{this, "BtnAttente", {}, &Fins::BtnAttente_Click};
+    CommandButton BtnFaute{this, "BtnFaute", {}, &Fins::BtnFaute_Click};
+    CommandButton BtnFin{this, "BtnFin", {}, &Fins::BtnFin_Click};
+    TextBox TxtA{this, "TxtA", {}, &Fins::TxtA_Change, &Fins::TxtA_KeyPress};
+
+    Log log;
+    std::function<void()> atChange = [] {};
+    std::function<void()> atLoad = [] {};
+    bool boxAtKey = false;
+
+    Answer ask(const std::string& prompt, int buttons, const std::string& title)
+    {
+        return MsgBox(prompt, buttons, title);
+    }
+
+private:
+    void Form_Load() override { atLoad(); }
+    void BtnBoite_Click()
+    {
+        MsgBox("Un message");
+        log.emplace_back("after the box");
+    }
+    void BtnAttente_Click()
+    {
+        DoEvents();
+        log.emplace_back("after the events");
+    }
+    void BtnFaute_Click()
+    {
+        log.push_back(std::to_string((Double{1} / Double{0}).value()));
+        log.emplace_back("after the fault");
+    }
+    void BtnFin_Click()
+    {
+        desk().End();
+        log.emplace_back("after the end");
+    }
+    void TxtA_Change()
+    {
+        atChange();
+        log.emplace_back("after the change");
+    }
+    void TxtA_KeyPress(Integer& /*KeyAscii*/)
+    {
+        if (boxAtKey)
+            MsgBox("Une touche");
+    }
+};
+
+/// Shows a box while it loads.
+class Bavarde final : public FeuilleCalcul {
+public:
+    explicit Bavarde(Desk& desk)
+        : FeuilleCalcul{desk, {.name = "Bavarde", .Caption = "", .Width = 6000, .Height = 4000}}
+    {
+    }
+
+    TextBox TxtA{this, "TxtA", {}};
+
+private:
+    void Form_Load() override
+    {
+        MsgBox("Bonjour");
+        TxtA.Text = "chargée";
+    }
+};
+
+class EndingTest : public DeskTest {
+protected:
+    EndingTest() { panel.Show(); }
+    Fins& panel = desk.get<Fins>();
+};
+
+TEST_F(EndingTest, AFaultIsShownAndEndsTheProgramWithStatusOne)
+{
+    user.click(panel.BtnFaute);
+    EXPECT_EQ(world.fault, FaultKind::DivisionByZero);
+    EXPECT_EQ(world.endings, std::vector<int>{1});
+    EXPECT_TRUE(desk.ended());
+    EXPECT_TRUE(panel.log.empty());
+}
+
+TEST_F(EndingTest, AFaultLeavesAllNestedHandlers)
+{
+    panel.atChange = [this] { panel.BtnFaute.Value = true; };
+    user.type(panel.TxtA, "ab");
+    EXPECT_EQ(panel.TxtA.Text, "a");
+    EXPECT_TRUE(panel.log.empty());
+    EXPECT_EQ(world.endings, std::vector<int>{1});
+}
+
+TEST_F(EndingTest, EndLeavesAllNestedHandlersWithStatusZero)
+{
+    panel.atChange = [this] { panel.BtnFin.Value = true; };
+    user.type(panel.TxtA, "ab");
+    EXPECT_TRUE(panel.log.empty());
+    EXPECT_EQ(world.fault, std::nullopt);
+    EXPECT_EQ(world.endings, std::vector<int>{0});
+}
+
+TEST_F(EndingTest, NothingHappensAfterTheEnd)
+{
+    desk.close();
+    EXPECT_TRUE(user.click(panel.BtnBoite).has_value());
+    EXPECT_TRUE(user.type(panel.TxtA, "x").has_value());
+    EXPECT_TRUE(user.close(panel).has_value());
+    desk.perform([] { FAIL() << "performed after the end"; });
+    desk.close();
+    EXPECT_TRUE(world.boxes.empty());
+    EXPECT_EQ(world.endings, std::vector<int>{0});
+}
+
+TEST_F(EndingTest, ABoxTellsItsPromptButtonsAndTitleAndGivesTheAnswer)
+{
+    world.onBox = [](const MessageBox&) { return Answer::No; };
+    EXPECT_EQ(panel.ask("Encore\tun ?\nVraiment ?", 4, "Titre"), Answer::No);
+    EXPECT_EQ(world.boxes.back().prompt, "Encore\tun ?\nVraiment ?");
+    EXPECT_EQ(world.boxes.back().buttons, 4);
+    EXPECT_EQ(world.boxes.back().title, "Titre");
+}
+
+TEST_F(EndingTest, ABoxWithOneButtonBearsTheTitleOfTheApplication)
+{
+    user.click(panel.BtnBoite);
+    EXPECT_EQ(world.boxes.back().buttons, 0);
+    EXPECT_EQ(world.boxes.back().title, "Ondelis");
+}
+
+TEST_F(EndingTest, ABoxHoldsTheHandlerUntilItIsAnswered)
+{
+    world.onBox = [this](const MessageBox&) {
+        EXPECT_TRUE(panel.log.empty());
+        return Answer::Ok;
+    };
+    user.click(panel.BtnBoite);
+    EXPECT_EQ(panel.log, Log{"after the box"});
+}
+
+TEST_F(EndingTest, ClosingTheProgramWhileABoxIsOpenLeavesTheHandlers)
+{
+    panel.atChange = [this] { panel.BtnBoite.Value = true; };
+    world.onBox = [this](const MessageBox&) {
+        desk.close();
+        return Answer::Ok;
+    };
+    user.type(panel.TxtA, "x");
+    EXPECT_TRUE(panel.log.empty());
+    EXPECT_EQ(world.endings, std::vector<int>{0});
+    EXPECT_EQ(world.fault, std::nullopt);
+}
+
+TEST_F(EndingTest, ClosingThePanelWhileABoxIsOpenLeavesItsHandlers)
+{
+    panel.atChange = [this] { panel.BtnBoite.Value = true; };
+    world.onBox = [this](const MessageBox&) {
+        EXPECT_FALSE(user.close(panel).has_value());
+        return Answer::Ok;
+    };
+    user.type(panel.TxtA, "xy");
+    EXPECT_TRUE(panel.log.empty());
+    EXPECT_FALSE(panel.loaded());
+    EXPECT_FALSE(desk.ended());
+    panel.Show();
+    EXPECT_EQ(panel.TxtA.Text, "");
+}
+
+TEST_F(EndingTest, ClosingThePanelWhileAKeyIsSeenLetsNoCharacterLand)
+{
+    panel.boxAtKey = true;
+    world.onBox = [this](const MessageBox&) {
+        user.close(panel);
+        return Answer::Ok;
+    };
+    user.type(panel.TxtA, "xy");
+    EXPECT_FALSE(panel.loaded());
+    EXPECT_EQ(world.boxes.size(), 1U);
+}
+
+TEST_F(EndingTest, AHandlerOfAnEarlierLoadingDoesNotGoOnInALaterOne)
+{
+    world.onPending = [this] {
+        desk.Unload(panel);
+        panel.Show();
+    };
+    user.click(panel.BtnAttente);
+    EXPECT_TRUE(panel.log.empty());
+    EXPECT_TRUE(panel.visible());
+}
+
+TEST_F(EndingTest, PendingEventsRunWithinTheHandler)
+{
+    bool once = false;
+    world.onPending = [&] {
+        if (!std::exchange(once, true))
+            user.click(panel.BtnAttente);
+        panel.log.emplace_back("pending");
+    };
+    user.click(panel.BtnAttente);
+    EXPECT_EQ(panel.log, (Log{"pending", "after the events", "pending", "after the events"}));
+}
+
+TEST_F(EndingTest, AFaultOfAPendingEventLeavesTheWaitingHandlersToo)
+{
+    panel.atChange = [this] { panel.BtnAttente.Value = true; };
+    world.onPending = [this] { user.click(panel.BtnFaute); };
+    user.type(panel.TxtA, "x");
+    EXPECT_TRUE(panel.log.empty());
+    EXPECT_EQ(world.fault, FaultKind::DivisionByZero);
+    EXPECT_EQ(world.endings, std::vector<int>{1});
+}
+
+TEST_F(EndingTest, AnEndOfAPendingEventLeavesTheWaitingHandlersToo)
+{
+    world.onPending = [this] { user.click(panel.BtnFin); };
+    user.click(panel.BtnAttente);
+    EXPECT_TRUE(panel.log.empty());
+    EXPECT_EQ(world.endings, std::vector<int>{0});
+}
+
+TEST_F(EndingTest, ClosingThePanelTwoLoopsDeepLeavesBothHandlers)
+{
+    int depth = 0;
+    world.onPending = [&] {
+        if (++depth == 1)
+            user.click(panel.BtnAttente);
+        else
+            user.close(panel);
+    };
+    user.click(panel.BtnAttente);
+    EXPECT_EQ(depth, 2);
+    EXPECT_TRUE(panel.log.empty());
+    EXPECT_FALSE(panel.loaded());
+}
+
+TEST_F(EndingTest, APanelOpenedByAPendingEventLoadsWholeThoughTheWaitingOneIsGone)
+{
+    world.onPending = [this] {
+        desk.perform([this] {
+            desk.Unload(panel);
+            desk.get<Bavarde>().Show();
+        });
+    };
+    user.click(panel.BtnAttente);
+    EXPECT_TRUE(panel.log.empty());
+    EXPECT_TRUE(desk.get<Bavarde>().visible());
+    EXPECT_EQ(desk.get<Bavarde>().TxtA.Text, "chargée");
+}
+
+TEST_F(EndingTest, ClosingTheProgramWhileAPanelLoadsLeavesItsFormLoad)
+{
+    world.onBox = [this](const MessageBox&) {
+        desk.close();
+        return Answer::Ok;
+    };
+    desk.perform([this] { desk.get<Bavarde>().Show(); });
+    EXPECT_EQ(desk.get<Bavarde>().TxtA.Text, "");
+    EXPECT_FALSE(desk.get<Bavarde>().visible());
+}
+
+TEST_F(EndingTest, APanelThatLoadsCannotBeClosedYet)
+{
+    world.onBox = [this](const MessageBox&) {
+        EXPECT_TRUE(user.close(desk.get<Bavarde>()).has_value());
+        return Answer::Ok;
+    };
+    desk.perform([this] { desk.get<Bavarde>().Show(); });
+    EXPECT_TRUE(desk.get<Bavarde>().visible());
+}
+
+TEST_F(EndingTest, NothingCanBeDoneWhileTheFaultIsRead)
+{
+    world.onFault = [this] {
+        EXPECT_TRUE(user.click(panel.BtnBoite).has_value());
+        desk.close();
+    };
+    user.click(panel.BtnFaute);
+    EXPECT_TRUE(panel.log.empty());
+    EXPECT_EQ(world.endings, std::vector<int>{1});
+}
+
+TEST_F(EndingTest, AfterTheHandlersAreLeftTheNextActionIsAsEver)
+{
+    world.onBox = [this](const MessageBox&) {
+        user.close(panel);
+        return Answer::Ok;
+    };
+    user.click(panel.BtnBoite);
+    world.onBox = [](const MessageBox&) { return Answer::Ok; };
+    panel.Show();
+    user.click(panel.BtnBoite);
+    EXPECT_EQ(panel.log, Log{"after the box"});
+}
+
+} // namespace
+} // namespace ondelis::tests

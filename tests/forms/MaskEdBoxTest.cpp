@@ -1,0 +1,57 @@
+#include "Support.h"
+#include "kit/Region.h"
+
+namespace ondelis::tests {
+namespace {
+
+class Masque final : public FeuilleCalcul {
+public:
+    explicit Masque(Desk& desk) : FeuilleCalcul{desk, {.name = "Masque", .Caption = "", .Width = 6000, .Height = 4000}}
+    {
+    }
+
+    MaskEdBox MebIp{this, "MebIp", {}};
+
+    std::string shown(const std::string& text)
+    {
+        MebIp.Text = text;
+        return MebIp.display();
+    }
+};
+
+class MaskEdBoxTest : public DeskTest {
+protected:
+    Masque& panel = desk.get<Masque>();
+};
+
+TEST_F(MaskEdBoxTest, ShowsANumberInExponentFormWithThreeDecimals)
+{
+    EXPECT_EQ(panel.shown("0.12"), "1.200E-01");
+    EXPECT_EQ(panel.shown("1.24"), "1.240E+00");
+    EXPECT_EQ(panel.shown("-12345.67"), "-1.235E+04");
+    EXPECT_EQ(panel.shown("0"), "0.000E+00");
+    EXPECT_EQ(panel.shown("1E+120"), "1.000E+120");
+}
+
+TEST_F(MaskEdBoxTest, KeepsItsTextAsItIs)
+{
+    panel.MebIp.Text = "0.12";
+    EXPECT_EQ(panel.MebIp.Text, "0.12");
+}
+
+TEST_F(MaskEdBoxTest, FollowsTheRegion)
+{
+    const ScopedRegion comma{{.decimal = ",", .thousands = "."}};
+    EXPECT_EQ(panel.shown("0,12"), "1,200E-01");
+    EXPECT_EQ(panel.shown("1.240,5"), "1,240E+03");
+}
+
+TEST_F(MaskEdBoxTest, ShowsWhatIsNoNumberAsItIs)
+{
+    EXPECT_EQ(panel.shown(""), "");
+    EXPECT_EQ(panel.shown("douze"), "douze");
+    EXPECT_EQ(panel.shown("1E999"), "1E999");
+}
+
+} // namespace
+} // namespace ondelis::tests

@@ -1,0 +1,89 @@
+#include "forms/ResumeNext.h"
+#include "Support.h"
+#include "kit/Conversions.h"
+
+namespace ondelis::tests {
+namespace {
+
+/// A Form_Load with a fault in a statement of its own, and one in a handler that a statement runs.
+class Defauts final : public FeuilleCalcul {
+public:
+    explicit Defauts(Desk& desk)
+        : FeuilleCalcul{desk, {.name = "Defauts", .Caption = "", .Width = 6000, .Height = 4000}}
+    {
+    }
+
+    TextBox TxtA{this, "TxtA", {}, &Defauts::TxtA_Change};
+    TextBox TxtB{this, "TxtB", {}, &Defauts::TxtB_Change};
+    ListBox LstA{this, "LstA", {.Items = {"un"}}};
+
+    Log log;
+    bool endInside = false;
+
+private:
+    void Form_Load() override
+    {
+        resumeNext([this] { log.emplace_back("first"); });
+        resumeNext([this] { LstA.ListIndex = 7; });
+        resumeNext([this] {
+            TxtA.Text = "x";
+            log.emplace_back("never: the statement has ended");
+        });
+        resumeNext([this] { log.emplace_back("last"); });
+    }
+    void TxtA_Change()
+    {
+        log.emplace_back("A begins");
+        TxtB.Text = TxtA.Text;
+        log.emplace_back("never: A stands where it was left");
+    }
+    void TxtB_Change()
+    {
+        if (endInside)
+            desk().End();
+        log.push_back(CStr(CDbl(TxtB.Text)));
+        log.emplace_back("never: nothing is resumed in here");
+    }
+};
+
+class ResumeNextTest : public DeskTest { };
+
+TEST_F(ResumeNextTest, AFaultEndsItsStatementAndTheNextOneRuns)
+{
+    auto& panel = desk.get<Defauts>();
+    desk.perform([&] { panel.Show(); });
+    EXPECT_EQ(panel.log, (Log{"first", "A begins", "last"}));
+    EXPECT_EQ(world.fault, std::nullopt);
+    EXPECT_FALSE(desk.ended());
+}
+
+TEST_F(ResumeNextTest, StoresBeforeTheFaultStand)
+{
+    auto& panel = desk.get<Defauts>();
+    panel.Show();
+    EXPECT_EQ(panel.TxtA.Text, "x");
+    EXPECT_EQ(panel.TxtB.Text, "x");
+    EXPECT_EQ(panel.LstA.ListIndex, -1);
+    EXPECT_TRUE(panel.visible());
+}
+
+TEST_F(ResumeNextTest, TheSameFaultAfterFormLoadEndsTheProgram)
+{
+    auto& panel = desk.get<Defauts>();
+    panel.Show();
+    user.type(panel.TxtA, "y");
+    EXPECT_EQ(world.fault, FaultKind::TypeMismatch);
+    EXPECT_EQ(world.endings, std::vector<int>{1});
+}
+
+TEST_F(ResumeNextTest, AnEndInsideAStatementIsNotPassedOver)
+{
+    auto& panel = desk.get<Defauts>();
+    panel.endInside = true;
+    desk.perform([&] { panel.Show(); });
+    EXPECT_EQ(panel.log, (Log{"first", "A begins"}));
+    EXPECT_EQ(world.endings, std::vector<int>{0});
+}
+
+} // namespace
+} // namespace ondelis::tests

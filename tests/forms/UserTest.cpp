@@ -1,0 +1,204 @@
+#include "Support.h"
+#include "kit/Text.h"
+
+namespace ondelis::tests {
+namespace {
+
+class Saisie final : public FeuilleCalcul {
+public:
+    explicit Saisie(Desk& desk) : FeuilleCalcul{desk, {.name = "Saisie", .Caption = "", .Width = 6000, .Height = 4000}}
+    {
+    }
+
+    TextBox TxtA{this, "TxtA", {}, &Saisie::TxtA_Change, &Saisie::TxtA_KeyPress};
+    TextBox TxtCourt{this, "TxtCourt", {.MaxLength = 3}, &Saisie::TxtCourt_Change, &Saisie::TxtCourt_KeyPress};
+    TextBox TxtRes{this, "TxtRes", {.Text = "1", .Locked = true}};
+    TextBox TxtEfface{this, "TxtEfface", {}, {}, &Saisie::TxtEfface_KeyPress};
+    TextBox TxtRemis{this, "TxtRemis", {}, {}, &Saisie::TxtRemis_KeyPress};
+    Label LblA{this, "LblA", {}};
+    Shape Cadre{this, "Cadre", {}};
+    MaskEdBox MebIp{this, "MebIp", {}};
+
+    Log log;
+    bool hideAtChange = false;
+
+private:
+    void TxtA_Change()
+    {
+        log.push_back("text " + std::string{TxtA.Text});
+        if (hideAtChange)
+            TxtA.Visible = false;
+    }
+    void TxtA_KeyPress(Integer& KeyAscii) { log.push_back("key " + std::to_string(KeyAscii.value())); }
+    void TxtCourt_Change() { log.push_back("court " + std::string{TxtCourt.Text}); }
+    void TxtCourt_KeyPress(Integer& /*KeyAscii*/) { log.emplace_back("key"); }
+    /// Takes the last character away itself, and faults on an empty field.
+    void TxtEfface_KeyPress(Integer& KeyAscii)
+    {
+        if (KeyAscii == 8)
+            TxtEfface.Text = ondelis::Left(TxtEfface.Text, Len(TxtEfface.Text) - 1);
+    }
+    /// Puts the field back whatever the key is.
+    void TxtRemis_KeyPress(Integer& /*KeyAscii*/) { TxtRemis.Text = "100"; }
+};
+
+class UserTest : public DeskTest {
+protected:
+    UserTest()
+    {
+        panel.Show();
+        world.log.clear();
+    }
+    Saisie& panel = desk.get<Saisie>();
+};
+
+TEST_F(UserTest, EachKeyIsSeenBeforeItEntersTheField)
+{
+    user.type(panel.TxtA, "1,5");
+    EXPECT_EQ(panel.log, (Log{"key 49", "text 1", "key 44", "text 1,", "key 53", "text 1,5"}));
+}
+
+TEST_F(UserTest, AnEmptyTextIsNoKeyAtAll)
+{
+    EXPECT_FALSE(user.type(panel.TxtA, "").has_value());
+    EXPECT_TRUE(panel.log.empty());
+}
+
+TEST_F(UserTest, ACharacterIsOneKeyHoweverManyBytesItHas)
+{
+    user.type(panel.TxtA, "éΩ");
+    EXPECT_EQ(panel.log, (Log{"key 233", "text é", "key 937", "text éΩ"}));
+}
+
+TEST_F(UserTest, AKeyBeyondTheRangeOfIntegerReadsAsAQuestionMark)
+{
+    user.type(panel.TxtA, "\U0001F4FB");
+    EXPECT_EQ(panel.log, (Log{"key 63", "text \U0001F4FB"}));
+}
+
+TEST_F(UserTest, BackspaceTakesAWholeCharacter)
+{
+    user.type(panel.TxtA, "aé");
+    panel.log.clear();
+    user.backspace(panel.TxtA);
+    user.backspace(panel.TxtA);
+    EXPECT_EQ(panel.log, (Log{"key 8", "text a", "key 8", "text "}));
+}
+
+TEST_F(UserTest, BackspaceInAnEmptyFieldIsAKeyOnly)
+{
+    user.backspace(panel.TxtA);
+    EXPECT_EQ(panel.log, Log{"key 8"});
+}
+
+TEST_F(UserTest, BackspaceTakesNothingMoreWhereTheHandlerRewroteTheText)
+{
+    user.type(panel.TxtEfface, "12");
+    user.backspace(panel.TxtEfface);
+    EXPECT_EQ(panel.TxtEfface.Text, "1");
+    user.backspace(panel.TxtEfface);
+    EXPECT_EQ(panel.TxtEfface.Text, "");
+    user.backspace(panel.TxtEfface);
+    EXPECT_EQ(world.fault, FaultKind::InvalidArgument);
+}
+
+TEST_F(UserTest, ARewrittenTextStandsUnderBackspaceAndGoesOnUnderAKey)
+{
+    user.replace(panel.TxtRemis, "7");
+    user.backspace(panel.TxtRemis);
+    EXPECT_EQ(panel.TxtRemis.Text, "100");
+    user.type(panel.TxtRemis, "5");
+    EXPECT_EQ(panel.TxtRemis.Text, "1005");
+}
+
+TEST_F(UserTest, AtMaxLengthTheKeyIsSeenAndNothingLands)
+{
+    user.type(panel.TxtCourt, "éé12");
+    EXPECT_EQ(panel.TxtCourt.Text, "éé1");
+    EXPECT_EQ(panel.log, (Log{"key", "court é", "key", "court éé", "key", "court éé1", "key"}));
+}
+
+TEST_F(UserTest, MaxLengthCutsAPasteAndNotAStore)
+{
+    user.replace(panel.TxtCourt, "éééé");
+    EXPECT_EQ(panel.TxtCourt.Text, "ééé");
+    panel.TxtCourt.Text = "long texte";
+    EXPECT_EQ(panel.TxtCourt.Text, "long texte");
+    user.type(panel.TxtCourt, "x");
+    EXPECT_EQ(panel.TxtCourt.Text, "long texte");
+    user.backspace(panel.TxtCourt);
+    EXPECT_EQ(panel.TxtCourt.Text, "long text");
+}
+
+TEST_F(UserTest, APasteIsOneChangeAndNoKey)
+{
+    user.replace(panel.TxtA, "14.1");
+    user.replace(panel.TxtA, "14.1");
+    user.replace(panel.TxtA, "");
+    EXPECT_EQ(panel.log, (Log{"text 14.1", "text "}));
+}
+
+TEST_F(UserTest, TypingGoesOnWhereTheHandlerLeftTheField)
+{
+    panel.hideAtChange = true;
+    EXPECT_FALSE(user.type(panel.TxtA, "12").has_value());
+    EXPECT_EQ(panel.TxtA.Text, "1");
+}
+
+TEST_F(UserTest, ALockedFieldRefusesKeysAndPastesButTakesTheKeyboard)
+{
+    EXPECT_TRUE(user.type(panel.TxtRes, "2").has_value());
+    EXPECT_TRUE(user.backspace(panel.TxtRes).has_value());
+    EXPECT_TRUE(user.replace(panel.TxtRes, "2").has_value());
+    EXPECT_EQ(panel.TxtRes.Text, "1");
+    EXPECT_EQ(desk.focused(), nullptr);
+    EXPECT_FALSE(user.focus(panel.TxtRes).has_value());
+    EXPECT_EQ(desk.focused(), &panel.TxtRes);
+}
+
+TEST_F(UserTest, AHiddenFieldRefusesEverything)
+{
+    panel.TxtA.Visible = false;
+    EXPECT_TRUE(user.type(panel.TxtA, "2").has_value());
+    EXPECT_TRUE(user.backspace(panel.TxtA).has_value());
+    EXPECT_TRUE(user.replace(panel.TxtA, "2").has_value());
+    EXPECT_TRUE(user.focus(panel.TxtA).has_value());
+    EXPECT_TRUE(panel.log.empty());
+}
+
+TEST_F(UserTest, APanelOffScreenRefusesEverythingAndIsNotLoadedByIt)
+{
+    panel.Hide();
+    EXPECT_TRUE(user.type(panel.TxtA, "2").has_value());
+    desk.Unload(panel);
+    EXPECT_TRUE(user.type(panel.TxtA, "2").has_value());
+    EXPECT_TRUE(user.focus(panel.TxtA).has_value());
+    EXPECT_FALSE(panel.loaded());
+}
+
+TEST_F(UserTest, WhatIsOnlyShownTakesNoKeyboard)
+{
+    EXPECT_TRUE(user.focus(panel.LblA).has_value());
+    EXPECT_TRUE(user.focus(panel.Cadre).has_value());
+    EXPECT_FALSE(user.focus(panel.MebIp).has_value());
+}
+
+TEST_F(UserTest, AnActionGivesItsControlTheKeyboardFirst)
+{
+    user.type(panel.TxtA, "1");
+    user.type(panel.TxtA, "2");
+    EXPECT_EQ(world.log, (Log{"focus TxtA", "control TxtA", "control TxtA"}));
+}
+
+TEST_F(UserTest, TheViewIsToldWhereTheHandlerRewroteTheText)
+{
+    EXPECT_FALSE(user.key(panel.TxtA, U'é'));
+    EXPECT_EQ(panel.log, Log{"key 233"});
+    EXPECT_EQ(panel.TxtA.Text, "");
+    panel.TxtEfface.Text = "12";
+    EXPECT_TRUE(user.key(panel.TxtEfface, 8));
+    EXPECT_EQ(panel.TxtEfface.Text, "1");
+}
+
+} // namespace
+} // namespace ondelis::tests
