@@ -6,6 +6,7 @@
 #include "panels/lignes/RVListeCoaxiaux.h"
 #include "panels/resonance/CalculNombreSpires.h"
 #include "panels/resonance/CircuitsOscillants.h"
+#include "panels/resonance/FormuleDeThomson.h"
 #include "shell/Centrages.h"
 
 namespace ondelis {
@@ -59,6 +60,7 @@ void MDIOndelis::CacherFeuilles()
     desk_.Unload<CalculNombreSpires>();
     desk_.Unload<CircuitsOscillants>();
     desk_.Unload<FiltrePasseBasEnPi>();
+    desk_.Unload<FormuleDeThomson>();
     desk_.Unload<RVListeCoaxiaux>();
 }
 

@@ -5,6 +5,7 @@
 #include "panels/lignes/RVListeCoaxiaux.h"
 #include "panels/resonance/CalculNombreSpires.h"
 #include "panels/resonance/CircuitsOscillants.h"
+#include "panels/resonance/FormuleDeThomson.h"
 #include "shell/Centrages.h"
 #include "shell/MDIOndelis.h"
 
@@ -84,7 +85,9 @@ std::vector<Menu> makeTree()
             {"MenuRLCparallele", "Circuits RLC Parallèles", {}},
             {"MenuRLCserie", "Circuit RLC Série", {}},
             {"MenuWireInductance", "Epingle", {}},
-            {"MenuThomson", "Formule de Thomson", {}},
+            {"MenuThomson", "Formule de Thomson", {
+                show<FormuleDeThomson>(), top<FormuleDeThomson>(2000), left<FormuleDeThomson>(1200),
+                top<CalculNombreSpires>(5000), left<CalculNombreSpires>(7800), show<CalculNombreSpires>()}},
             {"mnuSelfNbSpires", "Nombre de spires d'une self", centred<CalculNombreSpires>()},
             {"mnuCalculSelfSurTore", "Selfs sur tores", {}},
             {"MenuStripLine", "Strip line", {}},
