@@ -27,12 +27,12 @@ public:
     Label LblF       {this, "LblF",        {.Caption = "F = ", .at = {3000, 540, 480, 255}, .align = Align::Right}};
     Label LblFHaut   {this, "LblFHaut",    {.Caption = "1", .at = {3540, 360, 1740, 255}, .align = Align::Center}};
     Line  BarreF     {this, "BarreF",      {.X1 = 3540, .Y1 = 667, .X2 = 5280, .Y2 = 667}};
-    Label LblFBas    {this, "LblFBas",     {.Caption = "2 * Pi *", .at = {3600, 735, 840, 255}, .align = Align::Right}};
-    Line  RacineF1   {this, "RacineF1",    {.X1 = 4470, .Y1 = 885, .X2 = 4515, .Y2 = 855}};
-    Line  RacineF2   {this, "RacineF2",    {.X1 = 4515, .Y1 = 855, .X2 = 4590, .Y2 = 990, .BorderWidth = 2}};
-    Line  RacineF3   {this, "RacineF3",    {.X1 = 4590, .Y1 = 990, .X2 = 4680, .Y2 = 735}};
-    Line  RacineF4   {this, "RacineF4",    {.X1 = 4680, .Y1 = 735, .X2 = 5175, .Y2 = 735}};
-    Label LblFRacine {this, "LblFRacine",  {.Caption = "L C", .at = {4695, 765, 480, 255}, .align = Align::Center}};
+    Label LblFBas    {this, "LblFBas",     {.Caption = "2 * Pi *", .at = {3540, 735, 840, 255}, .align = Align::Right}};
+    Line  RacineF1   {this, "RacineF1",    {.X1 = 4440, .Y1 = 897, .X2 = 4485, .Y2 = 867}};
+    Line  RacineF2   {this, "RacineF2",    {.X1 = 4485, .Y1 = 867, .X2 = 4560, .Y2 = 1000, .BorderWidth = 2}};
+    Line  RacineF3   {this, "RacineF3",    {.X1 = 4560, .Y1 = 1000, .X2 = 4635, .Y2 = 742}};
+    Line  RacineF4   {this, "RacineF4",    {.X1 = 4635, .Y1 = 742, .X2 = 5085, .Y2 = 742}};
+    Label LblFRacine {this, "LblFRacine",  {.Caption = "L C", .at = {4650, 757, 420, 255}, .align = Align::Center}};
 
     Label LblL       {this, "LblL",        {.Caption = "L = ", .at = {3000, 1500, 480, 255}, .align = Align::Right}};
     Label LblLHaut   {this, "LblLHaut",    {.Caption = "1", .at = {3540, 1320, 1740, 255}, .align = Align::Center}};
