@@ -7,6 +7,8 @@
 #include "panels/resonance/CalculNombreSpires.h"
 #include "panels/resonance/CircuitsOscillants.h"
 #include "panels/resonance/FormuleDeThomson.h"
+#include "panels/resonance/RLCParallele.h"
+#include "panels/resonance/RLCSerie.h"
 #include "shell/Centrages.h"
 
 namespace ondelis {
@@ -62,6 +64,8 @@ void MDIOndelis::CacherFeuilles()
     desk_.Unload<FiltrePasseBasEnPi>();
     desk_.Unload<FormuleDeThomson>();
     desk_.Unload<RVListeCoaxiaux>();
+    desk_.Unload<RLCParallele>();
+    desk_.Unload<RLCSerie>();
 }
 
 } // namespace ondelis

@@ -6,6 +6,8 @@
 #include "panels/resonance/CalculNombreSpires.h"
 #include "panels/resonance/CircuitsOscillants.h"
 #include "panels/resonance/FormuleDeThomson.h"
+#include "panels/resonance/RLCParallele.h"
+#include "panels/resonance/RLCSerie.h"
 #include "shell/Centrages.h"
 #include "shell/MDIOndelis.h"
 
@@ -82,8 +84,8 @@ std::vector<Menu> makeTree()
         {"MenuCircuitsOscillants", "Circuits oscillants et Selfs", {
             {"MenuAdaptationImpedance", "Adaptation d'impédance", {}},
             {"MenuCircuitOscillant", "Circuits oscillants", centred<CircuitsOscillants>()},
-            {"MenuRLCparallele", "Circuits RLC Parallèles", {}},
-            {"MenuRLCserie", "Circuit RLC Série", {}},
+            {"MenuRLCparallele", "Circuits RLC Parallèles", {width<RLCParallele>(8325), show<RLCParallele>(), centre<RLCParallele>()}},
+            {"MenuRLCserie", "Circuit RLC Série", {show<RLCSerie>(), width<RLCSerie>(9315), centre<RLCSerie>()}},
             {"MenuWireInductance", "Epingle", {}},
             {"MenuThomson", "Formule de Thomson", {
                 show<FormuleDeThomson>(), top<FormuleDeThomson>(2000), left<FormuleDeThomson>(1200),
