@@ -166,6 +166,7 @@ public:
         bool Value = false;
         Color ForeColor = windowTextColor;
         bool Visible = true;
+        Label* label = nullptr; ///< the caption that names it, where it has none of its own
         Frame* container = nullptr;
     };
     OptionButton(FeuilleCalcul* panel, std::string name, Design design, Handler click = {});

@@ -49,7 +49,7 @@ void WidgetMaker::visit(ListBox& list)
 
 void WidgetMaker::visit(OptionButton& option)
 {
-    take(*new OptionButtonWidget{window_, option, parentOf(option)}, option);
+    take(*new OptionButtonWidget{window_, option, parentOf(option)}, option, option.design().label);
 }
 
 void WidgetMaker::visit(CommandButton& button)

@@ -13,13 +13,13 @@ public:
     explicit FormuleDeThomson(Desk& desk);
 
     // clang-format off
-    OptionButton OptF    {this, "OptF",     {.at = {240, 517, 300, 300}}, &FormuleDeThomson::OptF_Click};
+    OptionButton OptF    {this, "OptF",     {.at = {240, 517, 300, 300}, .label = &LblFrequ}, &FormuleDeThomson::OptF_Click};
     Label        LblFrequ{this, "LblFrequ", {.Caption = "Fréquence en MHz", .at = {600, 240, 2160, 255}}};
     TextBox      TxtFreq {this, "TxtFreq",  {.at = {600, 510, 2160, 315}, .label = &LblFrequ}, &FormuleDeThomson::TxtFreq_Change};
-    OptionButton OptL    {this, "OptL",     {.at = {240, 1477, 300, 300}}, &FormuleDeThomson::OptL_Click};
+    OptionButton OptL    {this, "OptL",     {.at = {240, 1477, 300, 300}, .label = &Label12}, &FormuleDeThomson::OptL_Click};
     Label        Label12 {this, "Label12",  {.Caption = "Inductance en µH", .at = {600, 1200, 2160, 255}}};
     TextBox      TxtSelf {this, "TxtSelf",  {.at = {600, 1470, 2160, 315}, .label = &Label12}, &FormuleDeThomson::TxtSelf_Change};
-    OptionButton OptC    {this, "OptC",     {.at = {240, 2437, 300, 300}}, &FormuleDeThomson::OptC_Click};
+    OptionButton OptC    {this, "OptC",     {.at = {240, 2437, 300, 300}, .label = &LblCapa}, &FormuleDeThomson::OptC_Click};
     Label        LblCapa {this, "LblCapa",  {.Caption = "Capacitance en pF", .at = {600, 2160, 2160, 255}}};
     TextBox      TxtCapa {this, "TxtCapa",  {.at = {600, 2430, 2160, 315}, .label = &LblCapa}, &FormuleDeThomson::TxtCapa_Change};
 
