@@ -29,6 +29,11 @@ void require(bool sound)
         throw Fault{FaultKind::InvalidArgument};
 }
 
+// The letters of two bytes, and in the same place their capitals, of two bytes as well.
+constexpr std::string_view smallLetters = "àáâãäåæçèéêëìíîïðñòóôõöøùúûüýþÿœšž";
+constexpr std::string_view capitalLetters = "ÀÁÂÃÄÅÆÇÈÉÊËÌÍÎÏÐÑÒÓÔÕÖØÙÚÛÜÝÞŸŒŠŽ";
+static_assert(smallLetters.size() == capitalLetters.size());
+
 } // namespace
 
 int Len(std::string_view text)
@@ -52,6 +57,22 @@ std::string Mid(std::string_view text, int start, int count)
 {
     require(start >= 1 && count >= 0);
     return Left(text.substr(startOf(text, start - 1)), count);
+}
+
+std::string UCase(std::string_view text)
+{
+    std::string capitals;
+    for (std::size_t at = 0; at < text.size();) {
+        const std::string_view character = text.substr(at, startOf(text.substr(at), 1));
+        at += character.size();
+        if (character >= "a" && character <= "z")
+            capitals += static_cast<char>(character[0] - 'a' + 'A');
+        else if (const std::size_t found = smallLetters.find(character); found != std::string_view::npos)
+            capitals += capitalLetters.substr(found, character.size());
+        else
+            capitals += character;
+    }
+    return capitals;
 }
 
 } // namespace ondelis

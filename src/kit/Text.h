@@ -20,4 +20,7 @@ namespace ondelis {
 /// invalid argument for a start below 1 or a negative count.
 [[nodiscard]] std::string Mid(std::string_view text, int start, int count);
 
+/// The text in capitals, as far as it is written in the letters of Western Europe.
+[[nodiscard]] std::string UCase(std::string_view text);
+
 } // namespace ondelis

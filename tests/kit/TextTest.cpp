@@ -50,6 +50,15 @@ TEST(Text, midGivesCharactersFromAPlaceCountedFromOne)
     EXPECT_EQ(Mid(accented, 4, 2), "€\u202f");
 }
 
+TEST(Text, capitals)
+{
+    EXPECT_EQ(UCase(""), "");
+    EXPECT_EQ(UCase("r47 / 4R7 az`{@[AZ"), "R47 / 4R7 AZ`{@[AZ");
+    EXPECT_EQ(UCase("éàçùœÿšž÷×ß"), "ÉÀÇÙŒŸŠŽ÷×ß");
+    EXPECT_EQ(UCase("þý ÉÞ"), "ÞÝ ÉÞ");
+    EXPECT_EQ(UCase(accented), "ÉµΩ€\u202f𝄞Z");
+}
+
 TEST(Text, aNegativeCountOrAStartBelowOneIsAnInvalidArgument)
 {
     EXPECT_EQ(faultOf([] { return Left("abc", -1); }), FaultKind::InvalidArgument);
