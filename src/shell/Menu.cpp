@@ -1,6 +1,7 @@
 #include "shell/Menu.h"
 
 #include "panels/antennes/AntennesLPDA1.h"
+#include "panels/condensateurs/CondensateurFixe.h"
 #include "panels/filtres/FiltrePasseBasEnPi.h"
 #include "panels/lignes/RVListeCoaxiaux.h"
 #include "panels/resonance/CalculNombreSpires.h"
@@ -97,7 +98,7 @@ std::vector<Menu> makeTree()
         }},
         {"MenuAccèsAuxApplications", "Condensateurs", {
             {"MenuCondensateursCMS", "Condensateurs CMS", {}},
-            {"MenuCondensateurFixe", "Condensateurs Fixes", {}},
+            {"MenuCondensateurFixe", "Condensateurs Fixes", centred<CondensateurFixe>()},
             {"MenuCondensateurVariable", "Condensateurs Variables", {}},
             {"menuEnergieEmmagasinée", "Energie emmagasinée", {}},
         }},

@@ -1,0 +1,72 @@
+#pragma once
+
+#include "forms/Controls.h"
+#include "forms/FeuilleCalcul.h"
+#include "kit/Table.h"
+
+namespace ondelis {
+
+/// Capacitance of a plane capacitor, and a table of twelve dielectrics.
+class CondensateurFixe final : public FeuilleCalcul {
+public:
+    explicit CondensateurFixe(Desk& desk);
+
+    // clang-format off
+    Shape   Cadre1         {this, "Cadre1", {.at = {240, 180, 9450, 3600}}};
+    Label   Lbl_Isolant    {this, "Lbl_Isolant",     {.Caption = "Diélectrique", .at = {420, 300, 1800, 255}}};
+    ListBox LstDielectrique{this, "LstDielectrique", {.Items = {"Air", "Céramique I", "Céramique II", "Electrolytique", "Mica", "Mylar",
+                                                                "Papier", "Polycarbonate", "Polystyrène", "Tantale", "Téflon", "Verre"},
+                                                      .at = {420, 600, 1800, 3000}, .clickOnChosenRow = true, .label = &Lbl_Isolant}, &CondensateurFixe::LstDielectrique_Click};
+    Label   LblCsteDiel    {this, "LblCsteDiel",     {.Caption = "Constante diélectrique", .at = {2460, 300, 2760, 255}}};
+    Label   Label3         {this, "Label3",          {.Caption = "Valeur de calcul", .at = {2460, 630, 2220, 255}}};
+    TextBox TxtCstDiel     {this, "TxtCstDiel",      {.at = {4740, 600, 1560, 315}, .label = &Label3}, &CondensateurFixe::TxtCstDiel_Change};
+    Label   Label1         {this, "Label1",          {.Caption = "Valeur Min", .at = {2460, 990, 2220, 255}}};
+    TextBox TxtCstDielMin  {this, "TxtCstDielMin",   resultField({4740, 960, 1560, 315}, &Label1)};
+    Label   LblCstDielMax  {this, "LblCstDielMax",   {.Caption = "Valeur Max", .at = {2460, 1350, 2220, 255}}};
+    TextBox TxtCstDielMax  {this, "TxtCstDielMax",   resultField({4740, 1320, 1560, 315}, &LblCstDielMax)};
+    Label   LblDomFreq     {this, "LblDomFreq",      {.Caption = "Domaine de Fréquence", .at = {2460, 2220, 2220, 255}}};
+    TextBox TxtDomFreq     {this, "TxtDomFreq",      resultField({4740, 2190, 1560, 315}, &LblDomFreq)};
+    Label   LblPhi         {this, "LblPhi",          {.Caption = "Angle de pertes", .at = {2460, 2580, 2220, 255}}};
+    TextBox TxtPhi         {this, "TxtPhi",          resultField({4740, 2550, 1560, 315}, &LblPhi)};
+    Label   LblUtilisation {this, "LblUtilisation",  {.Caption = "Utilisation", .at = {2460, 2940, 2220, 255}}};
+    TextBox TxtUtil        {this, "TxtUtil",         {.at = {4740, 2910, 4770, 690}, .BackColor = 0xFFFFC0, .Locked = true, .multiLine = true, .label = &LblUtilisation}};
+    Image   Icone          {this, "Icone",           {.picture = "condensateur-plan", .at = {6240, 420, 3450, 2100}}};
+
+    Shape   Cadre2         {this, "Cadre2", {.at = {240, 3900, 5460, 1860}}};
+    Label   LblSurface     {this, "LblSurface",      {.Caption = "Surface", .at = {420, 4260, 1320, 255}}};
+    TextBox TxtSurface     {this, "TxtSurface",      {.at = {420, 4560, 1320, 315}, .label = &LblSurface}, &CondensateurFixe::TxtSurface_Change};
+    Label   LblUnitésS     {this, "LblUnitésS",      {.Caption = "Unité", .at = {1860, 4260, 900, 255}}};
+    ListBox LstUnités      {this, "LstUnités",       {.Items = {"m²", "dm²", "cm²", "mm²"}, .at = {1860, 4560, 900, 1020}, .label = &LblUnitésS}, &CondensateurFixe::LstUnités_Click};
+    Label   LblEspace      {this, "LblEspace",       {.Caption = "Epaisseur diélectrique", .at = {3180, 4005, 1320, 510}}};
+    TextBox TxtEpaisseur   {this, "TxtEpaisseur",    {.at = {3180, 4560, 1320, 315}, .label = &LblEspace}, &CondensateurFixe::TxtEpaisseur_Change};
+    Label   LblUnitéE      {this, "LblUnitéE",       {.Caption = "Unité", .at = {4620, 4260, 900, 255}}};
+    ListBox LstUniteE      {this, "LstUniteE",       {.Items = {"m", "dm", "cm", "mm"}, .at = {4620, 4560, 900, 1020}, .label = &LblUnitéE}, &CondensateurFixe::LstUniteE_Click};
+
+    Shape   Cadre3         {this, "Cadre3", {.at = {5820, 3900, 3870, 1860}}};
+    Label   Lbl_Capacité   {this, "Lbl_Capacité",    {.Caption = "Capacité", .at = {6000, 4260, 3510, 255}}};
+    TextBox TxtCapacite    {this, "TxtCapacite",     {.at = {6000, 4560, 3510, 480}, .BackColor = 0xFFFFC0, .ForeColor = 0xFF80FF, .Locked = true,
+                                                      .font = {.size = 14}, .label = &Lbl_Capacité}};
+    // clang-format on
+
+private:
+    void Form_Load() override;
+    void LstDielectrique_Click();
+    void TxtCstDiel_Change();
+    void TxtEpaisseur_Change();
+    void TxtSurface_Change();
+    void LstUniteE_Click();
+    void LstUnités_Click();
+    void Calculer();
+
+    static constexpr int dernierDiviseur = 4;
+
+    Double Epsilon; ///< relative permittivity in use
+    Double Epaisseur; ///< as typed
+    Double Surface; ///< as typed
+    Double DiviseurSurface; ///< units of the surface in 1 m²
+    Double DiviseurEpaisseur; ///< units of the thickness in 1 m
+    Table<Double, dernierDiviseur> DiviseursSurface; ///< by the row of LstUnités
+    Table<Double, dernierDiviseur> DiviseursEpaisseur; ///< by the row of LstUniteE
+};
+
+} // namespace ondelis
