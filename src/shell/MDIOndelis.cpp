@@ -2,6 +2,7 @@
 
 #include "forms/ResumeNext.h"
 #include "panels/antennes/AntennesLPDA1.h"
+#include "panels/condensateurs/Cms.h"
 #include "panels/condensateurs/CondensateurFixe.h"
 #include "panels/filtres/FiltrePasseBasEnPi.h"
 #include "panels/lignes/RVListeCoaxiaux.h"
@@ -62,6 +63,7 @@ void MDIOndelis::CacherFeuilles()
     desk_.Unload<AntennesLPDA1>();
     desk_.Unload<CalculNombreSpires>();
     desk_.Unload<CircuitsOscillants>();
+    desk_.Unload<Cms>();
     desk_.Unload<CondensateurFixe>();
     desk_.Unload<FiltrePasseBasEnPi>();
     desk_.Unload<FormuleDeThomson>();

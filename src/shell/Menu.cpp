@@ -1,6 +1,7 @@
 #include "shell/Menu.h"
 
 #include "panels/antennes/AntennesLPDA1.h"
+#include "panels/condensateurs/Cms.h"
 #include "panels/condensateurs/CondensateurFixe.h"
 #include "panels/filtres/FiltrePasseBasEnPi.h"
 #include "panels/lignes/RVListeCoaxiaux.h"
@@ -97,7 +98,7 @@ std::vector<Menu> makeTree()
             {"mnuCalculsSurSelf", "Valeur d'une self", {}},
         }},
         {"MenuAccèsAuxApplications", "Condensateurs", {
-            {"MenuCondensateursCMS", "Condensateurs CMS", {}},
+            {"MenuCondensateursCMS", "Condensateurs CMS", centred<Cms>()},
             {"MenuCondensateurFixe", "Condensateurs Fixes", centred<CondensateurFixe>()},
             {"MenuCondensateurVariable", "Condensateurs Variables", {}},
             {"menuEnergieEmmagasinée", "Energie emmagasinée", {}},
