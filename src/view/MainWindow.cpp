@@ -65,17 +65,37 @@ void MainWindow::makeShortcuts()
         [this] { menuBar()->setActiveAction(menuBar()->actions().front()); });
 }
 
+QRect MainWindow::toldPlace() const
+{
+    return Scale{*this}.pixels({.Left = Double{frame_.Left}.value(),
+        .Top = Double{frame_.Top}.value(),
+        .Width = Double{frame_.Width}.value(),
+        .Height = Double{frame_.Height}.value()});
+}
+
+QSize MainWindow::border() const
+{
+    return frameGeometry().size() - geometry().size();
+}
+
 void MainWindow::takePlace()
 {
-    const Scale scale{*this};
-    const QSize border = frameGeometry().size() - geometry().size();
-    resize(QSize{scale.pixels(Double{frame_.Width}.value()), scale.pixels(Double{frame_.Height}.value())} - border);
-    move(scale.pixels(Double{frame_.Left}.value()), scale.pixels(Double{frame_.Top}.value()));
+    const QRect outer = toldPlace();
+    resize(outer.size() - border());
+    move(outer.topLeft());
 }
 
 void MainWindow::tellPlace()
 {
     if (!isVisible() || isMinimized())
+        return;
+    // A window manager puts its border around a window that is on screen already: the outer size must stay.
+    if (!bordered_ && !border().isNull()) {
+        bordered_ = true;
+        takePlace();
+        return;
+    }
+    if (frameGeometry() == toldPlace())
         return;
     const Scale scale{*this};
     frame_.placed({scale.twips(frameGeometry().x()), scale.twips(frameGeometry().y())},

@@ -26,7 +26,10 @@ protected:
 private:
     void makeMenu();
     void makeShortcuts();
-    /// Gives the window its place and its outer size.
+    /// Where the frame says that the window is, its border included; pixels.
+    [[nodiscard]] QRect toldPlace() const;
+    /// What a window manager adds to the window.
+    [[nodiscard]] QSize border() const;
     void takePlace();
     /// Tells the frame where the user has put the window.
     void tellPlace();
@@ -34,6 +37,7 @@ private:
     View& view_;
     MDIOndelis& frame_;
     ClientArea* area_;
+    bool bordered_ = false;
 };
 
 } // namespace ondelis

@@ -6,7 +6,6 @@
 // FOLDER/Ondelis-96.png and -192.png, the main window with the first of them.
 
 #include <QAbstractButton>
-#include <QApplication>
 #include <QDir>
 #include <QMessageBox>
 #include <QProcess>
@@ -17,8 +16,8 @@
 #include "forms/Desk.h"
 #include "shell/MDIOndelis.h"
 #include "shell/Menu.h"
+#include "view/Application.h"
 #include "view/ControlWidget.h"
-#include "view/French.h"
 #include "view/MainWindow.h"
 #include "view/PanelWindow.h"
 #include "view/View.h"
@@ -131,9 +130,7 @@ int main(int argc, char** argv)
         const int large = drawAt(QStringLiteral("192"), arguments);
         return small != 0 ? small : large;
     }
-    QApplication::setStyle(QStringLiteral("fusion"));
-    QApplication application{argc, argv};
-    speakFrench(application);
+    const Application application{argc, argv};
     const QDir folder{QApplication::arguments().at(1)};
     if (!folder.mkpath(QStringLiteral("."))) {
         QTextStream{stderr} << "galerie: cannot make " << folder.path() << '\n';

@@ -1,0 +1,26 @@
+#include "view/Application.h"
+
+#include <QLibraryInfo>
+#include <QTranslator>
+#include <clocale>
+
+namespace ondelis {
+
+Application::Application(int& argc, char** argv) : QApplication{argc, argv}
+{
+    // Qt has given the C library the user's locale; numbers are written by the kit, which asks its own region.
+    std::setlocale(LC_NUMERIC, "C");
+    setApplicationName(QStringLiteral("Ondelis"));
+    setDesktopFileName(QStringLiteral("ondelis"));
+    setQuitOnLastWindowClosed(false); // the desk says when the program is over
+    speakFrench();
+}
+
+void Application::speakFrench()
+{
+    auto* const words = new QTranslator{this};
+    if (words->load(QStringLiteral("qtbase_fr"), QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
+        installTranslator(words);
+}
+
+} // namespace ondelis
