@@ -1,5 +1,6 @@
 #include "view/Colors.h"
 
+#include <QApplication>
 #include <QPalette>
 #include <QtMath>
 #include <algorithm>
@@ -63,7 +64,7 @@ void Colors::applyToField(QWidget& widget, Color background, Color text)
     const bool ownText = !isSystemColor(text);
     if (ownBackground)
         palette.setColor(QPalette::Base, toQColor(background));
-    const QColor base = ownBackground ? toQColor(background) : widget.parentWidget()->palette().color(QPalette::Base);
+    const QColor base = ownBackground ? toQColor(background) : QApplication::palette().color(QPalette::Base);
     if (ownText)
         palette.setColor(QPalette::Text, ownBackground ? toQColor(text) : readable(toQColor(text), base));
     else if (ownBackground)
@@ -78,7 +79,7 @@ void Colors::applyToText(QWidget& widget, Color text)
     QPalette palette;
     if (!isSystemColor(text))
         palette.setColor(
-            QPalette::WindowText, readable(toQColor(text), widget.parentWidget()->palette().color(QPalette::Window)));
+            QPalette::WindowText, readable(toQColor(text), QApplication::palette().color(QPalette::Window)));
     widget.setPalette(palette);
 }
 

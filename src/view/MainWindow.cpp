@@ -33,6 +33,12 @@ void MainWindow::closeEvent(QCloseEvent* event)
     view_.close();
 }
 
+void MainWindow::showEvent(QShowEvent* event)
+{
+    QMainWindow::showEvent(event);
+    tellPlace();
+}
+
 void MainWindow::moveEvent(QMoveEvent* event)
 {
     QMainWindow::moveEvent(event);

@@ -1,0 +1,180 @@
+#include <QListWidget>
+#include <QPushButton>
+#include <QRadioButton>
+
+#include "Program.h"
+#include "TestPanel.h"
+
+namespace ondelis {
+
+/// Lists, options, buttons.
+class ChoicesTest final : public QObject {
+    Q_OBJECT
+
+    static void click(QListWidget& list, int row)
+    {
+        QTest::mouseClick(
+            list.viewport(), Qt::LeftButton, Qt::NoModifier, list.visualItemRect(list.item(row)).center());
+    }
+
+private slots:
+    void aClickChoosesARow()
+    {
+        Program program;
+        auto& panel = program.open<TestPanel>();
+        auto& list = program.widget<QListWidget>(panel.LstU);
+        QCOMPARE(list.currentRow(), -1);
+        program.widget(panel.TxtA).setFocus();
+        panel.events.clear();
+        click(list, 1);
+        QCOMPARE(panel.events, (std::vector<std::string>{"LstU_GotFocus", "LstU_Click"}));
+        QCOMPARE(panel.LstU.ListIndex.get().value(), 1);
+    }
+
+    void theChosenRowAgainRaisesNothing()
+    {
+        Program program;
+        auto& panel = program.open<TestPanel>();
+        auto& list = program.widget<QListWidget>(panel.LstU);
+        click(list, 1);
+        panel.events.clear();
+        click(list, 1);
+        QVERIFY(panel.events.empty());
+    }
+
+    void someListsListenToAClickOnTheChosenRow()
+    {
+        Program program;
+        auto& panel = program.open<TestPanel>();
+        auto& list = program.widget<QListWidget>(panel.LstR);
+        click(list, 1);
+        click(list, 1);
+        QCOMPARE(panel.events, (std::vector<std::string>{"LstR_Click", "LstR_Click"}));
+        QTest::keyClick(&list, Qt::Key_Down); // the last row already
+        QCOMPARE(panel.events.size(), std::size_t{2});
+    }
+
+    void keysWalkThroughTheRows()
+    {
+        Program program;
+        auto& panel = program.open<TestPanel>();
+        auto& list = program.widget<QListWidget>(panel.LstU);
+        list.setFocus();
+        QCOMPARE(panel.LstU.ListIndex.get().value(), -1);
+        QTest::keyClick(&list, Qt::Key_Down);
+        QTest::keyClick(&list, Qt::Key_End);
+        QTest::keyClick(&list, Qt::Key_Up);
+        QTest::keyClicks(&list, QStringLiteral("p"));
+        QCOMPARE(panel.LstU.ListIndex.get().value(), 0);
+        QCOMPARE(panel.events.size(), std::size_t{5}); // the focus and four rows
+    }
+
+    void aHandlerMayChooseAnotherRow()
+    {
+        Program program;
+        auto& panel = program.open<TestPanel>();
+        auto& list = program.widget<QListWidget>(panel.LstU);
+        panel.onRow = [&] { panel.LstU.ListIndex = 0; };
+        click(list, 2);
+        QCOMPARE(panel.LstU.ListIndex.get().value(), 0);
+        QCOMPARE(list.currentRow(), 0);
+        QVERIFY(list.item(0)->isSelected());
+        QVERIFY(!list.item(2)->isSelected());
+    }
+
+    void aHandlerMayFillTheListAnew()
+    {
+        Program program;
+        auto& panel = program.open<TestPanel>();
+        auto& list = program.widget<QListWidget>(panel.LstU);
+        panel.onRow = [&] {
+            panel.LstU.Clear();
+            panel.LstU.AddItem("seul");
+        };
+        click(list, 2);
+        QCOMPARE(list.count(), 1);
+        QCOMPARE(list.item(0)->text(), QStringLiteral("seul"));
+        QCOMPARE(list.currentRow(), -1);
+        QVERIFY(list.selectedItems().isEmpty());
+    }
+
+    void theRowCannotBeTakenBack()
+    {
+        Program program;
+        auto& panel = program.open<TestPanel>();
+        auto& list = program.widget<QListWidget>(panel.LstU);
+        click(list, 1);
+        QTest::mouseClick(
+            list.viewport(), Qt::LeftButton, Qt::ControlModifier, list.visualItemRect(list.item(1)).center());
+        QVERIFY(list.item(1)->isSelected());
+        QCOMPARE(panel.LstU.ListIndex.get().value(), 1);
+    }
+
+    void optionsExcludeOneAnother()
+    {
+        Program program;
+        auto& panel = program.open<TestPanel>();
+        auto& x = program.widget<QRadioButton>(panel.OptX);
+        auto& y = program.widget<QRadioButton>(panel.OptY);
+        QVERIFY(!x.isChecked() && !y.isChecked());
+        const QPoint text{12, x.height() / 2};
+        QTest::mouseClick(&x, Qt::LeftButton, Qt::NoModifier, text);
+        QTest::mouseClick(&y, Qt::LeftButton, Qt::NoModifier, text);
+        QTest::mouseClick(&y, Qt::LeftButton, Qt::NoModifier, text);
+        QVERIFY(!x.isChecked() && y.isChecked());
+        QCOMPARE(panel.events, (std::vector<std::string>{"OptX_Click", "OptY_Click"}));
+        program.store([&] { panel.OptY.Value = false; });
+        QVERIFY(!x.isChecked() && !y.isChecked());
+    }
+
+    void arrowsWalkThroughTheOptions()
+    {
+        Program program;
+        auto& panel = program.open<TestPanel>();
+        auto& x = program.widget<QRadioButton>(panel.OptX);
+        QTest::mouseClick(&x, Qt::LeftButton, Qt::NoModifier, {12, x.height() / 2});
+        QTest::keyClick(&x, Qt::Key_Right);
+        QVERIFY(panel.OptY.Value);
+        QVERIFY(!panel.OptX.Value);
+        QCOMPARE(panel.events, (std::vector<std::string>{"OptX_Click", "OptY_Click"}));
+    }
+
+    void captionsKeepTheirAmpersands()
+    {
+        Program program;
+        auto& panel = program.open<TestPanel>();
+        QCOMPARE(program.widget<QRadioButton>(panel.OptX).text(), QStringLiteral("Self && capa"));
+        QVERIFY(program.widget<QRadioButton>(panel.OptX).shortcut().isEmpty());
+    }
+
+    void aButtonIsPressedByMouseAndByKey()
+    {
+        Program program;
+        auto& panel = program.open<TestPanel>();
+        auto& button = program.widget<QPushButton>(panel.BtnGo);
+        QTest::mouseClick(&button, Qt::LeftButton);
+        QTest::keyClick(&button, Qt::Key_Space);
+        QTest::keyClick(&button, Qt::Key_Return);
+        QCOMPARE(panel.events, (std::vector<std::string>(3, "BtnGo_Click")));
+        QCOMPARE(program.desk.focused(), &panel.BtnGo);
+    }
+
+    void codeMovesTheKeyboard()
+    {
+        Program program;
+        auto& panel = program.open<TestPanel>();
+        panel.onGo = [&] { panel.TxtC.SetFocus(); };
+        QTest::mouseClick(&program.widget(panel.BtnGo), Qt::LeftButton);
+        QVERIFY(program.widget(panel.TxtC).hasFocus());
+        QCOMPARE(program.desk.focused(), &panel.TxtC);
+    }
+};
+
+} // namespace ondelis
+
+int main(int argc, char** argv)
+{
+    return ondelis::runTests<ondelis::ChoicesTest>(argc, argv);
+}
+
+#include "ChoicesTest.moc"
