@@ -25,6 +25,13 @@ struct Box {
     return 240 + 360 * row;
 }
 
+/// The place of a letter on a drawing: its centre as fractions of the drawing's width and height.
+[[nodiscard]] constexpr Box lettre(const Box& drawing, double x, double y, double width = 360)
+{
+    constexpr double height = 255;
+    return {drawing.Left + x * drawing.Width - width / 2, drawing.Top + y * drawing.Height - height / 2, width, height};
+}
+
 /// How a text stands in its control.
 enum class Align { Left, Right, Center };
 

@@ -4,7 +4,12 @@
 #include "panels/antennes/AntennesLPDA1.h"
 #include "panels/condensateurs/Cms.h"
 #include "panels/condensateurs/CondensateurFixe.h"
+#include "panels/filtres/FiltreEliminationBande.h"
+#include "panels/filtres/FiltreEnDoublePi.h"
+#include "panels/filtres/FiltrePasseBande.h"
+#include "panels/filtres/FiltrePasseBas.h"
 #include "panels/filtres/FiltrePasseBasEnPi.h"
+#include "panels/filtres/FiltrePasseHaut.h"
 #include "panels/lignes/RVListeCoaxiaux.h"
 #include "panels/resonance/CalculNombreSpires.h"
 #include "panels/resonance/CircuitsOscillants.h"
@@ -65,7 +70,12 @@ void MDIOndelis::CacherFeuilles()
     desk_.Unload<CircuitsOscillants>();
     desk_.Unload<Cms>();
     desk_.Unload<CondensateurFixe>();
+    desk_.Unload<FiltreEliminationBande>();
+    desk_.Unload<FiltreEnDoublePi>();
+    desk_.Unload<FiltrePasseHaut>();
+    desk_.Unload<FiltrePasseBas>();
     desk_.Unload<FiltrePasseBasEnPi>();
+    desk_.Unload<FiltrePasseBande>();
     desk_.Unload<FormuleDeThomson>();
     desk_.Unload<RVListeCoaxiaux>();
     desk_.Unload<RLCParallele>();

@@ -3,7 +3,12 @@
 #include "panels/antennes/AntennesLPDA1.h"
 #include "panels/condensateurs/Cms.h"
 #include "panels/condensateurs/CondensateurFixe.h"
+#include "panels/filtres/FiltreEliminationBande.h"
+#include "panels/filtres/FiltreEnDoublePi.h"
+#include "panels/filtres/FiltrePasseBande.h"
+#include "panels/filtres/FiltrePasseBas.h"
 #include "panels/filtres/FiltrePasseBasEnPi.h"
+#include "panels/filtres/FiltrePasseHaut.h"
 #include "panels/lignes/RVListeCoaxiaux.h"
 #include "panels/resonance/CalculNombreSpires.h"
 #include "panels/resonance/CircuitsOscillants.h"
@@ -112,14 +117,24 @@ std::vector<Menu> makeTree()
             {"MenuDécibels", "Décibels", {}},
         }},
         {"MenuFiltres", "Filtres", {
-            {"menuFiltreEliminationDeBande", "Filtre à élimination de bande", {}},
+            {"menuFiltreEliminationDeBande", "Filtre à élimination de bande", {
+                show<FiltreEliminationBande>(), top<FiltreEliminationBande>(2000), left<FiltreEliminationBande>(2000),
+                show<CalculNombreSpires>(), top<CalculNombreSpires>(5000), left<CalculNombreSpires>(8000)}},
             {"MenuFiltrePasseBasEnPi", "Filtre en Pi f(Ze, Zs, Q)", {show<FiltrePasseBasEnPi>(), top<FiltrePasseBasEnPi>(2000),
                 left<FiltrePasseBasEnPi>(800), height<FiltrePasseBasEnPi>(7200), width<FiltrePasseBasEnPi>(7500),
                 top<CalculNombreSpires>(3500), left<CalculNombreSpires>(8600), show<CalculNombreSpires>()}},
-            {"MenuFiltreEnDoublePi", "Filtre en double Pi", {}},
-            {"menuFiltrePasseBande", "Filtre passe-bande", {}},
-            {"menuFiltrePasseBas", "Filtre Passe-bas", {}},
-            {"MenuPasseHaut", "Filtre passe haut", {}},
+            {"MenuFiltreEnDoublePi", "Filtre en double Pi", {
+                top<FiltreEnDoublePi>(1500), left<FiltreEnDoublePi>(3000), show<FiltreEnDoublePi>(),
+                top<CalculNombreSpires>(6000), left<CalculNombreSpires>(8300), show<CalculNombreSpires>()}},
+            {"menuFiltrePasseBande", "Filtre passe-bande", {
+                show<FiltrePasseBande>(), top<FiltrePasseBande>(3000), left<FiltrePasseBande>(2000),
+                left<CalculNombreSpires>(8200), top<CalculNombreSpires>(6000), show<CalculNombreSpires>()}},
+            {"menuFiltrePasseBas", "Filtre Passe-bas", {
+                show<FiltrePasseBas>(), top<FiltrePasseBas>(2000), left<FiltrePasseBas>(3000),
+                top<CalculNombreSpires>(7000), left<CalculNombreSpires>(8000), show<CalculNombreSpires>()}},
+            {"MenuPasseHaut", "Filtre passe haut", {
+                show<FiltrePasseHaut>(), top<FiltrePasseHaut>(2000), left<FiltrePasseHaut>(1500),
+                left<CalculNombreSpires>(8500), top<CalculNombreSpires>(5000)}}, // the companion appears by being loaded
         }},
         {"MenuLignes", "Lignes", {
             {"mnuCoaxiauxSectionCarree", "Coaxiaux Section Carrée", {}},

@@ -1,0 +1,52 @@
+#include "panels/filtres/FiltreEliminationBande.h"
+
+#include "kit/Maths.h"
+
+namespace ondelis {
+
+FiltreEliminationBande::FiltreEliminationBande(Desk& desk)
+    : SectionBande{desk, "FiltreEliminationBande", "Filtre à élimination de bande",
+        {.picture = "elimination-bande",
+            .captionF1 = "Fréquence de début en Hz",
+            .captionF2 = "Fréquence de fin en Hz",
+            .letterL1 = lettre(drawing, 0.632, 0.447),
+            .letterC1 = lettre(drawing, 0.649, 0.726),
+            .letterL2 = lettre(drawing, 0.333, 0.129),
+            .letterC2 = lettre(drawing, 0.333, 0.508),
+            .letterZ = lettre(drawing, 0.934, 0.584)}}
+{
+}
+
+void FiltreEliminationBande::Form_Load()
+{
+    resumeNext([&] { TxtZCharge.Text = "2500"; });
+    resumeNext([&] { TxtFreq1.Text = "5000"; });
+    resumeNext([&] { TxtFreq2.Text = "20000"; });
+}
+
+bool FiltreEliminationBande::Calculable() const
+{
+    return F1 != 0 && F2 != 0 && Z != 0 && F1 < F2;
+}
+
+Double FiltreEliminationBande::Self1(Double d) const
+{
+    return Z / (d * (Pi() * 4));
+}
+
+Double FiltreEliminationBande::Self2(Double d) const
+{
+    return (d * Z) / (Pi() * F2 * F1);
+}
+
+Double FiltreEliminationBande::Capa1(Double d) const
+{
+    return d / (Pi() * Z * F2 * F1);
+}
+
+Double FiltreEliminationBande::Capa2(Double d) const
+{
+    return 1 / (Pi() * 4 * Z * d);
+}
+
+} // namespace ondelis

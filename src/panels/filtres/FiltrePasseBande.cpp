@@ -1,0 +1,52 @@
+#include "panels/filtres/FiltrePasseBande.h"
+
+#include "kit/Maths.h"
+
+namespace ondelis {
+
+FiltrePasseBande::FiltrePasseBande(Desk& desk)
+    : SectionBande{desk, "FiltrePasseBande", "Filtre passe-bande",
+        {.picture = "passe-bande",
+            .captionF1 = "Fréquence d'ouverture en Hz",
+            .captionF2 = "Fréquence de coupure en Hz",
+            .letterL1 = lettre(drawing, 0.512, 0.542),
+            .letterC1 = lettre(drawing, 0.735, 0.542),
+            .letterL2 = lettre(drawing, 0.200, 0.182),
+            .letterC2 = lettre(drawing, 0.407, 0.155),
+            .letterZ = lettre(drawing, 0.934, 0.542)}}
+{
+}
+
+void FiltrePasseBande::Form_Load()
+{
+    resumeNext([&] { TxtZCharge.Text = "2500"; });
+    resumeNext([&] { TxtFreq1.Text = "1000"; });
+    resumeNext([&] { TxtFreq2.Text = "5000"; });
+}
+
+bool FiltrePasseBande::Calculable() const
+{
+    return F1 != 0 && F2 != 0 && Z != 0;
+}
+
+Double FiltrePasseBande::Self1(Double d) const
+{
+    return (d * Z) / (Pi() * 4 * F2 * F1);
+}
+
+Double FiltrePasseBande::Self2(Double d) const
+{
+    return Z / (d * Pi());
+}
+
+Double FiltrePasseBande::Capa1(Double d) const
+{
+    return 1 / (d * (Pi() * Z));
+}
+
+Double FiltrePasseBande::Capa2(Double d) const
+{
+    return d / (Pi() * 4 * Z * d); // the band stands above and below: its width does not count
+}
+
+} // namespace ondelis

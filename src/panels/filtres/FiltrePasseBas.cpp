@@ -1,0 +1,43 @@
+#include "panels/filtres/FiltrePasseBas.h"
+
+#include "forms/Desk.h"
+#include "kit/Conversions.h"
+#include "kit/Maths.h"
+#include "panels/resonance/CalculNombreSpires.h"
+
+namespace ondelis {
+
+FiltrePasseBas::FiltrePasseBas(Desk& desk)
+    : SectionPasse{desk, "FiltrePasseBas", "Filtre passe-bas",
+        {.picture = "passe-bas",
+            .formulaL = "L = Z / ( Pi * F )",
+            .formulaC = "C = 1 / ( Pi *Z * F )",
+            .letterL = lettre(drawing, 0.330, 0.203),
+            .letterC = lettre(drawing, 0.641, 0.559)}}
+{
+}
+
+void FiltrePasseBas::Form_Load()
+{
+    resumeNext([&] { TxtZCharge.Text = "2500"; });
+    resumeNext([&] { TxtFreq.Text = "3000"; });
+}
+
+Double FiltrePasseBas::L() const
+{
+    return Z / (Pi() * F);
+}
+
+Double FiltrePasseBas::C() const
+{
+    return 1 / (Pi() * Z * F);
+}
+
+void FiltrePasseBas::Bobiner()
+{
+    auto& spires = desk().get<CalculNombreSpires>();
+    spires.TxtS.Text = CStr(Val(TxtSelf.Text)); // the figure without its multiplier word
+    spires.TxtD.Text = "1";
+}
+
+} // namespace ondelis

@@ -1,0 +1,19 @@
+#pragma once
+
+#include "panels/filtres/SectionPasse.h"
+
+namespace ondelis {
+
+/// Inductor and capacitor of a low-pass section.
+class FiltrePasseBas final : public SectionPasse {
+public:
+    explicit FiltrePasseBas(Desk& desk);
+
+private:
+    void Form_Load() override;
+    [[nodiscard]] Double L() const override;
+    [[nodiscard]] Double C() const override;
+    void Bobiner() override;
+};
+
+} // namespace ondelis

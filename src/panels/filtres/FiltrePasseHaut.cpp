@@ -1,0 +1,44 @@
+#include "panels/filtres/FiltrePasseHaut.h"
+
+#include "forms/Desk.h"
+#include "kit/Conversions.h"
+#include "kit/Maths.h"
+#include "panels/resonance/CalculNombreSpires.h"
+
+namespace ondelis {
+
+FiltrePasseHaut::FiltrePasseHaut(Desk& desk)
+    : SectionPasse{desk, "FiltrePasseHaut", "Filtre passe haut",
+        {.picture = "passe-haut",
+            .formulaL = "L = Z / ( 4 * Pi * F )",
+            .formulaC = "C = 1 / (4 * Pi *Z * F )",
+            .letterL = lettre(drawing, 0.624, 0.559),
+            .letterC = lettre(drawing, 0.330, 0.174)}}
+{
+}
+
+void FiltrePasseHaut::Form_Load()
+{
+    resumeNext([&] { TxtZCharge.Text = "2500"; });
+    resumeNext([&] { TxtFreq.Text = "10000"; });
+}
+
+Double FiltrePasseHaut::L() const
+{
+    return Z / (4 * Pi() * F);
+}
+
+Double FiltrePasseHaut::C() const
+{
+    return 1 / (4 * Pi() * Z * F);
+}
+
+void FiltrePasseHaut::Bobiner()
+{
+    auto& spires = desk().get<CalculNombreSpires>();
+    spires.TxtS.Text = CStr(Val(TxtSelf.Text)); // the figure without its multiplier word
+    spires.TxtF.Text = "1";
+    spires.TxtD.Text = "50";
+}
+
+} // namespace ondelis

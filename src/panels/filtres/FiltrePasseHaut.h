@@ -1,0 +1,19 @@
+#pragma once
+
+#include "panels/filtres/SectionPasse.h"
+
+namespace ondelis {
+
+/// Inductor and capacitor of a high-pass section.
+class FiltrePasseHaut final : public SectionPasse {
+public:
+    explicit FiltrePasseHaut(Desk& desk);
+
+private:
+    void Form_Load() override;
+    [[nodiscard]] Double L() const override;
+    [[nodiscard]] Double C() const override;
+    void Bobiner() override;
+};
+
+} // namespace ondelis

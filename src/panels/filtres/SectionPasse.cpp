@@ -1,0 +1,29 @@
+#include "panels/filtres/SectionPasse.h"
+
+#include "kit/Conversions.h"
+#include "kit/TraitementMultiplicateur.h"
+
+namespace ondelis {
+
+void SectionPasse::TxtFreq_Change()
+{
+    F = Val(TxtFreq.Text);
+    Calculer();
+}
+
+void SectionPasse::TxtZCharge_Change()
+{
+    Z = Val(TxtZCharge.Text);
+    Calculer();
+}
+
+void SectionPasse::Calculer()
+{
+    if (F != 0 && Z != 0) {
+        TxtSelf.Text = TraitementMultiplicateur(L());
+        TxtCapa.Text = TraitementMultiplicateur(C());
+        Bobiner();
+    }
+}
+
+} // namespace ondelis

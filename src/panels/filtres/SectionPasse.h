@@ -1,0 +1,74 @@
+#pragma once
+
+#include <string>
+
+#include "forms/Controls.h"
+#include "forms/FeuilleCalcul.h"
+
+namespace ondelis {
+
+/// What the low-pass and the high-pass section share: the form, and the road from a field to the results. Each gives
+/// its defaults, its two formulas, and what it writes into the panel of the number of turns.
+class SectionPasse : public FeuilleCalcul {
+public:
+    /// Where the two forms differ.
+    struct Texts {
+        std::string picture;
+        std::string formulaL;
+        std::string formulaC;
+        Box letterL; ///< on the drawing
+        Box letterC;
+    };
+
+    static constexpr Box drawing{960, 150, 3900, 2210};
+
+    SectionPasse(Desk& desk, std::string name, std::string caption, const Texts& texts)
+        // clang-format off
+        : FeuilleCalcul{desk, {.name = std::move(name), .Caption = std::move(caption), .Width = 5970, .Height = 4905}},
+          Schema    {this, "Schema",     {.picture = texts.picture, .at = drawing}},
+          Label1    {this, "Label1",     {.Caption = "L", .at = texts.letterL, .align = Align::Center}},
+          Label5    {this, "Label5",     {.Caption = "C", .at = texts.letterC, .align = Align::Center}},
+          Label4    {this, "Label4",     {.Caption = "Z", .at = lettre(drawing, 0.934, 0.559), .align = Align::Center}},
+          Label2    {this, "Label2",     {.Caption = texts.formulaL, .at = {240, 2415, 2580, 255}}},
+          Label3    {this, "Label3",     {.Caption = texts.formulaC, .at = {2880, 2415, 2700, 255}}},
+          Label6    {this, "Label6",     {.Caption = "Fréquence de coupure en Hz", .at = {240, 2790, 3240, 255}}},
+          TxtFreq   {this, "TxtFreq",    {.at = {3540, 2760, 2040, 315}, .label = &Label6}, &SectionPasse::TxtFreq_Change},
+          Label7    {this, "Label7",     {.Caption = "Impédance de charge en Ohms", .at = {240, 3150, 3240, 255}}},
+          TxtZCharge{this, "TxtZCharge", {.at = {3540, 3120, 2040, 315}, .label = &Label7}, &SectionPasse::TxtZCharge_Change},
+          Label9    {this, "Label9",     {.Caption = "Self en Henry", .at = {240, 3570, 3240, 255}}},
+          TxtSelf   {this, "TxtSelf",    resultField({3540, 3540, 2040, 315}, &Label9, 0xFFFF80)},
+          Label8    {this, "Label8",     {.Caption = "Capacité en Farad", .at = {240, 3930, 3240, 255}}},
+          TxtCapa   {this, "TxtCapa",    resultField({3540, 3900, 2040, 315}, &Label8, 0xFFFF80)}
+    // clang-format on
+    {
+    }
+
+    Image Schema;
+    Label Label1, Label5, Label4, Label2, Label3;
+    Label Label6;
+    TextBox TxtFreq;
+    Label Label7;
+    TextBox TxtZCharge;
+    Label Label9;
+    TextBox TxtSelf;
+    Label Label8;
+    TextBox TxtCapa;
+
+protected:
+    Double F; ///< Hz
+    Double Z; ///< ohms
+
+private:
+    /// Henrys.
+    [[nodiscard]] virtual Double L() const = 0;
+    /// Farads.
+    [[nodiscard]] virtual Double C() const = 0;
+    /// Hands the inductor to the panel of the number of turns.
+    virtual void Bobiner() = 0;
+
+    void TxtFreq_Change();
+    void TxtZCharge_Change();
+    void Calculer();
+};
+
+} // namespace ondelis
