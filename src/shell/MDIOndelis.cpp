@@ -4,6 +4,7 @@
 #include "panels/antennes/AntennesLPDA1.h"
 #include "panels/condensateurs/Cms.h"
 #include "panels/condensateurs/CondensateurFixe.h"
+#include "panels/condensateurs/CondensateurVariable.h"
 #include "panels/filtres/FiltreEliminationBande.h"
 #include "panels/filtres/FiltreEnDoublePi.h"
 #include "panels/filtres/FiltrePasseBande.h"
@@ -70,6 +71,7 @@ void MDIOndelis::CacherFeuilles()
     desk_.Unload<CircuitsOscillants>();
     desk_.Unload<Cms>();
     desk_.Unload<CondensateurFixe>();
+    desk_.Unload<CondensateurVariable>();
     desk_.Unload<FiltreEliminationBande>();
     desk_.Unload<FiltreEnDoublePi>();
     desk_.Unload<FiltrePasseHaut>();

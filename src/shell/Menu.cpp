@@ -3,6 +3,7 @@
 #include "panels/antennes/AntennesLPDA1.h"
 #include "panels/condensateurs/Cms.h"
 #include "panels/condensateurs/CondensateurFixe.h"
+#include "panels/condensateurs/CondensateurVariable.h"
 #include "panels/filtres/FiltreEliminationBande.h"
 #include "panels/filtres/FiltreEnDoublePi.h"
 #include "panels/filtres/FiltrePasseBande.h"
@@ -105,7 +106,7 @@ std::vector<Menu> makeTree()
         {"MenuAccèsAuxApplications", "Condensateurs", {
             {"MenuCondensateursCMS", "Condensateurs CMS", centred<Cms>()},
             {"MenuCondensateurFixe", "Condensateurs Fixes", centred<CondensateurFixe>()},
-            {"MenuCondensateurVariable", "Condensateurs Variables", {}},
+            {"MenuCondensateurVariable", "Condensateurs Variables", centred<CondensateurVariable>()},
             {"menuEnergieEmmagasinée", "Energie emmagasinée", {}},
         }},
         {"MenuTimer555", "Le timer 555", {
