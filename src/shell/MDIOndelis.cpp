@@ -3,6 +3,7 @@
 #include "forms/ResumeNext.h"
 #include "panels/antennes/AntennesLPDA1.h"
 #include "panels/condensateurs/Cms.h"
+#include "panels/condensateurs/CondensateurEnergie.h"
 #include "panels/condensateurs/CondensateurFixe.h"
 #include "panels/condensateurs/CondensateurVariable.h"
 #include "panels/filtres/FiltreEliminationBande.h"
@@ -71,6 +72,7 @@ void MDIOndelis::CacherFeuilles()
     desk_.Unload<CircuitsOscillants>();
     desk_.Unload<Cms>();
     desk_.Unload<CondensateurFixe>();
+    desk_.Unload<CondensateurEnergie>();
     desk_.Unload<CondensateurVariable>();
     desk_.Unload<FiltreEliminationBande>();
     desk_.Unload<FiltreEnDoublePi>();

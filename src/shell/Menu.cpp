@@ -2,6 +2,7 @@
 
 #include "panels/antennes/AntennesLPDA1.h"
 #include "panels/condensateurs/Cms.h"
+#include "panels/condensateurs/CondensateurEnergie.h"
 #include "panels/condensateurs/CondensateurFixe.h"
 #include "panels/condensateurs/CondensateurVariable.h"
 #include "panels/filtres/FiltreEliminationBande.h"
@@ -107,7 +108,7 @@ std::vector<Menu> makeTree()
             {"MenuCondensateursCMS", "Condensateurs CMS", centred<Cms>()},
             {"MenuCondensateurFixe", "Condensateurs Fixes", centred<CondensateurFixe>()},
             {"MenuCondensateurVariable", "Condensateurs Variables", centred<CondensateurVariable>()},
-            {"menuEnergieEmmagasinée", "Energie emmagasinée", {}},
+            {"menuEnergieEmmagasinée", "Energie emmagasinée", centred<CondensateurEnergie>()},
         }},
         {"MenuTimer555", "Le timer 555", {
             {"MenuAstable", "Astable", {}},
