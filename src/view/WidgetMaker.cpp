@@ -39,17 +39,21 @@ void WidgetMaker::visit(TextBox& box)
         made = new TextAreaWidget{window_, box, parentOf(box)};
     else
         made = new TextBoxWidget{window_, box, parentOf(box)};
-    take(*made, box, box.design().label);
+    take(*made, box);
+    name(box.design().label);
 }
 
 void WidgetMaker::visit(ListBox& list)
 {
-    take(*new ListBoxWidget{window_, list, parentOf(list)}, list, list.design().label);
+    take(*new ListBoxWidget{window_, list, parentOf(list)}, list);
+    name(list.design().label);
 }
 
 void WidgetMaker::visit(OptionButton& option)
 {
-    take(*new OptionButtonWidget{window_, option, parentOf(option)}, option, option.design().label);
+    take(*new OptionButtonWidget{window_, option, parentOf(option)}, option);
+    if (option.design().Caption.empty())
+        name(option.design().label);
 }
 
 void WidgetMaker::visit(CommandButton& button)
@@ -59,12 +63,14 @@ void WidgetMaker::visit(CommandButton& button)
 
 void WidgetMaker::visit(HScrollBar& bar)
 {
-    take(*new ScrollBarWidget{window_, bar, Qt::Horizontal, parentOf(bar)}, bar, bar.design().label);
+    take(*new ScrollBarWidget{window_, bar, Qt::Horizontal, parentOf(bar)}, bar);
+    name(bar.design().label);
 }
 
 void WidgetMaker::visit(VScrollBar& bar)
 {
-    take(*new ScrollBarWidget{window_, bar, Qt::Vertical, parentOf(bar)}, bar, bar.design().label);
+    take(*new ScrollBarWidget{window_, bar, Qt::Vertical, parentOf(bar)}, bar);
+    name(bar.design().label);
 }
 
 void WidgetMaker::visit(Frame& frame)
@@ -101,7 +107,8 @@ void WidgetMaker::visit(Shape& shape)
 
 void WidgetMaker::visit(MaskEdBox& box)
 {
-    take(*new MaskEdBoxWidget{window_, box, parentOf(box)}, box, box.design().label);
+    take(*new MaskEdBoxWidget{window_, box, parentOf(box)}, box);
+    name(box.design().label);
 }
 
 QWidget* WidgetMaker::parentOf(const Control& control) const
@@ -109,12 +116,18 @@ QWidget* WidgetMaker::parentOf(const Control& control) const
     return control.container() == nullptr ? &window_.form() : frames_.at(control.container());
 }
 
-void WidgetMaker::take(ControlWidget& made, const Control& control, const Label* label)
+void WidgetMaker::take(ControlWidget& made, const Control& control)
 {
     made_ = &made;
     made.widget().setObjectName(toQString(control.name()));
+}
+
+void WidgetMaker::name(const Label* label)
+{
     if (label != nullptr)
-        window_.nameAfter(*label, made.widget());
+        window_.nameAfter(*label, made_->widget());
+    else
+        made_->widget().setAccessibleName(toQString(window_.panel().design().Caption));
 }
 
 LinesWidget& WidgetMaker::linesOn(const Control& control)

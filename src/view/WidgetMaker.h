@@ -38,8 +38,10 @@ private:
 
     /// The frame around the control, or the panel.
     [[nodiscard]] QWidget* parentOf(const Control& control) const;
-    /// Takes a new widget, and has it named after the label of its control, if there is one.
-    void take(ControlWidget& made, const Control& control, const Label* label = nullptr);
+    void take(ControlWidget& made, const Control& control);
+    /// Names the widget, for screen readers, after the label of its control; the panel's caption is for those that
+    /// have none.
+    void name(const Label* label);
     /// What paints the lines and shapes on the panel, or in the frame.
     LinesWidget& linesOn(const Control& control);
 

@@ -1,0 +1,35 @@
+#pragma once
+
+#include "forms/Controls.h"
+#include "forms/FeuilleCalcul.h"
+
+namespace ondelis {
+
+/// A form with one of each fault.
+class CrookedPanel final : public FeuilleCalcul {
+public:
+    explicit CrookedPanel(Desk& desk)
+        : FeuilleCalcul{desk, {.name = "CrookedPanel", .Caption = "", .Width = 6000, .Height = 6000}}
+    {
+    }
+
+    Label CutLabel{this, "CutLabel", {.Caption = "Fréquence de résonance", .at = {240, 240, 900, 255}}};
+    Label CutLines{
+        this, "CutLines", {.Caption = "Une longue remarque sur trois lignes de texte", .at = {240, 600, 1200, 510}}};
+    TextBox CutResult{this, "CutResult",
+        {.Text = " 123.456789 micro", .at = {1800, 240, 900, 315}, .Locked = true, .label = &CutLabel}};
+    TextBox LowField{this, "LowField", {.at = {1800, 600, 900, 195}, .label = &CutLabel}};
+    ListBox CutRow{this, "CutRow", {.Items = {"Polyéthylène"}, .at = {2880, 240, 600, 300}, .label = &CutLabel}};
+    ListBox ShortList{this, "ShortList", {.Items = {"a", "b", "c"}, .at = {2880, 600, 600, 540}, .label = &CutLabel}};
+    OptionButton CutOption{this, "CutOption", {.Caption = "Rho optimum", .at = {3600, 240, 600, 300}}};
+    CommandButton CutButton{this, "CutButton", {.Caption = "Calculer", .at = {3600, 600, 480, 375}}};
+    OptionButton NamelessOption{this, "NamelessOption", {.at = {4200, 1080, 600, 300}}};
+    TextBox Beyond{this, "Beyond", {.at = {240, 5520, 900, 315}, .label = &CutLabel}};
+    Label Under{this, "Under", {.Caption = "R", .at = {240, 1320, 900, 255}}};
+    TextBox Over{this, "Over", {.at = {900, 1320, 900, 315}, .label = &Under}};
+    Image Missing{this, "Missing", {.picture = "aucun", .at = {240, 1800, 900, 900}}};
+    Label Hidden{this, "Hidden", {.Caption = "Cachée, mais trop longue", .at = {240, 240, 60, 60}, .Visible = false}};
+    Label OnDrawing{this, "OnDrawing", {.Caption = "L", .at = {360, 1920, 240, 255}}};
+};
+
+} // namespace ondelis
