@@ -2,6 +2,7 @@
 
 #include "forms/ResumeNext.h"
 #include "panels/antennes/AntennesLPDA1.h"
+#include "panels/antennes/GammaMatch.h"
 #include "panels/condensateurs/Cms.h"
 #include "panels/condensateurs/CondensateurEnergie.h"
 #include "panels/condensateurs/CondensateurFixe.h"
@@ -81,6 +82,7 @@ void MDIOndelis::CacherFeuilles()
     desk_.Unload<FiltrePasseBasEnPi>();
     desk_.Unload<FiltrePasseBande>();
     desk_.Unload<FormuleDeThomson>();
+    desk_.Unload<GammaMatch>();
     desk_.Unload<RVListeCoaxiaux>();
     desk_.Unload<RLCParallele>();
     desk_.Unload<RLCSerie>();

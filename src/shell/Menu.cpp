@@ -1,6 +1,7 @@
 #include "shell/Menu.h"
 
 #include "panels/antennes/AntennesLPDA1.h"
+#include "panels/antennes/GammaMatch.h"
 #include "panels/condensateurs/Cms.h"
 #include "panels/condensateurs/CondensateurEnergie.h"
 #include "panels/condensateurs/CondensateurFixe.h"
@@ -84,7 +85,7 @@ std::vector<Menu> makeTree()
             {"mnuLPDA", "Antenne Log Périodique (LPDA)", centred<AntennesLPDA1>()},
             {"mnuDipoleRaccourci", "Dipôle raccourci", {}},
             {"mnuDoubleQuad", "Double Quad", {}},
-            {"mnuGammaMatch", "Gamma match", {}},
+            {"mnuGammaMatch", "Gamma match", {show<GammaMatch>(), height<GammaMatch>(7755), width<GammaMatch>(12240), centre<GammaMatch>()}},
             {"mnuHB9CV_HF", "HB9CV HF", {}},
             {"mnuHB9CV_VUSHF", "HB9CV VUSHF", {}},
             {"mnuHighQLoop", "High Q Loop", {}},

@@ -1,0 +1,174 @@
+#include "panels/antennes/GammaMatch.h"
+
+#include "kit/Conversions.h"
+#include "kit/Fault.h"
+#include "kit/Maths.h"
+#include "kit/Text.h"
+
+namespace ondelis {
+namespace {
+
+constexpr Color choisie = 0x0000FF; // red: the chosen option
+constexpr Color delaissee = 0x000000;
+
+// The message of the frequency serves for the resistances too.
+const std::string frequenceRefusee = "La valeur de frequence doit être positive et supérieure à zéro";
+const std::string reactanceRefusee = "La réactance doit être négative et inférieure à zéro";
+const std::string diametreRefuse = "Le diamètre extérieur doit être positif et supérieure à zéro";
+
+/// Inverse hyperbolic cosine. Throws an invalid argument below 1.
+Double FNCSH(Double x)
+{
+    return Log(x + Sqr(Pow(x, 2) - 1));
+}
+
+/// Inches from millimetres.
+Double Inches(Double x)
+{
+    return x / 25.4;
+}
+
+} // namespace
+
+GammaMatch::GammaMatch(Desk& desk)
+    : FeuilleCalcul{desk, {.name = "GammaMatch", .Caption = "Gamma Match", .Width = 12240, .Height = 7755}}
+{
+}
+
+void GammaMatch::Form_Load()
+{
+    resumeNext([&] { Image1.Visible = true; });
+    resumeNext([&] { OptMonopole.Value = true; });
+    resumeNext([&] { TxtFreq.Text = CStr(145); });
+    resumeNext([&] { TxtRA.Text = CStr(25); });
+    resumeNext([&] { TxtXa.Text = CStr(-25); });
+    resumeNext([&] { TxtR0.Text = CStr(50); });
+    resumeNext([&] { TxtDE.Text = CStr(20); });
+    resumeNext([&] { TxtDR.Text = CStr(5); });
+    resumeNext([&] { TxtS.Text = CStr(20); });
+}
+
+void GammaMatch::OptMonopole_Click()
+{
+    OptDipôle.Value = false;
+    Image1.Visible = true;
+    Image2.Visible = false;
+    OptMonopole.ForeColor = choisie;
+    OptDipôle.ForeColor = delaissee;
+    TxtFreq.Text = CStr(145);
+    TxtRA.Text = CStr(25);
+    TxtXa.Text = CStr(-25);
+    TxtR0.Text = CStr(50);
+}
+
+void GammaMatch::OptDipôle_Click()
+{
+    OptMonopole.Value = false;
+    Image1.Visible = false;
+    Image2.Visible = true;
+    OptMonopole.ForeColor = delaissee;
+    OptDipôle.ForeColor = choisie;
+    TxtFreq.Text = CStr(14.175); // read back as 14 under a decimal comma
+    TxtRA.Text = CStr(300);
+    TxtXa.Text = CStr(-300);
+    TxtR0.Text = CStr(600);
+}
+
+void GammaMatch::TxtFreq_Change()
+{
+    if (Val(TxtFreq.Text) <= 0) {
+        Refuser(TxtFreq, frequenceRefusee);
+    } else {
+        Freq = Val(TxtFreq.Text);
+        Label4.Caption = "Entre-axes conseillé : " + Str(Fix(0.01 * 300000 / Freq));
+    }
+}
+
+void GammaMatch::TxtRA_Change()
+{
+    if (Val(TxtRA.Text) <= 0)
+        Refuser(TxtRA, frequenceRefusee);
+}
+
+void GammaMatch::TxtXa_Change()
+{
+    if (Val(TxtXa.Text) < 0) {
+        OptMonopole.Visible = true;
+        OptDipôle.Visible = true;
+    } else if (ondelis::Left(TxtXa.Text, 1) != "-") { // a lone "-" is the start of a negative number
+        Refuser(TxtXa, reactanceRefusee);
+    }
+}
+
+void GammaMatch::TxtR0_Change()
+{
+    if (Val(TxtR0.Text) <= 0) {
+        MsgBox(frequenceRefusee);
+        throw Fault{FaultKind::ObjectNotSet}; // this field alone is not emptied: the program ends
+    }
+    R0 = Val(TxtR0.Text);
+}
+
+void GammaMatch::TxtDE_Change()
+{
+    if (Val(TxtDE.Text) <= 0)
+        Refuser(TxtDE, diametreRefuse);
+    else
+        DE = Inches(Val(TxtDE.Text));
+}
+
+void GammaMatch::TxtDR_Change()
+{
+    if (Val(TxtDR.Text) <= 0)
+        Refuser(TxtDR, diametreRefuse);
+    else
+        DR = Inches(Val(TxtDR.Text));
+}
+
+void GammaMatch::TxtS_Change()
+{
+    if (Val(TxtS.Text) <= 0)
+        Refuser(TxtS, diametreRefuse);
+    else
+        S = Inches(Val(TxtS.Text));
+}
+
+void GammaMatch::Refuser(TextBox& champ, const std::string& message)
+{
+    MsgBox(message);
+    champ.Text = ""; // refused in its turn, unless the field was empty
+}
+
+void GammaMatch::BtnCalculer_Click()
+{
+    // The whole dipole is twice the monopole that is matched.
+    Double RA = Val(TxtRA.Text);
+    Double XA = Val(TxtXa.Text);
+    if (!OptMonopole.Value) {
+        RA = RA / 2;
+        XA = XA / 2;
+    }
+    TxtLongPilote.Text = CStr(Fix(300000 / Freq * 0.97 / 2 * 100) / 100);
+
+    const Double a = FNCSH((4 * Pow(S, 2) - Pow(DE, 2) + Pow(DR, 2)) / (4 * S * DR));
+    const Double b = FNCSH((4 * Pow(S, 2) + Pow(DE, 2) - Pow(DR, 2)) / (4 * S * DE));
+    const Double K = Pow(1 + a / b, 2); // step-up ratio
+    const Double Z = 60 * FNCSH((4 * Pow(S, 2) - Pow(DE, 2) - Pow(DR, 2)) / (2 * DE * DR));
+    const Double Y = K / Z;
+    const Double D = K * RA - R0;
+    const Double c = R0 * XA / D;
+    const Double e = R0 * (Pow(RA, 2) + Pow(XA, 2)) / D;
+    const Double X = c + Sqr(Pow(c, 2) + e);
+    // The other form of the same root is not used, but it can end the program where the first one did not.
+    static_cast<void>(K * (R0 * XA + Sqr(Pow(R0 * XA, 2) + R0 * D * (Pow(RA, 2) + Pow(XA, 2)))) / D);
+    const Double G = Atn(X * Y) * 180 / Pi(); // degrees
+
+    const Double Xc1 = (Pow(RA, 2) + Pow(XA, 2)) / X * (R0 / RA);
+    const Double Xc2 = XA * (R0 / RA);
+    const Double Lg = 305 * (G / 360 * (948 / Freq)); // mm
+    TxtGamma.Text = CStr(Fix(Lg * 100) / 100);
+    const Double C = 1000000 / (Freq * ((Xc2 + Xc1) * (2 * Pi()))); // pF
+    TxtCapa.Text = CStr(Fix(C * 100) / 100);
+}
+
+} // namespace ondelis
