@@ -4,7 +4,10 @@
 #include <array>
 #include <charconv>
 #include <cmath>
+#include <cstdint>
+#include <limits>
 #include <locale>
+#include <optional>
 #include <sstream>
 
 #include "kit/Fault.h"
@@ -32,28 +35,32 @@ bool takes(std::string_view& text, std::string_view word)
     return true;
 }
 
-/// Drops a sign; tells whether it was "-".
-bool takesMinus(std::string_view& text)
+bool takes(std::string_view& text, char word)
 {
-    const bool minus = takes(text, "-");
-    if (!minus)
-        takes(text, "+");
-    return minus;
+    const bool there = text.starts_with(word);
+    if (there)
+        text.remove_prefix(1);
+    return there;
 }
 
-/// A number too large or too small for from_chars, which does not tell which of both it is.
-Double extreme(std::string_view text)
+/// The number of digits that a text starts with.
+std::size_t countDigits(std::string_view text)
+{
+    return static_cast<std::size_t>(std::ranges::find_if_not(text, isDigit) - text.begin());
+}
+
+/// A number too large or too small for from_chars, which does not tell which of both it is: infinity or 0.
+double extreme(std::string_view text)
 {
     std::istringstream stream{std::string{text}};
     stream.imbue(std::locale::classic());
     double value = 0;
-    if (!(stream >> value))
-        throw Fault{FaultKind::Overflow};
-    return value;
+    return stream >> value ? value : std::numeric_limits<double>::infinity();
 }
 
-/// Takes the longest unsigned number, with exponent marks e and E, that starts a text; 0 where none does.
-Double takePlainNumber(std::string_view& text)
+/// Takes the longest unsigned number, with exponent marks e and E, that starts a text; 0 where none does, and
+/// infinity beyond the range, as more of the number may follow.
+double takePlainNumber(std::string_view& text)
 {
     // from_chars by itself takes a sign, "inf" and "nan", too.
     if (text.empty() || (!isDigit(text.front()) && text.front() != '.'))
@@ -62,24 +69,39 @@ Double takePlainNumber(std::string_view& text)
     const char* const begin = text.data();
     const auto [end, error] = std::from_chars(begin, begin + text.size(), value);
     const auto length = static_cast<std::size_t>(end - begin);
-    const Double number = error == std::errc::result_out_of_range ? extreme(text.substr(0, length)) : Double{value};
+    if (error == std::errc::result_out_of_range) [[unlikely]]
+        value = extreme(text.substr(0, length));
     text.remove_prefix(length);
-    return number;
+    return value;
 }
 
-/// As `takePlainNumber`, with exponent marks d and D too.
-Double takeNumber(std::string_view& text)
+/// As `takePlainNumber`, with a sign and any exponent mark.
+double takeNumber(std::string_view& text)
 {
+    const bool minus = takes(text, '-');
+    if (!minus)
+        takes(text, '+');
     std::string_view rest = text;
-    Double number = takePlainNumber(rest);
+    double magnitude = takePlainNumber(rest);
     if (rest.starts_with('d') || rest.starts_with('D')) {
         std::string marked{text};
         marked[text.size() - rest.size()] = 'e';
         rest = marked;
-        number = takePlainNumber(rest);
+        magnitude = takePlainNumber(rest);
     }
     text.remove_prefix(text.size() - rest.size());
-    return number;
+    return minus ? -magnitude : magnitude;
+}
+
+/// The number that the whole of a text is; nothing where a part is left over, or no number is there.
+std::optional<Double> wholly(std::string_view text)
+{
+    std::string_view rest = text;
+    const double number = takeNumber(rest);
+    const bool hasDigits = !text.empty() && (isDigit(text.back()) || text.back() == '.'); // a sign alone has none
+    if (!rest.empty() || !hasDigits)
+        return {};
+    return Double::checked(number);
 }
 
 /// The whole number of the digits, in a base of 8 or 16, that start a text.
@@ -95,18 +117,6 @@ Double wholeNumber(std::string_view text, int base)
     return number;
 }
 
-/// The number that starts a text with no blanks in it.
-Double leadingNumber(std::string_view text)
-{
-    if (takes(text, "&H") || takes(text, "&h"))
-        return wholeNumber(text, 16);
-    if (takes(text, "&O") || takes(text, "&o"))
-        return wholeNumber(text, 8);
-    const bool minus = takesMinus(text);
-    const Double number = takeNumber(text);
-    return minus ? -number : number;
-}
-
 std::string_view trimmed(std::string_view text)
 {
     while (!text.empty() && isBlank(text.front()))
@@ -116,84 +126,117 @@ std::string_view trimmed(std::string_view text)
     return text;
 }
 
-/// Drops a thousands separator; tells whether one stood there. Groups may have any length, so that a number
-/// can be typed digit by digit.
-bool takesThousands(std::string_view& text)
+/// The length of the thousands separator that starts a text; 0 where none does. Groups may have any length, so
+/// that a number can be typed digit by digit.
+std::size_t thousandsLength(std::string_view text)
 {
     constexpr std::string_view noBreakBlank = "\u00a0";
     constexpr std::string_view narrowNoBreakBlank = "\u202f";
     const std::string_view separator = region().thousands;
     // No keyboard types the no-break blanks, and systems differ in which one they use: all blanks are one.
     if (separator == noBreakBlank || separator == narrowNoBreakBlank)
-        return takes(text, " ") || takes(text, noBreakBlank) || takes(text, narrowNoBreakBlank);
+        for (const std::string_view blank : {std::string_view{" "}, noBreakBlank, narrowNoBreakBlank})
+            if (text.starts_with(blank))
+                return blank.size();
+    if (!text.starts_with(separator))
+        return 0;
     // A point in a region of commas is mostly meant as a decimal one, which is no number there: it separates
     // thousands only before just three digits.
-    if (separator == "." && std::ranges::find_if_not(text.substr(1), isDigit) - text.begin() != 4)
-        return false;
-    return takes(text, separator);
+    if (separator == "." && countDigits(text.substr(1)) != 3)
+        return 0;
+    return separator.size();
 }
 
-/// The text of an unsigned number of the region with "." as the decimal point and no thousands separators.
+/// The text of a number of the region with "." as the decimal point and no thousands separators.
 std::string plain(std::string_view text)
 {
-    std::string number;
-    bool whole = true; // up to here the number has nothing but digits
-    while (!text.empty()) {
-        if (whole && !number.empty() && takesThousands(text))
-            continue;
-        whole = isDigit(text.front()) && whole;
-        if (takes(text, region().decimal)) {
-            number += '.';
-        } else if (text.front() == '.') {
-            throw Fault{FaultKind::TypeMismatch};
-        } else {
-            number += text.front();
-            text.remove_prefix(1);
-        }
+    const std::string& decimal = region().decimal;
+    std::string number{text};
+    std::size_t at = text.starts_with('-') || text.starts_with('+') ? 1 : 0;
+    const auto rest = [&] { return std::string_view{number}.substr(at); };
+    while (const std::size_t digits = countDigits(rest())) {
+        at += digits;
+        if (rest().starts_with(decimal))
+            break;
+        number.erase(at, thousandsLength(rest()));
     }
+    if (rest().starts_with(decimal))
+        number.replace(at, decimal.size(), 1, '.');
+    else if (rest().starts_with('.')) // the decimal point of other regions
+        throw Fault{FaultKind::TypeMismatch};
     return number;
 }
 
-/// A number as a text in general form, at most 15 significant digits, with its sign ahead: "-" or a blank.
-class GeneralForm {
-public:
-    explicit GeneralForm(Double x)
-    {
-        text_.front() = x < 0 ? '-' : ' ';
-        end_ = std::to_chars(
-            text_.data() + 1, text_.data() + text_.size(), std::fabs(x.value()), std::chars_format::general, 15)
-                   .ptr;
-        std::replace(text_.data(), end_, 'e', 'E');
-    }
+/// Writes a number of millionths as a decimal number; gives its end.
+char* writeMillionths(std::int64_t millionths, char* begin, char* end)
+{
+    constexpr std::int64_t one = 1'000'000;
+    char* const point = std::to_chars(begin, end, millionths / one).ptr;
+    if (millionths % one == 0)
+        return point;
+    // The 1 ahead, which keeps the zeros of the decimals, gives its place to the point.
+    char* last = std::to_chars(point, end, one + millionths % one).ptr;
+    *point = '.';
+    while (last[-1] == '0')
+        --last;
+    return last;
+}
 
-    [[nodiscard]] std::string_view signedText() const { return {text_.data(), end_}; }
+/// Writes a number that is not negative in general form with 15 digits; gives its end.
+char* writeGeneral(double x, char* begin, char* end)
+{
+    // Nearly all numbers shown have six decimals at most. Those that 15 digits hold whole are written by their
+    // millionths, in half the time.
+    const double millionths = std::nearbyint(x * 1e6);
+    if (millionths >= 100 && millionths < 1e15 && millionths / 1e6 == x)
+        return writeMillionths(static_cast<std::int64_t>(millionths), begin, end);
+    char* const last = std::to_chars(begin, end, x, std::chars_format::general, 15).ptr;
+    if (char* const mark = std::find(begin, last, 'e'); mark != last)
+        *mark = 'E';
+    return last;
+}
 
-private:
-    std::array<char, 24> text_{};
-    char* end_;
-};
+/// The digits of a number with a "." behind "-", or behind `blanks` where it is not negative.
+std::string digits(Double x, std::size_t blanks)
+{
+    constexpr std::size_t longest = 22; // "-1.23456789012345E-308"
+    // The digits are written into the text itself: to copy bytes just written is slow.
+    std::string text(longest, ' ');
+    const bool negative = x < 0;
+    if (negative)
+        text.front() = '-';
+    char* const begin = text.data() + (negative ? 1 : blanks);
+    text.resize(
+        static_cast<std::size_t>(writeGeneral(std::fabs(x.value()), begin, text.data() + longest) - text.data()));
+    return text;
+}
 
 } // namespace
 
 Double Val(std::string_view text)
 {
-    if (std::ranges::none_of(text, isBlank))
-        return leadingNumber(text);
+    // Most texts are a number as they stand, or as `Str` writes it.
+    if (const auto number = wholly(trimmed(text)))
+        return *number;
     std::string solid;
     std::ranges::remove_copy_if(text, std::back_inserter(solid), isBlank);
-    return leadingNumber(solid);
+    std::string_view rest = solid;
+    if (takes(rest, "&H") || takes(rest, "&h"))
+        return wholeNumber(rest, 16);
+    if (takes(rest, "&O") || takes(rest, "&o"))
+        return wholeNumber(rest, 8);
+    return Double::checked(takeNumber(rest));
 }
 
 Double CDbl(std::string_view text)
 {
     text = trimmed(text);
-    const bool minus = takesMinus(text);
-    const std::string number = plain(text);
-    std::string_view rest = number;
-    const Double magnitude = takeNumber(rest);
-    if (number.empty() || !rest.empty())
-        throw Fault{FaultKind::TypeMismatch};
-    return minus ? -magnitude : magnitude;
+    if (region().decimal == ".")
+        if (const auto number = wholly(text))
+            return *number;
+    if (const auto number = wholly(plain(text)))
+        return *number;
+    throw Fault{FaultKind::TypeMismatch};
 }
 
 Integer CInt(std::string_view text)
@@ -203,8 +246,7 @@ Integer CInt(std::string_view text)
 
 std::string CStr(Double x)
 {
-    const GeneralForm form{x};
-    std::string text{form.signedText().substr(x < 0 ? 0 : 1)};
+    std::string text = digits(x, 0);
     if (const auto point = text.find('.'); point != std::string::npos)
         text.replace(point, 1, region().decimal);
     return text;
@@ -212,8 +254,7 @@ std::string CStr(Double x)
 
 std::string Str(Double x)
 {
-    const GeneralForm form{x};
-    std::string text{form.signedText()};
+    std::string text = digits(x, 1);
     if (text.compare(1, 2, "0.") == 0)
         text.erase(1, 1);
     return text;

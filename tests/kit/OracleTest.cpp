@@ -132,6 +132,21 @@ std::vector<double> numbersOfAnySize()
     return numbers;
 }
 
+/// Positive numbers cut to some decimals, as results are shown, each with its neighbours.
+std::vector<double> cutNumbers()
+{
+    std::mt19937_64 random{20260104};
+    std::uniform_real_distribution<double> decades{-5, 16};
+    std::uniform_int_distribution<int> decimals{0, 8};
+    std::vector<double> numbers;
+    while (numbers.size() < count) {
+        const double unit = std::pow(10, decimals(random));
+        const double cut = std::trunc(std::pow(10, decades(random)) * unit) / unit;
+        numbers.insert(numbers.end(), {cut, std::nextafter(cut, 0), std::nextafter(cut, 1e300)});
+    }
+    return numbers;
+}
+
 int differences(const char* title, const std::vector<double>& numbers)
 {
     const auto differing = std::ranges::count_if(
@@ -172,7 +187,7 @@ TEST(Oracle, powIsThatOfTheLibraryForEveryExponent)
 
 TEST(Oracle, cstrAndStrAreLikePrintf)
 {
-    for (const auto& numbers : {numbersOfAnySize(), computedNumbers(), typedNumbers()})
+    for (const auto& numbers : {numbersOfAnySize(), computedNumbers(), typedNumbers(), cutNumbers()})
         for (const double x : numbers) {
             ASSERT_EQ(CStr(x), printed(x));
             ASSERT_EQ(Str(x), printedAsStr(x));
@@ -193,7 +208,7 @@ TEST(Oracle, valReadsEachNumberBack)
 TEST(Oracle, valAndCDblReadTheTextsOfTheKitBack)
 {
     const ScopedRegion scope{test::french};
-    for (const auto& numbers : {numbersOfAnySize(), computedNumbers()})
+    for (const auto& numbers : {numbersOfAnySize(), computedNumbers(), cutNumbers()})
         for (const double x : numbers) {
             const double fifteenDigits = std::strtod(printed(x).c_str(), nullptr);
             if (std::isinf(fifteenDigits)) // rounded up beyond the largest number

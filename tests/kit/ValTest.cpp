@@ -187,6 +187,9 @@ TEST(Val, weighsTheDigitsOfALongNumberAgainstItsExponent)
 {
     EXPECT_EQ(Val("1" + std::string(400, '0') + "e-400"), 1);
     EXPECT_EQ(Val("0." + std::string(400, '0') + "1e401"), 1);
+    EXPECT_EQ(Val("1" + std::string(400, '0') + "d-400"), 1);
+    EXPECT_EQ(Val("1" + std::string(400, '0') + " e-400"), 1);
+    EXPECT_EQ(faultOf([] { return Val("1" + std::string(400, '0') + " e-4"); }), FaultKind::Overflow);
 }
 
 TEST(Val, readsAPointInEveryRegion)
