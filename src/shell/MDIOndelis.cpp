@@ -19,6 +19,9 @@
 #include "panels/resonance/FormuleDeThomson.h"
 #include "panels/resonance/RLCParallele.h"
 #include "panels/resonance/RLCSerie.h"
+#include "panels/timer555/Astable.h"
+#include "panels/timer555/Monostable.h"
+#include "panels/timer555/RapportCyclique.h"
 #include "shell/Centrages.h"
 
 namespace ondelis {
@@ -69,6 +72,7 @@ void MDIOndelis::MDIForm_Load()
 void MDIOndelis::CacherFeuilles()
 {
     desk_.Unload<AntennesLPDA1>();
+    desk_.Unload<Astable>();
     desk_.Unload<CalculNombreSpires>();
     desk_.Unload<CircuitsOscillants>();
     desk_.Unload<Cms>();
@@ -83,6 +87,8 @@ void MDIOndelis::CacherFeuilles()
     desk_.Unload<FiltrePasseBande>();
     desk_.Unload<FormuleDeThomson>();
     desk_.Unload<GammaMatch>();
+    desk_.Unload<Monostable>();
+    desk_.Unload<RapportCyclique>();
     desk_.Unload<RVListeCoaxiaux>();
     desk_.Unload<RLCParallele>();
     desk_.Unload<RLCSerie>();

@@ -18,6 +18,9 @@
 #include "panels/resonance/FormuleDeThomson.h"
 #include "panels/resonance/RLCParallele.h"
 #include "panels/resonance/RLCSerie.h"
+#include "panels/timer555/Astable.h"
+#include "panels/timer555/Monostable.h"
+#include "panels/timer555/RapportCyclique.h"
 #include "shell/Centrages.h"
 #include "shell/MDIOndelis.h"
 
@@ -69,6 +72,18 @@ std::vector<MenuStep> centred()
     return {show<Panel>(), centre<Panel>()};
 }
 
+/// Other values than those that the panel loads with.
+MenuStep seedMonostable()
+{
+    return [](MDIOndelis& frame) {
+        auto& panel = frame.desk().get<Monostable>();
+        panel.HscrRes.Value = 434;
+        panel.HscrCapa.Value = 10;
+        panel.LstRes.ListIndex = 1;
+        panel.LstCapa.ListIndex = 0;
+    };
+}
+
 MenuStep quit()
 {
     return [](MDIOndelis& frame) { frame.desk().End(); };
@@ -112,9 +127,10 @@ std::vector<Menu> makeTree()
             {"menuEnergieEmmagasinée", "Energie emmagasinée", centred<CondensateurEnergie>()},
         }},
         {"MenuTimer555", "Le timer 555", {
-            {"MenuAstable", "Astable", {}},
-            {"MenuMonostable", "Monostable", {}},
-            {"MenuRapportCyclique", "Rapport cyclique variable", {}},
+            {"MenuAstable", "Astable", {show<Astable>(), width<Astable>(7245), height<Astable>(8400), centre<Astable>()}},
+            {"MenuMonostable", "Monostable", {show<Monostable>(), seedMonostable(), centre<Monostable>()}},
+            {"MenuRapportCyclique", "Rapport cyclique variable",
+                {show<RapportCyclique>(), height<RapportCyclique>(8085), width<RapportCyclique>(6555), centre<RapportCyclique>()}},
         }},
         {"MenuDecibel", "Décibels", {
             {"MenuDécibels", "Décibels", {}},

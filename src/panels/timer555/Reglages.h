@@ -1,0 +1,21 @@
+#pragma once
+
+#include "forms/Controls.h"
+
+namespace ondelis {
+
+// What the timer panels have in common: a value is set by a bar, and a list beside it says in which unit.
+
+/// The bar of a value: 1 to 1000 of the chosen unit.
+[[nodiscard]] HScrollBar::Design barre(Box at, Integer Value, Label* label);
+
+// The factor of the chosen row of a list of units; 1 where none is chosen.
+
+/// "Hz", "KHz"; toward hertz.
+[[nodiscard]] Double facteurFrequence(Integer rang);
+/// "Ohms", "KOhms", "MOhms"; toward ohms.
+[[nodiscard]] Double facteurResistance(Integer rang);
+/// "µF", "nF", "pF"; toward farads.
+[[nodiscard]] Double facteurCapacite(Integer rang);
+
+} // namespace ondelis
