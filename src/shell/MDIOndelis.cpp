@@ -14,6 +14,8 @@
 #include "panels/filtres/FiltrePasseBasEnPi.h"
 #include "panels/filtres/FiltrePasseHaut.h"
 #include "panels/lignes/RVListeCoaxiaux.h"
+#include "panels/puissance/PDResitancesParalleles.h"
+#include "panels/puissance/PDShunts.h"
 #include "panels/resonance/CalculNombreSpires.h"
 #include "panels/resonance/CircuitsOscillants.h"
 #include "panels/resonance/FormuleDeThomson.h"
@@ -88,6 +90,8 @@ void MDIOndelis::CacherFeuilles()
     desk_.Unload<FormuleDeThomson>();
     desk_.Unload<GammaMatch>();
     desk_.Unload<Monostable>();
+    desk_.Unload<PDResitancesParalleles>();
+    desk_.Unload<PDShunts>();
     desk_.Unload<RapportCyclique>();
     desk_.Unload<RVListeCoaxiaux>();
     desk_.Unload<RLCParallele>();

@@ -13,6 +13,8 @@
 #include "panels/filtres/FiltrePasseBasEnPi.h"
 #include "panels/filtres/FiltrePasseHaut.h"
 #include "panels/lignes/RVListeCoaxiaux.h"
+#include "panels/puissance/PDResitancesParalleles.h"
+#include "panels/puissance/PDShunts.h"
 #include "panels/resonance/CalculNombreSpires.h"
 #include "panels/resonance/CircuitsOscillants.h"
 #include "panels/resonance/FormuleDeThomson.h"
@@ -164,8 +166,8 @@ std::vector<Menu> makeTree()
             {"mnuCalcTransfo", "Calcul Transfo 500VA maxi", {}},
         }},
         {"MenuPontDiviseur", "Ponts diviseurs", {
-            {"MenuShunt", "Calculs de Shunts", {}},
-            {"MenuPontDeRésitances", "Pont de résistances avec charge", {}},
+            {"MenuShunt", "Calculs de Shunts", centred<PDShunts>()},
+            {"MenuPontDeRésitances", "Pont de résistances avec charge", centred<PDResitancesParalleles>()},
         }},
         {"MenuRubiquesEnVrac", "Rubiques en vrac", {
             {"MenuCoaxiauxCourants", "Coaxiaux Courants", centred<RVListeCoaxiaux>()},

@@ -1,0 +1,63 @@
+#pragma once
+
+#include "forms/Controls.h"
+#include "forms/FeuilleCalcul.h"
+
+namespace ondelis {
+
+/// A galvanometer made an ammeter by a resistor across it, or a voltmeter by a resistor in series with it; one of the
+/// two at a time.
+class PDShunts final : public FeuilleCalcul {
+public:
+    explicit PDShunts(Desk& desk);
+
+    // clang-format off
+    Shape        Cadre1          {this, "Cadre1", {.at = {240, 240, 9000, 1080}}};
+    Label        Label7          {this, "Label7",           {.Caption = "Caractéristiques du galvanomètre", .at = {420, 360, 4440, 255}, .font = {.bold = true}}};
+    Label        LblRint         {this, "LblRint",          {.Caption = "Résinstance interne", .at = {420, 840, 2640, 255}}};
+    TextBox      TxtResInt       {this, "TxtResInt",        {.at = {3120, 810, 1440, 315}, .label = &LblRint}, &PDShunts::TxtResInt_Change};
+    Label        LblDevTot       {this, "LblDevTot",        {.Caption = "I déviation totale µA", .at = {5460, 840, 2100, 255}}};
+    TextBox      TxtDevTot       {this, "TxtDevTot",        {.at = {7620, 810, 1440, 315}, .label = &LblDevTot}, &PDShunts::TxtDevTot_Change};
+
+    Shape        Cadre2          {this, "Cadre2", {.at = {240, 1440, 9000, 2325}}};
+    OptionButton OptCourant      {this, "OptCourant",       {.Caption = "Calcul Résitance Parallèle", .at = {420, 1560, 2940, 300}}, &PDShunts::OptCourant_Click};
+    Label        LblImax         {this, "LblImax",          {.Caption = "Courant max à mesurer (A)", .at = {420, 2340, 2640, 255}}};
+    TextBox      TxtImax         {this, "TxtImax",          {.at = {3120, 2310, 1440, 315}, .label = &LblImax}, &PDShunts::TxtImax_Change};
+    Label        LblIShunt       {this, "LblIShunt",        {.Caption = "Valeur du shunt", .at = {420, 2700, 2640, 255}}};
+    TextBox      TxTShuntI       {this, "TxTShuntI",        {.at = {3120, 2670, 2040, 315}, .BackColor = 0xFFFFC0, .ForeColor = 0xFF80FF, .Locked = true, .font = {.bold = true}, .label = &LblIShunt}};
+    Label        LblAmperemetre  {this, "LblAmperemetre",   {.Caption = "Ampèremètre", .at = {5460, 1560, 3600, 255}, .align = Align::Center, .font = {.bold = true}}};
+    Image        SchemaCourant   {this, "SchemaCourant",    {.picture = "shunt-amperemetre", .at = {5460, 1860, 3600, 1800}}};
+    Label        LblACourant     {this, "LblACourant",      {.Caption = "A", .at = {7140, 2303, 240, 255}, .align = Align::Center}};
+
+    Shape        Cadre3          {this, "Cadre3", {.at = {240, 3885, 9000, 1770}}};
+    OptionButton OptTension      {this, "OptTension",       {.Caption = "Calcul  Résitance Série", .at = {420, 4005, 2940, 300}}, &PDShunts::OptTension_Click};
+    Label        LblTensionMax   {this, "LblTensionMax",    {.Caption = "Tension max à mesurer (V)", .at = {420, 4605, 2640, 255}}};
+    TextBox      TxtUmax         {this, "TxtUmax",          {.at = {3120, 4575, 1440, 315}, .label = &LblTensionMax}, &PDShunts::TxtUmax_Change};
+    Label        LblVShunt       {this, "LblVShunt",        {.Caption = "Valeur du shunt", .at = {420, 4965, 2640, 255}}};
+    TextBox      TxtShuntU       {this, "TxtShuntU",        {.at = {3120, 4935, 2040, 315}, .BackColor = 0xFFFFC0, .ForeColor = 0xFF80FF, .Locked = true, .font = {.bold = true}, .label = &LblVShunt}};
+    Label        Label4          {this, "Label4",           {.Caption = "Voltmètre", .at = {5460, 4005, 3600, 255}, .align = Align::Center, .font = {.bold = true}}};
+    Image        SchemaTension   {this, "SchemaTension",    {.picture = "shunt-voltmetre", .at = {5460, 4320, 3600, 1260}}};
+    Label        LblATension     {this, "LblATension",      {.Caption = "A", .at = {7799, 4853, 240, 255}, .align = Align::Center}};
+    // clang-format on
+
+private:
+    void Form_Load() override;
+    void OptCourant_Click();
+    void OptTension_Click();
+    void TxtDevTot_Change();
+    void TxtResInt_Change();
+    void TxtUmax_Change();
+    void TxtImax_Change();
+
+    void Presenter(bool courant);
+    void Calculer();
+    void CalculerTension();
+    void CalculerCourant();
+
+    Double Imax; ///< A
+    Double Umax; ///< V
+    Double Rint; ///< of the galvanometer, ohms
+    Double Idev; ///< of its full scale, A
+};
+
+} // namespace ondelis
