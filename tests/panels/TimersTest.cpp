@@ -1,0 +1,58 @@
+#include "Support.h"
+
+#include "panels/timer555/Monostable.h"
+#include "panels/timer555/RapportCyclique.h"
+
+namespace ondelis::tests {
+namespace {
+
+class TimersTest : public DeskTest { };
+
+TEST_F(TimersTest, MonostableHasItsOwnValuesBeforeTheMenuGivesOthers)
+{
+    auto& panel = desk.get<Monostable>();
+    desk.perform([&] { panel.Show(); });
+    EXPECT_EQ(panel.LblRes.Caption.get(), "Résistance :  541 KOhms");
+    EXPECT_EQ(panel.LblCapa.Caption.get(), "Condensateur :  78 nF");
+    EXPECT_EQ(panel.LblDuree.Caption.get(), "Durée  29.24 ms");
+}
+
+TEST_F(TimersTest, MonostableWithNoUnitReadsTheBarAlone)
+{
+    auto& panel = desk.get<Monostable>();
+    desk.perform([&] {
+        panel.Show();
+        panel.LstRes.ListIndex = -1;
+    });
+    EXPECT_EQ(panel.LblRes.Caption.get(), "Résistance :  541 ");
+    EXPECT_EQ(panel.LblDuree.Caption.get(), "Durée  29.24 µs");
+}
+
+TEST_F(TimersTest, RapportCycliqueAsksForTheUnitOfItsFrequency)
+{
+    auto& panel = desk.get<RapportCyclique>();
+    desk.perform([&] {
+        panel.Show();
+        panel.LstFreq.ListIndex = -1;
+    });
+    ASSERT_EQ(world.boxes.size(), 1U);
+    EXPECT_EQ(world.boxes[0].prompt, "L'unité doit être définie au préalable");
+    EXPECT_EQ(world.boxes[0].buttons, 0);
+    EXPECT_EQ(world.boxes[0].title, "Ondelis");
+}
+
+TEST_F(TimersTest, RapportCycliqueComputesWithNoUnitToo)
+{
+    auto& panel = desk.get<RapportCyclique>();
+    desk.perform([&] {
+        panel.Show();
+        panel.LstFreq.ListIndex = -1;
+        panel.HScrlFreq.Value = 441;
+    });
+    EXPECT_EQ(world.boxes.size(), 2U);
+    EXPECT_EQ(panel.LblFreq.Caption.get(), "Frequence  440 Hz");
+    EXPECT_EQ(panel.LblR1.Caption.get(), "R1 =  99.15 Ohms");
+}
+
+} // namespace
+} // namespace ondelis::tests
