@@ -1,0 +1,27 @@
+#pragma once
+
+#include <sys/types.h>
+
+#include <string>
+#include <vector>
+
+namespace ondelis::bench {
+
+/// A program that runs, in silence; it is ended where its object ends.
+class Process {
+public:
+    /// `inherited` is a file descriptor that the program gets under the same number; -1 for none.
+    /// Throws std::system_error where the program does not start.
+    explicit Process(std::vector<std::string> words, int inherited = -1);
+    ~Process();
+    Process(const Process&) = delete;
+    Process& operator=(const Process&) = delete;
+
+    /// Kilobytes of memory that it holds now.
+    [[nodiscard]] long residentKilobytes() const;
+
+private:
+    pid_t id_ = 0;
+};
+
+} // namespace ondelis::bench
