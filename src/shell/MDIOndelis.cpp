@@ -1,8 +1,12 @@
 #include "shell/MDIOndelis.h"
 
 #include "forms/ResumeNext.h"
+#include "panels/antennes/AntennesDipolesRaccourcis.h"
 #include "panels/antennes/AntennesLPDA1.h"
+#include "panels/antennes/DoubleQuad.h"
 #include "panels/antennes/GammaMatch.h"
+#include "panels/antennes/HB9CV_HF.h"
+#include "panels/antennes/HB9CV_VUSHF.h"
 #include "panels/condensateurs/Cms.h"
 #include "panels/condensateurs/CondensateurEnergie.h"
 #include "panels/condensateurs/CondensateurFixe.h"
@@ -17,10 +21,14 @@
 #include "panels/puissance/PDResitancesParalleles.h"
 #include "panels/puissance/PDShunts.h"
 #include "panels/resonance/CalculNombreSpires.h"
+#include "panels/resonance/CalculSelf.h"
+#include "panels/resonance/CalculSurTores.h"
 #include "panels/resonance/CircuitsOscillants.h"
 #include "panels/resonance/FormuleDeThomson.h"
 #include "panels/resonance/RLCParallele.h"
 #include "panels/resonance/RLCSerie.h"
+#include "panels/resonance/WireInductance.h"
+#include "panels/resonance/Z1Z2.h"
 #include "panels/timer555/Astable.h"
 #include "panels/timer555/Monostable.h"
 #include "panels/timer555/RapportCyclique.h"
@@ -74,13 +82,17 @@ void MDIOndelis::MDIForm_Load()
 void MDIOndelis::CacherFeuilles()
 {
     desk_.Unload<AntennesLPDA1>();
+    desk_.Unload<AntennesDipolesRaccourcis>();
     desk_.Unload<Astable>();
+    desk_.Unload<CalculSelf>();
     desk_.Unload<CalculNombreSpires>();
+    desk_.Unload<CalculSurTores>();
     desk_.Unload<CircuitsOscillants>();
     desk_.Unload<Cms>();
     desk_.Unload<CondensateurFixe>();
     desk_.Unload<CondensateurEnergie>();
     desk_.Unload<CondensateurVariable>();
+    desk_.Unload<DoubleQuad>();
     desk_.Unload<FiltreEliminationBande>();
     desk_.Unload<FiltreEnDoublePi>();
     desk_.Unload<FiltrePasseHaut>();
@@ -89,6 +101,8 @@ void MDIOndelis::CacherFeuilles()
     desk_.Unload<FiltrePasseBande>();
     desk_.Unload<FormuleDeThomson>();
     desk_.Unload<GammaMatch>();
+    desk_.Unload<HB9CV_HF>();
+    desk_.Unload<HB9CV_VUSHF>();
     desk_.Unload<Monostable>();
     desk_.Unload<PDResitancesParalleles>();
     desk_.Unload<PDShunts>();
@@ -96,6 +110,8 @@ void MDIOndelis::CacherFeuilles()
     desk_.Unload<RVListeCoaxiaux>();
     desk_.Unload<RLCParallele>();
     desk_.Unload<RLCSerie>();
+    desk_.Unload<WireInductance>();
+    desk_.Unload<Z1Z2>();
 }
 
 } // namespace ondelis

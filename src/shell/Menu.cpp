@@ -1,7 +1,11 @@
 #include "shell/Menu.h"
 
+#include "panels/antennes/AntennesDipolesRaccourcis.h"
 #include "panels/antennes/AntennesLPDA1.h"
+#include "panels/antennes/DoubleQuad.h"
 #include "panels/antennes/GammaMatch.h"
+#include "panels/antennes/HB9CV_HF.h"
+#include "panels/antennes/HB9CV_VUSHF.h"
 #include "panels/condensateurs/Cms.h"
 #include "panels/condensateurs/CondensateurEnergie.h"
 #include "panels/condensateurs/CondensateurFixe.h"
@@ -16,10 +20,14 @@
 #include "panels/puissance/PDResitancesParalleles.h"
 #include "panels/puissance/PDShunts.h"
 #include "panels/resonance/CalculNombreSpires.h"
+#include "panels/resonance/CalculSelf.h"
+#include "panels/resonance/CalculSurTores.h"
 #include "panels/resonance/CircuitsOscillants.h"
 #include "panels/resonance/FormuleDeThomson.h"
 #include "panels/resonance/RLCParallele.h"
 #include "panels/resonance/RLCSerie.h"
+#include "panels/resonance/WireInductance.h"
+#include "panels/resonance/Z1Z2.h"
 #include "panels/timer555/Astable.h"
 #include "panels/timer555/Monostable.h"
 #include "panels/timer555/RapportCyclique.h"
@@ -86,6 +94,25 @@ MenuStep seedMonostable()
     };
 }
 
+MenuStep placeShortDipole()
+{
+    return [](MDIOndelis& frame) {
+        auto& panel = frame.desk().get<AntennesDipolesRaccourcis>();
+        panel.Left = (frame.Width - panel.Width) / 5;
+        panel.Top = (frame.Height - panel.Height) / 4;
+    };
+}
+
+MenuStep placeBesideShortDipole()
+{
+    return [](MDIOndelis& frame) {
+        auto& panel = frame.desk().get<AntennesDipolesRaccourcis>();
+        auto& companion = frame.desk().get<CalculNombreSpires>();
+        companion.Top = panel.Top + 500;
+        companion.Left = panel.Width + panel.Left + 500;
+    };
+}
+
 MenuStep quit()
 {
     return [](MDIOndelis& frame) { frame.desk().End(); };
@@ -100,27 +127,28 @@ std::vector<Menu> makeTree()
         }},
         {"mnuCalculAntennes", "Antennes", {
             {"mnuLPDA", "Antenne Log Périodique (LPDA)", centred<AntennesLPDA1>()},
-            {"mnuDipoleRaccourci", "Dipôle raccourci", {}},
-            {"mnuDoubleQuad", "Double Quad", {}},
+            {"mnuDipoleRaccourci", "Dipôle raccourci", {
+                show<AntennesDipolesRaccourcis>(), placeShortDipole(), show<CalculNombreSpires>(), placeBesideShortDipole()}},
+            {"mnuDoubleQuad", "Double Quad", centred<DoubleQuad>()},
             {"mnuGammaMatch", "Gamma match", {show<GammaMatch>(), height<GammaMatch>(7755), width<GammaMatch>(12240), centre<GammaMatch>()}},
-            {"mnuHB9CV_HF", "HB9CV HF", {}},
-            {"mnuHB9CV_VUSHF", "HB9CV VUSHF", {}},
+            {"mnuHB9CV_HF", "HB9CV HF", centred<HB9CV_HF>()},
+            {"mnuHB9CV_VUSHF", "HB9CV VUSHF", centred<HB9CV_VUSHF>()},
             {"mnuHighQLoop", "High Q Loop", {}},
             {"mnuTrappesCoaxiales", "Trappes en coaxial", {}},
         }},
         {"MenuCircuitsOscillants", "Circuits oscillants et Selfs", {
-            {"MenuAdaptationImpedance", "Adaptation d'impédance", {}},
+            {"MenuAdaptationImpedance", "Adaptation d'impédance", centred<Z1Z2>()},
             {"MenuCircuitOscillant", "Circuits oscillants", centred<CircuitsOscillants>()},
             {"MenuRLCparallele", "Circuits RLC Parallèles", {width<RLCParallele>(8325), show<RLCParallele>(), centre<RLCParallele>()}},
             {"MenuRLCserie", "Circuit RLC Série", {show<RLCSerie>(), width<RLCSerie>(9315), centre<RLCSerie>()}},
-            {"MenuWireInductance", "Epingle", {}},
+            {"MenuWireInductance", "Epingle", centred<WireInductance>()},
             {"MenuThomson", "Formule de Thomson", {
                 show<FormuleDeThomson>(), top<FormuleDeThomson>(2000), left<FormuleDeThomson>(1200),
                 top<CalculNombreSpires>(5000), left<CalculNombreSpires>(7800), show<CalculNombreSpires>()}},
             {"mnuSelfNbSpires", "Nombre de spires d'une self", centred<CalculNombreSpires>()},
-            {"mnuCalculSelfSurTore", "Selfs sur tores", {}},
+            {"mnuCalculSelfSurTore", "Selfs sur tores", centred<CalculSurTores>()},
             {"MenuStripLine", "Strip line", {}},
-            {"mnuCalculsSurSelf", "Valeur d'une self", {}},
+            {"mnuCalculsSurSelf", "Valeur d'une self", centred<CalculSelf>()},
         }},
         {"MenuAccèsAuxApplications", "Condensateurs", {
             {"MenuCondensateursCMS", "Condensateurs CMS", centred<Cms>()},

@@ -1,0 +1,30 @@
+#include "panels/antennes/DoubleQuad.h"
+
+#include "kit/Conversions.h"
+#include "kit/Maths.h"
+
+namespace ondelis {
+
+DoubleQuad::DoubleQuad(Desk& desk)
+    : FeuilleCalcul{desk, {.name = "DoubleQuad", .Caption = "Double Quad", .Width = 12150, .Height = 4380}}
+{
+}
+
+void DoubleQuad::Form_Load()
+{
+    resumeNext([&] { TxtFreq.Text = "1280"; });
+}
+
+void DoubleQuad::TxtFreq_Change()
+{
+    FreqDq = Val(TxtFreq.Text);
+    LambdaDq = 300 / FreqDq * 1000;
+    TxtLambda.Text = CStr(LambdaDq);
+    QuartLambda = LambdaDq / 4;
+    TxtL4.Text = CStr(Fix(QuartLambda * 100) / 100);
+    Txt45L4.Text = CStr(Fix(QuartLambda * 4.5 * 100) / 100);
+    Txt3L4.Text = CStr(Fix(QuartLambda * 3 * 100) / 100);
+    Txt0136L.Text = CStr(Fix(LambdaDq * 0.136 * 100) / 100);
+}
+
+} // namespace ondelis

@@ -1,0 +1,82 @@
+#include "panels/antennes/HB9CV_HF.h"
+
+#include "kit/Conversions.h"
+#include "kit/Maths.h"
+
+namespace ondelis {
+namespace {
+
+/// Three decimals, truncated.
+std::string T(Double x)
+{
+    return CStr(Fix(x * 1000) / 1000);
+}
+
+} // namespace
+
+HB9CV_HF::HB9CV_HF(Desk& desk)
+    : FeuilleCalcul{desk, {.name = "HB9CV_HF", .Caption = "HB9CV pour bandes HF", .Width = 11880, .Height = 5490}}
+{
+}
+
+void HB9CV_HF::Form_Load()
+{
+    resumeNext([&] { Option1.Value = true; });
+    resumeNext([&] { Option2.Value = false; });
+    resumeNext([&] { Lbl030.Visible = false; });
+    resumeNext([&] { Lbl025.Visible = true; });
+    // The bar stands there already: nothing is raised, and the coefficient stays unknown until the bar moves.
+    resumeNext([&] { HScroll1.Value = 400; });
+    resumeNext([&] { TxtFreq.Text = CStr(50.13); });
+}
+
+void HB9CV_HF::TxtFreq_Change()
+{
+    FreqHb = Val(TxtFreq.Text);
+    LambdaHb = 300 / FreqHb;
+    Calculer();
+}
+
+void HB9CV_HF::Option1_Click()
+{
+    Option2.Value = false;
+    Lbl030.Visible = false;
+    Lbl025.Visible = true;
+    TxtBalun.Text = "Balun 1:3";
+    Calculer();
+}
+
+void HB9CV_HF::Option2_Click()
+{
+    Option1.Value = false;
+    Lbl030.Visible = true;
+    Lbl025.Visible = false;
+    TxtBalun.Text = "Balun 1:6";
+    Calculer();
+}
+
+void HB9CV_HF::HScroll1_Change()
+{
+    CoeffHb = HScroll1.Value;
+    TxtCoeff.Text = CStr(CoeffHb);
+    Label5.Caption = "Lambda/" + Str(CoeffHb) + " (m)";
+    Calculer();
+}
+
+void HB9CV_HF::Calculer()
+{
+    if (TxtFreq.Text == "")
+        return;
+    // The factors cross the captions 0.25 and 0.30, and 0.32 stands under the caption 0.92: the panel's own figures.
+    if (Option1.Value)
+        TxtTmatch.Text = T(LambdaHb * 0.3 / 2);
+    else
+        TxtTmatch.Text = T(LambdaHb * 0.25 / 2);
+    Txt092.Text = T(LambdaHb * 0.32 / 2);
+    Txt200.Text = T(LambdaHb / 200);
+    Txt8.Text = T(LambdaHb / 8);
+    Txt2.Text = T(LambdaHb / 2);
+    TxtDiam.Text = T(LambdaHb / CoeffHb);
+}
+
+} // namespace ondelis
