@@ -12,14 +12,20 @@ namespace ondelis {
 template <class Value, int Last>
 class Table {
 public:
-    Value& operator()(Integer index)
+    constexpr Table() = default;
+    constexpr explicit Table(const std::array<Value, Last + 1>& values) : values_{values} { }
+
+    constexpr Value& operator()(Integer index) { return values_[checked(index)]; }
+    constexpr const Value& operator()(Integer index) const { return values_[checked(index)]; }
+
+private:
+    static constexpr std::size_t checked(Integer index)
     {
         if (index < 0 || index > Last)
             throw Fault{FaultKind::SubscriptOutOfRange};
-        return values_[static_cast<std::size_t>(index.value())];
+        return static_cast<std::size_t>(index.value());
     }
 
-private:
     std::array<Value, Last + 1> values_{};
 };
 

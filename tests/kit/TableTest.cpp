@@ -22,6 +22,15 @@ TEST(Table, keepsAValueUnderEachIndex)
     EXPECT_EQ((Table<std::string, 0>{}(0)), "");
 }
 
+TEST(Table, startsWithGivenValuesAndZeros)
+{
+    constexpr Table<Double, 2> table{{3, 4}};
+    EXPECT_EQ(table(0), 3);
+    EXPECT_EQ(table(1), 4);
+    EXPECT_EQ(table(2), 0);
+    EXPECT_EQ(faultOf([&] { return table(3); }), FaultKind::SubscriptOutOfRange);
+}
+
 TEST(Table, anyOtherIndexIsOutOfRange)
 {
     Table<Double, 2> table;
