@@ -20,6 +20,7 @@
 #include "panels/lignes/RVListeCoaxiaux.h"
 #include "panels/puissance/PDResitancesParalleles.h"
 #include "panels/puissance/PDShunts.h"
+#include "panels/puissance/Transformateur.h"
 #include "panels/resonance/CalculNombreSpires.h"
 #include "panels/resonance/CalculSelf.h"
 #include "panels/resonance/CalculSurTores.h"
@@ -110,6 +111,7 @@ void MDIOndelis::CacherFeuilles()
     desk_.Unload<RVListeCoaxiaux>();
     desk_.Unload<RLCParallele>();
     desk_.Unload<RLCSerie>();
+    desk_.Unload<Transformateur>();
     desk_.Unload<WireInductance>();
     desk_.Unload<Z1Z2>();
 }

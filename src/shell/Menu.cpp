@@ -19,6 +19,7 @@
 #include "panels/lignes/RVListeCoaxiaux.h"
 #include "panels/puissance/PDResitancesParalleles.h"
 #include "panels/puissance/PDShunts.h"
+#include "panels/puissance/Transformateur.h"
 #include "panels/resonance/CalculNombreSpires.h"
 #include "panels/resonance/CalculSelf.h"
 #include "panels/resonance/CalculSurTores.h"
@@ -191,7 +192,7 @@ std::vector<Menu> makeTree()
             {"mnuEchelleGrenouille", "Echelle à grenouille", {}},
         }},
         {"mnuTransfo", "Transformateurs", {
-            {"mnuCalcTransfo", "Calcul Transfo 500VA maxi", {}},
+            {"mnuCalcTransfo", "Calcul Transfo 500VA maxi", centred<Transformateur>()},
         }},
         {"MenuPontDiviseur", "Ponts diviseurs", {
             {"MenuShunt", "Calculs de Shunts", centred<PDShunts>()},

@@ -1,0 +1,230 @@
+#include "panels/puissance/Transformateur.h"
+
+#include "kit/Conversions.h"
+#include "kit/Maths.h"
+
+namespace ondelis {
+namespace {
+
+constexpr int secondairesMaxi = 4;
+
+constexpr Table<Double, 8> PuissRendement{{5, 10, 25, 50, 100, 250, 500, 1000}}; // VA
+constexpr Table<Double, 8> Rendement{{60, 70, 80, 85, 90, 91, 92, 32.5}}; // percent
+constexpr Table<Double, 8> PuissPerteFil{{25, 50, 100, 200, 400, 500, 750, 1000}}; // VA
+constexpr Table<Double, 8> PerteFilPourcent{{12, 10, 8, 6, 5, 4.5, 4, 3.5}}; // percent
+
+/// A lamination quality: its losses, and its coefficient on the section of the core.
+struct Tole {
+    const char* pertes;
+    Double coefficient;
+};
+constexpr Table<Tole, 2> toles{{{{"3.6 W/Kg", 1.2}, {"1.1 à 1.6 W/Kg", 1}, {"0.6 W/Kg", 0.8}}}};
+
+/// The straight line between two rows of a table, as a fraction of 1.
+Double interpole(Double P, const Table<Double, 8>& puissances, const Table<Double, 8>& pourcents, int i)
+{
+    return (pourcents(i)
+               + ((P - puissances(i)) / (puissances(i + 1) - puissances(i))) * (pourcents(i + 1) - pourcents(i)))
+        / 100;
+}
+
+/// A number cut, never rounded, to the `parts` of a unit: 10, 100 or 1000.
+std::string tronque(Double x, int parts)
+{
+    return CStr(Fix(x * parts) / parts);
+}
+
+} // namespace
+
+Transformateur::Transformateur(Desk& desk)
+    : FeuilleCalcul{
+        desk, {.name = "Transformateur", .Caption = "Calcul de transformateur à 50Hz", .Width = 11280, .Height = 6960}}
+{
+}
+
+Label::Design Transformateur::legende(const char* texte, int i, double left, double width)
+{
+    return {.Caption = texte, .at = {left, ligne(1.5 + i) + 30, width, 255}};
+}
+
+TextBox::Design Transformateur::saisie(int i, double left, Label& legende)
+{
+    return {.at = {left, ligne(1.5 + i), 1080, 315}, .label = &legende};
+}
+
+TextBox::Design Transformateur::resultat(int i, double left, Label& legende)
+{
+    return resultField({left, ligne(1.5 + i), 1080, 315}, &legende, cyan);
+}
+
+Label::Design Transformateur::cote(const char* texte, double x, double y)
+{
+    constexpr double width = 360;
+    constexpr double height = 225;
+    return {.Caption = texte,
+        .at = {4440 + x * 6450 - width / 2, 2640 + y * 3150 - height / 2, width, height},
+        .align = Align::Center,
+        .font = {.size = 8}};
+}
+
+void Transformateur::Form_Load()
+{
+    resumeNext([&] { TxtNbreEnrSec.Text = ""; });
+    resumeNext([&] { Pi = 4 * Atn(1); });
+    for (int i = 0; i < secondairesMaxi; ++i)
+        resumeNext([&] { MontrerSecondaire(i, false); });
+    resumeNext([&] { BtnReset_Click(); });
+    resumeNext([&] { TxtNbreEnrSec.Text = "2"; });
+    resumeNext([&] { TxtUSec(0).Text = "18"; });
+    resumeNext([&] { TxtIsec(0).Text = "5"; });
+    resumeNext([&] { TxtUSec(1).Text = "18"; });
+    resumeNext([&] { TxtIsec(1).Text = "5"; });
+    resumeNext([&] { LstTole.ListIndex = 0; });
+}
+
+void Transformateur::TxtNbreEnrSec_Change()
+{
+    NbreEnrSec = CInt(Val(TxtNbreEnrSec.Text));
+    for (int i = 0; i < secondairesMaxi; ++i) {
+        MontrerSecondaire(i, false);
+        TxtUSec(i).Text = "";
+        TxtIsec(i).Text = "";
+        TxtPap(i).Text = "";
+        TxtSpires(i).Text = "";
+        TxtDiamFil(i).Text = "";
+    }
+    TxtPuissApp.Text = "";
+    for (int i = 0; i < NbreEnrSec.value(); ++i)
+        MontrerSecondaire(i, true);
+}
+
+void Transformateur::TxtUSec_Change(Integer /*Index*/)
+{
+    LireSecondaires();
+}
+
+void Transformateur::TxtIsec_Change(Integer /*Index*/)
+{
+    LireSecondaires();
+}
+
+void Transformateur::BtnReset_Click()
+{
+    TxtNbreEnrSec.Text = "";
+    for (int i = 0; i < secondairesMaxi; ++i)
+        MontrerSecondaire(i, false);
+    TxtPuissApp.Text = "";
+    TxtDiamFilPrim.Text = "";
+    TxtSpiresPrimaire.Text = "";
+    TxtPuisPrim.Text = "";
+    for (TextBox* champ :
+        {&TxtPuissApp, &TxtPertes, &TxtSec, &TxtSecBrute, &Txta, &TxtPuisPrim, &TxtSpiresPrimaire, &TxtDiamFilPrim})
+        champ->BackColor = cyan;
+    LstTole.BackColor = cyan;
+}
+
+void Transformateur::MontrerSecondaire(int i, bool visible)
+{
+    TxtUSec(i).Visible = visible;
+    TxtIsec(i).Visible = visible;
+    TxtPap(i).Visible = visible;
+    TxtSpires(i).Visible = visible;
+    TxtDiamFil(i).Visible = visible;
+    Label7(i).Visible = visible;
+    Label17(i).Visible = visible;
+    Label18(i).Visible = visible;
+    Label19(i).Visible = visible;
+    Label25(i).Visible = visible;
+}
+
+void Transformateur::LireSecondaires()
+{
+    for (int i = 0; i < NbreEnrSec.value(); ++i) {
+        UsecVal(i) = Val(TxtUSec(i).Text);
+        IsecVal(i) = Val(TxtIsec(i).Text);
+        if (UsecVal(i) != 0 && IsecVal(i) != 0) {
+            PappVal(i) = UsecVal(i) * IsecVal(i);
+            TxtPap(i).Text = tronque(PappVal(i), 100);
+        }
+    }
+    PuissApparente();
+}
+
+void Transformateur::PuissApparente()
+{
+    SommePapp = 0;
+    for (int i = 0; i < NbreEnrSec.value(); ++i) {
+        if (PappVal(i) == 0)
+            continue;
+        SommePapp = SommePapp + PappVal(i);
+        TxtPuissApp.Text = CStr(SommePapp);
+        PuissancePrimaire = SommePapp / NetaTransfo(SommePapp);
+        TxtPuisPrim.Text = tronque(PuissancePrimaire, 100);
+        LstTole.BackColor = 0xFFFFFF; // the list can now be clicked
+    }
+}
+
+/// Efficiency at the apparent power P, VA, as a fraction. Throws a subscript out of range for a P that is not above
+/// 5 and up to 1000: no row holds it, and the row behind the last one is none.
+Double Transformateur::NetaTransfo(Double P)
+{
+    for (int i = 0;; ++i) {
+        const bool above = P > PuissRendement(i);
+        const bool within = P <= PuissRendement(i + 1); // read in any case
+        if (above && within)
+            return interpole(P, PuissRendement, Rendement, i);
+    }
+}
+
+/// Loss in the wires at the power P, VA, as a fraction; 0 outside of 25 to 1000.
+Double Transformateur::PerteFil(Double P)
+{
+    for (int i = 0; i <= 7; ++i)
+        if (P >= PuissPerteFil(i) && P <= PuissPerteFil(i + 1))
+            return interpole(P, PuissPerteFil, PerteFilPourcent, i);
+    return 0;
+}
+
+void Transformateur::LstTole_Click()
+{
+    const Tole& tole = toles(LstTole.ListIndex);
+    TxtPertes.Text = tole.pertes;
+    const Double Beta = 1; // T
+    SectionBrute = Sqr(PuissancePrimaire) * 1.1;
+    TxtSec.Text = tronque(SectionBrute, 100);
+    SectionCorrigee = Val(CStr(tole.coefficient)) * SectionBrute; // Val takes a point only
+    TxtSecBrute.Text = tronque(SectionCorrigee, 100);
+    CoteA = Sqr(SectionCorrigee) / 2;
+    Txta.Text = tronque(CoteA, 100);
+    SpiresParVolt = Pow(10, 4) / (Beta * 222.00000000000003 * SectionCorrigee);
+    SpiresParVolt = SpiresParVolt + PerteFil(PuissancePrimaire); // added as a plain number
+
+    for (int i = 0; i < NbreEnrSec.value(); ++i)
+        TxtSpires(i).Text = tronque(UsecVal(i) * SpiresParVolt, 10);
+    TxtSpiresPrimaire.Text = tronque(SpiresParVolt * 220, 10);
+
+    for (int i = 0; i < NbreEnrSec.value(); ++i) {
+        const Double I = Val(TxtPap(i).Text) / Val(TxtUSec(i).Text);
+        TxtDiamFil(i).Text = tronque(DiametreFil(PappVal(i), I), 1000);
+    }
+    TxtDiamFilPrim.Text = tronque(DiametreFil(PuissancePrimaire, PuissancePrimaire / 220), 1000);
+}
+
+/// Wire diameter, mm, of a winding of P VA that carries I amperes. Above 1000 VA the section stays that of the wire
+/// before.
+Double Transformateur::DiametreFil(Double P, Double I)
+{
+    if (P <= 50)
+        SectionFil = I / 4;
+    else if (P <= 100)
+        SectionFil = I / 3.5;
+    else if (P <= 200)
+        SectionFil = I / 3;
+    else if (P <= 500)
+        SectionFil = I / 2.5;
+    else if (P <= 1000)
+        SectionFil = I / 2;
+    return Sqr(SectionFil / Pi) * 1.1;
+}
+
+} // namespace ondelis
