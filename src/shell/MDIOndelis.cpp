@@ -3,6 +3,7 @@
 #include "forms/ResumeNext.h"
 #include "panels/antennes/AntennesDipolesRaccourcis.h"
 #include "panels/antennes/AntennesLPDA1.h"
+#include "panels/antennes/AntennesTrappesCoaxiales.h"
 #include "panels/antennes/DoubleQuad.h"
 #include "panels/antennes/GammaMatch.h"
 #include "panels/antennes/HB9CV_HF.h"
@@ -86,6 +87,7 @@ void MDIOndelis::CacherFeuilles()
     desk_.Unload<AntennesDipolesRaccourcis>();
     desk_.Unload<Astable>();
     desk_.Unload<CalculSelf>();
+    desk_.Unload<AntennesTrappesCoaxiales>();
     desk_.Unload<CalculNombreSpires>();
     desk_.Unload<CalculSurTores>();
     desk_.Unload<CircuitsOscillants>();

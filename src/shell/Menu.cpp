@@ -2,6 +2,7 @@
 
 #include "panels/antennes/AntennesDipolesRaccourcis.h"
 #include "panels/antennes/AntennesLPDA1.h"
+#include "panels/antennes/AntennesTrappesCoaxiales.h"
 #include "panels/antennes/DoubleQuad.h"
 #include "panels/antennes/GammaMatch.h"
 #include "panels/antennes/HB9CV_HF.h"
@@ -135,7 +136,7 @@ std::vector<Menu> makeTree()
             {"mnuHB9CV_HF", "HB9CV HF", centred<HB9CV_HF>()},
             {"mnuHB9CV_VUSHF", "HB9CV VUSHF", centred<HB9CV_VUSHF>()},
             {"mnuHighQLoop", "High Q Loop", {}},
-            {"mnuTrappesCoaxiales", "Trappes en coaxial", {}},
+            {"mnuTrappesCoaxiales", "Trappes en coaxial", centred<AntennesTrappesCoaxiales>()},
         }},
         {"MenuCircuitsOscillants", "Circuits oscillants et Selfs", {
             {"MenuAdaptationImpedance", "Adaptation d'impédance", centred<Z1Z2>()},
