@@ -85,11 +85,13 @@ Json Pilote::run(Words& words)
     const Command* const command = find(word);
     if (command == nullptr)
         throw Malformed{"no such command: " + word};
+    const Deed deed = (this->*command->read)(words);
+    words.finish();
     surroundings_.forget();
     expectedBoxes_ = 0;
     refusal_ = outOfTime(command->when);
     if (!refusal_)
-        refusal_ = (this->*command->action)(words);
+        refusal_ = deed();
     return done();
 }
 
@@ -116,136 +118,139 @@ Pilote::Refusal Pilote::outOfTime(When when) const
     return {};
 }
 
-Pilote::Refusal Pilote::region(Words& words)
+Pilote::Deed Pilote::region(Words& words)
 {
-    const std::string decimal = words.next();
-    const std::string thousands = words.next();
-    words.finish();
-    if (Len(decimal) != 1 || Len(thousands) > 1 || decimal == thousands)
+    Region separators{.decimal = words.next(), .thousands = words.next()};
+    if (Len(separators.decimal) != 1 || Len(separators.thousands) > 1 || separators.decimal == separators.thousands)
         throw Malformed{"not two separators: one character, and another one or none"};
-    setRegion({.decimal = decimal, .thousands = thousands});
-    return {};
-}
-
-Pilote::Refusal Pilote::screen(Words& words)
-{
-    const double width = extent(words.next());
-    const double height = extent(words.next());
-    words.finish();
-    surroundings_.setScreen({.Width = width, .Height = height});
-    return {};
-}
-
-Pilote::Refusal Pilote::start(Words& words)
-{
-    words.finish();
-    started_ = true;
-    frame_.start();
-    return {};
-}
-
-Pilote::Refusal Pilote::menu(Words& words)
-{
-    const std::string name = words.next();
-    words.finish();
-    const MenuEntry* const entry = findMenuEntry(name);
-    if (entry == nullptr)
-        return "the menu has no such entry";
-    frame_.click(*entry);
-    return {};
-}
-
-Pilote::Refusal Pilote::close(Words& words)
-{
-    const std::string name = words.next();
-    words.finish();
-    if (name == "MDIOndelis") {
-        frame_.close();
+    return [separators]() -> Refusal {
+        setRegion(separators);
         return {};
-    }
-    FeuilleCalcul* const open = panel(name);
-    return open == nullptr ? "the panel is not on screen" : user_.close(*open);
+    };
 }
 
-Pilote::Refusal Pilote::type(Words& words)
+Pilote::Deed Pilote::screen(Words& words)
 {
-    const std::string target = words.next();
-    const std::string text = words.next();
-    words.finish();
-    return with<TextBox>(target, [&](TextBox& box) { return user_.type(box, text); });
+    const Extent size{.Width = extent(words.next()), .Height = extent(words.next())};
+    return [this, size]() -> Refusal {
+        surroundings_.setScreen(size);
+        return {};
+    };
 }
 
-Pilote::Refusal Pilote::backspace(Words& words)
+Pilote::Deed Pilote::start(Words& /*words*/)
 {
-    const std::string target = words.next();
-    words.finish();
-    return with<TextBox>(target, [&](TextBox& box) { return user_.backspace(box); });
+    return [this]() -> Refusal {
+        started_ = true;
+        frame_.start();
+        return {};
+    };
 }
 
-Pilote::Refusal Pilote::replace(Words& words)
+Pilote::Deed Pilote::menu(Words& words)
 {
-    const std::string target = words.next();
-    const std::string text = words.next();
-    words.finish();
-    return with<TextBox>(target, [&](TextBox& box) { return user_.replace(box, text); });
+    return [this, entry = findMenuEntry(words.next())]() -> Refusal {
+        if (entry == nullptr)
+            return "the menu has no such entry";
+        frame_.click(*entry);
+        return {};
+    };
 }
 
-Pilote::Refusal Pilote::click(Words& words)
+Pilote::Deed Pilote::close(Words& words)
 {
-    const std::string target = words.next();
-    words.finish();
-    return with<Control>(target, [&](Control& control) -> Refusal {
-        if (auto* const option = dynamic_cast<OptionButton*>(&control))
-            return user_.click(*option);
-        if (auto* const button = dynamic_cast<CommandButton*>(&control))
-            return user_.click(*button);
-        return "the control is neither an option nor a button";
-    });
+    return [this, name = words.next()]() -> Refusal {
+        if (name == "MDIOndelis") {
+            frame_.close();
+            return {};
+        }
+        FeuilleCalcul* const open = panel(name);
+        return open == nullptr ? "the panel is not on screen" : user_.close(*open);
+    };
 }
 
-Pilote::Refusal Pilote::select(Words& words)
+Pilote::Deed Pilote::type(Words& words)
 {
-    const std::string target = words.next();
-    const int row = whole(words.next());
-    words.finish();
-    return with<ListBox>(target, [&](ListBox& list) { return user_.choose(list, row); });
+    return [this, field = target(words), text = words.next()] {
+        return with<TextBox>(field, [&](TextBox& box) { return user_.type(box, text); });
+    };
 }
 
-Pilote::Refusal Pilote::scroll(Words& words)
+Pilote::Deed Pilote::backspace(Words& words)
 {
-    const std::string target = words.next();
-    const int value = whole(words.next());
-    words.finish();
-    return with<ScrollBar>(target, [&](ScrollBar& bar) { return user_.move(bar, value); });
+    return [this, field = target(words)] {
+        return with<TextBox>(field, [&](TextBox& box) { return user_.backspace(box); });
+    };
 }
 
-Pilote::Refusal Pilote::focus(Words& words)
+Pilote::Deed Pilote::replace(Words& words)
 {
-    const std::string target = words.next();
-    words.finish();
-    return with<Control>(target, [&](Control& control) { return user_.focus(control); });
+    return [this, field = target(words), text = words.next()] {
+        return with<TextBox>(field, [&](TextBox& box) { return user_.replace(box, text); });
+    };
 }
 
-Pilote::Refusal Pilote::answerNext(Words& words)
+Pilote::Deed Pilote::click(Words& words)
+{
+    return [this, button = target(words)] {
+        return with<Control>(button, [&](Control& control) -> Refusal {
+            if (auto* const option = dynamic_cast<OptionButton*>(&control))
+                return user_.click(*option);
+            if (auto* const command = dynamic_cast<CommandButton*>(&control))
+                return user_.click(*command);
+            return "the control is neither an option nor a button";
+        });
+    };
+}
+
+Pilote::Deed Pilote::select(Words& words)
+{
+    return [this, choices = target(words), row = whole(words.next())] {
+        return with<ListBox>(choices, [&](ListBox& list) { return user_.choose(list, row); });
+    };
+}
+
+Pilote::Deed Pilote::scroll(Words& words)
+{
+    return [this, scrollBar = target(words), value = whole(words.next())] {
+        return with<ScrollBar>(scrollBar, [&](ScrollBar& bar) { return user_.move(bar, value); });
+    };
+}
+
+Pilote::Deed Pilote::focus(Words& words)
+{
+    return [this, next = target(words)] {
+        return with<Control>(next, [&](Control& control) { return user_.focus(control); });
+    };
+}
+
+Pilote::Deed Pilote::answerNext(Words& words)
 {
     const std::string word = words.next();
-    words.finish();
     if (word != "yes" && word != "no")
         throw Malformed{"neither yes nor no: " + word};
-    surroundings_.answer(word == "yes" ? Answer::Yes : Answer::No);
-    return {};
+    return [this, answer = word == "yes" ? Answer::Yes : Answer::No]() -> Refusal {
+        surroundings_.answer(answer);
+        return {};
+    };
+}
+
+Pilote::Target Pilote::target(Words& words)
+{
+    const std::string word = words.next();
+    const std::size_t dot = word.find('.');
+    if (dot == std::string::npos)
+        throw Malformed{"not PANEL.CONTROL: " + word};
+    return {.panel = word.substr(0, dot), .control = word.substr(dot + 1)};
 }
 
 template <class ControlClass, class Act>
-Pilote::Refusal Pilote::with(const std::string& target, Act&& act)
+Pilote::Refusal Pilote::with(const Target& target, Act&& act)
 {
-    const std::size_t dot = target.find('.');
-    if (dot == std::string::npos)
-        throw Malformed{"not PANEL.CONTROL: " + target};
-    const FeuilleCalcul* const open = panel(target.substr(0, dot));
+    const FeuilleCalcul* const open = panel(target.panel);
     if (open == nullptr)
         return "the panel is not on screen";
-    Control* const control = open->find(target.substr(dot + 1));
+    Control* const control = open->find(target.control);
     if (control == nullptr)
         return "the panel has no such control";
     auto* const wanted = dynamic_cast<ControlClass*>(control);

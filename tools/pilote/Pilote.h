@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <string>
 #include <string_view>
 
@@ -22,14 +23,15 @@ public:
 
 private:
     using Refusal = User::Refusal;
-    using Action = Refusal (Pilote::*)(Words& words);
+    /// What a whole command does once it has been read.
+    using Deed = std::function<Refusal()>;
     enum class When { BeforeStart, Running };
 
-    /// A command that does something: its word, when it may come, what it does.
+    /// A command that does something: its word, when it may come, what reads the words behind.
     struct Command {
         std::string_view word;
         When when;
-        Action action;
+        Deed (Pilote::*read)(Words& words);
     };
     static const Command* find(std::string_view word);
 
@@ -37,23 +39,30 @@ private:
     Json done() const;
     [[nodiscard]] Refusal outOfTime(When when) const;
 
-    Refusal region(Words& words);
-    Refusal screen(Words& words);
-    Refusal start(Words& words);
-    Refusal menu(Words& words);
-    Refusal close(Words& words);
-    Refusal type(Words& words);
-    Refusal backspace(Words& words);
-    Refusal replace(Words& words);
-    Refusal click(Words& words);
-    Refusal select(Words& words);
-    Refusal scroll(Words& words);
-    Refusal focus(Words& words);
-    Refusal answerNext(Words& words);
+    Deed region(Words& words);
+    Deed screen(Words& words);
+    Deed start(Words& words);
+    Deed menu(Words& words);
+    Deed close(Words& words);
+    Deed type(Words& words);
+    Deed backspace(Words& words);
+    Deed replace(Words& words);
+    Deed click(Words& words);
+    Deed select(Words& words);
+    Deed scroll(Words& words);
+    Deed focus(Words& words);
+    Deed answerNext(Words& words);
 
-    /// Runs `act` on the control of the next word, "PANEL.CONTROL", if it is of that class.
+    /// A control by its names.
+    struct Target {
+        std::string panel;
+        std::string control;
+    };
+    /// The next word, "PANEL.CONTROL".
+    static Target target(Words& words);
+    /// Runs `act` on the control if it is of that class.
     template <class ControlClass, class Act>
-    Refusal with(const std::string& target, Act&& act);
+    Refusal with(const Target& target, Act&& act);
 
     // The expectations, in Expectations.cpp.
     Json expect(Words& words);

@@ -1,0 +1,137 @@
+#include "Support.h"
+
+namespace ondelis::pilote {
+namespace {
+
+class ExpectationTest : public DriverTest { };
+
+TEST_F(ExpectationTest, ComparesNumbersAsNumbers)
+{
+    open();
+    EXPECT_EQ(say("expect MDIOndelis.Width 19470.0"), Json::parse(R"({"ok":true,"got":19470})"));
+    EXPECT_EQ(say("expect MDIOndelis.Width 1947e1"), Json::parse(R"({"ok":true,"got":19470})"));
+    EXPECT_EQ(say("expect MDIOndelis.Width \"19470\""), Json::parse(R"({"ok":false,"wanted":"19470","got":19470})"));
+    EXPECT_TRUE(ok("expect CircuitsOscillants.TxtFreq.BackColor 16777215"));
+}
+
+TEST_F(ExpectationTest, ComparesAPositionWithAFractionAsASingle)
+{
+    EXPECT_TRUE(ok("screen 28800.1 16200"));
+    say("start");
+    EXPECT_TRUE(ok("expect MDIOndelis.Left 4665.05"));
+    EXPECT_TRUE(ok("expect MDIOndelis.Left 4665.0498046875"));
+    EXPECT_FALSE(ok("expect MDIOndelis.Left 4665.06"));
+    EXPECT_FALSE(ok("expect MDIOndelis.Left 4665"));
+}
+
+TEST_F(ExpectationTest, ComparesYesAndNoAndArrays)
+{
+    open();
+    EXPECT_TRUE(ok("expect CircuitsOscillants.visible true"));
+    EXPECT_TRUE(ok("expect CircuitsOscillants.TxtFreq.Locked false # an input"));
+    EXPECT_FALSE(ok("expect CircuitsOscillants.TxtFreq.Locked 0"));
+    EXPECT_TRUE(ok(R"(expect CircuitsOscillants.LstFreq.Items ["GHz", "MHz", "KHz", "Hz"] # units)"));
+    EXPECT_FALSE(ok(R"(expect CircuitsOscillants.LstFreq.Items ["GHz"])"));
+}
+
+TEST_F(ExpectationTest, SaysWhyThereIsNothingToCompare)
+{
+    EXPECT_EQ(say("expect MDIOndelis.Left 4665")["why"], "the program does not run");
+    open();
+    EXPECT_EQ(say("expect Decibels.TxtA.Text \"\"")["why"], "the panel is not loaded");
+    EXPECT_EQ(say("expect CircuitsOscillants.TxtA.Text \"\"")["why"], "the panel has no such control");
+    EXPECT_EQ(say("expect CircuitsOscillants.TxtFreq.Caption \"\"")["why"], "no such member");
+    EXPECT_EQ(say("expect CircuitsOscillants.controls null")["why"], "no such member");
+    say("menu MenuQuitter");
+    EXPECT_EQ(say("expect CircuitsOscillants.TxtFreq.Text \"\"")["why"], "the program does not run");
+}
+
+TEST_F(ExpectationTest, IsAnErrorWhereItIsNone)
+{
+    open();
+    for (const char* const line : {"expect", "expect message", "expect no", "expect no idea", "expect fault",
+             "expect refused why", "expect CircuitsOscillants", "expect CircuitsOscillants open", "expect A.B",
+             "expect A.B x", "expect A.B 1 2", "expect A.B \"x\" 1", "expect A.B [[1]]", "expect A.B {}",
+             "expect A.B 1e999", "expect A.B [", "expect message a b"})
+        EXPECT_FALSE(error(line).empty()) << line;
+}
+
+TEST_F(ExpectationTest, StandsDeepNestingAndLongNumbers)
+{
+    open();
+    const std::string opening(200000, '[');
+    const std::string closing(200000, ']');
+    EXPECT_FALSE(error("expect A.B " + opening).empty());
+    EXPECT_FALSE(error("expect A.B " + opening + closing).empty());
+    EXPECT_FALSE(ok("expect MDIOndelis.Left " + std::string(300, '9')));
+}
+
+TEST_F(ExpectationTest, TellsTheStatesOfAPanelApart)
+{
+    say("start");
+    EXPECT_EQ(
+        say("expect CircuitsOscillants visible"), Json::parse(R"({"ok":false,"wanted":"visible","got":"unloaded"})"));
+    say("menu MenuCircuitOscillant");
+    EXPECT_TRUE(ok("expect CircuitsOscillants visible"));
+    EXPECT_FALSE(ok("expect CircuitsOscillants hidden"));
+    say("close CircuitsOscillants");
+    EXPECT_TRUE(ok("expect CircuitsOscillants unloaded"));
+}
+
+TEST_F(ExpectationTest, FindsEveryPanelUnloadedAfterTheEnd)
+{
+    open();
+    say("close MDIOndelis");
+    EXPECT_TRUE(ok("expect CircuitsOscillants unloaded"));
+}
+
+TEST_F(ExpectationTest, KnowsTheFaultOfTheLastCommand)
+{
+    open();
+    EXPECT_TRUE(ok("expect no fault"));
+    const Json reply = say("type CircuitsOscillants.TxtFreq 1e999");
+    EXPECT_EQ(reply, Json::parse(R"({"ok":true,"messages":[],"fault":"overflow","ended":true})"));
+    EXPECT_TRUE(ok("expect fault \"overflow\""));
+    EXPECT_FALSE(ok("expect no fault"));
+    EXPECT_FALSE(ok("expect fault \"type mismatch\""));
+    EXPECT_FALSE(ok("expect refused"));
+}
+
+TEST_F(ExpectationTest, KnowsNoFaultOfAnEarlierCommand)
+{
+    open();
+    say("type CircuitsOscillants.TxtFreq 1e999");
+    say("menu MenuQuitter");
+    EXPECT_TRUE(ok("expect refused"));
+    EXPECT_TRUE(ok("expect no fault"));
+}
+
+TEST_F(ExpectationTest, TakesTheBoxesOfTheLastCommandInTheirOrder)
+{
+    say("start");
+    const Json boxes = say("menu MenuFiltrePasseBasEnPi")["messages"];
+    ASSERT_EQ(boxes.size(), 1U);
+    say("state");
+    EXPECT_FALSE(ok("expect no message"));
+    EXPECT_TRUE(ok("expect message " + boxes[0]["prompt"].dump()));
+    EXPECT_TRUE(ok("expect no message"));
+    EXPECT_EQ(say("expect message \"another\""), Json::parse(R"({"ok":false,"wanted":"another","got":null})"));
+}
+
+TEST_F(ExpectationTest, KnowsNoBoxOfAnEarlierCommand)
+{
+    say("start");
+    say("menu MenuFiltrePasseBasEnPi");
+    say("menu MenuCircuitOscillant");
+    EXPECT_TRUE(ok("expect no message"));
+}
+
+TEST_F(ExpectationTest, ShowsTheBoxThatCameInsteadOfTheExpectedOne)
+{
+    say("start");
+    const Json boxes = say("menu MenuFiltrePasseBasEnPi")["messages"];
+    EXPECT_EQ(say("expect message \"another\"")["got"], boxes[0]["prompt"]);
+}
+
+} // namespace
+} // namespace ondelis::pilote
