@@ -27,6 +27,7 @@ public:
     /// What happens when pending events run.
     std::function<void()> onPending = [] {};
 
+    Extent screenSize{.Width = 28800, .Height = 16200};
     std::vector<MessageBox> boxes;
     std::optional<FaultKind> fault;
     std::vector<int> endings; ///< the status of each end of the program: there must never be two
@@ -43,7 +44,7 @@ public:
         onFault();
     }
     void runPendingEvents() override { onPending(); }
-    [[nodiscard]] Extent screen() const override { return {.Width = 28800, .Height = 16200}; }
+    [[nodiscard]] Extent screen() const override { return screenSize; }
 
     void frameChanged() override { log.emplace_back("frame"); }
     void panelLoaded(FeuilleCalcul& panel) override { log.push_back("loaded " + panel.design().name); }

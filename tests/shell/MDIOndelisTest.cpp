@@ -1,0 +1,149 @@
+#include "Support.h"
+#include "shell/Centrages.h"
+
+namespace ondelis::tests {
+namespace {
+
+class MDIOndelisTest : public FrameTest { };
+
+TEST_F(MDIOndelisTest, StartsCentredOnTheScreenWithItsSizeAndCaption)
+{
+    frame.start();
+    EXPECT_EQ(Double{frame.Width}, 19470);
+    EXPECT_EQ(Double{frame.Height}, 15000);
+    EXPECT_EQ(Double{frame.Left}, 4665);
+    EXPECT_EQ(Double{frame.Top}, 600);
+    EXPECT_EQ(frame.Caption, "Kervane : Veloris divers V21.5.0 du 20 Janvier 2021");
+}
+
+TEST_F(MDIOndelisTest, StartsPartlyOffAScreenThatIsTooSmall)
+{
+    world.screenSize = {.Width = 15360, .Height = 11520};
+    frame.start();
+    EXPECT_EQ(Double{frame.Left}, -2055);
+    EXPECT_EQ(Double{frame.Top}, -1740);
+}
+
+TEST_F(MDIOndelisTest, StartsWithNoPanelOpen)
+{
+    frame.start();
+    EXPECT_TRUE(desk.loadedPanels().empty());
+    EXPECT_FALSE(desk.ended());
+}
+
+TEST_F(MDIOndelisTest, QuitterEndsTheProgramAtOnce)
+{
+    frame.start();
+    EXPECT_TRUE(click("MenuQuitter"));
+    EXPECT_EQ(world.endings, std::vector<int>{0});
+    EXPECT_TRUE(world.boxes.empty());
+}
+
+TEST_F(MDIOndelisTest, ItsCloseBoxEndsTheProgramAtOnce)
+{
+    frame.start();
+    click("MenuCircuitOscillant");
+    frame.close();
+    EXPECT_EQ(world.endings, std::vector<int>{0});
+    EXPECT_TRUE(world.boxes.empty());
+}
+
+TEST_F(MDIOndelisTest, AnEntryWithoutPanelLeavesWhatIsOpen)
+{
+    frame.start();
+    click("MenuCircuitOscillant");
+    frame.click({.control = "mnuRien", .caption = "Rien", .steps = {}});
+    EXPECT_NE(panel("CircuitsOscillants"), nullptr);
+}
+
+TEST_F(MDIOndelisTest, AnEntryClosesThePanelThatIsOpen)
+{
+    frame.start();
+    click("MenuCircuitOscillant");
+    click("mnuSelfNbSpires");
+    EXPECT_EQ(panel("CircuitsOscillants"), nullptr);
+    EXPECT_EQ(desk.loadedPanels().size(), 1U);
+}
+
+TEST_F(MDIOndelisTest, AnEntryClosesAHiddenPanelToo)
+{
+    frame.start();
+    click("mnuSelfNbSpires");
+    panel("CalculNombreSpires")->Hide();
+    click("MenuCircuitOscillant");
+    EXPECT_EQ(desk.loadedPanels(), std::vector<FeuilleCalcul*>{panel("CircuitsOscillants")});
+}
+
+TEST_F(MDIOndelisTest, TheEntryOfTheOpenPanelRestartsIt)
+{
+    frame.start();
+    click("MenuCircuitOscillant");
+    FeuilleCalcul& open = *panel("CircuitsOscillants");
+    auto& field = dynamic_cast<TextBox&>(*open.find("TxtFreq"));
+    user.type(field, "14.1");
+    open.Left = 0;
+    click("MenuCircuitOscillant");
+    EXPECT_EQ(panel("CircuitsOscillants"), &open);
+    EXPECT_EQ(field.Text, "");
+    EXPECT_EQ(Double{open.Left}, (Double{19470} - open.Width) / 2);
+}
+
+TEST_F(MDIOndelisTest, APanelClosedByTheUserOpensAgain)
+{
+    frame.start();
+    click("MenuCircuitOscillant");
+    user.close(*panel("CircuitsOscillants"));
+    EXPECT_TRUE(desk.loadedPanels().empty());
+    click("MenuCircuitOscillant");
+    EXPECT_NE(panel("CircuitsOscillants"), nullptr);
+}
+
+TEST_F(MDIOndelisTest, PanelsAreCentredInTheFrameAsTheUserLeftIt)
+{
+    frame.start();
+    frame.placed({.Width = 100, .Height = 200}, {.Width = 12000, .Height = 9000});
+    click("MenuCircuitOscillant");
+    const FeuilleCalcul& open = *panel("CircuitsOscillants");
+    EXPECT_EQ(Double{open.Left}, (Double{12000} - open.Width) / 2);
+    EXPECT_EQ(Double{open.Top}, (Double{9000} - open.Height) / 2);
+}
+
+TEST_F(MDIOndelisTest, NothingOpensAfterTheEnd)
+{
+    frame.start();
+    frame.close();
+    click("MenuCircuitOscillant");
+    EXPECT_TRUE(desk.loadedPanels().empty());
+}
+
+/// Notes the stores into a position.
+struct Form {
+    Double Width = 1000;
+    Double Height = 500;
+    std::vector<std::string>* order;
+    struct Position {
+        std::string name;
+        std::vector<std::string>* order;
+        void operator=(Double twips) { order->push_back(name + " " + std::to_string(twips.value())); } // NOLINT
+    };
+    Position Left{"Left", order};
+    Position Top{"Top", order};
+};
+
+TEST(CentragesTest, StoreTheTopBeforeTheLeft)
+{
+    std::vector<std::string> order;
+    Form form{.order = &order};
+    CentrerEcran({.Width = 4000, .Height = 2500}, form);
+    EXPECT_EQ(order, (std::vector<std::string>{"Top 1000.000000", "Left 1500.000000"}));
+    order.clear();
+    struct {
+        Double Width = 2000;
+        Double Height = 3001;
+    } outside;
+    CentrerFeuille(outside, form);
+    EXPECT_EQ(order, (std::vector<std::string>{"Top 1250.500000", "Left 500.000000"}));
+}
+
+} // namespace
+} // namespace ondelis::tests

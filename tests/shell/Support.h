@@ -1,0 +1,34 @@
+#pragma once
+
+#include "forms/Support.h"
+#include "shell/MDIOndelis.h"
+#include "shell/Menu.h"
+
+namespace ondelis::tests {
+
+/// The frame of the program, started on the screen of the test's world.
+class FrameTest : public DeskTest {
+protected:
+    MDIOndelis frame{desk};
+
+    /// Clicks an entry of the menu; false where the program does not have its panel.
+    bool click(std::string_view control)
+    {
+        const MenuEntry* const entry = findMenuEntry(control);
+        if (entry == nullptr || entry->steps.empty())
+            return false;
+        frame.click(*entry);
+        return true;
+    }
+
+    /// The loaded panel of that class; null where there is none.
+    [[nodiscard]] FeuilleCalcul* panel(std::string_view name) const
+    {
+        for (FeuilleCalcul* const loaded : desk.loadedPanels())
+            if (loaded->design().name == name)
+                return loaded;
+        return nullptr;
+    }
+};
+
+} // namespace ondelis::tests
