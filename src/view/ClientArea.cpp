@@ -29,6 +29,12 @@ void ClientArea::paintEvent(QPaintEvent* event)
     painter.drawImage(target, image);
 }
 
+void ClientArea::scrollContentsBy(int dx, int dy)
+{
+    QMdiArea::scrollContentsBy(dx, dy);
+    viewport()->update(); // the panels have moved over the picture, which has not
+}
+
 const QImage& ClientArea::picture()
 {
     if (!pictureRead_) {

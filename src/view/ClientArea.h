@@ -12,6 +12,7 @@ public:
 
 protected:
     void paintEvent(QPaintEvent* event) override;
+    void scrollContentsBy(int dx, int dy) override;
 
 private:
     /// Reads the picture at the first call: the window comes on screen before.
