@@ -2,29 +2,42 @@
 
 #include <QPaintEvent>
 #include <QPainter>
+#include <chrono>
+#include <utility>
 
 namespace ondelis {
+namespace {
+
+/// The mean colour of the picture, which stands for it for a moment at the start.
+constexpr QRgb dusk = 0xFF3D4A5D;
+
+constexpr std::chrono::milliseconds idleTime{500};
+
+} // namespace
 
 ClientArea::ClientArea(QWidget* parent) : QMdiArea{parent}
 {
     setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
     setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
     setOption(QMdiArea::DontMaximizeSubWindowOnActivation);
+    idle_.setSingleShot(true);
+    idle_.setInterval(idleTime);
+    idle_.callOnTimeout([this] { picture_ = {}; });
 }
 
 void ClientArea::paintEvent(QPaintEvent* event)
 {
-    const QImage& image = picture();
-    if (image.isNull()) {
-        QMdiArea::paintEvent(event);
+    QPainter painter{viewport()};
+    painter.setClipRegion(event->region());
+    if (!std::exchange(onScreen_, true)) { // the window comes on screen first, then the picture is decoded
+        painter.fillRect(viewport()->rect(), QColor{dusk});
+        QTimer::singleShot(0, viewport(), qOverload<>(&QWidget::update));
         return;
     }
     // The picture covers the area, its middle in the middle; what is too much of it is cut at both ends.
-    const QSize covering = image.size().scaled(viewport()->size(), Qt::KeepAspectRatioByExpanding);
-    QRect target{{}, covering};
+    const QImage& image = picture();
+    QRect target{{}, image.size().scaled(viewport()->size(), Qt::KeepAspectRatioByExpanding)};
     target.moveCenter(viewport()->rect().center());
-    QPainter painter{viewport()};
-    painter.setClipRegion(event->region());
     painter.setRenderHint(QPainter::SmoothPixmapTransform);
     painter.drawImage(target, image);
 }
@@ -37,10 +50,9 @@ void ClientArea::scrollContentsBy(int dx, int dy)
 
 const QImage& ClientArea::picture()
 {
-    if (!pictureRead_) {
-        pictureRead_ = true;
+    if (picture_.isNull())
         picture_.load(QStringLiteral(":/fond.jpg"));
-    }
+    idle_.start();
     return picture_;
 }
 

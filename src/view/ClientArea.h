@@ -2,6 +2,7 @@
 
 #include <QImage>
 #include <QMdiArea>
+#include <QTimer>
 
 namespace ondelis {
 
@@ -15,11 +16,12 @@ protected:
     void scrollContentsBy(int dx, int dy) override;
 
 private:
-    /// Reads the picture at the first call: the window comes on screen before.
+    /// The picture, decoded where it is not at hand.
     const QImage& picture();
 
     QImage picture_;
-    bool pictureRead_ = false;
+    QTimer idle_; ///< lets the picture go when nothing has been painted for a while: decoded, it is large
+    bool onScreen_ = false;
 };
 
 } // namespace ondelis

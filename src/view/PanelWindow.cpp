@@ -5,7 +5,9 @@
 #include <QMenu>
 #include <QScopedValueRollback>
 #include <QScrollBar>
+#include <algorithm>
 #include <ranges>
+#include <utility>
 
 #include "view/ControlWidget.h"
 #include "view/View.h"
@@ -36,6 +38,15 @@ ControlWidget* PanelWindow::find(const Control& control) const
     return found == widgets_.end() ? nullptr : found->second;
 }
 
+Control* PanelWindow::controlOf(const QWidget* widget) const
+{
+    const auto found = std::ranges::find_if(panel_.controls(), [&](const Control* control) {
+        ControlWidget* const shown = find(*control);
+        return shown != nullptr && &shown->widget() == widget;
+    });
+    return found == panel_.controls().end() ? nullptr : *found;
+}
+
 void PanelWindow::follow()
 {
     const QScopedValueRollback following{following_, true};
@@ -57,6 +68,19 @@ void PanelWindow::follow(const Control& control)
         for (const auto& entry : std::ranges::subrange{first, last})
             entry.second->setAccessibleName(toQString(label->Caption.get()));
     }
+}
+
+void PanelWindow::activate()
+{
+    mdiArea()->setActiveSubWindow(this);
+    if (std::exchange(activated_, true))
+        return;
+    const auto first = std::ranges::find_if(panel_.controls(), &Control::focusable);
+    if (first == panel_.controls().end())
+        return;
+    QWidget& widget = find(**first)->widget();
+    widget.clearFocus(); // it may have it already, but not as by the Tab key, which selects its text
+    widget.setFocus(Qt::TabFocusReason);
 }
 
 void PanelWindow::act(const std::function<void(User&)>& action, Control* control)

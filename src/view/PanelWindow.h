@@ -28,11 +28,16 @@ public:
     [[nodiscard]] QWidget& form() const { return *widget(); }
     /// The widget of a control; null where it has none.
     [[nodiscard]] ControlWidget* find(const Control& control) const;
+    /// The control that a widget shows; null where it shows none.
+    [[nodiscard]] Control* controlOf(const QWidget* widget) const;
 
     /// Shows caption, place and size of the panel.
     void follow();
     /// Shows the properties of a control.
     void follow(const Control& control);
+
+    /// Brings the panel before the others; the first time with the keyboard in its first control.
+    void activate();
 
     /// Runs an action of the user, on a control or on the panel itself.
     void act(const std::function<void(User&)>& action, Control* control = nullptr);
@@ -60,6 +65,7 @@ private:
     std::unordered_map<const Control*, ControlWidget*> widgets_;
     std::unordered_multimap<const Label*, QWidget*> named_;
     bool gone_ = false;
+    bool activated_ = false;
     bool following_ = false;
 };
 

@@ -70,7 +70,7 @@ PanelWindow* View::find(const FeuilleCalcul& panel) const
 
 void View::act(const std::function<void(User&)>& action)
 {
-    if (waitingBoxes_ > 0 || status_)
+    if (waitingBoxes_ > 0 || showing_ || status_)
         return;
     {
         const Counted running{actions_};
@@ -173,17 +173,21 @@ void View::show()
 {
     if (status_)
         return;
+    {
+        const QScopedValueRollback showing{showing_, true};
+        showWindows();
+        showControls();
+    }
+    tellFocus();
+}
+
+void View::showWindows()
+{
     if (std::exchange(frameNoted_, false))
         mainWindow_->follow();
     for (PanelWindow* window : closedWindows_)
         if (window->mdiArea() != nullptr)
             mainWindow_->area().removeSubWindow(window);
-    showPanels();
-    showControls();
-}
-
-void View::showPanels()
-{
     for (FeuilleCalcul* panel : std::exchange(notedPanels_, {})) {
         if (!panel->loaded())
             continue;
@@ -202,16 +206,30 @@ void View::showPanels()
 
 void View::showControls()
 {
+    const FeuilleCalcul* const raised = std::exchange(raised_, nullptr);
+    const Control* const focused = std::exchange(focused_, nullptr);
     for (Control* control : std::exchange(notedControls_, {}))
         if (PanelWindow* const window = find(control->panel()))
             window->follow(*control);
-    if (const Control* const control = std::exchange(focused_, nullptr))
-        if (const PanelWindow* const window = find(control->panel()))
-            if (ControlWidget* const shown = window->find(*control))
+    // A panel that comes on screen has the keyboard in its first control, or where its code has put it.
+    if (raised != nullptr)
+        if (PanelWindow* const window = find(*raised))
+            window->activate();
+    if (focused != nullptr)
+        if (const PanelWindow* const window = find(focused->panel()))
+            if (ControlWidget* const shown = window->find(*focused))
                 shown->widget().setFocus(Qt::OtherFocusReason);
-    if (const FeuilleCalcul* const panel = std::exchange(raised_, nullptr))
-        if (PanelWindow* const window = find(*panel))
-            mainWindow_->area().setActiveSubWindow(window);
+}
+
+void View::tellFocus()
+{
+    const QWidget* const focused = QApplication::focusWidget();
+    for (const auto& [panel, window] : windows_)
+        if (Control* const control = window->controlOf(focused)) {
+            if (control != frame_->desk().focused() && panel->visible() && control->focusable())
+                act([control](User& user) { user.focus(*control); });
+            return;
+        }
 }
 
 void View::bury()

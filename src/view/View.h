@@ -33,7 +33,7 @@ public:
     [[nodiscard]] PanelWindow* find(const FeuilleCalcul& panel) const;
 
     /// Runs one action of the user and shows what it changed. While a box waits for its answer only `close` gets
-    /// through.
+    /// through; what widgets report while they are being changed is nobody's action.
     void act(const std::function<void(User&)>& action);
     /// The user closes the main window.
     void close();
@@ -57,8 +57,11 @@ public:
 private:
     /// Shows all that was noted.
     void show();
-    void showPanels();
+    void showWindows();
     void showControls();
+    /// Tells the desk which control has got the keyboard by all this: one that was shown, or the one after a hidden
+    /// one.
+    void tellFocus();
     void bury();
 
     std::unique_ptr<MainWindow> mainWindow_;
@@ -74,6 +77,7 @@ private:
 
     std::vector<PanelWindow*> closedWindows_; ///< kept until no handler runs that one of their widgets has started
     unsigned actions_ = 0; ///< that run now, one inside the other
+    bool showing_ = false;
     unsigned waitingBoxes_ = 0;
     unsigned boxesShown_ = 0;
     std::optional<int> status_; ///< of the ended program

@@ -18,6 +18,7 @@ public:
         this, "CutLines", {.Caption = "Une longue remarque sur trois lignes de texte", .at = {240, 600, 1200, 510}}};
     TextBox CutResult{this, "CutResult",
         {.Text = " 123.456789 micro", .at = {1800, 240, 900, 315}, .Locked = true, .label = &CutLabel}};
+    TextBox HighEnough{this, "HighEnough", {.at = {1800, 900, 900, 285}, .label = &CutLabel}};
     TextBox LowField{this, "LowField", {.at = {1800, 600, 900, 195}, .label = &CutLabel}};
     ListBox CutRow{this, "CutRow", {.Items = {"Polyéthylène"}, .at = {2880, 240, 600, 300}, .label = &CutLabel}};
     ListBox ShortList{this, "ShortList", {.Items = {"a", "b", "c"}, .at = {2880, 600, 600, 540}, .label = &CutLabel}};

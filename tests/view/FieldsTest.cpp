@@ -32,6 +32,26 @@ private slots:
         QVERIFY(!program.widget(panel.frmCircuit(1)).isVisible());
     }
 
+    void aPanelOpensWithTheKeyboardInItsFirstField()
+    {
+        Program program;
+        program.desk.get<TestPanel>().onLoad = [&] { program.desk.get<TestPanel>().TxtA.Text = "100"; };
+        auto& panel = program.open<TestPanel>();
+        auto& first = program.widget<QLineEdit>(panel.TxtA);
+        QVERIFY(first.hasFocus());
+        QCOMPARE(first.selectedText(), QStringLiteral("100"));
+        QCOMPARE(program.desk.focused(), &panel.TxtA);
+    }
+
+    void aPanelOpensWithTheKeyboardWhereItsCodeHasPutIt()
+    {
+        Program program;
+        program.desk.get<TestPanel>().onLoad = [&] { program.desk.get<TestPanel>().TxtC.SetFocus(); };
+        auto& panel = program.open<TestPanel>();
+        QVERIFY(program.widget(panel.TxtC).hasFocus());
+        QCOMPARE(program.desk.focused(), &panel.TxtC);
+    }
+
     void eachKeyIsOneChange()
     {
         Program program;
