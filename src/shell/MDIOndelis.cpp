@@ -18,7 +18,11 @@
 #include "panels/filtres/FiltrePasseBas.h"
 #include "panels/filtres/FiltrePasseBasEnPi.h"
 #include "panels/filtres/FiltrePasseHaut.h"
+#include "panels/lignes/CoaxSectCarree.h"
+#include "panels/lignes/CoaxSectCyl.h"
+#include "panels/lignes/EchelleGrenouille.h"
 #include "panels/lignes/RVListeCoaxiaux.h"
+#include "panels/lignes/StripLine.h"
 #include "panels/puissance/PDResitancesParalleles.h"
 #include "panels/puissance/PDShunts.h"
 #include "panels/puissance/Transformateur.h"
@@ -85,17 +89,20 @@ void MDIOndelis::CacherFeuilles()
 {
     desk_.Unload<AntennesLPDA1>();
     desk_.Unload<AntennesDipolesRaccourcis>();
+    desk_.Unload<AntennesTrappesCoaxiales>();
     desk_.Unload<Astable>();
     desk_.Unload<CalculSelf>();
-    desk_.Unload<AntennesTrappesCoaxiales>();
     desk_.Unload<CalculNombreSpires>();
     desk_.Unload<CalculSurTores>();
     desk_.Unload<CircuitsOscillants>();
     desk_.Unload<Cms>();
+    desk_.Unload<CoaxSectCarree>();
+    desk_.Unload<CoaxSectCyl>();
     desk_.Unload<CondensateurFixe>();
     desk_.Unload<CondensateurEnergie>();
     desk_.Unload<CondensateurVariable>();
     desk_.Unload<DoubleQuad>();
+    desk_.Unload<EchelleGrenouille>();
     desk_.Unload<FiltreEliminationBande>();
     desk_.Unload<FiltreEnDoublePi>();
     desk_.Unload<FiltrePasseHaut>();
@@ -113,6 +120,7 @@ void MDIOndelis::CacherFeuilles()
     desk_.Unload<RVListeCoaxiaux>();
     desk_.Unload<RLCParallele>();
     desk_.Unload<RLCSerie>();
+    desk_.Unload<StripLine>();
     desk_.Unload<Transformateur>();
     desk_.Unload<WireInductance>();
     desk_.Unload<Z1Z2>();

@@ -17,7 +17,11 @@
 #include "panels/filtres/FiltrePasseBas.h"
 #include "panels/filtres/FiltrePasseBasEnPi.h"
 #include "panels/filtres/FiltrePasseHaut.h"
+#include "panels/lignes/CoaxSectCarree.h"
+#include "panels/lignes/CoaxSectCyl.h"
+#include "panels/lignes/EchelleGrenouille.h"
 #include "panels/lignes/RVListeCoaxiaux.h"
+#include "panels/lignes/StripLine.h"
 #include "panels/puissance/PDResitancesParalleles.h"
 #include "panels/puissance/PDShunts.h"
 #include "panels/puissance/Transformateur.h"
@@ -149,7 +153,7 @@ std::vector<Menu> makeTree()
                 top<CalculNombreSpires>(5000), left<CalculNombreSpires>(7800), show<CalculNombreSpires>()}},
             {"mnuSelfNbSpires", "Nombre de spires d'une self", centred<CalculNombreSpires>()},
             {"mnuCalculSelfSurTore", "Selfs sur tores", centred<CalculSurTores>()},
-            {"MenuStripLine", "Strip line", {}},
+            {"MenuStripLine", "Strip line", centred<StripLine>()},
             {"mnuCalculsSurSelf", "Valeur d'une self", centred<CalculSelf>()},
         }},
         {"MenuAccèsAuxApplications", "Condensateurs", {
@@ -188,9 +192,9 @@ std::vector<Menu> makeTree()
                 left<CalculNombreSpires>(8500), top<CalculNombreSpires>(5000)}}, // the companion appears by being loaded
         }},
         {"MenuLignes", "Lignes", {
-            {"mnuCoaxiauxSectionCarree", "Coaxiaux Section Carrée", {}},
-            {"mnuCoaxialeSectionCylindrique", "Coaxiale Section Cylindrique", {}},
-            {"mnuEchelleGrenouille", "Echelle à grenouille", {}},
+            {"mnuCoaxiauxSectionCarree", "Coaxiaux Section Carrée", centred<CoaxSectCarree>()},
+            {"mnuCoaxialeSectionCylindrique", "Coaxiale Section Cylindrique", centred<CoaxSectCyl>()},
+            {"mnuEchelleGrenouille", "Echelle à grenouille", centred<EchelleGrenouille>()},
         }},
         {"mnuTransfo", "Transformateurs", {
             {"mnuCalcTransfo", "Calcul Transfo 500VA maxi", centred<Transformateur>()},

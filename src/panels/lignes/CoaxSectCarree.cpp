@@ -1,0 +1,77 @@
+#include "panels/lignes/CoaxSectCarree.h"
+
+#include "kit/Conversions.h"
+#include "kit/Maths.h"
+
+namespace ondelis {
+
+CoaxSectCarree::CoaxSectCarree(Desk& desk)
+    : FeuilleCalcul{
+        desk, {.name = "CoaxSectCarree", .Caption = "Coaxial section carrée", .Width = 8145, .Height = 5955}}
+{
+}
+
+void CoaxSectCarree::Form_Load()
+{
+    resumeNext([&] { TxtZ.Text = "50"; });
+    resumeNext([&] { TxtDiamAme.Text = CStr(2.5); }); // no option is chosen yet: the side is computed
+    resumeNext([&] { OptZ.Value = true; });
+}
+
+void CoaxSectCarree::OptD_Click()
+{
+    OptZ.Value = false;
+    TxtCote.BackColor = 0xFFFFC0;
+    TxtCote.Locked = true;
+    TxtZ.BackColor = windowColor;
+    TxtZ.Locked = false;
+    Label4.Top = 2640;
+    TxtZ.Top = 2880;
+    Label2.Top = 4200;
+    TxtCote.Top = 4440;
+}
+
+void CoaxSectCarree::OptZ_Click()
+{
+    OptD.Value = false;
+    TxtZ.BackColor = 0xFFFFC0;
+    TxtZ.Locked = true;
+    TxtCote.BackColor = windowColor;
+    TxtCote.Locked = false;
+    Label2.Top = 2640;
+    TxtCote.Top = 2880;
+    Label4.Top = 4200;
+    TxtZ.Top = 4440;
+}
+
+void CoaxSectCarree::TxtCote_Change()
+{
+    D = Val(TxtCote.Text);
+    Calculer();
+}
+
+void CoaxSectCarree::TxtDiamAme_Change()
+{
+    d = Val(TxtDiamAme.Text);
+    Calculer();
+}
+
+void CoaxSectCarree::TxtZ_Change()
+{
+    Z = Val(TxtZ.Text); // counts from the next change of the diameter on
+}
+
+void CoaxSectCarree::Calculer()
+{
+    if (OptZ.Value) {
+        if (D > 0 && d > 0) {
+            Z = 138 * Log10(1.07 * D / d);
+            TxtZ.Text = CStr(Z);
+        }
+    } else if (Z > 0 && d > 0) {
+        D = Pow(10, Z / 138) * d / 1.07;
+        TxtCote.Text = CStr(D);
+    }
+}
+
+} // namespace ondelis

@@ -1,0 +1,44 @@
+#pragma once
+
+#include "forms/Controls.h"
+#include "forms/FeuilleCalcul.h"
+
+namespace ondelis {
+
+/// An air-filled coaxial line with a square outer conductor and a round inner one: its impedance, or the side of the
+/// square for a wanted impedance. The result always stands last.
+class CoaxSectCarree final : public FeuilleCalcul {
+public:
+    explicit CoaxSectCarree(Desk& desk);
+
+    // clang-format off
+    Shape        Cadre1    {this, "Cadre1",     {.at = {240, 240, 3060, 1800}}};
+    OptionButton OptZ      {this, "OptZ",       {.Caption = "Calcul de Z", .at = {420, 750, 2640, 300}}, &CoaxSectCarree::OptZ_Click};
+    OptionButton OptD      {this, "OptD",       {.Caption = "Calcul de D", .at = {420, 1230, 2640, 300}}, &CoaxSectCarree::OptD_Click};
+
+    Shape        Cadre2    {this, "Cadre2",     {.at = {240, 2280, 3060, 2835}}};
+    Label        Label4    {this, "Label4",     {.Caption = "Impédance carecteristique", .at = {420, 2640, 2700, 240}}};
+    TextBox      TxtZ      {this, "TxtZ",       {.at = {420, 2880, 2040, 315}, .label = &Label4}, &CoaxSectCarree::TxtZ_Change};
+    Label        Label1    {this, "Label1",     {.Caption = "d  (mm)", .at = {420, 3420, 2700, 240}}};
+    TextBox      TxtDiamAme{this, "TxtDiamAme", {.at = {420, 3660, 2040, 315}, .label = &Label1}, &CoaxSectCarree::TxtDiamAme_Change};
+    Label        Label2    {this, "Label2",     {.Caption = "D (mm)", .at = {420, 4200, 2700, 240}}};
+    TextBox      TxtCote   {this, "TxtCote",    resultField({420, 4440, 2040, 315}, &Label2), &CoaxSectCarree::TxtCote_Change};
+
+    Image        Image1    {this, "Image1",     {.picture = "coaxial-carre", .at = {3480, 540, 4275, 4275}}};
+    // clang-format on
+
+private:
+    void Form_Load() override;
+    void OptD_Click();
+    void OptZ_Click();
+    void TxtCote_Change();
+    void TxtDiamAme_Change();
+    void TxtZ_Change();
+    void Calculer();
+
+    Double d; ///< diameter of the inner conductor, mm
+    Double D; ///< inner side of the outer conductor, mm
+    Double Z; ///< ohms
+};
+
+} // namespace ondelis
