@@ -12,6 +12,9 @@
 #include "panels/condensateurs/CondensateurEnergie.h"
 #include "panels/condensateurs/CondensateurFixe.h"
 #include "panels/condensateurs/CondensateurVariable.h"
+#include "panels/conversions/Decibels.h"
+#include "panels/conversions/RVConvUnitesPression.h"
+#include "panels/conversions/SectionDiametre.h"
 #include "panels/filtres/FiltreEliminationBande.h"
 #include "panels/filtres/FiltreEnDoublePi.h"
 #include "panels/filtres/FiltrePasseBande.h"
@@ -101,6 +104,7 @@ void MDIOndelis::CacherFeuilles()
     desk_.Unload<CondensateurFixe>();
     desk_.Unload<CondensateurEnergie>();
     desk_.Unload<CondensateurVariable>();
+    desk_.Unload<Decibels>();
     desk_.Unload<DoubleQuad>();
     desk_.Unload<EchelleGrenouille>();
     desk_.Unload<FiltreEliminationBande>();
@@ -117,9 +121,11 @@ void MDIOndelis::CacherFeuilles()
     desk_.Unload<PDResitancesParalleles>();
     desk_.Unload<PDShunts>();
     desk_.Unload<RapportCyclique>();
+    desk_.Unload<RVConvUnitesPression>();
     desk_.Unload<RVListeCoaxiaux>();
     desk_.Unload<RLCParallele>();
     desk_.Unload<RLCSerie>();
+    desk_.Unload<SectionDiametre>();
     desk_.Unload<StripLine>();
     desk_.Unload<Transformateur>();
     desk_.Unload<WireInductance>();

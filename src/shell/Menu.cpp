@@ -11,6 +11,9 @@
 #include "panels/condensateurs/CondensateurEnergie.h"
 #include "panels/condensateurs/CondensateurFixe.h"
 #include "panels/condensateurs/CondensateurVariable.h"
+#include "panels/conversions/Decibels.h"
+#include "panels/conversions/RVConvUnitesPression.h"
+#include "panels/conversions/SectionDiametre.h"
 #include "panels/filtres/FiltreEliminationBande.h"
 #include "panels/filtres/FiltreEnDoublePi.h"
 #include "panels/filtres/FiltrePasseBande.h"
@@ -169,7 +172,7 @@ std::vector<Menu> makeTree()
                 {show<RapportCyclique>(), height<RapportCyclique>(8085), width<RapportCyclique>(6555), centre<RapportCyclique>()}},
         }},
         {"MenuDecibel", "Décibels", {
-            {"MenuDécibels", "Décibels", {}},
+            {"MenuDécibels", "Décibels", centred<Decibels>()},
         }},
         {"MenuFiltres", "Filtres", {
             {"menuFiltreEliminationDeBande", "Filtre à élimination de bande", {
@@ -205,8 +208,8 @@ std::vector<Menu> makeTree()
         }},
         {"MenuRubiquesEnVrac", "Rubiques en vrac", {
             {"MenuCoaxiauxCourants", "Coaxiaux Courants", centred<RVListeCoaxiaux>()},
-            {"MenuSectionDiametre", "Section vers diamètre", {}},
-            {"MenuUnitésDePression", "Unités de Pression", {}},
+            {"MenuSectionDiametre", "Section vers diamètre", centred<SectionDiametre>()},
+            {"MenuUnitésDePression", "Unités de Pression", centred<RVConvUnitesPression>()},
         }},
         {"MenuHelp", "?", {
             {"MenuLogiciel", "A propos", {}},

@@ -1,0 +1,77 @@
+#include "panels/conversions/RVConvUnitesPression.h"
+
+#include "kit/Conversions.h"
+#include "kit/Maths.h"
+
+namespace ondelis {
+
+RVConvUnitesPression::RVConvUnitesPression(Desk& desk)
+    : FeuilleCalcul{desk,
+        {.name = "RVConvUnitesPression", .Caption = "Conversions unités de pression", .Width = 5070, .Height = 3435}}
+{
+}
+
+ListBox::Design RVConvUnitesPression::vers(std::vector<std::string> unites)
+{
+    return {.Items = std::move(unites), .at = {2640, 540, 2040, 1020}, .label = &LblVers};
+}
+
+void RVConvUnitesPression::Form_Load()
+{
+    resumeNext([&] { LsthPa.Visible = false; });
+    resumeNext([&] { LstmmH2O.Visible = false; });
+    resumeNext([&] { LstmmHg.Visible = false; });
+    resumeNext([&] { LstKgcm2.Visible = false; });
+    resumeNext([&] { LstNm2.Visible = false; });
+}
+
+void RVConvUnitesPression::LstConversions_Click()
+{
+    TxtEntree.Text = "";
+    TxtSortie.Text = "";
+    const Integer source = LstConversions.ListIndex;
+    LsthPa.Visible = source == 0;
+    LstmmH2O.Visible = source == 1;
+    LstmmHg.Visible = source == 2;
+    LstKgcm2.Visible = source == 3;
+    LstNm2.Visible = source == 4;
+    // "hPa" is written otherwise in the list.
+    LblEntree.Caption = "Valeur " + (source == 0 ? "hPa" : std::string{LstConversions.Text});
+}
+
+void RVConvUnitesPression::LsthPa_Click()
+{
+    Convertir(LsthPa, {10.2, 0.750061683, 0.00102, 100});
+}
+
+void RVConvUnitesPression::LstmmH2O_Click()
+{
+    Convertir(LstmmH2O, {0.098039216, 0.073535459, 0.0001, 9.803921569});
+}
+
+void RVConvUnitesPression::LstmmHg_Click()
+{
+    Convertir(LstmmHg, {1.333223684, 13.59888157, 0.001359888157, 133.3223684});
+}
+
+void RVConvUnitesPression::LstKgcm2_Click()
+{
+    Convertir(LstKgcm2, {980.3921569, 10000, 735.3545912, 98039.21569});
+}
+
+void RVConvUnitesPression::LstNm2_Click()
+{
+    Convertir(LstNm2, {0.01, 0.102, 0.00750061683, 0.0000102});
+}
+
+/// To the chosen unit, by its factor.
+void RVConvUnitesPression::Convertir(const ListBox& unites, const std::vector<Double>& facteurs)
+{
+    LblSortie.Caption = unites.Text;
+    const Integer row = unites.ListIndex;
+    const Double valeur = Val(TxtEntree.Text) * facteurs[static_cast<std::size_t>(row.value())];
+    const bool entiere = &unites == &LsthPa && row == 0; // hPa to mm H2O alone is not cut to three decimals
+    TxtSortie.Text = CStr(entiere ? valeur : Fix(valeur * 1000) / 1000);
+}
+
+} // namespace ondelis

@@ -1,0 +1,46 @@
+#pragma once
+
+#include <vector>
+
+#include "forms/Controls.h"
+#include "forms/FeuilleCalcul.h"
+
+namespace ondelis {
+
+/// A pressure from one unit to another. The click on the wanted unit converts.
+class RVConvUnitesPression final : public FeuilleCalcul {
+public:
+    explicit RVConvUnitesPression(Desk& desk);
+
+    // clang-format off
+    Label   LblDe         {this, "LblDe",          {.Caption = "De", .at = {240, 240, 2040, 255}}};
+    ListBox LstConversions{this, "LstConversions", {.Items = {"hPA", "mm H2O", "mm Hg", "Kg/cm²", "N/m²"}, .at = {240, 540, 2040, 1260}, .label = &LblDe}, &RVConvUnitesPression::LstConversions_Click};
+    Label   LblEntree     {this, "LblEntree",      {.Caption = "Valeur en entrée", .at = {240, 1980, 2040, 255}}};
+    TextBox TxtEntree     {this, "TxtEntree",      {.at = {240, 2280, 2040, 315}, .label = &LblEntree}};
+
+    // One at a time, at one place.
+    Label   LblVers       {this, "LblVers",        {.Caption = "Vers", .at = {2640, 240, 2040, 255}}};
+    ListBox LsthPa        {this, "LsthPa",         vers({"mm H2O", "mm Hg", "Kg/cm²", "N/m²"}), &RVConvUnitesPression::LsthPa_Click};
+    ListBox LstmmH2O      {this, "LstmmH2O",       vers({"hPa", "mm Hg", "Kg/cm²", "N/m²"}), &RVConvUnitesPression::LstmmH2O_Click};
+    ListBox LstmmHg       {this, "LstmmHg",        vers({"hPa", "mm H2O", "Kg/cm²", "N/m²"}), &RVConvUnitesPression::LstmmHg_Click};
+    ListBox LstKgcm2      {this, "LstKgcm2",       vers({"hPa", "mm H2O", "mm Hg", "N/m²"}), &RVConvUnitesPression::LstKgcm2_Click};
+    ListBox LstNm2        {this, "LstNm2",         vers({"hPa", "mm H2O", "mm Hg", "Kg/cm²"}), &RVConvUnitesPression::LstNm2_Click};
+    Label   LblSortie     {this, "LblSortie",      {.Caption = "Valeur convertie", .at = {2640, 1980, 2040, 255}}};
+    TextBox TxtSortie     {this, "TxtSortie",      resultField({2640, 2280, 2040, 315}, &LblSortie)};
+    // clang-format on
+
+private:
+    ListBox::Design vers(std::vector<std::string> unites);
+
+    void Form_Load() override;
+    void LstConversions_Click();
+    void LsthPa_Click();
+    void LstmmH2O_Click();
+    void LstmmHg_Click();
+    void LstKgcm2_Click();
+    void LstNm2_Click();
+
+    void Convertir(const ListBox& unites, const std::vector<Double>& facteurs);
+};
+
+} // namespace ondelis
