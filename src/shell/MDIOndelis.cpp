@@ -41,6 +41,7 @@
 #include "panels/timer555/Astable.h"
 #include "panels/timer555/Monostable.h"
 #include "panels/timer555/RapportCyclique.h"
+#include "shell/Apropos.h"
 #include "shell/Centrages.h"
 
 namespace ondelis {
@@ -94,6 +95,7 @@ void MDIOndelis::CacherFeuilles()
     desk_.Unload<AntennesDipolesRaccourcis>();
     desk_.Unload<AntennesTrappesCoaxiales>();
     desk_.Unload<Astable>();
+    desk_.Unload<Apropos>();
     desk_.Unload<CalculSelf>();
     desk_.Unload<CalculNombreSpires>();
     desk_.Unload<CalculSurTores>();

@@ -40,6 +40,7 @@
 #include "panels/timer555/Astable.h"
 #include "panels/timer555/Monostable.h"
 #include "panels/timer555/RapportCyclique.h"
+#include "shell/Apropos.h"
 #include "shell/Centrages.h"
 #include "shell/MDIOndelis.h"
 
@@ -212,7 +213,8 @@ std::vector<Menu> makeTree()
             {"MenuUnitésDePression", "Unités de Pression", centred<RVConvUnitesPression>()},
         }},
         {"MenuHelp", "?", {
-            {"MenuLogiciel", "A propos", {}},
+            {"MenuLogiciel", "A propos", {
+                show<Apropos>(), height<Apropos>(4035), width<Apropos>(8310), centre<Apropos>()}},
         }},
     };
     // clang-format on
