@@ -1,0 +1,100 @@
+#include "panels/antennes/AntennesTrappesCoaxiales.h"
+
+#include "Support.h"
+#include "kit/Conversions.h"
+#include "kit/Maths.h"
+
+namespace ondelis::tests {
+namespace {
+
+/// The search for the turns, one round after the other.
+class TrapSearchTest : public DeskTest {
+protected:
+    AntennesTrappesCoaxiales& panel = desk.get<AntennesTrappesCoaxiales>();
+
+    void open()
+    {
+        desk.perform([&] { panel.Show(); });
+    }
+
+    /// Acts once, in a round of the next search.
+    template <class Action>
+    void inRound(int wanted, Action action)
+    {
+        world.onPending = [this, wanted, action, round = 0]() mutable {
+            if (++round == wanted)
+                action();
+        };
+    }
+};
+
+TEST_F(TrapSearchTest, PendingEventsRunOnceInEachRound)
+{
+    int rounds = 0;
+    world.onPending = [&] { ++rounds; };
+    open();
+    EXPECT_EQ(rounds, 415);
+
+    // The round that gives up begins like any other.
+    rounds = 0;
+    user.replace(panel.TxtDiamMandrin, "20");
+    user.click(panel.BtnCalculer);
+    EXPECT_EQ(rounds, 1001);
+    EXPECT_EQ(world.boxes.size(), 1U);
+}
+
+TEST_F(TrapSearchTest, TheReactancesConvergeFromRoundToRound)
+{
+    open();
+    std::vector<double> differences;
+    world.onPending = [&] {
+        const Double difference = Val(panel.TxtReactanceCapacitive.Text) - Val(panel.TxtReactanceInductive.Text);
+        differences.push_back(Abs(difference).value());
+    };
+    user.replace(panel.TxtFrequence, "3.6");
+    user.click(panel.BtnCalculer);
+    ASSERT_EQ(differences.size(), 662U);
+    for (std::size_t round = 2; round < differences.size(); ++round) // the first one still sees the old trap
+        ASSERT_LT(differences[round], differences[round - 1]);
+}
+
+TEST_F(TrapSearchTest, ASecondClickRunsASearchInsideTheFirst)
+{
+    open();
+    user.replace(panel.TxtFrequence, "3.6");
+    std::string inside;
+    inRound(100, [&] {
+        user.replace(panel.TxtFrequence, "14.1");
+        user.click(panel.BtnCalculer);
+        inside = panel.TxtNombreTours.Text;
+    });
+    user.click(panel.BtnCalculer);
+    EXPECT_EQ(inside, "4.54");
+    EXPECT_EQ(panel.TxtNombreTours.Text, "13.51"); // the first search goes on at its own frequency
+    EXPECT_EQ(panel.TxtFrequence.Text, "14.1");
+}
+
+TEST_F(TrapSearchTest, ClosingThePanelLeavesTheSearch)
+{
+    open();
+    user.replace(panel.TxtFrequence, "3.6");
+    inRound(100, [&] { user.close(panel); });
+    user.click(panel.BtnCalculer);
+    EXPECT_FALSE(panel.loaded());
+    EXPECT_FALSE(desk.ended());
+    world.onPending = [] {};
+    open();
+    EXPECT_EQ(panel.TxtNombreTours.Text, "7.75");
+}
+
+TEST_F(TrapSearchTest, ClosingTheProgramWhileThePanelOpensLeavesTheSearch)
+{
+    inRound(100, [&] { desk.close(); });
+    open();
+    EXPECT_EQ(world.endings, std::vector<int>{0});
+    EXPECT_EQ(world.fault, std::nullopt);
+    EXPECT_FALSE(panel.visible());
+}
+
+} // namespace
+} // namespace ondelis::tests
