@@ -55,7 +55,8 @@ void AntennesDipolesRaccourcis::TxtF_Change()
 
 void AntennesDipolesRaccourcis::Calculer()
 {
-    if (LongA == 0 || LongB == 0 || DiamFil == 0 || FreqDip == 0 || 2 * LongB >= LongA) {
+    const bool depasse = 2 * LongB >= LongA; // taken whatever the other tests give: it can be out of range
+    if (LongA == 0 || LongB == 0 || DiamFil == 0 || FreqDip == 0 || depasse) {
         TxtXL.Text = "";
         TxtValSelf.Text = "";
         return;

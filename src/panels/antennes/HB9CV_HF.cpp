@@ -33,6 +33,8 @@ void HB9CV_HF::Form_Load()
 void HB9CV_HF::TxtFreq_Change()
 {
     FreqHb = Val(TxtFreq.Text);
+    // The angular frequency is shown nowhere, but a frequency for which it is out of range ends the program.
+    static_cast<void>(2 * Pi() * FreqHb);
     LambdaHb = 300 / FreqHb;
     Calculer();
 }
