@@ -66,14 +66,14 @@ void FiltrePasseBasEnPi::TxtFreq_Change()
 void FiltrePasseBasEnPi::TxtRin_Change()
 {
     R = CDbl(TxtRin.Text);
-    if (R > r && !(TxtRout.Text == ""))
+    if (R > r && TxtRout.Text != "")
         GrandeursDeBase();
 }
 
 void FiltrePasseBasEnPi::TxtRout_Change()
 {
     r = CDbl(TxtRout.Text);
-    if (R > r && !(TxtRin.Text == ""))
+    if (R > r && TxtRin.Text != "")
         GrandeursDeBase();
 }
 
@@ -206,7 +206,7 @@ void FiltrePasseBasEnPi::Effacer()
 
 bool FiltrePasseBasEnPi::Complet() const
 {
-    return !(TxtFreq.Text == "") && !(TxtRin.Text == "") && !(TxtRout.Text == "") && Qscroll.Value != 0;
+    return TxtFreq.Text != "" && TxtRin.Text != "" && TxtRout.Text != "" && Qscroll.Value != 0;
 }
 
 void FiltrePasseBasEnPi::Preparer()

@@ -184,7 +184,8 @@ void RVListeCoaxiaux::RemplirTable()
         {"RG-216", "75", "0.66", pFParMetre(20.6), millimetres(0.425), "PE", "5000"},
         {"RG-223", "50", "0.66", pFParMetre(30.8), millimetres(0.212), "PE", "1900"},
         {"Twin lead 75", "75", "0.97", pFParMetre(19.0), "", "", ""},
-        {"Twin lead 300", "300", "0.82", pFParMetre(5.8), "", "", ""},    }};
+        {"Twin lead 300", "300", "0.82", pFParMetre(5.8), "", "", ""},
+    }};
     // clang-format on
     for (std::size_t ligne = 1; ligne <= lignes; ++ligne)
         for (std::size_t colonne = 1; colonne <= colonnes; ++colonne)
