@@ -2,17 +2,9 @@
 
 #include "kit/Conversions.h"
 #include "kit/Maths.h"
+#include "panels/antennes/LongueurHB9CV.h"
 
 namespace ondelis {
-namespace {
-
-/// Three decimals, truncated.
-std::string T(Double x)
-{
-    return CStr(Fix(x * 1000) / 1000);
-}
-
-} // namespace
 
 HB9CV_HF::HB9CV_HF(Desk& desk)
     : FeuilleCalcul{desk, {.name = "HB9CV_HF", .Caption = "HB9CV pour bandes HF", .Width = 11880, .Height = 5490}}
@@ -71,14 +63,14 @@ void HB9CV_HF::Calculer()
         return;
     // The factors cross the captions 0.25 and 0.30, and 0.32 stands under the caption 0.92: the panel's own figures.
     if (Option1.Value)
-        TxtTmatch.Text = T(LambdaHb * 0.3 / 2);
+        TxtTmatch.Text = LongueurHB9CV(LambdaHb * 0.3 / 2);
     else
-        TxtTmatch.Text = T(LambdaHb * 0.25 / 2);
-    Txt092.Text = T(LambdaHb * 0.32 / 2);
-    Txt200.Text = T(LambdaHb / 200);
-    Txt8.Text = T(LambdaHb / 8);
-    Txt2.Text = T(LambdaHb / 2);
-    TxtDiam.Text = T(LambdaHb / CoeffHb);
+        TxtTmatch.Text = LongueurHB9CV(LambdaHb * 0.25 / 2);
+    Txt092.Text = LongueurHB9CV(LambdaHb * 0.32 / 2);
+    Txt200.Text = LongueurHB9CV(LambdaHb / 200);
+    Txt8.Text = LongueurHB9CV(LambdaHb / 8);
+    Txt2.Text = LongueurHB9CV(LambdaHb / 2);
+    TxtDiam.Text = LongueurHB9CV(LambdaHb / CoeffHb);
 }
 
 } // namespace ondelis

@@ -2,17 +2,9 @@
 
 #include "kit/Conversions.h"
 #include "kit/Maths.h"
+#include "panels/antennes/LongueurHB9CV.h"
 
 namespace ondelis {
-namespace {
-
-/// Three decimals, truncated.
-std::string T(Double x)
-{
-    return CStr(Fix(x * 1000) / 1000);
-}
-
-} // namespace
 
 HB9CV_VUSHF::HB9CV_VUSHF(Desk& desk)
     : FeuilleCalcul{desk, {.name = "HB9CV_VUSHF", .Caption = "HB9CV VHF-UHF-SHF", .Width = 11880, .Height = 5280}}
@@ -30,7 +22,7 @@ void HB9CV_VUSHF::TxtFreq_Change()
 {
     FreqHz = Pow(10, 6) * Val(TxtFreq.Text);
     LambdaVu = 3 * Pow(10, 8) / FreqHz;
-    TxtLambda.Text = CStr(Fix(LambdaVu * 1000) / 1000);
+    TxtLambda.Text = LongueurHB9CV(LambdaVu);
     Calculer();
 }
 
@@ -47,11 +39,11 @@ void HB9CV_VUSHF::Calculer()
     if (TxtFreq.Text == "" || TxtCoeff.Text == "")
         return;
     TxtDiam.Text = CStr(Fix(LambdaVu / CoeffVu * Pow(10, 6)) / 1000);
-    Txt092.Text = T(LambdaVu * 0.92 / 2);
-    Txt0125.Text = T(LambdaVu / 16);
-    TxtL8.Text = T(LambdaVu / 8);
-    TxtL16_2.Text = T(LambdaVu / 16);
-    TxtL2.Text = T(LambdaVu / 2);
+    Txt092.Text = LongueurHB9CV(LambdaVu * 0.92 / 2);
+    Txt0125.Text = LongueurHB9CV(LambdaVu / 16);
+    TxtL8.Text = LongueurHB9CV(LambdaVu / 8);
+    TxtL16_2.Text = LongueurHB9CV(LambdaVu / 16);
+    TxtL2.Text = LongueurHB9CV(LambdaVu / 2);
 }
 
 } // namespace ondelis
