@@ -32,13 +32,13 @@ void AntennesLPDA1::Form_Load()
     resumeNext([&] { Text1.Visible = false; });
     resumeNext([&] { Text2.Visible = false; });
     resumeNext([&] { Frame1.Visible = true; });
-    resumeNext([&] { TxtFreqMin.Text = CStr(10); });
-    resumeNext([&] { TxtFreqMax.Text = CStr(30); });
+    resumeNext([&] { TxtFreqMin.Text = "10"; });
+    resumeNext([&] { TxtFreqMax.Text = "30"; });
     resumeNext([&] { TxtTheta.Text = CStr(0.8); });
     resumeNext([&] { TxtRho.Text = CStr(0.1); });
-    resumeNext([&] { TxtRZero.Text = CStr(150); });
-    resumeNext([&] { TxtDiamElement1.Text = CStr(5); });
-    resumeNext([&] { TxtDiamExtBoom.Text = CStr(50); });
+    resumeNext([&] { TxtRZero.Text = "150"; });
+    resumeNext([&] { TxtDiamElement1.Text = "5"; });
+    resumeNext([&] { TxtDiamExtBoom.Text = "50"; });
 
     // The whole sequence on the defaults and back to step 1, before the panel is seen. A fault here is not passed over.
     BtnCalculer1.Value = true;

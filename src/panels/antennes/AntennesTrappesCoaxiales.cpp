@@ -96,7 +96,7 @@ void AntennesTrappesCoaxiales::Form_Load()
     resumeNext([&] { TxtCapacitParMetre.Text = ""; });
     resumeNext([&] { LstCoax.ListIndex = 0; });
     resumeNext([&] { TxtFrequence.Text = CStr(7.1); });
-    resumeNext([&] { TxtDiamMandrin.Text = CStr(50); });
+    resumeNext([&] { TxtDiamMandrin.Text = "50"; });
     resumeNext([&] { BtnCalculer.Value = true; });
     resumeNext([&] { Label19.Caption = "Référence : The ARRL ANTENNA COMPENDIUM Vol.2 Ed.1989 p.100"; });
 }

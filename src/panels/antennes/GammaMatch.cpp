@@ -39,13 +39,13 @@ void GammaMatch::Form_Load()
 {
     resumeNext([&] { Image1.Visible = true; });
     resumeNext([&] { OptMonopole.Value = true; });
-    resumeNext([&] { TxtFreq.Text = CStr(145); });
-    resumeNext([&] { TxtRA.Text = CStr(25); });
-    resumeNext([&] { TxtXa.Text = CStr(-25); });
-    resumeNext([&] { TxtR0.Text = CStr(50); });
-    resumeNext([&] { TxtDE.Text = CStr(20); });
-    resumeNext([&] { TxtDR.Text = CStr(5); });
-    resumeNext([&] { TxtS.Text = CStr(20); });
+    resumeNext([&] { TxtFreq.Text = "145"; });
+    resumeNext([&] { TxtRA.Text = "25"; });
+    resumeNext([&] { TxtXa.Text = "-25"; });
+    resumeNext([&] { TxtR0.Text = "50"; });
+    resumeNext([&] { TxtDE.Text = "20"; });
+    resumeNext([&] { TxtDR.Text = "5"; });
+    resumeNext([&] { TxtS.Text = "20"; });
 }
 
 void GammaMatch::OptMonopole_Click()
@@ -55,10 +55,10 @@ void GammaMatch::OptMonopole_Click()
     Image2.Visible = false;
     OptMonopole.ForeColor = choisie;
     OptDipôle.ForeColor = delaissee;
-    TxtFreq.Text = CStr(145);
-    TxtRA.Text = CStr(25);
-    TxtXa.Text = CStr(-25);
-    TxtR0.Text = CStr(50);
+    TxtFreq.Text = "145";
+    TxtRA.Text = "25";
+    TxtXa.Text = "-25";
+    TxtR0.Text = "50";
 }
 
 void GammaMatch::OptDipôle_Click()
@@ -69,9 +69,9 @@ void GammaMatch::OptDipôle_Click()
     OptMonopole.ForeColor = delaissee;
     OptDipôle.ForeColor = choisie;
     TxtFreq.Text = CStr(14.175); // read back as 14 under a decimal comma
-    TxtRA.Text = CStr(300);
-    TxtXa.Text = CStr(-300);
-    TxtR0.Text = CStr(600);
+    TxtRA.Text = "300";
+    TxtXa.Text = "-300";
+    TxtR0.Text = "600";
 }
 
 void GammaMatch::TxtFreq_Change()
