@@ -69,6 +69,12 @@ TEST(WordsTest, RefuseWhatIsNotWellFormed)
         EXPECT_TRUE(malformed(line)) << line;
 }
 
+TEST(WordsTest, GiveATextInQuotesBackAsItWas)
+{
+    for (const char* const text : {"", "12,5 µF", "a \"quoted\" # text", "\\n", "tab\tand\nline"})
+        EXPECT_EQ(wordsOf(inQuotes(text)), List{text}) << text;
+}
+
 TEST(WordsTest, RefuseTextsThatAreNotUtf8)
 {
     for (const char* const bytes : {"\x80", "\xC3", "\xC3(", "\xC0\x80", "\xE0\x80\x80", "\xED\xA0\x80",

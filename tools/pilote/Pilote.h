@@ -21,6 +21,9 @@ public:
     /// Carries out one line and answers it; never throws.
     Json answer(std::string_view line);
 
+    /// What there is to act on.
+    [[nodiscard]] const Desk& desk() const { return desk_; }
+
 private:
     using Refusal = User::Refusal;
     /// What a whole command does once it has been read.

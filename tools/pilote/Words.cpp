@@ -134,4 +134,24 @@ void Words::skipBlanks()
     rest_.remove_prefix(static_cast<std::size_t>(word - rest_.begin()));
 }
 
+std::string inQuotes(std::string_view text)
+{
+    std::string word{'"'};
+    for (const char c : text) {
+        if (c == '"' || c == '\\')
+            word += '\\';
+        switch (c) {
+        case '\n':
+            word += "\\n";
+            break;
+        case '\t':
+            word += "\\t";
+            break;
+        default:
+            word += c;
+        }
+    }
+    return word + '"';
+}
+
 } // namespace ondelis::pilote

@@ -38,4 +38,7 @@ private:
     std::string_view rest_;
 };
 
+/// A text as a word in quotes, with its escapes.
+[[nodiscard]] std::string inQuotes(std::string_view text);
+
 } // namespace ondelis::pilote
