@@ -1,0 +1,112 @@
+#include "RandomUser.h"
+
+#include <algorithm>
+
+#include "OddTexts.h"
+#include "Words.h"
+#include "shell/Menu.h"
+
+namespace ondelis::fuzz {
+namespace {
+
+/// The entries that open something.
+std::vector<std::string_view> openingEntries()
+{
+    std::vector<std::string_view> entries;
+    for (const Menu& menu : menuTree())
+        for (const MenuEntry& entry : menu.entries)
+            if (!entry.steps.empty() && entry.control != "MenuQuitter")
+                entries.push_back(entry.control);
+    return entries;
+}
+
+} // namespace
+
+std::string RandomUser::region()
+{
+    return dice_.percent(50) ? R"(region "." ",")" : R"(region "," ".")";
+}
+
+std::string RandomUser::next(const Desk& desk)
+{
+    const auto& panels = desk.loadedPanels();
+    if (panels.empty() || dice_.percent(3))
+        return menuEntry();
+    if (dice_.percent(2))
+        return dice_.percent(50) ? "answer yes" : "answer no";
+    const FeuilleCalcul& panel = *dice_.one(panels);
+    if (dice_.percent(1))
+        return "close " + panel.design().name;
+    return onPanel(panel);
+}
+
+std::string RandomUser::menuEntry()
+{
+    static const std::vector<std::string_view> entries = openingEntries();
+    if (dice_.percent(1))
+        return dice_.percent(50) ? "menu MenuQuitter" : "close MDIOndelis";
+    return "menu " + std::string{dice_.one(entries)};
+}
+
+std::string RandomUser::onPanel(const FeuilleCalcul& panel)
+{
+    std::vector<Control*> reachable;
+    std::ranges::copy_if(panel.controls(), std::back_inserter(reachable), [](const Control* control) {
+        const auto* const box = dynamic_cast<const TextBox*>(control);
+        return control->focusable() && (box == nullptr || !box->Locked);
+    });
+    return reachable.empty() ? "close " + panel.design().name : onControl(*dice_.one(reachable));
+}
+
+std::string RandomUser::onControl(Control& control)
+{
+    const std::string target = control.panel().design().name + '.' + control.name();
+    if (dice_.percent(3))
+        return "focus " + target;
+    if (auto* const box = dynamic_cast<TextBox*>(&control))
+        return write(*box, target);
+    if (auto* const list = dynamic_cast<ListBox*>(&control))
+        if (const int rows = list->ListCount().value(); rows > 0)
+            return "select " + target + ' ' + std::to_string(dice_.between(0, rows - 1));
+    if (auto* const bar = dynamic_cast<ScrollBar*>(&control))
+        return "scroll " + target + ' ' + std::to_string(position(*bar));
+    if (dynamic_cast<OptionButton*>(&control) != nullptr || dynamic_cast<CommandButton*>(&control) != nullptr)
+        return "click " + target;
+    return "focus " + target;
+}
+
+std::string RandomUser::write(TextBox& box, const std::string& target)
+{
+    if (dice_.percent(oddity_ > 10 ? 25 : 10))
+        return "backspace " + target;
+    // Keys land behind what stands there: a number grows by a key or two before it is written anew.
+    if (dice_.percent(20) && !std::string{box.Text}.empty())
+        return "type " + target + ' ' + std::to_string(dice_.below(10));
+    const std::string_view command = dice_.percent(30) ? "type " : "replace ";
+    return std::string{command} + target + ' ' + pilote::inQuotes(text());
+}
+
+int RandomUser::position(ScrollBar& bar)
+{
+    const int min = bar.Min.get().value();
+    const int max = bar.Max.get().value();
+    const auto [low, high] = std::minmax(min, max);
+    switch (dice_.below(6)) {
+    case 0:
+        return min;
+    case 1:
+        return max;
+    case 2:
+    case 3:
+        return std::clamp(bar.Value.get().value() + dice_.between(-1, 1), low, high);
+    default:
+        return dice_.between(low, high);
+    }
+}
+
+std::string RandomUser::text()
+{
+    return dice_.percent(oddity_) ? oddText(dice_) : plainNumber(dice_);
+}
+
+} // namespace ondelis::fuzz

@@ -1,0 +1,37 @@
+#pragma once
+
+#include <array>
+#include <string>
+
+#include "Dice.h"
+#include "forms/Controls.h"
+#include "forms/Desk.h"
+
+namespace ondelis::fuzz {
+
+/// Somebody who uses whatever is on screen, in the driver's language, one command after the other.
+class RandomUser {
+public:
+    explicit RandomUser(std::uint64_t seed) : dice_{seed}, oddity_{dice_.one(oddities)} { }
+
+    /// The separators of this user's country.
+    std::string region();
+    /// What the user does next, by what is on screen.
+    std::string next(const Desk& desk);
+
+private:
+    /// How many texts in a hundred are odd: with few of them a session lasts, with many it meets more.
+    static constexpr std::array<std::size_t, 4> oddities{2, 10, 30, 80};
+
+    std::string menuEntry();
+    std::string onPanel(const FeuilleCalcul& panel);
+    std::string onControl(Control& control);
+    std::string write(TextBox& box, const std::string& target);
+    int position(ScrollBar& bar);
+    std::string text();
+
+    Dice dice_;
+    std::size_t oddity_;
+};
+
+} // namespace ondelis::fuzz

@@ -1,0 +1,185 @@
+#include "Session.h"
+
+#include <algorithm>
+#include <array>
+#include <atomic>
+#include <csignal>
+#include <cstdio>
+#include <cstdlib>
+#include <cstring>
+#include <ctime>
+#include <functional>
+#include <new>
+#include <stdexcept>
+#include <string_view>
+
+#include <sys/mman.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include "Pilote.h"
+#include "RandomUser.h"
+
+namespace ondelis::fuzz {
+namespace {
+
+constexpr int stepsOfAUser = 250;
+constexpr double longestStep = 2; ///< seconds of the session's own processor time
+
+/// What the session's process tells of itself. It begins as zeros.
+struct Log { // NOLINT(cppcoreguidelines-pro-type-member-init): the memory that it is made in is all zeros
+    static constexpr std::size_t capacity = std::size_t{1} << 20U;
+
+    std::atomic<std::size_t> length; ///< of the commands written, a line each
+    std::atomic<double> stepBegan; ///< seconds of processor time
+    std::array<char, 64> subject;
+    std::array<char, 64> fault;
+    std::array<char, capacity> lines;
+};
+
+/// A log that the processes made meanwhile share, and that outlives them.
+class SharedLog {
+public:
+    SharedLog() : memory_{mmap(nullptr, sizeof(Log), PROT_READ | PROT_WRITE, MAP_SHARED | MAP_ANONYMOUS, -1, 0)}
+    {
+        if (memory_ == MAP_FAILED)
+            throw std::bad_alloc{};
+        log_ = new (memory_) Log;
+    }
+    ~SharedLog() { munmap(memory_, sizeof(Log)); }
+    SharedLog(const SharedLog&) = delete;
+    SharedLog& operator=(const SharedLog&) = delete;
+
+    Log& operator*() { return *log_; }
+
+private:
+    void* memory_;
+    Log* log_;
+};
+
+template <std::size_t size>
+void keep(std::array<char, size>& place, std::string_view text)
+{
+    const std::size_t length = std::min(text.size(), size - 1);
+    std::memcpy(place.data(), text.data(), length);
+    place.at(length) = '\0';
+}
+
+/// Seconds that a process has kept the processor busy.
+double processorTime(clockid_t clock)
+{
+    timespec time{};
+    clock_gettime(clock, &time);
+    return static_cast<double>(time.tv_sec) + static_cast<double>(time.tv_nsec) * 1e-9;
+}
+
+/// What a command is about: "PANEL" in "type PANEL.CONTROL ...", "ENTRY" in "menu ENTRY".
+std::string_view subjectOf(std::string_view command)
+{
+    const std::string_view target = command.substr(command.find(' ') + 1);
+    return target.substr(0, target.find_first_of(". "));
+}
+
+/// The program in the session's process.
+class Session {
+public:
+    explicit Session(Log& log) : log_{log} { }
+
+    [[nodiscard]] const Desk& desk() const { return pilote_.desk(); }
+    [[nodiscard]] bool over() const { return desk().ended() || log_.length + 2048 > Log::capacity; }
+
+    void carryOut(const std::string& command)
+    {
+        const std::size_t before = log_.length;
+        std::ranges::copy(command + '\n', log_.lines.begin() + static_cast<std::ptrdiff_t>(before));
+        keep(log_.subject, subjectOf(command));
+        log_.stepBegan = processorTime(CLOCK_PROCESS_CPUTIME_ID);
+        log_.length = before + command.size() + 1;
+        const pilote::Json reply = pilote_.answer(command);
+        if (reply.contains("error"))
+            throw std::logic_error{command};
+        if (reply.contains("refused"))
+            log_.length = before;
+        else if (reply["fault"].is_string())
+            keep(log_.fault, reply["fault"].get<std::string>());
+    }
+
+private:
+    // NOLINTNEXTLINE(cppcoreguidelines-avoid-const-or-ref-data-members): one session, one log
+    Log& log_;
+    pilote::Pilote pilote_;
+};
+
+/// Waits for the end of the session's process, and ends it where a step takes too long. Says what was wrong
+/// with its end, "" for nothing.
+std::string watch(pid_t child, const Log& log)
+{
+    sigset_t ends;
+    sigemptyset(&ends);
+    sigaddset(&ends, SIGCHLD);
+    clockid_t clock{};
+    clock_getcpuclockid(child, &clock);
+    bool hangs = false;
+    int status = 0;
+    while (waitpid(child, &status, WNOHANG) == 0) {
+        const timespec aMoment{.tv_sec = 0, .tv_nsec = 100'000'000};
+        sigtimedwait(&ends, nullptr, &aMoment);
+        hangs = processorTime(clock) - log.stepBegan > longestStep;
+        if (hangs)
+            kill(child, SIGKILL);
+    }
+    if (hangs && WIFSIGNALED(status))
+        return "hang";
+    if (WIFSIGNALED(status))
+        return std::string{"crash: "} + strsignal(WTERMSIG(status)); // NOLINT(concurrency-mt-unsafe)
+    // The sanitizers, which have written their report, end a process with a status.
+    return WEXITSTATUS(status) == 0 ? "" : "the process ended with status " + std::to_string(WEXITSTATUS(status));
+}
+
+Outcome play(const std::function<void(Session&)>& what)
+{
+    SharedLog shared;
+    Log& log = *shared;
+    const pid_t child = fork();
+    if (child == -1)
+        throw std::runtime_error{"no process for a session"};
+    if (child == 0) {
+        Session session{log};
+        what(session);
+        std::exit(0); // NOLINT(concurrency-mt-unsafe): leaks are looked for on the way out
+    }
+    Outcome outcome{.commands = {}, .subject = {}, .fault = {}, .trouble = watch(child, log)};
+    outcome.subject = log.subject.data();
+    outcome.fault = log.fault.data();
+    std::string_view lines{log.lines.data(), log.length};
+    while (!lines.empty()) {
+        outcome.commands.emplace_back(lines.substr(0, lines.find('\n')));
+        lines.remove_prefix(outcome.commands.back().size() + 1);
+    }
+    return outcome;
+}
+
+} // namespace
+
+Outcome playUser(std::uint64_t seed)
+{
+    return play([seed](Session& session) {
+        RandomUser user{seed};
+        session.carryOut(user.region());
+        session.carryOut("start");
+        for (int step = 0; step < stepsOfAUser && !session.over(); ++step)
+            session.carryOut(user.next(session.desk()));
+    });
+}
+
+Outcome playAgain(const std::vector<std::string>& commands)
+{
+    return play([&commands](Session& session) {
+        static_cast<void>(std::freopen("/dev/null", "w", stderr)); // the sanitizers have reported it already
+        for (const std::string& command : commands)
+            if (!session.over())
+                session.carryOut(command);
+    });
+}
+
+} // namespace ondelis::fuzz

@@ -1,0 +1,23 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+namespace ondelis::fuzz {
+
+/// How a session went.
+struct Outcome {
+    std::vector<std::string> commands; ///< that were carried out, the last one perhaps not to its end
+    std::string subject; ///< of the last command: a panel, or a menu entry
+    std::string fault; ///< by which the program ended; "" for none
+    std::string trouble; ///< a hang, a crash, a leak; "" for none
+};
+
+/// A random user works for a while, in a process of its own.
+[[nodiscard]] Outcome playUser(std::uint64_t seed);
+
+/// The same commands once more, in a process of their own; those that are refused now are left out.
+[[nodiscard]] Outcome playAgain(const std::vector<std::string>& commands);
+
+} // namespace ondelis::fuzz
