@@ -21,7 +21,7 @@ public:
                                                .at = {240, ligne(3), 4500, 255}, .label = &Label1}, &HB9CV_HF::HScroll1_Change};
 
     Label        Label2   {this, "Label2",    {.Caption = "Balun",                      .at = {240, ligne(5) + 30, 3120, 255}}};
-    TextBox      TxtBalun {this, "TxtBalun",  {.Text = "Balun 1:3", .at = {3420, ligne(5), 1320, 315}, .BackColor = 0xFFFFC0, .Locked = true, .label = &Label2}};
+    TextBox      TxtBalun {this, "TxtBalun",  resultField({3420, ligne(5), 1320, 315}, &Label2)};
     Label        Lbl092   {this, "Lbl092",    {.Caption = "0.92 * Lambda / 2 (m)",      .at = {240, ligne(6) + 30, 3120, 255}}};
     TextBox      Txt092   {this, "Txt092",    resultField({3420, ligne(6), 1320, 315}, &Lbl092)};
     Label        Lbl025   {this, "Lbl025",    {.Caption = "0.25 * Lambda / 2 (m)",      .at = {240, ligne(7) + 30, 3120, 255}}};
