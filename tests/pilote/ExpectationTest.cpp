@@ -121,9 +121,12 @@ TEST_F(ExpectationTest, TakesTheBoxesOfTheLastCommandInTheirOrder)
 TEST_F(ExpectationTest, KnowsNoBoxOfAnEarlierCommand)
 {
     say("start");
-    say("menu MenuFiltrePasseBasEnPi");
+    const Json first = say("menu MenuFiltrePasseBasEnPi")["messages"];
     say("menu MenuCircuitOscillant");
     EXPECT_TRUE(ok("expect no message"));
+    EXPECT_FALSE(ok("expect message " + first[0]["prompt"].dump()));
+    say("menu MenuFiltrePasseBasEnPi");
+    EXPECT_TRUE(ok("expect message " + first[0]["prompt"].dump()));
 }
 
 TEST_F(ExpectationTest, ShowsTheBoxThatCameInsteadOfTheExpectedOne)

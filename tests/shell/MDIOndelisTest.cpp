@@ -120,7 +120,7 @@ TEST_F(MDIOndelisTest, NothingOpensAfterTheEnd)
 struct Form {
     Double Width = 1000;
     Double Height = 500;
-    std::vector<std::string>* order;
+    std::vector<std::string>* order = nullptr;
     struct Position {
         std::string name;
         std::vector<std::string>* order;

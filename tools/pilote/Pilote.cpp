@@ -23,7 +23,7 @@ double extent(const std::string& word)
     return twips;
 }
 
-/// A whole number; one that is too long to be held is as large as can be.
+/// A whole number; the largest one where it is too long to be held: no list and no bar goes so far.
 int whole(const std::string& word)
 {
     int number = 0;
@@ -32,7 +32,7 @@ int whole(const std::string& word)
     if (error == std::errc::invalid_argument || stop != end)
         throw Malformed{"not a whole number: " + word};
     if (error == std::errc::result_out_of_range)
-        return word.front() == '-' ? std::numeric_limits<int>::min() : std::numeric_limits<int>::max();
+        return std::numeric_limits<int>::max();
     return number;
 }
 
