@@ -2,6 +2,7 @@
 
 #include "forms/ResumeNext.h"
 #include "panels/antennes/AntennesDipolesRaccourcis.h"
+#include "panels/antennes/AntennesHighQLoop.h"
 #include "panels/antennes/AntennesLPDA1.h"
 #include "panels/antennes/AntennesTrappesCoaxiales.h"
 #include "panels/antennes/DoubleQuad.h"
@@ -93,6 +94,7 @@ void MDIOndelis::CacherFeuilles()
 {
     desk_.Unload<AntennesLPDA1>();
     desk_.Unload<AntennesDipolesRaccourcis>();
+    desk_.Unload<AntennesHighQLoop>();
     desk_.Unload<AntennesTrappesCoaxiales>();
     desk_.Unload<Astable>();
     desk_.Unload<Apropos>();

@@ -1,6 +1,7 @@
 #include "shell/Menu.h"
 
 #include "panels/antennes/AntennesDipolesRaccourcis.h"
+#include "panels/antennes/AntennesHighQLoop.h"
 #include "panels/antennes/AntennesLPDA1.h"
 #include "panels/antennes/AntennesTrappesCoaxiales.h"
 #include "panels/antennes/DoubleQuad.h"
@@ -143,7 +144,7 @@ std::vector<Menu> makeTree()
             {"mnuGammaMatch", "Gamma match", {show<GammaMatch>(), height<GammaMatch>(7755), width<GammaMatch>(12240), centre<GammaMatch>()}},
             {"mnuHB9CV_HF", "HB9CV HF", centred<HB9CV_HF>()},
             {"mnuHB9CV_VUSHF", "HB9CV VUSHF", centred<HB9CV_VUSHF>()},
-            {"mnuHighQLoop", "High Q Loop", {}},
+            {"mnuHighQLoop", "High Q Loop", centred<AntennesHighQLoop>()},
             {"mnuTrappesCoaxiales", "Trappes en coaxial", centred<AntennesTrappesCoaxiales>()},
         }},
         {"MenuCircuitsOscillants", "Circuits oscillants et Selfs", {

@@ -1,0 +1,108 @@
+#include "panels/antennes/AntennesHighQLoop.h"
+
+#include "kit/Conversions.h"
+#include "kit/Maths.h"
+#include "panels/antennes/CalculsFminFmax.h"
+#include "panels/antennes/InductancesEquations.h"
+
+namespace ondelis {
+
+AntennesHighQLoop::AntennesHighQLoop(Desk& desk)
+    : FeuilleCalcul{
+        desk, {.name = "AntennesHighQLoop", .Caption = "Calcul des High Q Loop", .Width = 13590, .Height = 7740}}
+{
+}
+
+TextBox::Design AntennesHighQLoop::champ(Box at, Label* label, Frame* bloc)
+{
+    TextBox::Design design = resultField(at, label, 0xC0FFFF);
+    design.container = bloc;
+    return design;
+}
+
+void AntennesHighQLoop::Form_Load()
+{
+    resumeNext([&] { NbSpires = 1.0; });
+    resumeNext([&] { TxtFreqMin.Text = CStr(3.5); });
+    resumeNext([&] { TxtFreqMax.Text = CStr(10.15); });
+    resumeNext([&] { TxtDeltaFMin.Text = CStr(4.2); });
+    resumeNext([&] { TxtDeltaFMax.Text = CStr(7.6); });
+    resumeNext([&] { LstNbreCotes.ListIndex = 3; });
+    resumeNext([&] { LstLambdaSur.ListIndex = 9; });
+    resumeNext([&] { TxtPuissance.Text = CStr(100); });
+    resumeNext([&] { BtnCalculer.Value = true; });
+}
+
+void AntennesHighQLoop::TxtFreqMin_Change()
+{
+    if (CDbl(TxtFreqMin.Text) > 0)
+        FreqMin = CDbl(TxtFreqMin.Text) * Pow(10, 6);
+}
+
+void AntennesHighQLoop::TxtFreqMax_Change()
+{
+    if (CDbl(TxtFreqMin.Text) < Val(TxtFreqMax.Text) && Val(TxtFreqMax.Text) > 0)
+        FreqMax = CDbl(TxtFreqMax.Text) * Pow(10, 6);
+}
+
+void AntennesHighQLoop::TxtDeltaFMin_Change()
+{
+    if (CDbl(TxtDeltaFMin.Text) > 0)
+        DeltaFMin = CDbl(TxtDeltaFMin.Text) * 1000;
+}
+
+void AntennesHighQLoop::TxtDeltaFMax_Change()
+{
+    // The texts are compared character by character, not their numbers: "10" comes before "4.2".
+    if (TxtDeltaFMax.Text.get() > TxtDeltaFMin.Text.get())
+        DeltaFMax = CDbl(TxtDeltaFMax.Text) * 1000;
+}
+
+void AntennesHighQLoop::TxtPuissance_Change()
+{
+    if (Val(TxtPuissance.Text) > 0)
+        Puissance = CDbl(TxtPuissance.Text);
+}
+
+void AntennesHighQLoop::LstNbreCotes_Click()
+{
+    NbCotes = CInt(LstNbreCotes.List(LstNbreCotes.ListIndex));
+}
+
+void AntennesHighQLoop::LstLambdaSur_Click()
+{
+    LambdaSur = CInt(LstLambdaSur.List(LstLambdaSur.ListIndex));
+}
+
+void AntennesHighQLoop::BtnCalculer_Click()
+{
+    if (FreqMin <= 0 || FreqMax <= FreqMin || DeltaFMin <= 0 || DeltaFMax <= 0 || NbSpires <= 0 || NbCotes <= 0
+        || Puissance <= 0)
+        return;
+    FreqMoy = (FreqMax - FreqMin) / 2 + FreqMin;
+    TxtFreqMoy.Text = CStr(Pow(10, -6) * FreqMoy);
+    LambdaMoy = 3 * Pow(10, 8) / FreqMoy;
+    TxtLambdaMoy.Text = CStr(Fix(LambdaMoy * 1000) / 1000);
+    DeltaFMoy = (DeltaFMax - DeltaFMin) / 2 + DeltaFMin;
+    TxtDeltaFMoy.Text = CStr(Pow(10, -3) * DeltaFMoy);
+    const Double p = LambdaMoy / LambdaSur; // perimeter
+    Cote = p / (NbCotes * NbSpires);
+    TxtLongueurCote.Text = CStr(Fix(Cote * 1000) / 10);
+    AngleCote = Pi() * NbSpires / NbCotes;
+    Rayon = Cote / (2 * Sin(AngleCote));
+    TxtRayon.Text = CStr(Fix(Rayon * 1000) / 10);
+    Surface = Cote * 0.5 * Rayon * Cos(AngleCote) * NbCotes;
+    TxtSurface.Text = CStr(Fix(Surface * 10000) / 10000);
+    Inductance = Pow(10, -6) * InductancePolygone(NbCotes, NbSpires, Cote);
+    TxtInductance.Text = CStr(Pow(10, 6) * Inductance);
+
+    // What the loop does at the centre is shown nowhere, but it can end the program before the edges are reached.
+    const Fonctionnement centre{*this, FreqMoy, DeltaFMoy};
+    for (const auto grandeur : {&Fonctionnement::Q, &Fonctionnement::XL, &Fonctionnement::RR, &Fonctionnement::RL,
+             &Fonctionnement::Vc, &Fonctionnement::IL, &Fonctionnement::Efficacite, &Fonctionnement::Cf})
+        static_cast<void>((centre.*grandeur)());
+
+    CalculsFminFmax(*this);
+}
+
+} // namespace ondelis
