@@ -15,7 +15,7 @@ AntennesHighQLoop::AntennesHighQLoop(Desk& desk)
 
 TextBox::Design AntennesHighQLoop::champ(Box at, Label* label, Frame* bloc)
 {
-    TextBox::Design design = resultField(at, label, 0xC0FFFF);
+    TextBox::Design design = resultField(at, label);
     design.container = bloc;
     return design;
 }
@@ -29,7 +29,7 @@ void AntennesHighQLoop::Form_Load()
     resumeNext([&] { TxtDeltaFMax.Text = CStr(7.6); });
     resumeNext([&] { LstNbreCotes.ListIndex = 3; });
     resumeNext([&] { LstLambdaSur.ListIndex = 9; });
-    resumeNext([&] { TxtPuissance.Text = CStr(100); });
+    resumeNext([&] { TxtPuissance.Text = "100"; });
     resumeNext([&] { BtnCalculer.Value = true; });
 }
 
