@@ -18,7 +18,7 @@ struct Row {
 constexpr std::array<Row, 37> table{{
     {"mnuLPDA",                   "subscript out of range"}, // under a decimal comma its opening finds no Theta
     {"AntennesDipolesRaccourcis", "overflow, invalid argument"}, // a wire longer than a half wave
-    {"AntennesHighQLoop",         "overflow, invalid argument, division by zero, type mismatch"}, // `CDbl` of an emptied field
+    {"AntennesHighQLoop",         "overflow, invalid argument, type mismatch"}, // `CDbl` of an emptied field
     {"AntennesLPDA1",             "overflow, invalid argument, division by zero, type mismatch, subscript out of range"}, // more than 31 elements
     {"AntennesTrappesCoaxiales",  "overflow, invalid argument, division by zero"}, // a frequency or a diameter of 0
     {"CalculNombreSpires",        "overflow, invalid argument, division by zero"}, // a negative diameter

@@ -24,7 +24,8 @@ std::vector<std::string_view> openingEntries()
 
 std::string RandomUser::region()
 {
-    return dice_.percent(50) ? R"(region "." ",")" : R"(region "," ".")";
+    constexpr std::array<std::string_view, 3> regions{R"(region "." ",")", R"(region "," ".")", R"(region "," " ")"};
+    return std::string{dice_.one(regions)};
 }
 
 std::string RandomUser::next(const Desk& desk)
