@@ -25,10 +25,6 @@ Whole<Repr> nearest(Double x)
     return static_cast<int>(whole);
 }
 
-/// Called through a pointer that the compiler has to read each time: were it to see the call, it could make
-/// products of squares, and of powers of ten calls of exp10, which is wrong in the last digit very often.
-double (*const volatile libraryPow)(double, double) = std::pow;
-
 } // namespace
 
 Double Fix(Double x)
@@ -82,6 +78,9 @@ Double Pow(Double x, Double y)
 {
     require(x >= 0 || y == Fix(y));
     require(x != 0 || y >= 0);
+    // A pointer that the compiler has to read each time: were it to see the call, it could make products of squares,
+    // and of powers of ten calls of exp10, which is wrong in the last digit very often.
+    static double (*const volatile libraryPow)(double, double) = std::pow;
     return Double::checked(libraryPow(x.value(), y.value()));
 }
 

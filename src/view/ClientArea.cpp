@@ -22,7 +22,7 @@ ClientArea::ClientArea(QWidget* parent) : QMdiArea{parent}
     setOption(QMdiArea::DontMaximizeSubWindowOnActivation);
     idle_.setSingleShot(true);
     idle_.setInterval(idleTime);
-    idle_.callOnTimeout([this] { picture_ = {}; });
+    connect(&idle_, &QTimer::timeout, this, [this] { picture_ = {}; });
 }
 
 void ClientArea::paintEvent(QPaintEvent* event)

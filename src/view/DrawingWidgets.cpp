@@ -14,6 +14,7 @@ namespace {
 void turnLightness(QImage& image)
 {
     for (int y = 0; y < image.height(); ++y) {
+        // NOLINTNEXTLINE(cppcoreguidelines-pro-type-reinterpret-cast): a row of 32-bit pixels, given as bytes
         auto* const line = reinterpret_cast<QRgb*>(image.scanLine(y));
         for (QRgb* pixel = line; pixel != line + image.width(); ++pixel) {
             const int red = qRed(*pixel);

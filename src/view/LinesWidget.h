@@ -26,8 +26,8 @@ private:
     /// What is painted, in pixels.
     struct Stroke {
         QLineF line;
-        Color color;
-        double width;
+        Color color = windowTextColor;
+        double width = 0;
     };
 
     /// Makes the widget as large as what it paints: it stands from the upper left corner of the panel on.

@@ -68,8 +68,8 @@ void ListBoxWidget::mousePressEvent(QMouseEvent* event)
 
 void ListBoxWidget::focusInEvent(QFocusEvent* event)
 {
-    // Not the base class's way, which would choose the first row.
-    QAbstractScrollArea::focusInEvent(event);
+    // The base class would choose the first row.
+    QAbstractScrollArea::focusInEvent(event); // NOLINT(bugprone-parent-virtual-call)
     viewport()->update();
     act(list_, [&](User& user) { user.focus(list_); });
 }

@@ -6,7 +6,6 @@
 #include <QScopedValueRollback>
 #include <QScrollBar>
 #include <algorithm>
-#include <ranges>
 #include <utility>
 
 #include "view/ControlWidget.h"
@@ -65,8 +64,8 @@ void PanelWindow::follow(const Control& control)
     shown->follow();
     if (const auto* const label = dynamic_cast<const Label*>(&control)) {
         const auto [first, last] = named_.equal_range(label);
-        for (const auto& entry : std::ranges::subrange{first, last})
-            entry.second->setAccessibleName(toQString(label->Caption.get()));
+        std::for_each(
+            first, last, [&](const auto& entry) { entry.second->setAccessibleName(toQString(label->Caption.get())); });
     }
 }
 

@@ -1,6 +1,6 @@
 #include "view/WidgetMaker.h"
 
-#include <ranges>
+#include <algorithm>
 
 #include "view/ButtonWidgets.h"
 #include "view/DrawingWidgets.h"
@@ -23,8 +23,7 @@ void WidgetMaker::stack()
 {
     for (const auto& [parent, lines] : lines_)
         lines->lower();
-    for (QWidget* drawing : drawings_ | std::views::reverse)
-        drawing->lower();
+    std::for_each(drawings_.rbegin(), drawings_.rend(), [](QWidget* drawing) { drawing->lower(); });
 }
 
 void WidgetMaker::visit(Label& label)
