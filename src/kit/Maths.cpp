@@ -80,6 +80,7 @@ Double Pow(Double x, Double y)
     require(x != 0 || y >= 0);
     // A pointer that the compiler has to read each time: were it to see the call, it could make products of squares,
     // and of powers of ten calls of exp10, which is wrong in the last digit very often.
+    // NOLINTNEXTLINE(cppcoreguidelines-avoid-non-const-global-variables): it is const, and volatile
     static double (*const volatile libraryPow)(double, double) = std::pow;
     return Double::checked(libraryPow(x.value(), y.value()));
 }
