@@ -64,8 +64,9 @@ void compare(Screen& screen)
 {
     Program ours{.file = PROGRAM, .milliseconds = {}, .megabytes = {}};
     Program bare{.file = BARE_PROGRAM, .milliseconds = {}, .megabytes = {}};
-    std::array unseen{ours, bare};
-    playRound({&unseen[0], &unseen[1]}, screen); // it brings the files into memory
+    Program unseen = ours;
+    Program unseenBare = bare;
+    playRound({&unseen, &unseenBare}, screen); // it brings the files into memory
     for (int round = 0; round < rounds; ++round)
         playRound({&ours, &bare}, screen);
 
