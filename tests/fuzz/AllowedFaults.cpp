@@ -28,7 +28,7 @@ constexpr std::array<Row, 37> table{{
     {"CoaxSectCarree",            "overflow, invalid argument"},
     {"CoaxSectCyl",               "overflow, invalid argument"},
     {"CondensateurEnergie",       "overflow, invalid argument"}, // a negative energy
-    {"CondensateurFixe",          "overflow, invalid argument, type mismatch"}, // `CDbl` of the dielectric constant
+    {"CondensateurFixe",          "overflow, invalid argument, division by zero, type mismatch"}, // `CDbl` of the dielectric constant
     {"CondensateurVariable",      "overflow, invalid argument, subscript out of range"}, // a negative count of blades
     {"Decibels",                  "overflow, invalid argument"}, // a negative ratio
     {"DoubleQuad",                "overflow, division by zero"}, // a frequency of 0

@@ -83,8 +83,10 @@ std::string RandomUser::write(TextBox& box, const std::string& target)
     // Keys land behind what stands there: a number grows by a key or two before it is written anew.
     if (dice_.percent(20) && !std::string{box.Text}.empty())
         return "type " + target + ' ' + std::to_string(dice_.below(10));
-    const std::string_view command = dice_.percent(30) ? "type " : "replace ";
-    return std::string{command} + target + ' ' + pilote::inQuotes(text());
+    // Each key of a long text is a step of its own: such texts are pasted.
+    const std::string written = text();
+    const std::string_view command = written.size() <= 20 && dice_.percent(30) ? "type " : "replace ";
+    return std::string{command} + target + ' ' + pilote::inQuotes(written);
 }
 
 int RandomUser::position(ScrollBar& bar)
