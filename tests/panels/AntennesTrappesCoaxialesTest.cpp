@@ -21,7 +21,7 @@ protected:
     template <class Action>
     void inRound(int wanted, Action action)
     {
-        world.onPending = [this, wanted, action, round = 0]() mutable {
+        world.onPending = [wanted, action, round = 0]() mutable {
             if (++round == wanted)
                 action();
         };
