@@ -1,9 +1,9 @@
 #pragma once
 
-#include <functional>
 #include <string>
 #include <string_view>
 
+#include "Gestures.h"
 #include "ScriptedSurroundings.h"
 #include "State.h"
 #include "Words.h"
@@ -25,12 +25,11 @@ public:
     [[nodiscard]] const Desk& desk() const { return desk_; }
 
 private:
-    using Refusal = User::Refusal;
-    /// What a whole command does once it has been read.
-    using Deed = std::function<Refusal()>;
+    using Refusal = Gestures::Refusal;
+    using Deed = Gestures::Deed;
     enum class When { BeforeStart, Running };
 
-    /// A command that does something: its word, when it may come, what reads the words behind.
+    /// A command that is no gesture: its word, when it may come, what reads the words behind.
     struct Command {
         std::string_view word;
         When when;
@@ -45,27 +44,7 @@ private:
     Deed region(Words& words);
     Deed screen(Words& words);
     Deed start(Words& words);
-    Deed menu(Words& words);
-    Deed close(Words& words);
-    Deed type(Words& words);
-    Deed backspace(Words& words);
-    Deed replace(Words& words);
-    Deed click(Words& words);
-    Deed select(Words& words);
-    Deed scroll(Words& words);
-    Deed focus(Words& words);
     Deed answerNext(Words& words);
-
-    /// A control by its names.
-    struct Target {
-        std::string panel;
-        std::string control;
-    };
-    /// The next word, "PANEL.CONTROL".
-    static Target target(Words& words);
-    /// Runs `act` on the control if it is of that class.
-    template <class ControlClass, class Act>
-    Refusal with(const Target& target, Act&& act);
 
     // The expectations, in Expectations.cpp.
     Json expect(Words& words);
@@ -87,6 +66,7 @@ private:
     Desk desk_{surroundings_};
     MDIOndelis frame_{desk_};
     User user_{desk_};
+    Gestures gestures_{frame_};
     bool started_ = false;
 
     // What the last command did.
