@@ -1,0 +1,90 @@
+#include <QTemporaryDir>
+#include <QTest>
+#include <algorithm>
+#include <fstream>
+
+#include "Gallery.h"
+#include "view/Application.h"
+
+namespace ondelis::galerie {
+
+/// What the gallery says of examples that are right or wrong.
+class ExamplesTest final : public QObject {
+    Q_OBJECT
+
+    QTemporaryDir scratch_;
+
+    /// Draws the panel with that example; gives what was wrong, from the file's name on.
+    std::string draw(const std::string& panel, const std::string& example) const
+    {
+        const std::filesystem::path folder = scratch_.path().toStdString();
+        std::ofstream{folder / (panel + ".txt")} << example;
+        const auto subjects = allSubjects();
+        try {
+            Gallery{folder, folder, looks.front()}.draw(*std::ranges::find(subjects, panel, &Subject::panel));
+            return {};
+        } catch (const Refused& refused) {
+            return std::string{refused.what()}.substr(folder.string().size() + 1);
+        }
+    }
+
+    [[nodiscard]] QImage picture(const char* name) const { return QImage{scratch_.filePath(QString::fromUtf8(name))}; }
+
+private slots:
+    void aPictureShowsWhatHasBeenTyped()
+    {
+        const std::string fault = draw("SectionDiametre",
+            "# a wire\n"
+            "picture vide\n\n"
+            "replace SectionDiametre.TxtS \"2.5\"   # mm²\n"
+            "picture exemple\n");
+        QCOMPARE(fault, std::string{});
+        QVERIFY(!picture("SectionDiametre-exemple-96.png").isNull());
+        QCOMPARE(picture("SectionDiametre-vide-96.png"), picture("SectionDiametre-96.png"));
+        QVERIFY(picture("SectionDiametre-exemple-96.png") != picture("SectionDiametre-96.png"));
+    }
+
+    void whatIsNoCommandIsNamed()
+    {
+        QCOMPARE(draw("SectionDiametre", "# a wire\nwrite SectionDiametre.TxtS 2\n"),
+            std::string{"SectionDiametre.txt:2: write SectionDiametre.TxtS 2: no such command: write"});
+        QCOMPARE(
+            draw("SectionDiametre", "picture\n"), std::string{"SectionDiametre.txt:1: picture: a word is missing"});
+        QCOMPARE(draw("SectionDiametre", "type SectionDiametre.TxtS 2 3\n"),
+            std::string{"SectionDiametre.txt:1: type SectionDiametre.TxtS 2 3: a word too many"});
+    }
+
+    void whatAPersonCannotDoIsNamed()
+    {
+        QCOMPARE(draw("SectionDiametre", "picture vide\ntype SectionDiametre.TxtD 2\n"),
+            std::string{"SectionDiametre.txt:2: type SectionDiametre.TxtD 2: the field is locked"});
+        QCOMPARE(draw("SectionDiametre", "close SectionDiametre\npicture rien\n"),
+            std::string{"SectionDiametre.txt:2: picture rien: the panel is not on screen: SectionDiametre"});
+    }
+
+    void aPictureIsTakenOnce()
+    {
+        QCOMPARE(draw("SectionDiametre", "picture exemple\npicture exemple\n"),
+            std::string{"SectionDiametre.txt:2: picture exemple: a picture of this name has been taken"});
+    }
+
+    void aFaultIsNamed()
+    {
+        const std::string fault = draw("SectionDiametre", "replace SectionDiametre.TxtS \"-1\"\n");
+        QVERIFY2(fault.starts_with("SectionDiametre.txt:1: replace SectionDiametre.TxtS \"-1\": the program has ended: "
+                                   "Erreur 5 : "),
+            fault.c_str());
+    }
+};
+
+} // namespace ondelis::galerie
+
+int main(int argc, char** argv)
+{
+    qputenv("QT_FONT_DPI", "96");
+    const ondelis::Application application{argc, argv};
+    ondelis::galerie::ExamplesTest tests;
+    return QTest::qExec(&tests, argc, argv);
+}
+
+#include "ExamplesTest.moc"

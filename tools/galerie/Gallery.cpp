@@ -1,0 +1,87 @@
+#include "Gallery.h"
+
+#include <fstream>
+#include <set>
+
+#include "ScriptedSurroundings.h"
+#include "shell/Menu.h"
+
+namespace ondelis::galerie {
+
+std::vector<Subject> allSubjects()
+{
+    pilote::ScriptedSurroundings surroundings;
+    Desk desk{surroundings};
+    MDIOndelis frame{desk};
+    frame.start();
+    std::vector<Subject> subjects;
+    for (const Menu& menu : menuTree())
+        for (const MenuEntry& entry : menu.entries) {
+            if (entry.control == "MenuQuitter" || entry.steps.empty())
+                continue;
+            frame.click(entry);
+            // The companion is loaded after the panel beside which it stands.
+            subjects.push_back({.panel = std::string{desk.loadedPanels().front()->design().name},
+                .entry = std::string{entry.control},
+                .caption = std::string{entry.caption},
+                .menu = std::string{menu.caption}});
+        }
+    return subjects;
+}
+
+Gallery::Gallery(std::filesystem::path examples, std::filesystem::path pictures, const Look& look)
+    : examples_{std::move(examples)}, pictures_{std::move(pictures)}, look_{look.name()}
+{
+}
+
+void Gallery::draw(const Subject& subject) const
+{
+    Sitting sitting;
+    sitting.play("menu " + subject.entry);
+    take(sitting, subject.panel, subject.panel);
+    playExample(sitting, subject);
+}
+
+void Gallery::drawMainWindow(const Subject& subject) const
+{
+    Sitting sitting;
+    sitting.play("menu " + subject.entry);
+    take(sitting, "MDIOndelis", "Ondelis");
+}
+
+void Gallery::playExample(Sitting& sitting, const Subject& subject) const
+{
+    const std::filesystem::path file = examples_ / (subject.panel + ".txt");
+    if (!exists(file))
+        return; // it has no more to show than it opens with
+    std::ifstream in{file};
+    std::set<std::string> names;
+    std::string line;
+    for (int number = 1; std::getline(in, line); ++number) {
+        try {
+            pilote::Words words{line};
+            if (words.atEnd())
+                continue;
+            if (words.next() != "picture") {
+                sitting.play(line);
+                continue;
+            }
+            const std::string name = words.next();
+            words.finish();
+            if (!names.insert(name).second)
+                throw Refused{"a picture of this name has been taken"};
+            take(sitting, subject.panel, subject.panel + '-' + name);
+        } catch (const std::runtime_error& error) {
+            throw Refused{file.string() + ':' + std::to_string(number) + ": " + line + ": " + error.what()};
+        }
+    }
+    if (!in.eof())
+        throw Refused{file.string() + ": cannot be read"};
+}
+
+void Gallery::take(const Sitting& sitting, std::string_view panel, const std::string& name) const
+{
+    sitting.picture(panel, pictures_ / (name + '-' + look_ + ".png"));
+}
+
+} // namespace ondelis::galerie

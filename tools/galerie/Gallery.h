@@ -1,0 +1,49 @@
+#pragma once
+
+#include <filesystem>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "Look.h"
+#include "Sitting.h"
+
+namespace ondelis::galerie {
+
+/// What the menu opens for its own sake, without its companion.
+struct Subject {
+    std::string panel;
+    std::string entry; ///< of the menu
+    std::string caption; ///< of the entry
+    std::string menu; ///< the caption of its drop-down
+};
+
+/// All panels, in the order of the menu.
+[[nodiscard]] std::vector<Subject> allSubjects();
+
+/// Takes pictures of panels in one look: as they open, and where their examples say so.
+class Gallery {
+public:
+    /// The folders of the examples and of the pictures; the second one is there.
+    Gallery(std::filesystem::path examples, std::filesystem::path pictures, const Look& look);
+
+    /// Pictures one panel, in a fresh program, as it opens, then plays its example. Throws Refused, with file and line
+    /// where it is the example's fault.
+    void draw(const Subject& subject) const;
+
+    /// Pictures the main window with one panel.
+    void drawMainWindow(const Subject& subject) const;
+
+private:
+    void playExample(Sitting& sitting, const Subject& subject) const;
+    void take(const Sitting& sitting, std::string_view panel, const std::string& name) const;
+
+    std::filesystem::path examples_;
+    std::filesystem::path pictures_;
+    std::string look_;
+};
+
+/// Writes index.html into a folder of pictures, which shows them menu by menu. Throws Refused.
+void writeIndex(const std::filesystem::path& folder);
+
+} // namespace ondelis::galerie

@@ -1,0 +1,24 @@
+#pragma once
+
+#include <array>
+#include <string>
+
+namespace ondelis::galerie {
+
+/// How a person's screen shows the program.
+struct Look {
+    int dpi; ///< logical resolution; Qt takes it once, before the application is made
+    bool dark; ///< light text on dark windows, as a desktop of the night has them
+
+    /// What ends the names of its pictures: "96", "sombre-192".
+    [[nodiscard]] std::string name() const { return (dark ? "sombre-" : "") + std::to_string(dpi); }
+
+    /// Prepares this process for it, before the application is made.
+    void chooseResolution() const;
+    /// Gives the application its colours.
+    void applyPalette() const;
+};
+
+inline constexpr std::array<Look, 4> looks{{{96, false}, {96, true}, {192, false}, {192, true}}};
+
+} // namespace ondelis::galerie

@@ -1,0 +1,87 @@
+#include "Sitting.h"
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QMessageBox>
+
+#include "view/MainWindow.h"
+#include "view/PanelWindow.h"
+
+namespace ondelis::galerie {
+namespace {
+
+/// Lets the windows be laid out and painted.
+void settle()
+{
+    for (int round = 0; round < 3; ++round)
+        QCoreApplication::processEvents();
+}
+
+} // namespace
+
+Sitting::Sitting()
+{
+    QApplication::setCursorFlashTime(0); // the caret stands in every picture
+    boxes_.callOnTimeout([this] { answerBox(); });
+    boxes_.start(0);
+    view_.open(frame_);
+    settle();
+}
+
+void Sitting::play(std::string_view line)
+{
+    pilote::Words words{line};
+    const std::string word = words.next();
+    if (word == "answer") {
+        const Answer answer = pilote::readAnswer(words);
+        words.finish();
+        answers_.push_back(answer);
+        return;
+    }
+    const pilote::Gestures::Deed deed = gestures_.read(word, words);
+    if (!deed)
+        throw pilote::Malformed{"no such command: " + word};
+    words.finish();
+    run(deed);
+}
+
+void Sitting::run(const pilote::Gestures::Deed& deed)
+{
+    pilote::Gestures::Refusal refusal;
+    view_.act([&](User& user) { refusal = deed(user); });
+    if (desk_.ended())
+        throw Refused{"the program has ended: " + lastBox_};
+    settle();
+    if (refusal)
+        throw Refused{*refusal};
+}
+
+void Sitting::picture(std::string_view panel, const std::string& file) const
+{
+    QWidget* window = &view_.mainWindow();
+    if (panel != "MDIOndelis") {
+        const FeuilleCalcul* const loaded = gestures_.panel(panel);
+        window = loaded == nullptr ? nullptr : view_.find(*loaded);
+    }
+    if (window == nullptr)
+        throw Refused{"the panel is not on screen: " + std::string{panel}};
+    if (!window->grab().save(QString::fromStdString(file)))
+        throw Refused{"cannot write " + file};
+}
+
+void Sitting::answerBox()
+{
+    const auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+    if (box == nullptr)
+        return;
+    lastBox_ = box->text().toStdString();
+    const bool asks = box->buttons().size() > 1;
+    const bool no = asks && !answers_.empty() && answers_.front() == Answer::No;
+    if (asks && !answers_.empty())
+        answers_.pop_front();
+    for (QAbstractButton* button : box->buttons())
+        if ((box->buttonRole(button) == QMessageBox::NoRole) == no)
+            button->click();
+}
+
+} // namespace ondelis::galerie

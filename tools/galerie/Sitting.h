@@ -1,0 +1,48 @@
+#pragma once
+
+#include <QTimer>
+#include <deque>
+#include <stdexcept>
+#include <string>
+#include <string_view>
+
+#include "Gestures.h"
+#include "forms/Desk.h"
+#include "shell/MDIOndelis.h"
+#include "view/View.h"
+
+namespace ondelis::galerie {
+
+/// The program did not do what it was told; says why.
+class Refused final : public std::runtime_error {
+public:
+    using std::runtime_error::runtime_error;
+};
+
+/// One run of the program in its real windows, which acts as it is told and lets itself be pictured.
+class Sitting {
+public:
+    Sitting();
+
+    /// Carries out one line in the driver's language: a gesture, or the answer to the next box that asks one. Throws
+    /// Refused where a person could not do it or it ends the program, and Malformed.
+    void play(std::string_view line);
+
+    /// Writes a picture of the panel's window, or of the main window where it is "MDIOndelis". Throws Refused.
+    void picture(std::string_view panel, const std::string& file) const;
+
+private:
+    void run(const pilote::Gestures::Deed& deed);
+    /// Answers the box that is on screen now, if there is one: as was told, or else by "OK" or "Oui".
+    void answerBox();
+
+    View view_;
+    Desk desk_{view_};
+    MDIOndelis frame_{desk_};
+    pilote::Gestures gestures_{frame_};
+    QTimer boxes_;
+    std::deque<Answer> answers_;
+    std::string lastBox_;
+};
+
+} // namespace ondelis::galerie
