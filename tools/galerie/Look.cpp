@@ -1,6 +1,7 @@
 #include "Look.h"
 
 #include <QApplication>
+#include <QFont>
 #include <QLoggingCategory>
 #include <QPalette>
 
@@ -42,8 +43,9 @@ void Look::chooseResolution() const
     QLoggingCategory::setFilterRules(QStringLiteral("default.warning=false")); // it warns of each window's size hints
 }
 
-void Look::applyPalette() const
+void Look::apply() const
 {
+    QApplication::setFont(QFont{QStringLiteral("DejaVu Sans"), 9}); // the same pictures whatever the system's font
     if (dark)
         QApplication::setPalette(darkPalette());
 }

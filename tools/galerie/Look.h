@@ -15,8 +15,8 @@ struct Look {
 
     /// Prepares this process for it, before the application is made.
     void chooseResolution() const;
-    /// Gives the application its colours.
-    void applyPalette() const;
+    /// Gives the application its font and its colours.
+    void apply() const;
 };
 
 inline constexpr std::array<Look, 4> looks{{{96, false}, {96, true}, {192, false}, {192, true}}};

@@ -12,6 +12,8 @@
 // An example is a file of gestures in the driver's language, and of such lines.
 
 #include <algorithm>
+#include <array>
+#include <cstdlib>
 #include <iostream>
 #include <span>
 
@@ -42,12 +44,15 @@ std::vector<Subject> chosen(std::span<char* const> names)
     return some;
 }
 
-/// Runs in a process of its own; gives its exit status.
-int drawAll(const Look& look, const std::vector<Subject>& subjects, const char* folder, int argc, char** argv)
+/// Draws in this process, which takes this look; gives its exit status.
+int drawAll(const Look& look, const std::vector<Subject>& subjects, const char* folder)
 {
     look.chooseResolution();
-    const Application application{argc, argv};
-    look.applyPalette();
+    std::string name{"galerie"};
+    std::array<char*, 2> arguments{name.data(), nullptr};
+    int count = 1;
+    const Application application{count, arguments.data()};
+    look.apply();
     const Gallery gallery{EXAMPLES, folder, look};
     try {
         gallery.drawMainWindow(subjects.front());
@@ -60,11 +65,21 @@ int drawAll(const Look& look, const std::vector<Subject>& subjects, const char* 
     }
 }
 
-/// Whether a process ends well.
-bool succeeds(pid_t process)
+/// Draws in a process for each look, all at once; tells whether all ended well.
+bool drawEach(std::span<const Look> some, const std::vector<Subject>& subjects, const char* folder)
 {
-    int status = 1;
-    return waitpid(process, &status, 0) == process && WIFEXITED(status) && WEXITSTATUS(status) == 0;
+    std::vector<pid_t> processes;
+    for (const Look& look : some) {
+        processes.push_back(fork());
+        if (processes.back() == 0)
+            std::exit(drawAll(look, subjects, folder));
+    }
+    bool good = true;
+    for (const pid_t process : processes) {
+        int status = 1;
+        good = waitpid(process, &status, 0) == process && WIFEXITED(status) && WEXITSTATUS(status) == 0 && good;
+    }
+    return good;
 }
 
 } // namespace
@@ -79,13 +94,10 @@ int main(int argc, char** argv)
     try {
         const std::vector<Subject> subjects = chosen(arguments.subspan(2));
         std::filesystem::create_directories(arguments[1]);
-        for (const Look& look : looks) {
-            const pid_t process = fork();
-            if (process == 0)
-                return drawAll(look, subjects, arguments[1], argc, argv);
-            if (!succeeds(process))
-                return 1;
-        }
+        // A wrong example is said once: by the first look, alone.
+        const std::span all{looks};
+        if (!drawEach(all.first(1), subjects, arguments[1]) || !drawEach(all.subspan(1), subjects, arguments[1]))
+            return 1;
         writeIndex(arguments[1]);
         return 0;
     } catch (const std::exception& error) {
