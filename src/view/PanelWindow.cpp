@@ -50,6 +50,7 @@ void PanelWindow::follow()
 {
     const QScopedValueRollback following{following_, true};
     setWindowTitle(toQString(panel_.Caption.get()));
+    rename(nullptr, panel_.Caption);
     const Scale scale{*this};
     setFixedSize(scale.pixels(Double{panel_.Width}.value()), scale.pixels(Double{panel_.Height}.value()));
     const QPoint corner{scale.pixels(Double{panel_.Left}.value()), scale.pixels(Double{panel_.Top}.value())};
@@ -62,11 +63,8 @@ void PanelWindow::follow(const Control& control)
     if (shown == nullptr)
         return;
     shown->follow();
-    if (const auto* const label = dynamic_cast<const Label*>(&control)) {
-        const auto [first, last] = named_.equal_range(label);
-        std::for_each(
-            first, last, [&](const auto& entry) { entry.second->setAccessibleName(toQString(label->Caption.get())); });
-    }
+    if (const auto* const label = dynamic_cast<const Label*>(&control)) // one that is empty now had a caption by design
+        rename(label, label->Caption == "" ? label->design().Caption : label->Caption.get());
 }
 
 void PanelWindow::activate()
@@ -98,9 +96,9 @@ unsigned PanelWindow::boxesShown() const
     return view_.boxesShown();
 }
 
-void PanelWindow::nameAfter(const Label& label, QWidget& widget)
+void PanelWindow::nameAfter(const Label* label, QWidget& widget)
 {
-    named_.emplace(&label, &widget);
+    named_.emplace(label, &widget);
 }
 
 void PanelWindow::closeEvent(QCloseEvent* event)
@@ -153,6 +151,15 @@ void PanelWindow::makeMenu()
     auto* const menu = new QMenu{this};
     menu->addAction(QMdiSubWindow::tr("&Close") + QLatin1String{"\tCtrl+F4"}, this, &QWidget::close);
     setSystemMenu(menu);
+}
+
+void PanelWindow::rename(const Label* label, const std::string& name)
+{
+    const auto [first, last] = named_.equal_range(label);
+    std::for_each(first, last, [&](const auto& entry) {
+        if (entry.second->accessibleName() != toQString(name)) // each call is announced
+            entry.second->setAccessibleName(toQString(name));
+    });
 }
 
 QPoint PanelWindow::corner() const

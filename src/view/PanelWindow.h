@@ -45,8 +45,9 @@ public:
     /// Counts the boxes that have been shown so far.
     [[nodiscard]] unsigned boxesShown() const;
 
-    /// Makes a widget bear the caption of a label as its name, whatever the caption becomes.
-    void nameAfter(const Label& label, QWidget& widget);
+    /// Names a widget, for screen readers, after its label, or after the panel where it has none, whatever their
+    /// captions become.
+    void nameAfter(const Label* label, QWidget& widget);
 
 protected:
     void closeEvent(QCloseEvent* event) override;
@@ -56,6 +57,8 @@ protected:
 private:
     void makeWidgets();
     void makeMenu();
+    /// Gives a new name to the widgets that are named after the label, or after the panel.
+    void rename(const Label* label, const std::string& name);
     /// The upper left corner in the client area of the main window, which may be scrolled.
     [[nodiscard]] QPoint corner() const;
     [[nodiscard]] QPoint scrolled() const;
@@ -63,7 +66,7 @@ private:
     View& view_;
     FeuilleCalcul& panel_;
     std::unordered_map<const Control*, ControlWidget*> widgets_;
-    std::unordered_multimap<const Label*, QWidget*> named_;
+    std::unordered_multimap<const Label*, QWidget*> named_; ///< by their label; null for the panel
     bool gone_ = false;
     bool activated_ = false;
     bool following_ = false;

@@ -39,20 +39,20 @@ void WidgetMaker::visit(TextBox& box)
     else
         made = new TextBoxWidget{window_, box, parentOf(box)};
     take(*made, box);
-    name(box.design().label);
+    window_.nameAfter(box.design().label, made_->widget());
 }
 
 void WidgetMaker::visit(ListBox& list)
 {
     take(*new ListBoxWidget{window_, list, parentOf(list)}, list);
-    name(list.design().label);
+    window_.nameAfter(list.design().label, made_->widget());
 }
 
 void WidgetMaker::visit(OptionButton& option)
 {
     take(*new OptionButtonWidget{window_, option, parentOf(option)}, option);
     if (option.design().Caption.empty())
-        name(option.design().label);
+        window_.nameAfter(option.design().label, made_->widget());
 }
 
 void WidgetMaker::visit(CommandButton& button)
@@ -63,13 +63,13 @@ void WidgetMaker::visit(CommandButton& button)
 void WidgetMaker::visit(HScrollBar& bar)
 {
     take(*new ScrollBarWidget{window_, bar, Qt::Horizontal, parentOf(bar)}, bar);
-    name(bar.design().label);
+    window_.nameAfter(bar.design().label, made_->widget());
 }
 
 void WidgetMaker::visit(VScrollBar& bar)
 {
     take(*new ScrollBarWidget{window_, bar, Qt::Vertical, parentOf(bar)}, bar);
-    name(bar.design().label);
+    window_.nameAfter(bar.design().label, made_->widget());
 }
 
 void WidgetMaker::visit(Frame& frame)
@@ -107,7 +107,7 @@ void WidgetMaker::visit(Shape& shape)
 void WidgetMaker::visit(MaskEdBox& box)
 {
     take(*new MaskEdBoxWidget{window_, box, parentOf(box)}, box);
-    name(box.design().label);
+    window_.nameAfter(box.design().label, made_->widget());
 }
 
 QWidget* WidgetMaker::parentOf(const Control& control) const
@@ -119,14 +119,6 @@ void WidgetMaker::take(ControlWidget& made, const Control& control)
 {
     made_ = &made;
     made.widget().setObjectName(toQString(control.name()));
-}
-
-void WidgetMaker::name(const Label* label)
-{
-    if (label != nullptr)
-        window_.nameAfter(*label, made_->widget());
-    else
-        made_->widget().setAccessibleName(toQString(window_.panel().design().Caption));
 }
 
 LinesWidget& WidgetMaker::linesOn(const Control& control)

@@ -39,9 +39,6 @@ private:
     /// The frame around the control, or the panel.
     [[nodiscard]] QWidget* parentOf(const Control& control) const;
     void take(ControlWidget& made, const Control& control);
-    /// Names the widget, for screen readers, after the label of its control; the panel's caption is for those that
-    /// have none.
-    void name(const Label* label);
     /// What paints the lines and shapes on the panel, or in the frame.
     LinesWidget& linesOn(const Control& control);
 
