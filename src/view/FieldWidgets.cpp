@@ -58,7 +58,8 @@ void TextBoxWidget::followText()
     const QSignalBlocker quiet{this};
     const QString stored = toQString(box_.Text.get());
     if (stored != text()) {
-        setMaxLength(unlimited);
+        if (maxLength() != unlimited) // a new limit is announced to screen readers as a new text
+            setMaxLength(unlimited);
         setText(stored);
         // A text shows its start, but the caret of the field that is being typed in stays where typing goes on.
         if (panelWindow().panel().desk().focused() != &box_)

@@ -18,7 +18,9 @@ LabelWidget::LabelWidget(PanelWindow& window, Label& label, QWidget* parent)
 void LabelWidget::follow()
 {
     place(label_, Double{label_.Top}.value());
-    setText(toQString(label_.Caption.get()));
+    const QString caption = toQString(label_.Caption.get());
+    if (caption != text()) // each call is announced to screen readers
+        setText(caption);
     colors_.applyToText(*this, label_.design().ForeColor);
     setVisible(label_.Visible);
 }

@@ -74,6 +74,15 @@ void ListBoxWidget::focusInEvent(QFocusEvent* event)
     act(list_, [&](User& user) { user.focus(list_); });
 }
 
+void ListBoxWidget::currentChanged(const QModelIndex& current, const QModelIndex& previous)
+{
+    // The class between would tell screen readers that the keyboard is here now.
+    if (hasFocus())
+        QListWidget::currentChanged(current, previous);
+    else
+        QAbstractItemView::currentChanged(current, previous); // NOLINT(bugprone-parent-virtual-call)
+}
+
 void ListBoxWidget::selectionChanged(const QItemSelection& selected, const QItemSelection& deselected)
 {
     QListWidget::selectionChanged(selected, deselected);

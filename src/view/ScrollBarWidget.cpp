@@ -60,10 +60,15 @@ void ScrollBarWidget::follow()
 {
     place(bar_);
     const QSignalBlocker quiet{this};
+    const int before = shownValue();
     min_ = bar_.Min.get().value();
     max_ = bar_.Max.get().value();
     setRange(0, positionOf(max_));
     setValue(positionOf(bar_.Value.get().value()));
+    if (shownValue() != before) {
+        QAccessibleValueChangeEvent event{this, shownValue()};
+        QAccessible::updateAccessibility(&event);
+    }
     setVisible(bar_.Visible);
 }
 
