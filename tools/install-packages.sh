@@ -6,7 +6,7 @@ set -euo pipefail
 packages=(
     # Building
     g++ cmake ninja-build pkg-config
-    qt6-base-dev qt6-svg-dev
+    qt6-base-dev qt6-base-private-dev qt6-svg-dev
     # Running: the platform plugins, the toolkit's French words, the common font
     qt6-qpa-plugins qt6-wayland qt6-translations-l10n fonts-dejavu-core
     # Tests and benchmarks
