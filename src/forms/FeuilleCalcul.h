@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <string>
 #include <vector>
 
@@ -52,6 +53,18 @@ public:
     void changed() final;
 
 protected:
+    /// Takes the tab order along the rows of these control arrays, their elements 0 first, then their elements 1, and
+    /// so on. The arrays follow one another on the form.
+    template <class FirstArray, class... Arrays>
+    void tabAlongRows(FirstArray& first, Arrays&... others)
+    {
+        auto place = std::ranges::find(controls_, &first(0));
+        for (int row = 0; row < first.count(); ++row) {
+            *place++ = &first(row);
+            ((*place++ = &others(row)), ...);
+        }
+    }
+
     /// Shows a message box with one "OK" button.
     void MsgBox(const std::string& prompt);
     /// Shows a message box; `buttons` 4 asks "Oui" or "Non".

@@ -9,12 +9,15 @@ public:
     explicit Tableau(Desk& desk)
         : FeuilleCalcul{desk, {.name = "Tableau", .Caption = "", .Width = 6000, .Height = 4000}}
     {
+        tabAlongRows(TxtUSec, Lbl);
     }
 
+    TextBox Before{this, "Before", {}};
     ControlArray<TextBox> TxtUSec{this, "TxtUSec", 3,
         [](int i) { return TextBox::Design{.Text = std::to_string(i), .at = {.Top = ligne(i)}}; },
         &Tableau::TxtUSec_Change};
-    ControlArray<Label> Lbl{this, "Lbl", 2, [](int) { return Label::Design{}; }};
+    ControlArray<Label> Lbl{this, "Lbl", 3, [](int) { return Label::Design{}; }};
+    TextBox After{this, "After", {}};
 
     Log log;
 
@@ -55,6 +58,14 @@ TEST_F(ControlArrayTest, NamesItsElementsByTheirIndex)
     EXPECT_EQ(panel.find("TxtUSec(1)"), &panel.TxtUSec(1));
     EXPECT_EQ(panel.find("TxtUSec"), nullptr);
     EXPECT_EQ(panel.find("Lbl(0)"), &panel.Lbl(0));
+}
+
+TEST_F(ControlArrayTest, CanLeadTheTabKeyAlongItsRows)
+{
+    Log names;
+    for (const Control* control : panel.controls())
+        names.push_back(control->name());
+    EXPECT_EQ(names, (Log{"Before", "TxtUSec(0)", "Lbl(0)", "TxtUSec(1)", "Lbl(1)", "TxtUSec(2)", "Lbl(2)", "After"}));
 }
 
 TEST_F(ControlArrayTest, IsTypedInLikeAnyField)
