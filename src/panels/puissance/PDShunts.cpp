@@ -6,7 +6,7 @@
 namespace ondelis {
 
 PDShunts::PDShunts(Desk& desk)
-    : FeuilleCalcul{desk, {.name = "PDShunts", .Caption = "Calculs des Shunts", .Width = 9600, .Height = 6375}}
+    : FeuilleCalcul{desk, {.name = "PDShunts", .Caption = "Calculs des Shunts", .Width = 9600, .Height = 5820}}
 {
 }
 

@@ -38,8 +38,9 @@ std::string tronque(Double x, int parts)
 
 Transformateur::Transformateur(Desk& desk)
     : FeuilleCalcul{
-        desk, {.name = "Transformateur", .Caption = "Calcul de transformateur à 50Hz", .Width = 11280, .Height = 6960}}
+        desk, {.name = "Transformateur", .Caption = "Calcul de transformateur à 50Hz", .Width = 11250, .Height = 7020}}
 {
+    tabAlongRows(Label17, TxtUSec, Label18, TxtIsec, Label19, TxtPap, Label7, TxtSpires, Label25, TxtDiamFil);
 }
 
 Label::Design Transformateur::legende(const char* texte, int i, double left, double width)
@@ -59,10 +60,9 @@ TextBox::Design Transformateur::resultat(int i, double left, Label& legende)
 
 Label::Design Transformateur::cote(const char* texte, double x, double y)
 {
-    constexpr double width = 360;
-    constexpr double height = 225;
     return {.Caption = texte,
-        .at = {4440 + x * 6450 - width / 2, 2640 + y * 3150 - height / 2, width, height},
+        .at = lettre({4440, 2430, 6450, 3480}, x, y),
+        .ForeColor = 0x83522F, // of the dimension lines
         .align = Align::Center,
         .font = {.size = 8}};
 }

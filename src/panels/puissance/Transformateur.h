@@ -48,15 +48,15 @@ public:
     Label   Label24          {this, "Label24",           {.Caption = "Diamètre du fill mm", .at = {240, 6030, 2280, 255}}};
     TextBox TxtDiamFilPrim   {this, "TxtDiamFilPrim",    resultField({2580, 6000, 1620, 315}, &Label24, cyan)};
 
-    Image   Schema {this, "Schema",  {.picture = "transformateur", .at = {4440, 2640, 6450, 3150}}};
-    Label   Label11{this, "Label11", cote("a", 0.301, 0.143)};
-    Label   Label12{this, "Label12", cote("2a", 0.507, 0.143)};
-    Label   Label10{this, "Label10", cote("3a", 0.584, 0.471)};
-    Label   Label13{this, "Label13", cote("5a", 0.698, 0.471)};
-    Label   Label21{this, "Label21", cote("6a", 0.507, 0.810)};
-    Label   Label14{this, "Label14", cote("2a", 0.851, 0.629)};
-    Label   Label20{this, "Label20", cote("2a", 0.940, 0.448)};
-    Label   Label22{this, "Label22", {.Caption = "Beta est fixé à 1 Tesla", .at = {6510, 6030, 2400, 255}, .ForeColor = 0x0000FF, .align = Align::Center}};
+    Image   Schema {this, "Schema",  {.picture = "transformateur", .at = {4440, 2430, 6450, 3480}}};
+    Label   Label11{this, "Label11", cote("a", 0.278, 0.147)};
+    Label   Label12{this, "Label12", cote("2a", 0.512, 0.147)};
+    Label   Label10{this, "Label10", cote("3a", 0.602, 0.487)};
+    Label   Label13{this, "Label13", cote("5a", 0.730, 0.487)};
+    Label   Label21{this, "Label21", cote("6a", 0.512, 0.836)};
+    Label   Label14{this, "Label14", cote("2a", 0.874, 0.668)};
+    Label   Label20{this, "Label20", cote("2a", 0.972, 0.487)};
+    Label   Label22{this, "Label22", {.Caption = "Beta est fixé à 1 Tesla", .at = {6540, 6030, 2400, 255}, .ForeColor = 0x0000FF, .align = Align::Center}};
     CommandButton BtnReset{this, "BtnReset", {.Caption = "Reset", .at = {9690, 210, 1200, 375}}, &Transformateur::BtnReset_Click};
     // clang-format on
 
