@@ -9,21 +9,22 @@ from symbols import block, capacitor, current_source, junction, lamp, switch
 
 @picture("condensateur-plan", 230, 140, "Condensateur plan")
 def condensateur_plan(s: Sheet) -> None:
-    """Two plates of surface S with a dielectric of thickness e between them."""
-    x, y, width, depth = 62.0, 54.0, 100.0, 44.0
-    s.wire((24, 112), (x, 112), stroke=COPPER, width=2.2)
-    block(s, x, y + 54, width, 8, depth, COPPER_PALE, COPPER)
-    block(s, x, y + 8, width, 46, depth, DIELECTRIC)
-    block(s, x, y, width, 8, depth, COPPER_PALE, COPPER)
-    s.wire((x + width + 18, y - 6), (222, y - 6), stroke=COPPER, width=2.2)
-    s.text(x + width / 2 + 17, y - 10, "S")
-    s.dimension((x, y + 54), (x, y + 8), "e", 20)
+    """Two plates with a dielectric between them; the leads leave them at their far corner."""
+    x, y, width, depth, plate, thickness = 82.0, 48.0, 92.0, 44.0, 8.0, 46.0
+    block(s, x, y + plate + thickness, width, plate, depth, COPPER_PALE, COPPER)
+    block(s, x, y + plate, width, thickness, depth, DIELECTRIC)
+    block(s, x, y, width, plate, depth, COPPER_PALE, COPPER)
+    corner = (x + width + 0.8 * depth, y - 0.45 * depth + plate / 2)
+    for below in (0, plate + thickness):
+        s.wire((corner[0], corner[1] + below), (corner[0] + 16, corner[1] + below), stroke=COPPER, width=2.2)
+    s.text(x + (width + 0.8 * depth) / 2, y - 0.225 * depth, "Surface", WORD)
+    s.dimension((x, y + plate + thickness), (x, y + plate), "Epaisseur", 42)
 
 
-@picture("cms", 220, 140, "Résistance à monter en surface")
+@picture("cms", 220, 116, "Résistance à monter en surface")
 def cms(s: Sheet) -> None:
     """A chip resistor from above, with its marking, its length and its width."""
-    x, y, length, width, end = 26.0, 22.0, 116.0, 64.0, 20.0
+    x, y, length, width, end = 22.0, 14.0, 116.0, 64.0, 20.0
     s.rect(x, y, length, width, fill=METAL)
     s.rect(x + end, y, length - 2 * end, width, fill="#2b3846")
     s.text(x + length / 2, y + width / 2, "103", 22, colour="#ffffff")
@@ -57,10 +58,10 @@ def condensateur_variable(s: Sheet) -> None:
     s.dimension((centre[0], centre[1] + inner), (centre[0], centre[1] - inner), "Ø int", -98)
 
 
-@picture("energie-condensateur", 280, 150, "Charge et décharge d'un condensateur")
+@picture("energie-condensateur", 280, 130, "Charge et décharge d'un condensateur")
 def energie_condensateur(s: Sheet) -> None:
     """A constant current charges C to U; the contact discharges it into the flash lamp."""
-    left, middle, right, top, bottom = 48.0, 134.0, 236.0, 30.0, 122.0
+    left, middle, right, top, bottom = 48.0, 134.0, 236.0, 24.0, 120.0
     current_source(s, (left, top), (left, bottom), "I", side=-1)
     s.wire((left, top), (middle, top))
     s.wire((left, bottom), (right, bottom))

@@ -167,7 +167,7 @@ def current_source(s: Sheet, a: Point, b: Point, text: str = "", side: int = 1) 
     leads(s, a, b, 2 * radius)
     s.circle(m, radius, fill=PALE)
     s.wire(along(m, u, 0, radius), along(m, u, 0, -radius))
-    s.head(along(m, u, -radius - 8), (-u[0], -u[1]))
+    s.head(along(m, u, -radius - 14), (-u[0], -u[1]))
     letter(s, a, b, text, radius, side)
 
 

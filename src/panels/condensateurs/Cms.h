@@ -12,24 +12,26 @@ public:
     explicit Cms(Desk& desk);
 
     // clang-format off
-    Label         LblTaille     {this, "LblTaille",      {.Caption = "Taille CMS", .at = {240, 240, 1320, 255}}};
-    ListBox       LstCms        {this, "LstCms",         {.Items = {"402", "603", "805", "1206", "2010"}, .at = {240, 540, 1320, 1260}, .label = &LblTaille}, &Cms::LstCms_Click};
-    Label         LblLongueur   {this, "LblLongueur",    {.Caption = "Longueur (mm)", .at = {1800, 570, 1560, 255}}};
-    TextBox       TxtLongueur   {this, "TxtLongueur",    resultField({3420, 540, 1080, 315}, &LblLongueur)};
-    Label         LblLargeur    {this, "LblLargeur",     {.Caption = "Largeur (mm)", .at = {1800, 930, 1560, 255}}};
-    TextBox       TxtLargeur    {this, "TxtLargeur",     resultField({3420, 900, 1080, 315}, &LblLargeur)};
-    Image         Schema        {this, "Schema",         {.picture = "cms", .at = {5040, 120, 3300, 2100}}};
+    Shape         Cadre1        {this, "Cadre1", {.at = {240, 240, 8160, 1860}}};
+    Label         LblTaille     {this, "LblTaille",      {.Caption = "Taille CMS", .at = {420, 360, 1320, 255}}};
+    ListBox       LstCms        {this, "LstCms",         {.Items = {"402", "603", "805", "1206", "2010"}, .at = {420, 660, 1320, 1260}, .label = &LblTaille}, &Cms::LstCms_Click};
+    Label         LblLongueur   {this, "LblLongueur",    {.Caption = "Longueur (mm)", .at = {2040, 690, 1560, 255}}};
+    TextBox       TxtLongueur   {this, "TxtLongueur",    resultField({3660, 660, 960, 315}, &LblLongueur)};
+    Label         LblLargeur    {this, "LblLargeur",     {.Caption = "Largeur (mm)", .at = {2040, 1050, 1560, 255}}};
+    TextBox       TxtLargeur    {this, "TxtLargeur",     resultField({3660, 1020, 960, 315}, &LblLargeur)};
+    Image         Schema        {this, "Schema",         {.picture = "cms", .at = {4920, 300, 3300, 1740}}};
 
-    OptionButton  Opt3Digits    {this, "Opt3Digits",     {.Caption = "Marquage sur 3 digits", .at = {240, 2400, 2700, 300}}};
-    OptionButton  Opt4Digits    {this, "Opt4Digits",     {.Caption = "Marquage sur 4 digits", .at = {240, 2760, 2700, 300}}};
-    OptionButton  OptE96        {this, "OptE96",         {.Caption = "Série E96", .at = {240, 3120, 2700, 300}}};
-    Label         LblMarquage   {this, "LblMarquage",    {.Caption = "Marquage", .at = {3240, 2430, 1560, 255}}};
-    TextBox       TxtMarquage   {this, "TxtMarquage",    {.at = {4860, 2400, 1980, 315}, .label = &LblMarquage}, &Cms::TxtMarquage_Change};
-    CommandButton BtnCmsCalculer{this, "BtnCmsCalculer", {.Caption = "Calculer", .at = {7140, 2370, 1200, 375}}, &Cms::BtnCmsCalculer_Click};
-    Label         LblValeur     {this, "LblValeur",      {.Caption = "Valeur (Ohms)", .at = {3240, 3150, 1560, 255}}};
-    TextBox       TxtValeur     {this, "TxtValeur",      {.at = {4860, 3120, 1080, 315}, .BackColor = 0xFFFFC0, .label = &LblValeur}};
-    Label         LblExposant   {this, "LblExposant",    {.Caption = "x 10 puissance", .at = {6060, 3150, 1620, 255}}};
-    TextBox       TxtExposant   {this, "TxtExposant",    {.at = {7740, 3120, 600, 315}, .BackColor = 0xFFFFC0, .label = &LblExposant}};
+    Shape         Cadre2        {this, "Cadre2", {.at = {240, 2220, 8160, 1320}}};
+    OptionButton  Opt3Digits    {this, "Opt3Digits",     {.Caption = "Marquage sur 3 digits", .at = {420, 2400, 2520, 300}}};
+    OptionButton  Opt4Digits    {this, "Opt4Digits",     {.Caption = "Marquage sur 4 digits", .at = {420, 2730, 2520, 300}}};
+    OptionButton  OptE96        {this, "OptE96",         {.Caption = "Série E96", .at = {420, 3060, 2520, 300}}};
+    Label         LblMarquage   {this, "LblMarquage",    {.Caption = "Marquage", .at = {3240, 2430, 1500, 255}}};
+    TextBox       TxtMarquage   {this, "TxtMarquage",    {.at = {4800, 2400, 1980, 315}, .label = &LblMarquage}, &Cms::TxtMarquage_Change};
+    CommandButton BtnCmsCalculer{this, "BtnCmsCalculer", {.Caption = "Calculer", .at = {7020, 2370, 1200, 375}}, &Cms::BtnCmsCalculer_Click};
+    Label         LblValeur     {this, "LblValeur",      {.Caption = "Valeur (Ohms)", .at = {3240, 3075, 1500, 255}}};
+    TextBox       TxtValeur     {this, "TxtValeur",      {.at = {4800, 3045, 1200, 315}, .BackColor = 0xFFFFC0, .label = &LblValeur}};
+    Label         LblExposant   {this, "LblExposant",    {.Caption = "x 10 puissance", .at = {6120, 3075, 1440, 255}}};
+    TextBox       TxtExposant   {this, "TxtExposant",    {.at = {7620, 3045, 600, 315}, .BackColor = 0xFFFFC0, .label = &LblExposant}};
     // clang-format on
 
 private:

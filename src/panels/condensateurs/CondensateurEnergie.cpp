@@ -11,7 +11,7 @@ CondensateurEnergie::CondensateurEnergie(Desk& desk)
         {.name = "CondensateurEnergie",
             .Caption = "Energie emmagasinée dans un condensateur",
             .Width = 7500,
-            .Height = 7050}}
+            .Height = 6870}}
 {
 }
 
