@@ -7,7 +7,7 @@ namespace ondelis {
 
 Decibels::Decibels(Desk& desk)
     : FeuilleCalcul{
-        desk, {.name = "Decibels", .Caption = "Les dB en Puissance et en Tesnsion", .Width = 10950, .Height = 3720}}
+        desk, {.name = "Decibels", .Caption = "Les dB en Puissance et en Tesnsion", .Width = 11040, .Height = 3600}}
 {
 }
 
