@@ -29,6 +29,7 @@ gallery() {
     step "Packages" tools/install-packages.sh
     step "Release build" build release galerie
     step "Gallery" build/release/tools/galerie/galerie gallery
+    echo "All pictures: gallery/index.html"
 }
 
 case ${1-run} in

@@ -44,6 +44,28 @@ private slots:
         QVERIFY(picture("SectionDiametre-exemple-96.png") != picture("SectionDiametre-96.png"));
     }
 
+    void everyExampleOfThePanelsPlays_data()
+    {
+        QTest::addColumn<QString>("panel");
+        for (const auto& file : std::filesystem::directory_iterator{EXAMPLES}) {
+            const std::string panel = file.path().stem();
+            QTest::newRow(panel.c_str()) << QString::fromStdString(panel);
+        }
+    }
+
+    void everyExampleOfThePanelsPlays()
+    {
+        QFETCH(const QString, panel);
+        const auto subjects = allSubjects();
+        const auto subject = std::ranges::find(subjects, panel.toStdString(), &Subject::panel);
+        QVERIFY(subject != subjects.end());
+        try {
+            Gallery{EXAMPLES, scratch_.path().toStdString(), looks.front()}.draw(*subject);
+        } catch (const Refused& refused) {
+            QFAIL(refused.what());
+        }
+    }
+
     void whatIsNoCommandIsNamed()
     {
         QCOMPARE(draw("SectionDiametre", "# a wire\nwrite SectionDiametre.TxtS 2\n"),
@@ -59,7 +81,15 @@ private slots:
         QCOMPARE(draw("SectionDiametre", "picture vide\ntype SectionDiametre.TxtD 2\n"),
             std::string{"SectionDiametre.txt:2: type SectionDiametre.TxtD 2: the field is locked"});
         QCOMPARE(draw("SectionDiametre", "close SectionDiametre\npicture rien\n"),
-            std::string{"SectionDiametre.txt:2: picture rien: the panel is not on screen: SectionDiametre"});
+            std::string{"SectionDiametre.txt:2: picture rien: the window is not on screen: SectionDiametre"});
+    }
+
+    void aPictureMayShowAnotherWindow()
+    {
+        QCOMPARE(
+            draw("FormuleDeThomson", "picture deux MDIOndelis\npicture compagnon CalculNombreSpires\n"), std::string{});
+        QVERIFY(picture("FormuleDeThomson-deux-96.png").width() > picture("FormuleDeThomson-96.png").width());
+        QVERIFY(!picture("FormuleDeThomson-compagnon-96.png").isNull());
     }
 
     void aPictureIsTakenOnce()

@@ -44,7 +44,6 @@ private slots:
         QCOMPARE(picture("192").size(), picture("96").size() * 2);
         QCOMPARE(picture("sombre-192").size(), picture("192").size());
         QVERIFY(QFile::exists(folder_.filePath(QStringLiteral("CircuitsOscillants-sombre-96.png"))));
-        QVERIFY(QFile::exists(folder_.filePath(QStringLiteral("Ondelis-96.png"))));
     }
 
     void thePageShowsWhatIsThere()

@@ -42,13 +42,6 @@ void Gallery::draw(const Subject& subject) const
     playExample(sitting, subject);
 }
 
-void Gallery::drawMainWindow(const Subject& subject) const
-{
-    Sitting sitting;
-    sitting.play("menu " + subject.entry);
-    take(sitting, "MDIOndelis", "Ondelis");
-}
-
 void Gallery::playExample(Sitting& sitting, const Subject& subject) const
 {
     const std::filesystem::path file = examples_ / (subject.panel + ".txt");
@@ -67,10 +60,11 @@ void Gallery::playExample(Sitting& sitting, const Subject& subject) const
                 continue;
             }
             const std::string name = words.next();
+            const std::string window = words.atEnd() ? subject.panel : words.next();
             words.finish();
             if (!names.insert(name).second)
                 throw Refused{"a picture of this name has been taken"};
-            take(sitting, subject.panel, subject.panel + '-' + name);
+            take(sitting, window, subject.panel + '-' + name);
         } catch (const std::runtime_error& error) {
             throw Refused{file.string() + ':' + std::to_string(number) + ": " + line + ": " + error.what()};
         }
@@ -79,9 +73,9 @@ void Gallery::playExample(Sitting& sitting, const Subject& subject) const
         throw Refused{file.string() + ": cannot be read"};
 }
 
-void Gallery::take(const Sitting& sitting, std::string_view panel, const std::string& name) const
+void Gallery::take(const Sitting& sitting, std::string_view window, const std::string& name) const
 {
-    sitting.picture(panel, pictures_ / (name + '-' + look_ + ".png"));
+    sitting.picture(window, pictures_ / (name + '-' + look_ + ".png"));
 }
 
 } // namespace ondelis::galerie

@@ -31,12 +31,9 @@ public:
     /// where it is the example's fault.
     void draw(const Subject& subject) const;
 
-    /// Pictures the main window with one panel.
-    void drawMainWindow(const Subject& subject) const;
-
 private:
     void playExample(Sitting& sitting, const Subject& subject) const;
-    void take(const Sitting& sitting, std::string_view panel, const std::string& name) const;
+    void take(const Sitting& sitting, std::string_view window, const std::string& name) const;
 
     std::filesystem::path examples_;
     std::filesystem::path pictures_;

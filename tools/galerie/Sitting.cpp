@@ -56,16 +56,15 @@ void Sitting::run(const pilote::Gestures::Deed& deed)
         throw Refused{*refusal};
 }
 
-void Sitting::picture(std::string_view panel, const std::string& file) const
+void Sitting::picture(std::string_view window, const std::string& file) const
 {
-    QWidget* window = &view_.mainWindow();
-    if (panel != "MDIOndelis") {
-        const FeuilleCalcul* const loaded = gestures_.panel(panel);
-        window = loaded == nullptr ? nullptr : view_.find(*loaded);
-    }
-    if (window == nullptr)
-        throw Refused{"the panel is not on screen: " + std::string{panel}};
-    if (!window->grab().save(QString::fromStdString(file)))
+    const FeuilleCalcul* const panel = gestures_.panel(window);
+    QWidget* const shown = window == "MDIOndelis" ? static_cast<QWidget*>(&view_.mainWindow())
+        : panel == nullptr                        ? nullptr
+                                                  : view_.find(*panel);
+    if (shown == nullptr)
+        throw Refused{"the window is not on screen: " + std::string{window}};
+    if (!shown->grab().save(QString::fromStdString(file)))
         throw Refused{"cannot write " + file};
 }
 
@@ -74,7 +73,7 @@ void Sitting::answerBox()
     const auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
     if (box == nullptr)
         return;
-    lastBox_ = box->text().toStdString();
+    lastBox_ = box->text().section(QLatin1Char{'\n'}, 0, 0).toStdString();
     const bool asks = box->buttons().size() > 1;
     const bool no = asks && !answers_.empty() && answers_.front() == Answer::No;
     if (asks && !answers_.empty())

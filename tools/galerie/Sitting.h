@@ -28,8 +28,8 @@ public:
     /// Refused where a person could not do it or it ends the program, and Malformed.
     void play(std::string_view line);
 
-    /// Writes a picture of the panel's window, or of the main window where it is "MDIOndelis". Throws Refused.
-    void picture(std::string_view panel, const std::string& file) const;
+    /// Writes a picture of a window: that of a panel, or "MDIOndelis". Throws Refused.
+    void picture(std::string_view window, const std::string& file) const;
 
 private:
     void run(const pilote::Gestures::Deed& deed);
@@ -42,7 +42,7 @@ private:
     pilote::Gestures gestures_{frame_};
     QTimer boxes_;
     std::deque<Answer> answers_;
-    std::string lastBox_;
+    std::string lastBox_; ///< its first line
 };
 
 } // namespace ondelis::galerie

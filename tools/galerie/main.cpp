@@ -6,10 +6,10 @@
 //
 //     FOLDER/PANEL-96.png ...              as it opens
 //     FOLDER/PANEL-NAME-sombre-96.png ...  at the line "picture NAME" of its example, exemples/PANEL.txt
-//     FOLDER/Ondelis-96.png ...            the main window with the first of the panels
 //     FOLDER/index.html                    all of them on one page
 //
-// An example is a file of gestures in the driver's language, and of such lines.
+// An example is a file of gestures and answers in the driver's language, and of such lines. "picture NAME MDIOndelis"
+// pictures the main window, with the name of another panel that panel.
 
 #include <algorithm>
 #include <array>
@@ -55,7 +55,6 @@ int drawAll(const Look& look, const std::vector<Subject>& subjects, const char* 
     look.apply();
     const Gallery gallery{EXAMPLES, folder, look};
     try {
-        gallery.drawMainWindow(subjects.front());
         for (const Subject& subject : subjects)
             gallery.draw(subject);
         return 0;
