@@ -2,7 +2,7 @@
 
 from __future__ import annotations
 
-from sheet import COPPER, COPPER_PALE, DIELECTRIC, DIM, INK, THIN, Point, Sheet, number, picture, polar
+from sheet import COPPER, COPPER_PALE, DIELECTRIC, DIM, THIN, Point, Sheet, number, picture, polar
 from symbols import inductor, junction, terminal
 
 CORE = "#8a98a6"  # iron powder and ferrite
@@ -165,9 +165,10 @@ def autotransformateur(s: Sheet) -> None:
         s.arrow((x, middle + 11), (x, bottom - 7), DIM, THIN)
 
 
-@picture("section-diametre", 64, 64, "Section d'un fil et son diamètre")
+@picture("section-diametre", 48, 48, "Section d'un fil et son diamètre")
 def section_diametre(s: Sheet) -> None:
     """A round wire in section, crossed by its diameter."""
-    s.circle((32, 32), 24, stroke=COPPER, fill=COPPER_PALE)
-    s.arrow((32, 32), (49, 15), INK, 1.3)
-    s.arrow((32, 32), (15, 49), INK, 1.3)
+    centre, radius = (24, 24), 22
+    s.circle(centre, radius, stroke=COPPER, fill=COPPER_PALE)
+    for angle in (45, 225):
+        s.arrow(centre, polar(centre, radius - 0.8, angle), DIM, THIN)

@@ -24,26 +24,26 @@ public:
     TextBox TxtCstDielMin  {this, "TxtCstDielMin",   resultField({4740, 960, 1560, 315}, &Label1)};
     Label   LblCstDielMax  {this, "LblCstDielMax",   {.Caption = "Valeur Max", .at = {2460, 1350, 2220, 255}}};
     TextBox TxtCstDielMax  {this, "TxtCstDielMax",   resultField({4740, 1320, 1560, 315}, &LblCstDielMax)};
-    Label   LblDomFreq     {this, "LblDomFreq",      {.Caption = "Domaine de Fréquence", .at = {2460, 2220, 2220, 255}}};
-    TextBox TxtDomFreq     {this, "TxtDomFreq",      resultField({4740, 2190, 1560, 315}, &LblDomFreq)};
-    Label   LblPhi         {this, "LblPhi",          {.Caption = "Angle de pertes", .at = {2460, 2580, 2220, 255}}};
-    TextBox TxtPhi         {this, "TxtPhi",          resultField({4740, 2550, 1560, 315}, &LblPhi)};
-    Label   LblUtilisation {this, "LblUtilisation",  {.Caption = "Utilisation", .at = {2460, 2940, 2220, 255}}};
-    TextBox TxtUtil        {this, "TxtUtil",         {.at = {4740, 2910, 4770, 690}, .BackColor = 0xFFFFC0, .Locked = true, .multiLine = true, .label = &LblUtilisation}};
-    Image   Icone          {this, "Icone",           {.picture = "condensateur-plan", .at = {6240, 420, 3450, 2100}}};
+    Label   LblDomFreq     {this, "LblDomFreq",      {.Caption = "Domaine de Fréquence", .at = {2460, 2010, 2220, 255}}};
+    TextBox TxtDomFreq     {this, "TxtDomFreq",      resultField({4740, 1980, 1560, 315}, &LblDomFreq)};
+    Label   LblPhi         {this, "LblPhi",          {.Caption = "Angle de pertes", .at = {2460, 2370, 2220, 255}}};
+    TextBox TxtPhi         {this, "TxtPhi",          resultField({4740, 2340, 1560, 315}, &LblPhi)};
+    Label   LblUtilisation {this, "LblUtilisation",  {.Caption = "Utilisation", .at = {2460, 2730, 2220, 255}}};
+    TextBox TxtUtil        {this, "TxtUtil",         {.at = {4740, 2700, 4770, 900}, .BackColor = 0xFFFFC0, .Locked = true, .multiLine = true, .label = &LblUtilisation}};
+    Image   Icone          {this, "Icone",           {.picture = "condensateur-plan", .at = {6240, 390, 3450, 2100}}};
 
     Shape   Cadre2         {this, "Cadre2", {.at = {240, 3900, 5460, 1860}}};
-    Label   LblSurface     {this, "LblSurface",      {.Caption = "Surface", .at = {420, 4260, 1320, 255}}};
+    Label   LblSurface     {this, "LblSurface",      {.Caption = "Surface", .at = {420, 4215, 1320, 255}}};
     TextBox TxtSurface     {this, "TxtSurface",      {.at = {420, 4560, 1320, 315}, .label = &LblSurface}, &CondensateurFixe::TxtSurface_Change};
-    Label   LblUnitésS     {this, "LblUnitésS",      {.Caption = "Unité", .at = {1860, 4260, 900, 255}}};
+    Label   LblUnitésS     {this, "LblUnitésS",      {.Caption = "Unité", .at = {1860, 4215, 900, 255}}};
     ListBox LstUnités      {this, "LstUnités",       {.Items = {"m²", "dm²", "cm²", "mm²"}, .at = {1860, 4560, 900, 1020}, .label = &LblUnitésS}, &CondensateurFixe::LstUnités_Click};
     Label   LblEspace      {this, "LblEspace",       {.Caption = "Epaisseur diélectrique", .at = {3180, 4005, 1320, 510}}};
     TextBox TxtEpaisseur   {this, "TxtEpaisseur",    {.at = {3180, 4560, 1320, 315}, .label = &LblEspace}, &CondensateurFixe::TxtEpaisseur_Change};
-    Label   LblUnitéE      {this, "LblUnitéE",       {.Caption = "Unité", .at = {4620, 4260, 900, 255}}};
+    Label   LblUnitéE      {this, "LblUnitéE",       {.Caption = "Unité", .at = {4620, 4215, 900, 255}}};
     ListBox LstUniteE      {this, "LstUniteE",       {.Items = {"m", "dm", "cm", "mm"}, .at = {4620, 4560, 900, 1020}, .label = &LblUnitéE}, &CondensateurFixe::LstUniteE_Click};
 
     Shape   Cadre3         {this, "Cadre3", {.at = {5820, 3900, 3870, 1860}}};
-    Label   Lbl_Capacité   {this, "Lbl_Capacité",    {.Caption = "Capacité", .at = {6000, 4260, 3510, 255}}};
+    Label   Lbl_Capacité   {this, "Lbl_Capacité",    {.Caption = "Capacité", .at = {6000, 4215, 3510, 255}}};
     TextBox TxtCapacite    {this, "TxtCapacite",     {.at = {6000, 4560, 3510, 480}, .BackColor = 0xFFFFC0, .ForeColor = 0xFF80FF, .Locked = true,
                                                       .font = {.size = 14}, .label = &Lbl_Capacité}};
     // clang-format on

@@ -12,10 +12,10 @@ public:
 
     // clang-format off
     Label   Label1  {this, "Label1",   {.Caption = "Section du fil", .at = {240, 270, 1440, 255}}};
-    TextBox TxtS    {this, "TxtS",     {.at = {1740, 240, 1200, 315}, .label = &Label1}, &SectionDiametre::TxtS_Change};
+    TextBox TxtS    {this, "TxtS",     {.at = {1740, 240, 1410, 315}, .label = &Label1}, &SectionDiametre::TxtS_Change};
     Label   Label2  {this, "Label2",   {.Caption = "Diametre du fil", .at = {240, 750, 1440, 255}}};
-    TextBox TxtD    {this, "TxtD",     resultField({1740, 720, 1200, 315}, &Label2)};
-    Image   ImageFil{this, "ImageFil", {.picture = "section-diametre", .at = {3060, 150, 960, 960}}};
+    TextBox TxtD    {this, "TxtD",     resultField({1740, 720, 1410, 315}, &Label2)};
+    Image   ImageFil{this, "ImageFil", {.picture = "section-diametre", .at = {3270, 278, 720, 720}}};
     // clang-format on
 
 private:

@@ -38,7 +38,7 @@ std::string tronque(Double x, int parts)
 
 Transformateur::Transformateur(Desk& desk)
     : FeuilleCalcul{
-        desk, {.name = "Transformateur", .Caption = "Calcul de transformateur à 50Hz", .Width = 11250, .Height = 7020}}
+        desk, {.name = "Transformateur", .Caption = "Calcul de transformateur à 50Hz", .Width = 11280, .Height = 7020}}
 {
     tabAlongRows(Label17, TxtUSec, Label18, TxtIsec, Label19, TxtPap, Label7, TxtSpires, Label25, TxtDiamFil);
 }
@@ -61,7 +61,7 @@ TextBox::Design Transformateur::resultat(int i, double left, Label& legende)
 Label::Design Transformateur::cote(const char* texte, double x, double y)
 {
     return {.Caption = texte,
-        .at = lettre({4440, 2430, 6450, 3480}, x, y),
+        .at = lettre({4470, 2430, 6450, 3480}, x, y),
         .ForeColor = 0x83522F, // of the dimension lines
         .align = Align::Center,
         .font = {.size = 8}};

@@ -18,16 +18,16 @@ public:
     Label   Label6       {this, "Label6",        {.Caption = "Puissance max 500 VA", .at = {6450, 270, 2340, 255}}};
 
     // One row a secondary.
-    ControlArray<Label>   Label17   {this, "Label17",    4, [](int i) { return legende("Usec(i)", i, 240, 690); }};
-    ControlArray<TextBox> TxtUSec   {this, "TxtUSec",    4, [this](int i) { return saisie(i, 960, Label17(i)); }, &Transformateur::TxtUSec_Change};
-    ControlArray<Label>   Label18   {this, "Label18",    4, [](int i) { return legende("Isec(i)", i, 2310, 690); }};
-    ControlArray<TextBox> TxtIsec   {this, "TxtIsec",    4, [this](int i) { return saisie(i, 3030, Label18(i)); }, &Transformateur::TxtIsec_Change};
-    ControlArray<Label>   Label19   {this, "Label19",    4, [](int i) { return legende("Papp(i)", i, 4380, 690); }};
-    ControlArray<TextBox> TxtPap    {this, "TxtPap",     4, [this](int i) { return resultat(i, 5100, Label19(i)); }};
-    ControlArray<Label>   Label7    {this, "Label7",     4, [](int i) { return legende("Spires ", i, 6450, 690); }};
-    ControlArray<TextBox> TxtSpires {this, "TxtSpires",  4, [this](int i) { return resultat(i, 7170, Label7(i)); }};
-    ControlArray<Label>   Label25   {this, "Label25",    4, [](int i) { return legende("Diamètre mm", i, 8490, 1290); }};
-    ControlArray<TextBox> TxtDiamFil{this, "TxtDiamFil", 4, [this](int i) { return resultat(i, 9810, Label25(i)); }};
+    ControlArray<Label>   Label17   {this, "Label17",    4, [](int i) { return legende("Usec(i)", i, 240, 750); }};
+    ControlArray<TextBox> TxtUSec   {this, "TxtUSec",    4, [this](int i) { return saisie(i, 1020, Label17(i)); }, &Transformateur::TxtUSec_Change};
+    ControlArray<Label>   Label18   {this, "Label18",    4, [](int i) { return legende("Isec(i)", i, 2310, 750); }};
+    ControlArray<TextBox> TxtIsec   {this, "TxtIsec",    4, [this](int i) { return saisie(i, 3090, Label18(i)); }, &Transformateur::TxtIsec_Change};
+    ControlArray<Label>   Label19   {this, "Label19",    4, [](int i) { return legende("Papp(i)", i, 4380, 750); }};
+    ControlArray<TextBox> TxtPap    {this, "TxtPap",     4, [this](int i) { return resultat(i, 5160, Label19(i)); }};
+    ControlArray<Label>   Label7    {this, "Label7",     4, [](int i) { return legende("Spires ", i, 6450, 750); }};
+    ControlArray<TextBox> TxtSpires {this, "TxtSpires",  4, [this](int i) { return resultat(i, 7230, Label7(i)); }};
+    ControlArray<Label>   Label25   {this, "Label25",    4, [](int i) { return legende("Diamètre mm", i, 8520, 1290); }};
+    ControlArray<TextBox> TxtDiamFil{this, "TxtDiamFil", 4, [this](int i) { return resultat(i, 9840, Label25(i)); }};
 
     Label   Label1           {this, "Label1",            {.Caption = "Puissance app totale", .at = {240, 2490, 2280, 255}}};
     TextBox TxtPuissApp      {this, "TxtPuissApp",       resultField({2580, 2460, 1620, 315}, &Label1, cyan)};
@@ -48,7 +48,7 @@ public:
     Label   Label24          {this, "Label24",           {.Caption = "Diamètre du fill mm", .at = {240, 6030, 2280, 255}}};
     TextBox TxtDiamFilPrim   {this, "TxtDiamFilPrim",    resultField({2580, 6000, 1620, 315}, &Label24, cyan)};
 
-    Image   Schema {this, "Schema",  {.picture = "transformateur", .at = {4440, 2430, 6450, 3480}}};
+    Image   Schema {this, "Schema",  {.picture = "transformateur", .at = {4470, 2430, 6450, 3480}}};
     Label   Label11{this, "Label11", cote("a", 0.278, 0.147)};
     Label   Label12{this, "Label12", cote("2a", 0.512, 0.147)};
     Label   Label10{this, "Label10", cote("3a", 0.602, 0.487)};
@@ -56,8 +56,8 @@ public:
     Label   Label21{this, "Label21", cote("6a", 0.512, 0.836)};
     Label   Label14{this, "Label14", cote("2a", 0.874, 0.668)};
     Label   Label20{this, "Label20", cote("2a", 0.972, 0.487)};
-    Label   Label22{this, "Label22", {.Caption = "Beta est fixé à 1 Tesla", .at = {6540, 6030, 2400, 255}, .ForeColor = 0x0000FF, .align = Align::Center}};
-    CommandButton BtnReset{this, "BtnReset", {.Caption = "Reset", .at = {9690, 210, 1200, 375}}, &Transformateur::BtnReset_Click};
+    Label   Label22{this, "Label22", {.Caption = "Beta est fixé à 1 Tesla", .at = {6570, 6030, 2400, 255}, .ForeColor = 0x0000FF, .align = Align::Center}};
+    CommandButton BtnReset{this, "BtnReset", {.Caption = "Reset", .at = {9720, 210, 1200, 375}}, &Transformateur::BtnReset_Click};
     // clang-format on
 
 private:

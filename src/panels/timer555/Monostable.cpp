@@ -6,7 +6,7 @@
 namespace ondelis {
 
 Monostable::Monostable(Desk& desk)
-    : FeuilleCalcul{desk, {.name = "Monostable", .Caption = "Montage en monostable", .Width = 7245, .Height = 8280}}
+    : FeuilleCalcul{desk, {.name = "Monostable", .Caption = "Montage en monostable", .Width = 7245, .Height = 7785}}
 {
 }
 

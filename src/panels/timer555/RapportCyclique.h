@@ -40,11 +40,11 @@ public:
     Line       Line5               {this, "Line5", {.X1 = 5960, .Y1 = 5640, .X2 = 5960, .Y2 = 6240, .BorderWidth = 2}};
 
     // The longest results take two lines.
-    Shape      Cadre1              {this, "Cadre1",   {.at = {240, 6390, 5955, 1080}}};
-    Label      LblR1               {this, "LblR1",    {.Caption = "R1", .at = {360, 6570, 2820, 450}}};
-    Label      LblP1a              {this, "LblP1a",   {.Caption = "P1a", .at = {360, 7020, 2820, 450}}};
-    Label      LblP1b              {this, "LblP1b",   {.Caption = "P1b", .at = {3300, 7020, 2820, 450}}};
-    Label      LblPotar            {this, "LblPotar", {.Caption = "Potentiometre", .at = {3300, 6570, 2820, 450}}};
+    Shape      Cadre1              {this, "Cadre1",   {.at = {240, 6345, 5955, 1140}}};
+    Label      LblR1               {this, "LblR1",    {.Caption = "R1", .at = {360, 6465, 2820, 510}}};
+    Label      LblP1a              {this, "LblP1a",   {.Caption = "P1a", .at = {360, 6975, 2820, 510}}};
+    Label      LblP1b              {this, "LblP1b",   {.Caption = "P1b", .at = {3300, 6975, 2820, 510}}};
+    Label      LblPotar            {this, "LblPotar", {.Caption = "Potentiometre", .at = {3300, 6465, 2820, 510}}};
     // clang-format on
 
 private:
