@@ -1,5 +1,7 @@
 #include "view/FieldWidgets.h"
 
+#include <QClipboard>
+#include <QGuiApplication>
 #include <QInputMethodEvent>
 #include <QKeyEvent>
 #include <QSignalBlocker>
@@ -32,6 +34,16 @@ char32_t enteredBy(const QKeyEvent& event)
     // Ctrl and Alt together are the AltGr of some keyboards.
     const bool command = commands != Qt::NoModifier && commands != (Qt::ControlModifier | Qt::AltModifier);
     return command ? 0 : characters.front();
+}
+
+/// Where nothing is selected the copy key copies the whole field: a click into a result is enough to take it away.
+/// True where it has done so.
+bool copyWhole(const QKeyEvent& event, bool selected, const QString& text)
+{
+    if (!event.matches(QKeySequence::Copy) || selected || text.isEmpty())
+        return false;
+    QGuiApplication::clipboard()->setText(text);
+    return true;
 }
 
 } // namespace
@@ -95,6 +107,8 @@ bool TextBoxWidget::tellKey(char32_t character)
 
 void TextBoxWidget::keyPressEvent(QKeyEvent* event)
 {
+    if (copyWhole(*event, hasSelectedText(), text()))
+        return;
     const char32_t character = enteredBy(*event);
     if (character == 0 || tellKey(character))
         QLineEdit::keyPressEvent(event);
@@ -139,6 +153,12 @@ void TextAreaWidget::follow()
     setVisible(box_.Visible);
 }
 
+void TextAreaWidget::keyPressEvent(QKeyEvent* event)
+{
+    if (!copyWhole(*event, textCursor().hasSelection(), toPlainText()))
+        QPlainTextEdit::keyPressEvent(event);
+}
+
 void TextAreaWidget::focusInEvent(QFocusEvent* event)
 {
     QPlainTextEdit::focusInEvent(event);
@@ -162,6 +182,12 @@ void MaskEdBoxWidget::follow()
     setText(toQString(hasFocus() ? box_.Text.get() : box_.display()));
     setCursorPosition(0);
     colors_.applyToField(*this, box_.design().BackColor, windowTextColor);
+}
+
+void MaskEdBoxWidget::keyPressEvent(QKeyEvent* event)
+{
+    if (!copyWhole(*event, hasSelectedText(), text()))
+        QLineEdit::keyPressEvent(event);
 }
 
 void MaskEdBoxWidget::focusInEvent(QFocusEvent* event)

@@ -46,6 +46,7 @@ public:
     void forgetColors() override { colors_.forget(); }
 
 protected:
+    void keyPressEvent(QKeyEvent* event) override;
     void focusInEvent(QFocusEvent* event) override;
 
 private:
@@ -65,6 +66,7 @@ public:
     void forgetColors() override { colors_.forget(); }
 
 protected:
+    void keyPressEvent(QKeyEvent* event) override;
     void focusInEvent(QFocusEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;
 
