@@ -23,6 +23,18 @@ void OptionButtonWidget::follow()
     setAutoExclusive(true);
     colors_.applyToText(*this, option_.ForeColor);
     setVisible(option_.Visible);
+    followGroup();
+}
+
+void OptionButtonWidget::followGroup()
+{
+    const auto group = parentWidget()->findChildren<QRadioButton*>(QString{}, Qt::FindDirectChildrenOnly);
+    const QRadioButton* entry = nullptr;
+    for (const QRadioButton* option : group)
+        if (!option->isHidden() && (entry == nullptr || option->isChecked()))
+            entry = option;
+    for (QRadioButton* option : group)
+        option->setFocusPolicy(option == entry ? Qt::StrongFocus : Qt::ClickFocus);
 }
 
 void OptionButtonWidget::focusInEvent(QFocusEvent* event)

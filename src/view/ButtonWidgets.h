@@ -22,6 +22,9 @@ protected:
     void focusInEvent(QFocusEvent* event) override;
 
 private:
+    /// Lets Tab enter the options at the chosen one, or at the first where none is.
+    void followGroup();
+
     OptionButton& option_;
     Colors colors_;
 };
