@@ -1,5 +1,6 @@
 #include "view/PanelWindow.h"
 
+#include <QApplication>
 #include <QCloseEvent>
 #include <QMdiArea>
 #include <QMenu>
@@ -9,6 +10,7 @@
 #include <utility>
 
 #include "view/ControlWidget.h"
+#include "view/FocusFrame.h"
 #include "view/View.h"
 #include "view/WidgetMaker.h"
 
@@ -144,6 +146,11 @@ void PanelWindow::makeWidgets()
     maker.stack();
     for (Control* control : panel_.controls())
         follow(*control);
+
+    auto* const mark = new FocusFrame{form};
+    connect(qApp, &QApplication::focusChanged, mark, [this, mark](QWidget* /*before*/, QWidget* now) {
+        mark->setWidget(controlOf(now) == nullptr ? nullptr : now);
+    });
 }
 
 void PanelWindow::makeMenu()

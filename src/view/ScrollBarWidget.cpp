@@ -4,8 +4,6 @@
 #include <QAccessibleWidget>
 #include <QKeyEvent>
 #include <QSignalBlocker>
-#include <QStyleOptionFocusRect>
-#include <QStylePainter>
 #include <algorithm>
 
 namespace ondelis {
@@ -104,24 +102,7 @@ void ScrollBarWidget::keyPressEvent(QKeyEvent* event)
 void ScrollBarWidget::focusInEvent(QFocusEvent* event)
 {
     QScrollBar::focusInEvent(event);
-    update();
     act(bar_, [&](User& user) { user.focus(bar_); });
-}
-
-void ScrollBarWidget::focusOutEvent(QFocusEvent* event)
-{
-    QScrollBar::focusOutEvent(event);
-    update();
-}
-
-void ScrollBarWidget::paintEvent(QPaintEvent* event)
-{
-    QScrollBar::paintEvent(event);
-    if (!hasFocus())
-        return;
-    QPainter painter{this}; // the style does not show which bar the keys move
-    painter.setPen(palette().color(QPalette::Highlight));
-    painter.drawRect(rect().adjusted(0, 0, -1, -1));
 }
 
 void ScrollBarWidget::tellValue()

@@ -25,8 +25,6 @@ public:
 protected:
     void keyPressEvent(QKeyEvent* event) override;
     void focusInEvent(QFocusEvent* event) override;
-    void focusOutEvent(QFocusEvent* event) override;
-    void paintEvent(QPaintEvent* event) override;
 
 private:
     [[nodiscard]] int positionOf(int value) const { return min_ <= max_ ? value - min_ : min_ - value; }

@@ -1,0 +1,18 @@
+#include "view/FocusFrame.h"
+
+#include <QPainter>
+
+#include "view/Colors.h"
+
+namespace ondelis {
+
+void FocusFrame::paintEvent(QPaintEvent* /*event*/)
+{
+    QPainter painter{this}; // the style cuts out the middle, where the widget is
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(readable(palette().color(QPalette::Highlight), palette().color(QPalette::Window)));
+    painter.drawRoundedRect(rect(), 3, 3);
+}
+
+} // namespace ondelis
