@@ -1,0 +1,131 @@
+#include <QImage>
+#include <QtMath>
+#include <algorithm>
+
+#include "Program.h"
+#include "TestPanel.h"
+#include "panels/resonance/FormuleDeThomson.h"
+
+namespace ondelis {
+namespace {
+
+double luminance(QRgb color)
+{
+    const auto linear
+        = [](double channel) { return channel <= 0.04045 ? channel / 12.92 : qPow((channel + 0.055) / 1.055, 2.4); };
+    return 0.2126 * linear(qRed(color) / 255.0) + 0.7152 * linear(qGreen(color) / 255.0)
+        + 0.0722 * linear(qBlue(color) / 255.0);
+}
+
+/// Contrast after WCAG 2.1, from 1 to 21.
+double contrast(QRgb one, QRgb other)
+{
+    const auto [darker, lighter] = std::minmax({luminance(one), luminance(other)});
+    return (lighter + 0.05) / (darker + 0.05);
+}
+
+} // namespace
+
+/// Which control has the keyboard can be seen: each kind of control, in light and in dark windows.
+class FocusTest final : public QObject {
+    Q_OBJECT
+
+    /// The control and its surroundings on its panel, as they are seen.
+    static QImage picture(const Program& program, const Control& control)
+    {
+        constexpr int around = 3; // pixels: as far as to the next row
+        const QWidget& widget = program.widget(control);
+        QWidget& form = program.window(control.panel()).form();
+        const QRect place{widget.mapTo(&form, QPoint{}), widget.size()};
+        return form.grab(place.adjusted(-around, -around, around, around)).toImage();
+    }
+
+    /// How many pixels the keyboard changes clearly, at least 3 to 1, as a share of the control's outline.
+    static double mark(const Program& program, const Control& control, const Control& other)
+    {
+        QWidget& widget = program.widget(control);
+        program.widget(other).setFocus();
+        const QImage without = picture(program, control);
+        widget.setFocus(Qt::TabFocusReason);
+        const QImage with = picture(program, control);
+        int pixels = 0;
+        for (int y = 0; y < with.height(); ++y)
+            for (int x = 0; x < with.width(); ++x)
+                pixels += contrast(without.pixel(x, y), with.pixel(x, y)) >= 3 ? 1 : 0;
+        return static_cast<double>(pixels) / (2 * (widget.width() + widget.height()));
+    }
+
+    static QPalette darkPalette(const QColor& window, const QColor& highlight)
+    {
+        QPalette palette{window};
+        palette.setColor(QPalette::Highlight, highlight);
+        return palette;
+    }
+
+private slots:
+    void cleanup() { QApplication::setPalette(QPalette{}); }
+
+    void theMarkIsSeen_data()
+    {
+        QTest::addColumn<QPalette>("palette");
+        QTest::newRow("light") << QPalette{};
+        QTest::newRow("dark") << darkPalette({45, 45, 45}, {42, 130, 218});
+        QTest::newRow("dark, dim") << darkPalette({45, 45, 45}, {60, 60, 90});
+        QTest::newRow("black") << darkPalette(Qt::black, {0, 0, 0x80});
+    }
+
+    void theMarkIsSeen()
+    {
+        QFETCH(QPalette, palette);
+        QApplication::setPalette(palette);
+        Program program;
+        auto& panel = program.open<TestPanel>();
+        program.store([&] {
+            panel.LstR.ListIndex = 1;
+            panel.OptY.Value = true;
+        });
+        for (const Control* control : panel.controls()) {
+            if (!control->focusable())
+                continue;
+            const Control& other = control == &panel.TxtF ? panel.TxtA : panel.TxtF;
+            const double seen = mark(program, *control, other);
+            QVERIFY2(seen > 1, qPrintable(toQString(control->name()) + QStringLiteral(" %1").arg(seen)));
+        }
+    }
+
+    void theMarkIsSeenAroundAnOptionWithoutCaption()
+    {
+        Program program;
+        program.pick("MenuThomson");
+        const auto& panel = program.desk.get<FormuleDeThomson>();
+        for (const OptionButton* option : {&panel.OptF, &panel.OptL})
+            QVERIFY(mark(program, *option, panel.TxtSelf) > 1);
+    }
+
+    void theMarkGoesWithItsControl()
+    {
+        Program program;
+        auto& panel = program.open<TestPanel>();
+        const auto moveTo = [&](double top) { program.store([&] { panel.TxtA.Top = Double{top}; }); };
+        program.widget(panel.TxtF).setFocus();
+        const QImage without = picture(program, panel.TxtA);
+        program.widget(panel.TxtA).setFocus();
+        const QImage with = picture(program, panel.TxtA);
+        QVERIFY(with != without);
+        moveTo(6240);
+        QCOMPARE(picture(program, panel.TxtA), with);
+        program.store([&] { panel.TxtA.Visible = false; });
+        QVERIFY(!program.widget(panel.TxtA).hasFocus());
+        program.widget(panel.TxtA).setVisible(true); // nothing is left of the mark
+        QCOMPARE(picture(program, panel.TxtA), without);
+    }
+};
+
+} // namespace ondelis
+
+int main(int argc, char** argv)
+{
+    return ondelis::runTests<ondelis::FocusTest>(argc, argv);
+}
+
+#include "FocusTest.moc"
