@@ -325,6 +325,8 @@ public:
     void accept(ControlVisitor& visitor) override;
 };
 
+class Shape;
+
 /// A straight line on the panel.
 class Line final : public Control {
 public:
@@ -336,6 +338,7 @@ public:
         Color BorderColor = windowTextColor;
         int BorderWidth = 1; ///< in pixels at 96 dpi
         bool Visible = true;
+        const Shape* within = nullptr; ///< where a diagram is drawn: what reaches beyond is not shown
     };
     Line(FeuilleCalcul* panel, std::string name, Design design);
 

@@ -1,10 +1,35 @@
 #include "view/LinesWidget.h"
 
 #include <QPainter>
+#include <algorithm>
+#include <optional>
 
 #include "view/Colors.h"
 
 namespace ondelis {
+namespace {
+
+/// The part of a line that runs through an area, if any does. A result can be too long a line for the painter.
+std::optional<QLineF> partInside(const QLineF& line, const QRectF& area)
+{
+    double from = 0;
+    double to = 1;
+    // Along one axis the line is between the edges from the crossing of one of them to that of the other one.
+    const auto keepBetween = [&](double low, double high, double start, double length) {
+        if (length == 0)
+            return low <= start && start <= high;
+        const auto [in, out] = std::minmax({(low - start) / length, (high - start) / length});
+        from = std::max(from, in);
+        to = std::min(to, out);
+        return from <= to;
+    };
+    if (!keepBetween(area.left(), area.right(), line.x1(), line.dx())
+        || !keepBetween(area.top(), area.bottom(), line.y1(), line.dy()))
+        return std::nullopt;
+    return QLineF{line.pointAt(from), line.pointAt(to)};
+}
+
+} // namespace
 
 LinesWidget::LinesWidget(PanelWindow& window, QWidget* parent) : QWidget{parent}, ControlWidget{window}
 {
@@ -15,19 +40,33 @@ void LinesWidget::follow()
 {
     const Scale scale{*this};
     strokes_.clear();
-    for (const Line* line : lines_) {
-        if (!line->Visible)
-            continue;
-        const auto exact = [&](const Property<Single>& twips) { return scale.exact(Double{twips}.value()); };
-        strokes_.push_back({.line = {exact(line->X1), exact(line->Y1), exact(line->X2), exact(line->Y2)},
-            .color = line->design().BorderColor,
-            .width = line->design().BorderWidth * scale.exact(1440) / 96});
-    }
+    for (const Line* line : lines_)
+        if (line->Visible)
+            draw(*line, scale);
     rectangles_.clear();
     for (const Shape* shape : shapes_)
         rectangles_.push_back(scale.pixels(shape->at()));
     cover();
     update();
+}
+
+void LinesWidget::draw(const Line& line, const Scale& scale)
+{
+    const auto exact = [&](const Property<Single>& twips) { return scale.exact(Double{twips}.value()); };
+    Stroke stroke{.line = {exact(line.X1), exact(line.Y1), exact(line.X2), exact(line.Y2)},
+        .area = {},
+        .color = line.design().BorderColor,
+        .width = line.design().BorderWidth * scale.exact(1440) / 96};
+    if (const Shape* const around = line.design().within) {
+        stroke.area = scale.pixels(around->at()).adjusted(1, 1, -1, -1);
+        const double beyond = stroke.width; // so that the ends of a cut line lie out of sight
+        const QRectF reach = QRectF{stroke.area}.adjusted(-beyond, -beyond, beyond, beyond);
+        const std::optional<QLineF> inside = partInside(stroke.line, reach);
+        if (!inside)
+            return;
+        stroke.line = *inside;
+    }
+    strokes_.push_back(stroke);
 }
 
 void LinesWidget::cover()
@@ -51,6 +90,10 @@ void LinesWidget::paintEvent(QPaintEvent* /*event*/)
     for (const QRect& rectangle : rectangles_)
         painter.drawRect(rectangle.adjusted(0, 0, -1, -1));
     for (const Stroke& stroke : strokes_) {
+        if (stroke.area.isNull())
+            painter.setClipping(false);
+        else
+            painter.setClipRect(stroke.area);
         const bool straight = stroke.line.dx() == 0 || stroke.line.dy() == 0;
         painter.setRenderHint(QPainter::Antialiasing, !straight);
         const QColor color = isSystemColor(stroke.color) ? text : readable(toQColor(stroke.color), window);

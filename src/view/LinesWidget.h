@@ -5,6 +5,7 @@
 
 #include "forms/Controls.h"
 #include "view/ControlWidget.h"
+#include "view/Scale.h"
 
 namespace ondelis {
 
@@ -26,10 +27,12 @@ private:
     /// What is painted, in pixels.
     struct Stroke {
         QLineF line;
+        QRect area; ///< nothing is painted outside it; null for no limit
         Color color = windowTextColor;
         double width = 0;
     };
 
+    void draw(const Line& line, const Scale& scale);
     /// Makes the widget as large as what it paints: it stands from the upper left corner of the panel on.
     void cover();
 

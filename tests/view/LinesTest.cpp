@@ -1,0 +1,82 @@
+#include "Program.h"
+#include "forms/Controls.h"
+#include "forms/FeuilleCalcul.h"
+
+namespace ondelis {
+
+/// Two lines that start in an area and run far beyond it: only one of them is kept inside.
+class LinesPanel final : public FeuilleCalcul {
+public:
+    explicit LinesPanel(Desk& desk)
+        : FeuilleCalcul{desk, {.name = "LinesPanel", .Caption = "Traits", .Width = 6000, .Height = 6000}}
+    {
+    }
+
+    // clang-format off
+    Shape Cadre{this, "Cadre", {.at = {600, 600, 1800, 1800}}};
+    Line  Trait{this, "Trait", {.X1 = 1500, .Y1 = 1500, .X2 = 4500, .Y2 = 1500, .BorderColor = bleu, .BorderWidth = 5, .within = &Cadre}};
+    Line  Libre{this, "Libre", {.X1 = 1500, .Y1 = 2100, .X2 = 4500, .Y2 = 2100, .BorderColor = bleu, .BorderWidth = 5}};
+    // clang-format on
+
+    static constexpr Color bleu = 0xFF0000;
+};
+
+class LinesTest final : public QObject {
+    Q_OBJECT
+
+    static constexpr int twipsPerPixel = 15;
+
+    /// Whether a point of the panel, in twips, has the colour of the lines.
+    static bool blue(const Program& program, const LinesPanel& panel, int x, int y)
+    {
+        const QImage image = program.window(panel).form().grab().toImage();
+        return image.pixelColor(x / twipsPerPixel, y / twipsPerPixel) == QColor{Qt::blue};
+    }
+
+private slots:
+    void aLineOfADiagramEndsAtItsEdge()
+    {
+        Program program;
+        const auto& panel = program.open<LinesPanel>();
+        QVERIFY(blue(program, panel, 1530, 1500));
+        QVERIFY(blue(program, panel, 2370, 1500));
+        QVERIFY(!blue(program, panel, 2400, 1500));
+        QVERIFY(!blue(program, panel, 4000, 1500));
+        QVERIFY(blue(program, panel, 4000, 2100));
+    }
+
+    void aLineOfAnyLengthCanBeDrawn()
+    {
+        Program program;
+        auto& panel = program.open<LinesPanel>();
+        program.store([&] {
+            panel.Libre.Visible = false;
+            panel.Trait.Y2 = -3e38;
+            panel.Trait.X2 = 1500;
+        });
+        QVERIFY(blue(program, panel, 1500, 1470));
+        QVERIFY(blue(program, panel, 1500, 630));
+        QVERIFY(!blue(program, panel, 1500, 570));
+    }
+
+    void aLineThatMissesItsDiagramIsNotDrawn()
+    {
+        Program program;
+        auto& panel = program.open<LinesPanel>();
+        program.store([&] {
+            panel.Trait.Y1 = 3000;
+            panel.Trait.Y2 = 3000;
+        });
+        QVERIFY(!blue(program, panel, 1530, 1500));
+        QVERIFY(!blue(program, panel, 1530, 3000));
+    }
+};
+
+} // namespace ondelis
+
+int main(int argc, char** argv)
+{
+    return ondelis::runTests<ondelis::LinesTest>(argc, argv);
+}
+
+#include "LinesTest.moc"
