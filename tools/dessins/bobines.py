@@ -46,9 +46,9 @@ def axis_line(s: Sheet, a: Point, b: Point) -> None:
 @picture("bobine-vue", 150, 120, "Bobine à une couche")
 def bobine_vue(s: Sheet) -> None:
     """The coil as it looks, with its two leads."""
-    end = helix(s, 30, 58, 34, 18, 5)
+    end = helix(s, 30, 60, 38, 18, 5)
     for foot, outer in ((30, 10), (end, end + 20)):
-        s.wire((foot, 92), (outer, 92), stroke=COPPER, width=4.2)
+        s.wire((foot, 98), (outer, 98), stroke=COPPER, width=4.2)
 
 
 @picture("bobine-diametre", 150, 120, "Diamètre intérieur et diamètre moyen")
@@ -65,54 +65,57 @@ def bobine_diametre(s: Sheet) -> None:
 @picture("bobine-espacement", 150, 120, "Diamètre du fil et espacement des spires")
 def bobine_espacement(s: Sheet) -> None:
     """Two turns close up: the wire's diameter and the space e between turns."""
-    wire, space, axis = 40.0, 34.0, 46.0
-    left, right = 38.0, 38.0 + wire + space
+    wire, space, axis = 48.0, 38.0, 46.0
+    left, right = 32.0, 32.0 + wire + space
     for x in (left, right):
         s.circle((x, axis), wire / 2, stroke=COPPER, fill=COPPER_PALE)
-    s.dimension((left - wire / 2, axis), (left + wire / 2, axis), "Ø", -36)
-    s.dimension((left + wire / 2, axis), (right - wire / 2, axis), "e", -36)
+    s.dimension((left - wire / 2, axis), (left + wire / 2, axis), "Ø", -46)
+    s.dimension((left + wire / 2, axis), (right - wire / 2, axis), "e", -46)
 
 
 @picture("bobine-longueur", 150, 120, "Longueur et diamètre de l'enroulement")
 def bobine_longueur(s: Sheet) -> None:
     """The winding in section, with its inner diameter and its length."""
-    pitch, wire, turns, x, top, bottom = 14.0, 10.0, 6, 52.0, 20.0, 76.0
+    pitch, wire, turns, x, top, bottom = 15.0, 11.0, 6, 50.0, 18.0, 80.0
     section(s, x, top, bottom, wire, pitch, turns)
-    axis_line(s, (40, 48), (146, 48))
+    axis_line(s, (38, 49), (148, 49))
     right = x + (turns - 0.5) * pitch + wire / 2
     s.dimension((x - wire / 2, bottom + wire / 2), (right, bottom + wire / 2), "L", -24)
-    s.dimension((x - wire / 2 - 2, bottom - wire / 2), (x - wire / 2 - 2, top + wire / 2), "D", 22)
+    s.dimension((x - wire / 2 - 2, bottom - wire / 2), (x - wire / 2 - 2, top + wire / 2), "D", 26)
 
 
-@picture("self-vue", 240, 120, "Bobine sur son mandrin")
+# Two pictures of one size, which stand beside one another.
+
+
+@picture("self-vue", 300, 164, "Bobine sur son mandrin")
 def self_vue(s: Sheet) -> None:
     """The coil on its former."""
-    top, bottom = 24.0, 92.0
-    s.path(f"M18 {top} H214 A12 34 0 0 1 214 {bottom} H18 Z", stroke=None, fill=DIELECTRIC)
-    s.path(f"M18 {top} H214 M18 {bottom} H214", width=1.3)
-    s.ellipse((18, 58), 10, 34, width=1.3, fill=DIELECTRIC)
-    s.path(f"M214 {top} A10 34 0 0 1 214 {bottom}", width=1.3)
-    for i in range(10):
-        x = 44 + 14 * i
-        s.path(f"M{x} {top - 2} C{x + 12} {top - 2} {x + 16} {bottom + 2} {x + 7} {bottom + 2}", stroke=COPPER,
-               width=4.2)
-    s.wire((44, top - 2), (44, 8), stroke=COPPER, width=4.2)
-    s.wire((177, bottom + 2), (177, 114), stroke=COPPER, width=4.2)
+    top, bottom, left, right = 36.0, 128.0, 24.0, 274.0
+    half = (bottom - top) / 2
+    s.path(f"M{number(left)} {number(top)} H{number(right)} A14 {number(half)} 0 0 1 {number(right)} {number(bottom)}"
+           f" H{number(left)}", width=1.3, fill=DIELECTRIC)
+    s.ellipse((left, top + half), 14, half, width=1.3, fill=DIELECTRIC)
+    for i in range(9):
+        x = 66 + 19 * i
+        s.path(f"M{x} {number(top - 2)} C{x + 16} {number(top - 2)} {x + 22} {number(bottom + 2)} {x + 10}"
+               f" {number(bottom + 2)}", stroke=COPPER, width=5)
+    s.wire((66, top - 2), (66, 14), stroke=COPPER, width=5)
+    s.wire((228, bottom + 2), (228, 150), stroke=COPPER, width=5)
 
 
-@picture("self-cotes", 250, 180, "Cotes de la bobine : 1, 2 et 3")
+@picture("self-cotes", 340, 164, "Cotes de la bobine : 1, 2 et 3")
 def self_cotes(s: Sheet) -> None:
     """The numbers are those of the fields: inner diameter, length, turns."""
-    pitch, wire, turns, x, top, bottom = 17.0, 12.0, 9, 66.0, 60.0, 130.0
+    pitch, wire, turns, x, top, bottom = 26.0, 15.0, 9, 72.0, 50.0, 118.0
     section(s, x, top, bottom, wire, pitch, turns)
-    axis_line(s, (52, 95), (230, 95))
+    axis_line(s, (56, 84), (326, 84))
     right = x + (turns - 0.5) * pitch + wire / 2
-    s.dimension((x - wire / 2, bottom + wire / 2), (right, bottom + wire / 2), "2", -22)
-    s.dimension((x - wire / 2 - 2, bottom - wire / 2), (x - wire / 2 - 2, top + wire / 2), "1", 26)
+    s.dimension((x - wire / 2, bottom + wire / 2), (right, bottom + wire / 2), "2", -25)
+    s.dimension((x - wire / 2 - 2, bottom - wire / 2), (x - wire / 2 - 2, top + wire / 2), "1", 30)
     for i in range(turns):
-        s.wire((x + i * pitch, top - 9), (x + i * pitch, top - 17), stroke=DIM, width=THIN)
-    s.wire((x, top - 17), (x + (turns - 1) * pitch, top - 17), stroke=DIM, width=THIN)
-    s.wire((x + 4 * pitch, top - 17), (x + 4 * pitch, top - 25), stroke=DIM, width=THIN)
+        s.wire((x + i * pitch, top - 11), (x + i * pitch, top - 18), stroke=DIM, width=THIN)
+    s.wire((x, top - 18), (x + (turns - 1) * pitch, top - 18), stroke=DIM, width=THIN)
+    s.wire((x + 4 * pitch, top - 18), (x + 4 * pitch, top - 25), stroke=DIM, width=THIN)
     s.text(x + 4 * pitch, top - 34, "3", 11, colour=DIM)
 
 
@@ -130,9 +133,10 @@ def tore(s: Sheet) -> None:
     for i in range(9):
         y = centre[1] - outer + 8 + 14 * i
         s.wire((left - 3, y), (left + width + 3, y + 3), stroke=COPPER, width=3.6)
+    foot = centre[1] + outer  # the extension lines start below the turns
     s.dimension((centre[0] - inside, centre[1]), (centre[0] + inside, centre[1]), "Ø int")
-    s.dimension((centre[0] - outer, centre[1]), (centre[0] + outer, centre[1]), "Ø ext", -90)
-    s.dimension((left, centre[1] + outer), (left + width, centre[1] + outer), "Ep", -26)
+    s.dimension((centre[0] - outer, foot), (centre[0] + outer, foot), "Ø ext", -26)
+    s.dimension((left, foot), (left + width, foot), "Ep", -26)
 
 
 @picture("epingle", 300, 150, "Épingle")

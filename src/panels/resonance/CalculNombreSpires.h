@@ -12,33 +12,33 @@ public:
     explicit CalculNombreSpires(Desk& desk);
 
     // clang-format off
-    Image ImgBobine    {this, "ImgBobine",     {.picture = "bobine-vue",       .at = { 240, 240, 2250, 1800}}};
-    Image ImgDiametre  {this, "ImgDiametre",   {.picture = "bobine-diametre",  .at = {2650, 240, 2250, 1800}}};
-    Image ImgEspacement{this, "ImgEspacement", {.picture = "bobine-espacement",.at = {5060, 240, 2250, 1800}}};
-    Image ImgLongueur  {this, "ImgLongueur",   {.picture = "bobine-longueur",  .at = {7470, 240, 2250, 1800}}};
+    Image ImgBobine    {this, "ImgBobine",     {.picture = "bobine-vue",        .at = { 240, 240, 2250, 1800}}};
+    Image ImgDiametre  {this, "ImgDiametre",   {.picture = "bobine-diametre",   .at = {2730, 240, 2250, 1800}}};
+    Image ImgEspacement{this, "ImgEspacement", {.picture = "bobine-espacement", .at = {5235, 240, 2250, 1800}}};
+    Image ImgLongueur  {this, "ImgLongueur",   {.picture = "bobine-longueur",   .at = {7650, 240, 2250, 1800}}};
 
-    Label        Label1 {this, "Label1",  {.Caption = "Valeur de self recherchée", .at = {240, 2550, 2940, 255}}};
-    TextBox      TxtS   {this, "TxtS",    {.at = {3240, 2520, 1200, 315}, .label = &Label1}, &CalculNombreSpires::TxtS_Change};
-    OptionButton OptmH  {this, "OptmH",   {.Caption = "mH", .at = {4620, 2527, 720, 300}}, &CalculNombreSpires::OptmH_Click};
-    OptionButton OptmmH {this, "OptmmH",  {.Caption = "µH", .at = {5400, 2527, 720, 300}}, &CalculNombreSpires::OptmmH_Click};
-    OptionButton OpnH   {this, "OpnH",    {.Caption = "nH", .at = {6180, 2527, 720, 300}}, &CalculNombreSpires::OpnH_Click};
-    OptionButton OptpH  {this, "OptpH",   {.Caption = "pH", .at = {6960, 2527, 720, 300}}, &CalculNombreSpires::OptpH_Click};
-    Label        Label6 {this, "Label6",  {.Caption = "Diamètre intérieur (mm)", .at = {240, 2910, 2940, 255}}};
-    TextBox      TxtD   {this, "TxtD",    {.at = {3240, 2880, 1200, 315}, .label = &Label6}, &CalculNombreSpires::TxtD_Change};
-    Label        Label2 {this, "Label2",  {.Caption = "Diamètre du fil (mm)", .at = {240, 3270, 2940, 255}}};
-    TextBox      TxtF   {this, "TxtF",    {.at = {3240, 3240, 1200, 315}, .label = &Label2}, &CalculNombreSpires::TxtF_Change};
-    Label        Label10{this, "Label10", {.Caption = "Espacement entre spires", .at = {240, 3630, 2940, 255}}};
-    TextBox      TxtE   {this, "TxtE",    resultField({3240, 3600, 1200, 315}, &Label10)};
-    HScrollBar   HscrlE {this, "HscrlE",  {.Min = 0, .Max = 100, .LargeChange = 10, .at = {240, 3990, 4200, 255}, .label = &Label10}, &CalculNombreSpires::HscrlE_Change};
-    Label        Label5 {this, "Label5",  {.Caption = "Faire varier les valeurs avec les potenciomètres", .at = {240, 4320, 5760, 255}}};
+    Label        Label1 {this, "Label1",  {.Caption = "Valeur de self recherchée", .at = {240, ligne(6.5) + 30, 2580, 255}}};
+    TextBox      TxtS   {this, "TxtS",    {.at = {2880, ligne(6.5), 1320, 315}, .label = &Label1}, &CalculNombreSpires::TxtS_Change};
+    OptionButton OptmH  {this, "OptmH",   {.Caption = "mH", .at = {4380, ligne(6.5) + 7, 720, 300}}, &CalculNombreSpires::OptmH_Click};
+    OptionButton OptmmH {this, "OptmmH",  {.Caption = "µH", .at = {5160, ligne(6.5) + 7, 720, 300}}, &CalculNombreSpires::OptmmH_Click};
+    OptionButton OpnH   {this, "OpnH",    {.Caption = "nH", .at = {5940, ligne(6.5) + 7, 720, 300}}, &CalculNombreSpires::OpnH_Click};
+    OptionButton OptpH  {this, "OptpH",   {.Caption = "pH", .at = {6720, ligne(6.5) + 7, 720, 300}}, &CalculNombreSpires::OptpH_Click};
+    Label        Label6 {this, "Label6",  {.Caption = "Diamètre intérieur (mm)", .at = {240, ligne(7.5) + 30, 2580, 255}}};
+    TextBox      TxtD   {this, "TxtD",    {.at = {2880, ligne(7.5), 1320, 315}, .label = &Label6}, &CalculNombreSpires::TxtD_Change};
+    Label        Label2 {this, "Label2",  {.Caption = "Diamètre du fil (mm)", .at = {240, ligne(8.5) + 30, 2580, 255}}};
+    TextBox      TxtF   {this, "TxtF",    {.at = {2880, ligne(8.5), 1320, 315}, .label = &Label2}, &CalculNombreSpires::TxtF_Change};
+    Label        Label10{this, "Label10", {.Caption = "Espacement entre spires", .at = {240, ligne(9.5) + 30, 2580, 255}}};
+    TextBox      TxtE   {this, "TxtE",    resultField({2880, ligne(9.5), 1320, 315}, &Label10)};
+    HScrollBar   HscrlE {this, "HscrlE",  {.Min = 0, .Max = 100, .LargeChange = 10, .at = {240, ligne(10.5) + 30, 3960, 255}, .label = &Label10}, &CalculNombreSpires::HscrlE_Change};
+    Label        Label5 {this, "Label5",  {.Caption = "Faire varier les valeurs avec les potenciomètres", .at = {240, ligne(11.5) + 30, 5760, 255}}};
 
-    Label        Label4 {this, "Label4",  {.Caption = "Nombre de spires", .at = {6300, 3270, 2040, 255}}};
-    TextBox      TxtN   {this, "TxtN",    resultField({8400, 3240, 1320, 315}, &Label4)};
-    Label        Label3 {this, "Label3",  {.Caption = "Longueur en mm", .at = {6300, 3630, 2040, 255}}};
-    TextBox      TxtL   {this, "TxtL",    resultField({8400, 3600, 1320, 315}, &Label3)};
+    Label        Label4 {this, "Label4",  {.Caption = "Nombre de spires", .at = {6540, ligne(8.5) + 30, 1980, 255}}};
+    TextBox      TxtN   {this, "TxtN",    resultField({8580, ligne(8.5), 1320, 315}, &Label4)};
+    Label        Label3 {this, "Label3",  {.Caption = "Longueur en mm", .at = {6540, ligne(9.5) + 30, 1980, 255}}};
+    TextBox      TxtL   {this, "TxtL",    resultField({8580, ligne(9.5), 1320, 315}, &Label3)};
 
-    Label        Label8 {this, "Label8",  {.at = {240, 4830, 9480, 510}}};
-    Label        Label7 {this, "Label7",  {.at = {240, 5460, 9480, 255}}};
+    Label        Label8 {this, "Label8",  {.at = {240, ligne(13), 9660, 510}}};
+    Label        Label7 {this, "Label7",  {.at = {240, ligne(15), 9660, 255}}};
     // clang-format on
 
 private:

@@ -11,21 +11,21 @@ public:
     explicit CalculSelf(Desk& desk);
 
     // clang-format off
-    Label         Label1     {this, "Label1",      {.Caption = "1 - Diamètre intérieur de la self en mm", .at = {240, 270, 4620, 255}}};
-    TextBox       TxtD       {this, "TxtD",        {.at = {4920, 240, 1200, 315}, .label = &Label1}, &CalculSelf::TxtD_Change};
-    Label         Label2     {this, "Label2",      {.Caption = "2 - Longueur de l'enroulement en mm", .at = {240, 630, 4620, 255}}};
-    TextBox       TxtL       {this, "TxtL",        {.at = {4920, 600, 1200, 315}, .label = &Label2}, &CalculSelf::TxtL_Change};
-    Label         Label8     {this, "Label8",      {.Caption = "3 - Nombre de spires", .at = {240, 990, 4620, 255}}};
-    TextBox       TxtN       {this, "TxtN",        {.at = {4920, 960, 1200, 315}, .label = &Label8}, &CalculSelf::TxtN_Change};
-    CommandButton BtnCalculer{this, "BtnCalculer", {.Caption = "Calculer", .at = {4680, 1500, 1440, 375}}, &CalculSelf::BtnCalculer_Click};
-    Label         Label5     {this, "Label5",      {.Caption = "Inductance", .at = {240, 2190, 3720, 255}}};
-    TextBox       TxtS       {this, "TxtS",        resultField({4080, 2160, 2040, 315}, &Label5)};
+    Image         ImgCotes   {this, "ImgCotes",    {.picture = "self-cotes", .at = {240, 240, 5100, 2460}}};
+    Image         ImgVue     {this, "ImgVue",      {.picture = "self-vue", .at = {5715, 240, 4500, 2460}}};
 
-    Label         Label3     {this, "Label3",      {.at = {240, 2970, 5880, 1275}}};
-    Label         Label7     {this, "Label7",      {.at = {240, 4500, 5880, 255}}};
+    Label         Label1     {this, "Label1",      {.Caption = "1 - Diamètre intérieur de la self en mm", .at = {240, ligne(7.5) + 30, 3900, 255}}};
+    TextBox       TxtD       {this, "TxtD",        {.at = {4200, ligne(7.5), 1320, 315}, .label = &Label1}, &CalculSelf::TxtD_Change};
+    Label         Label2     {this, "Label2",      {.Caption = "2 - Longueur de l'enroulement en mm", .at = {240, ligne(8.5) + 30, 3900, 255}}};
+    TextBox       TxtL       {this, "TxtL",        {.at = {4200, ligne(8.5), 1320, 315}, .label = &Label2}, &CalculSelf::TxtL_Change};
+    Label         Label8     {this, "Label8",      {.Caption = "3 - Nombre de spires", .at = {240, ligne(9.5) + 30, 3900, 255}}};
+    TextBox       TxtN       {this, "TxtN",        {.at = {4200, ligne(9.5), 1320, 315}, .label = &Label8}, &CalculSelf::TxtN_Change};
+    CommandButton BtnCalculer{this, "BtnCalculer", {.Caption = "Calculer", .at = {8175, ligne(7.5), 2040, 375}}, &CalculSelf::BtnCalculer_Click};
+    Label         Label5     {this, "Label5",      {.Caption = "Inductance", .at = {6600, ligne(9.5) + 30, 1515, 255}}};
+    TextBox       TxtS       {this, "TxtS",        resultField({8175, ligne(9.5), 2040, 315}, &Label5)};
 
-    Image         ImgCotes   {this, "ImgCotes",    {.picture = "self-cotes", .at = {6420, 240, 3750, 2700}}};
-    Image         ImgVue     {this, "ImgVue",      {.picture = "self-vue", .at = {6495, 3060, 3600, 1800}}};
+    Label         Label3     {this, "Label3",      {.at = {240, ligne(11.25), 9975, 510}}};
+    Label         Label7     {this, "Label7",      {.at = {240, ligne(13.25), 9975, 255}}};
     // clang-format on
 
 private:

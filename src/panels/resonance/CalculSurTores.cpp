@@ -8,7 +8,7 @@ namespace ondelis {
 
 CalculSurTores::CalculSurTores(Desk& desk)
     : FeuilleCalcul{
-        desk, {.name = "CalculSurTores", .Caption = "Calcul des inductances sur tores", .Width = 15480, .Height = 3840}}
+        desk, {.name = "CalculSurTores", .Caption = "Calcul des inductances sur tores", .Width = 14940, .Height = 4020}}
 {
 }
 

@@ -11,39 +11,39 @@ public:
     explicit CalculSurTores(Desk& desk);
 
     // clang-format off
-    Label      Label1              {this, "Label1",               {.Caption = "Tores à fer pulvérisé",    .at = {240, ligne(0) + 30, 4980, 255}, .font = {.bold = true}}};
-    Label      Label3              {this, "Label3",               {.Caption = "AL (µH par 100 tours)",    .at = {240, ligne(1) + 30, 2940, 255}}};
-    TextBox    TxtAlFerPulverise   {this, "TxtAlFerPulverise",    {.at = {3240, ligne(1), 1200, 315}, .label = &Label3}, &CalculSurTores::TxtAlFerPulverise_Change};
-    Label      Label4              {this, "Label4",               {.Caption = "Diamètre intérieur en mm", .at = {240, ligne(2) + 30, 2940, 255}}};
-    TextBox    TxtDiamIntFerPul    {this, "TxtDiamIntFerPul",     {.at = {3240, ligne(2), 1200, 315}, .label = &Label4}, &CalculSurTores::TxtDiamIntFerPul_Change};
-    Label      Label5              {this, "Label5",               {.Caption = "Diamètre extérieur en mm", .at = {240, ligne(3) + 30, 2940, 255}}};
-    TextBox    TxtDiamExtFerPul    {this, "TxtDiamExtFerPul",     {.at = {3240, ligne(3), 1200, 315}, .label = &Label5}, &CalculSurTores::TxtDiamExtFerPul_Change};
-    Label      Label6              {this, "Label6",               {.Caption = "Epaisseur du tore en mm",  .at = {240, ligne(4) + 30, 2940, 255}}};
-    TextBox    TxtEpFePul          {this, "TxtEpFePul",           {.at = {3240, ligne(4), 1200, 315}, .label = &Label6}, &CalculSurTores::TxtEpFePul_Change};
-    Label      Label7              {this, "Label7",               {.Caption = "Nombre de spires",         .at = {240, ligne(5) + 30, 2940, 255}}};
-    TextBox    TxtSpiresFerPul     {this, "TxtSpiresFerPul",      {.at = {3240, ligne(5), 1200, 315}, .label = &Label7}, &CalculSurTores::TxtSpiresFerPul_Change};
-    VScrollBar VScrollSpiresFerPul {this, "VScrollSpiresFerPul",  {.Min = 32767, .Max = 0, .SmallChange = 1, .LargeChange = 10, .at = {4560, ligne(4), 255, 1035}, .label = &Label7}, &CalculSurTores::VScrollSpiresFerPul_Change};
-    Label      Label8              {this, "Label8",               {.Caption = "Valeur d'inductance en H", .at = {240, ligne(7) + 30, 2940, 255}}};
-    TextBox    TxtInductanceFerPul {this, "TxtInductanceFerPul",  resultField({3240, ligne(7), 2040, 315}, &Label8)};
+    Label      Label1              {this, "Label1",               {.Caption = "Tores à fer pulvérisé",    .at = {240, ligne(0) + 30, 4620, 255}, .font = {.bold = true}}};
+    Label      Label3              {this, "Label3",               {.Caption = "AL (µH par 100 tours)",    .at = {240, ligne(1) + 30, 2520, 255}}};
+    TextBox    TxtAlFerPulverise   {this, "TxtAlFerPulverise",    {.at = {2820, ligne(1), 1320, 315}, .label = &Label3}, &CalculSurTores::TxtAlFerPulverise_Change};
+    Label      Label4              {this, "Label4",               {.Caption = "Diamètre intérieur en mm", .at = {240, ligne(2) + 30, 2520, 255}}};
+    TextBox    TxtDiamIntFerPul    {this, "TxtDiamIntFerPul",     {.at = {2820, ligne(2), 1320, 315}, .label = &Label4}, &CalculSurTores::TxtDiamIntFerPul_Change};
+    Label      Label5              {this, "Label5",               {.Caption = "Diamètre extérieur en mm", .at = {240, ligne(3) + 30, 2520, 255}}};
+    TextBox    TxtDiamExtFerPul    {this, "TxtDiamExtFerPul",     {.at = {2820, ligne(3), 1320, 315}, .label = &Label5}, &CalculSurTores::TxtDiamExtFerPul_Change};
+    Label      Label6              {this, "Label6",               {.Caption = "Epaisseur du tore en mm",  .at = {240, ligne(4) + 30, 2520, 255}}};
+    TextBox    TxtEpFePul          {this, "TxtEpFePul",           {.at = {2820, ligne(4), 1320, 315}, .label = &Label6}, &CalculSurTores::TxtEpFePul_Change};
+    Label      Label7              {this, "Label7",               {.Caption = "Nombre de spires",         .at = {240, ligne(5.75) + 30, 2520, 255}}};
+    TextBox    TxtSpiresFerPul     {this, "TxtSpiresFerPul",      {.at = {2820, ligne(5.75), 1320, 315}, .label = &Label7}, &CalculSurTores::TxtSpiresFerPul_Change};
+    VScrollBar VScrollSpiresFerPul {this, "VScrollSpiresFerPul",  {.Min = 32767, .Max = 0, .SmallChange = 1, .LargeChange = 10, .at = {4260, ligne(5.75) - 285, 255, 885}, .label = &Label7}, &CalculSurTores::VScrollSpiresFerPul_Change};
+    Label      Label8              {this, "Label8",               {.Caption = "Valeur d'inductance en H", .at = {240, ligne(7.75) + 30, 2520, 255}}};
+    TextBox    TxtInductanceFerPul {this, "TxtInductanceFerPul",  resultField({2820, ligne(7.75), 2040, 315}, &Label8)};
 
-    Line       Line1               {this, "Line1",                {.X1 = 5520, .Y1 = 240, .X2 = 5520, .Y2 = 3075, .BorderColor = 0x808080}};
+    Line       Line1               {this, "Line1",                {.X1 = 5190, .Y1 = 240, .X2 = 5190, .Y2 = ligne(7.75) + 315, .BorderColor = 0x808080}};
 
-    Label      Label2              {this, "Label2",               {.Caption = "Tores en ferrites",        .at = {5760, ligne(0) + 30, 4980, 255}, .font = {.bold = true}}};
-    Label      Label9              {this, "Label9",               {.Caption = "AL (mH par 1000 tours)",   .at = {5760, ligne(1) + 30, 2940, 255}}};
-    TextBox    TxtAlFerrite        {this, "TxtAlFerrite",         {.at = {8760, ligne(1), 1200, 315}, .label = &Label9}, &CalculSurTores::TxtAlFerrite_Change};
-    Label      Label10             {this, "Label10",              {.Caption = "Diamètre intérieur en mm", .at = {5760, ligne(2) + 30, 2940, 255}}};
-    TextBox    TxtDiamIntFerrite   {this, "TxtDiamIntFerrite",    {.at = {8760, ligne(2), 1200, 315}, .label = &Label10}, &CalculSurTores::TxtDiamIntFerrite_Change};
-    Label      Label11             {this, "Label11",              {.Caption = "Diamètre extérieur en mm", .at = {5760, ligne(3) + 30, 2940, 255}}};
-    TextBox    TxtDiamExtFerrite   {this, "TxtDiamExtFerrite",    {.at = {8760, ligne(3), 1200, 315}, .label = &Label11}, &CalculSurTores::TxtDiamExtFerrite_Change};
-    Label      Label12             {this, "Label12",              {.Caption = "Epaisseur du tore en mm",  .at = {5760, ligne(4) + 30, 2940, 255}}};
-    TextBox    TxtEpFerrite        {this, "TxtEpFerrite",         {.at = {8760, ligne(4), 1200, 315}, .label = &Label12}, &CalculSurTores::TxtEpFerrite_Change};
-    Label      Label13             {this, "Label13",              {.Caption = "Nombre de spires",         .at = {5760, ligne(5) + 30, 2940, 255}}};
-    TextBox    TxtSpiresFerrite    {this, "TxtSpiresFerrite",     {.at = {8760, ligne(5), 1200, 315}, .label = &Label13}, &CalculSurTores::TxtSpiresFerrite_Change};
-    VScrollBar VScrollSpiresFerrite{this, "VScrollSpiresFerrite", {.Min = 32767, .Max = 0, .SmallChange = 1, .LargeChange = 10, .at = {10080, ligne(4), 255, 1035}, .label = &Label13}, &CalculSurTores::VScrollSpiresFerrite_Change};
-    Label      Label14             {this, "Label14",              {.Caption = "Valeur d'inductance en H", .at = {5760, ligne(7) + 30, 2940, 255}}};
-    TextBox    TxtInductanceFerrite{this, "TxtInductanceFerrite", resultField({8760, ligne(7), 2040, 315}, &Label14)};
+    Label      Label2              {this, "Label2",               {.Caption = "Tores en ferrites",        .at = {5520, ligne(0) + 30, 4620, 255}, .font = {.bold = true}}};
+    Label      Label9              {this, "Label9",               {.Caption = "AL (mH par 1000 tours)",   .at = {5520, ligne(1) + 30, 2520, 255}}};
+    TextBox    TxtAlFerrite        {this, "TxtAlFerrite",         {.at = {8100, ligne(1), 1320, 315}, .label = &Label9}, &CalculSurTores::TxtAlFerrite_Change};
+    Label      Label10             {this, "Label10",              {.Caption = "Diamètre intérieur en mm", .at = {5520, ligne(2) + 30, 2520, 255}}};
+    TextBox    TxtDiamIntFerrite   {this, "TxtDiamIntFerrite",    {.at = {8100, ligne(2), 1320, 315}, .label = &Label10}, &CalculSurTores::TxtDiamIntFerrite_Change};
+    Label      Label11             {this, "Label11",              {.Caption = "Diamètre extérieur en mm", .at = {5520, ligne(3) + 30, 2520, 255}}};
+    TextBox    TxtDiamExtFerrite   {this, "TxtDiamExtFerrite",    {.at = {8100, ligne(3), 1320, 315}, .label = &Label11}, &CalculSurTores::TxtDiamExtFerrite_Change};
+    Label      Label12             {this, "Label12",              {.Caption = "Epaisseur du tore en mm",  .at = {5520, ligne(4) + 30, 2520, 255}}};
+    TextBox    TxtEpFerrite        {this, "TxtEpFerrite",         {.at = {8100, ligne(4), 1320, 315}, .label = &Label12}, &CalculSurTores::TxtEpFerrite_Change};
+    Label      Label13             {this, "Label13",              {.Caption = "Nombre de spires",         .at = {5520, ligne(5.75) + 30, 2520, 255}}};
+    TextBox    TxtSpiresFerrite    {this, "TxtSpiresFerrite",     {.at = {8100, ligne(5.75), 1320, 315}, .label = &Label13}, &CalculSurTores::TxtSpiresFerrite_Change};
+    VScrollBar VScrollSpiresFerrite{this, "VScrollSpiresFerrite", {.Min = 32767, .Max = 0, .SmallChange = 1, .LargeChange = 10, .at = {9540, ligne(5.75) - 285, 255, 885}, .label = &Label13}, &CalculSurTores::VScrollSpiresFerrite_Change};
+    Label      Label14             {this, "Label14",              {.Caption = "Valeur d'inductance en H", .at = {5520, ligne(7.75) + 30, 2520, 255}}};
+    TextBox    TxtInductanceFerrite{this, "TxtInductanceFerrite", resultField({8100, ligne(7.75), 2040, 315}, &Label14)};
 
-    PictureBox Picture1            {this, "Picture1",             {.picture = "tore", .at = {11040, 225, 4050, 2850}}};
+    PictureBox Picture1            {this, "Picture1",             {.picture = "tore", .at = {10440, 240, 4140, 3105}}};
     // clang-format on
 
 private:
