@@ -79,32 +79,32 @@ def lc_serie(s: Sheet) -> None:
     s.wire((RIGHT, BOTTOM), (LEFT, BOTTOM))
 
 
-@picture("rlc-serie", 280, 180, "R, L et C en série, un courant commun")
+@picture("rlc-serie", 251, 172, "R, L et C en série, un courant commun")
 def sweep_serie(s: Sheet) -> None:
-    right = RIGHT + 20
-    source(s)
-    s.wire((LEFT, TOP), (78, TOP))
-    s.head((72, TOP), (1, 0))
-    s.text(66, TOP - 13, "I")
-    resistor(s, (78, TOP), (154, TOP), "R")
-    inductor(s, (154, TOP), (right, TOP), "L")
-    capacitor(s, (right, TOP), (right, BOTTOM), "C")
-    s.wire((right, BOTTOM), (LEFT, BOTTOM))
+    left, right, top, bottom = 30.0, 216.0, 40.0, 150.0
+    generator(s, (left, top), (left, bottom))
+    s.wire((left, top), (70, top))
+    s.head((64, top), (1, 0))
+    s.text(58, top - 15, "I")
+    resistor(s, (70, top), (140, top), "R")
+    inductor(s, (140, top), (right, top), "L")
+    capacitor(s, (right, top), (right, bottom), "C")
+    s.wire((right, bottom), (left, bottom))
 
 
-@picture("rlc-parallele", 280, 200, "R et L en série, C en parallèle, et leurs courants")
+@picture("rlc-parallele", 247, 183, "R et L en série, C en parallèle, et leurs courants")
 def sweep_parallele(s: Sheet) -> None:
-    top, bottom, coil, right = 28.0, 174.0, 136.0, RIGHT + 20
-    generator(s, (LEFT, top), (LEFT, bottom))
+    left, coil, right, top, bottom = 30.0, 122.0, 206.0, 20.0, 164.0
+    generator(s, (left, top), (left, bottom))
     for y in (top, bottom):
-        s.wire((LEFT, y), (right, y))
+        s.wire((left, y), (right, y))
     junction(s, (coil, top), (coil, bottom))
     for x, text in ((coil, "I1"), (right, "I2")):
         s.wire((x, top), (x, top + 32))
         s.head((x, top + 22), (0, 1))
         s.text(x + 10, top + 18, text, anchor="start")
-    resistor(s, (coil, top + 32), (coil, 116), "R")
-    inductor(s, (coil, 116), (coil, bottom), "L")
+    resistor(s, (coil, top + 32), (coil, 108), "R")
+    inductor(s, (coil, 108), (coil, bottom), "L")
     capacitor(s, (right, top + 32), (right, bottom), "C")
 
 
