@@ -6,9 +6,9 @@ from sheet import DIM, LETTER, THIN, Sheet, picture
 from symbols import capacitor, impedance, inductor, junction, terminal
 
 # The frame of the five matching networks.
-LEFT, RIGHT, TOP, BOTTOM = 34.0, 266.0, 66.0, 146.0
-FIRST, SECOND = 74.0, 226.0  # the two shunt branches of a Pi
-MIDST = 150.0
+LEFT, RIGHT, TOP, BOTTOM = 22.0, 246.0, 56.0, 130.0
+FIRST, SECOND = 56.0, 212.0  # the two shunt branches of a Pi
+MIDST = 134.0
 
 
 def network(s: Sheet, heading: str) -> None:
@@ -49,30 +49,30 @@ def tee(s: Sheet, heading: str, a: str, b: str, c: str, first) -> None:
     finish(s, MIDST)
 
 
-@picture("conv-pi", 300, 170, "Pi conventionnel")
+@picture("conv-pi", 268, 143, "Pi conventionnel")
 def conv_pi(s: Sheet) -> None:
     pi(s, "Conv Pi", "C1 = Xa", "L = Xb", "C2 = Xc", capacitor)
 
 
-@picture("unconv-pi", 300, 170, "Pi non conventionnel")
+@picture("unconv-pi", 268, 143, "Pi non conventionnel")
 def unconv_pi(s: Sheet) -> None:
     pi(s, "Unconv Pi", "C = Xa", "L1 = Xb", "L2 = Xc", inductor)
 
 
-@picture("conv-t", 300, 170, "T conventionnel")
+@picture("conv-t", 268, 143, "T conventionnel")
 def conv_t(s: Sheet) -> None:
     tee(s, "Conv T", "L1 = X1", "C = X2", "L2 = X3", inductor)
 
 
-@picture("unconv-t", 300, 170, "T non conventionnel")
+@picture("unconv-t", 268, 143, "T non conventionnel")
 def unconv_t(s: Sheet) -> None:
     tee(s, "Unconv T", "C1 = X1", "C2 = X2", "L2 = X3", capacitor)
 
 
-@picture("filtre-l", 300, 170, "Filtre en L")
+@picture("filtre-l", 268, 143, "Filtre en L")
 def filtre_l(s: Sheet) -> None:
     network(s, "Filtre en L")
-    x = 96.0
+    x = 84.0
     s.wire((LEFT, TOP), (x, TOP))
     capacitor(s, (x, TOP), (x, BOTTOM), "C = Xa")
     inductor(s, (x, TOP), (RIGHT, TOP), "L = Xb")
@@ -80,7 +80,7 @@ def filtre_l(s: Sheet) -> None:
 
 
 # The sections between a line and a load Z. The letters are labels of the panels.
-IN, OUT, HIGH, LOW = 26.0, 262.0, 50.0, 140.0
+IN, OUT, HIGH, LOW = 26.0, 262.0, 44.0, 134.0
 SHUNT = 172.0
 
 
@@ -91,7 +91,7 @@ def load(s: Sheet) -> None:
     terminal(s, (IN, HIGH), (IN, LOW))
 
 
-@picture("passe-bas", 300, 170, "Filtre passe-bas")
+@picture("passe-bas", 300, 148, "Filtre passe-bas")
 def passe_bas(s: Sheet) -> None:
     inductor(s, (IN, HIGH), (SHUNT, HIGH), "L", label="Label1", turns=5)
     s.wire((SHUNT, HIGH), (OUT, HIGH))
@@ -100,7 +100,7 @@ def passe_bas(s: Sheet) -> None:
     load(s)
 
 
-@picture("passe-haut", 300, 170, "Filtre passe-haut")
+@picture("passe-haut", 300, 148, "Filtre passe-haut")
 def passe_haut(s: Sheet) -> None:
     capacitor(s, (IN, HIGH), (SHUNT, HIGH), "C", label="Label5")
     s.wire((SHUNT, HIGH), (OUT, HIGH))
@@ -109,10 +109,10 @@ def passe_haut(s: Sheet) -> None:
     load(s)
 
 
-@picture("passe-bande", 300, 190, "Filtre passe-bande")
+@picture("passe-bande", 300, 172, "Filtre passe-bande")
 def passe_bande(s: Sheet) -> None:
     """Series arm L2 C2, tuned circuit L1 C1 across the line: the arms that the formulas size."""
-    low = LOW + 16
+    low = LOW + 24
     inductor(s, (IN, HIGH), (94, HIGH), "L2", label="Label10")
     capacitor(s, (94, HIGH), (150, HIGH), "C2", label="Label11")
     s.wire((150, HIGH), (OUT, HIGH))
@@ -128,7 +128,7 @@ def passe_bande(s: Sheet) -> None:
     terminal(s, (IN, HIGH), (IN, low))
 
 
-@picture("elimination-bande", 300, 190, "Filtre à élimination de bande")
+@picture("elimination-bande", 300, 172, "Filtre à élimination de bande")
 def elimination_bande(s: Sheet) -> None:
     """Tuned circuit L2 C2 in the line, series arm L1 C1 across it: the arms that the formulas size."""
     top, low = HIGH + 8, LOW + 24
@@ -139,26 +139,27 @@ def elimination_bande(s: Sheet) -> None:
         s.wire((x, top - 18), (x, top + 18))
     s.wire((IN, top), (66, top))
     s.wire((134, top), (OUT, top))
-    inductor(s, (SHUNT, top), (SHUNT, 112), "L1", label="Label1")
-    capacitor(s, (SHUNT, 112), (SHUNT, low), "C1", label="Label5")
+    inductor(s, (SHUNT, top), (SHUNT, 106), "L1", label="Label1")
+    capacitor(s, (SHUNT, 106), (SHUNT, low), "C1", label="Label5")
     junction(s, (66, top), (134, top), (SHUNT, top), (SHUNT, low))
     impedance(s, (OUT, top), (OUT, low), "Z", label="Label4")
     s.wire((IN, low), (OUT, low))
     terminal(s, (IN, top), (IN, low))
 
 
-@picture("double-pi", 420, 170, "Filtre en double Pi")
+@picture("double-pi", 558, 140, "Filtre en double Pi")
 def double_pi(s: Sheet) -> None:
-    """Two Pi in cascade, each drawn whole: C1 L1 C2, then C3 L2 C4."""
-    columns = (64.0, 184.0, 236.0, 356.0)
-    for x, letter, label, side in zip(columns, ("C1", "C2", "C3", "C4"), ("Label2", "Label3", "Label6", "Label12"),
-                                      (1, -1, 1, -1)):
-        capacitor(s, (x, HIGH), (x, LOW), letter, label=label, side=side)
-        junction(s, (x, HIGH), (x, LOW))
+    """Two Pi in cascade, each drawn whole: C1 L1 C2, then C3 L2 C4. Each part stands over or under its field."""
+    first, step, end = 66.0, 142.0, 548.0
+    columns = [first + i * step for i in range(4)]
+    low = 132.0
+    for x, letter, label in zip(columns, ("C1", "C2", "C3", "C4"), ("Label2", "Label3", "Label6", "Label12")):
+        capacitor(s, (x, HIGH), (x, low), letter, label=label)
+        junction(s, (x, HIGH), (x, low))
     inductor(s, (columns[0], HIGH), (columns[1], HIGH), "L1", label="Label4")
     inductor(s, (columns[2], HIGH), (columns[3], HIGH), "L2", label="Label5")
-    s.wire((IN, HIGH), (columns[0], HIGH))
+    s.wire((10, HIGH), (columns[0], HIGH))
     s.wire((columns[1], HIGH), (columns[2], HIGH))
-    s.wire((columns[3], HIGH), (394, HIGH))
-    s.wire((IN, LOW), (394, LOW))
-    terminal(s, (IN, HIGH), (IN, LOW), (394, HIGH), (394, LOW))
+    s.wire((columns[3], HIGH), (end, HIGH))
+    s.wire((10, low), (end, low))
+    terminal(s, (10, HIGH), (10, low), (end, HIGH), (end, low))

@@ -29,55 +29,55 @@ public:
     PictureBox ConvT   {this, "ConvT",    schema("conv-t")};
     PictureBox UnconvT {this, "UnconvT",  schema("unconv-t")};
     PictureBox Lnet    {this, "Lnet",     schema("filtre-l")};
-    Label      LblInfo {this, "LblInfo",  {.Caption = "Pas de solution", .at = {3060, 1215, 4020, 255}, .align = Align::Center, .Visible = false}};
+    Label      LblInfo {this, "LblInfo",  {.Caption = "Pas de solution", .at = {3060, 1215, 4080, 255}, .align = Align::Center, .Visible = false}};
 
     Label      LblQQ   {this, "LblQQ",   {.Caption = "Q", .at = {240, 2640, 1050, 255}}};
-    HScrollBar Qscroll {this, "Qscroll", {.Min = 10, .Max = 1000, .Value = 10, .LargeChange = 10, .at = {1320, 2640, 4020, 255}, .label = &LblQQ},
+    HScrollBar Qscroll {this, "Qscroll", {.Min = 10, .Max = 1000, .Value = 10, .LargeChange = 10, .at = {1320, 2640, 4440, 255}, .label = &LblQQ},
                         &FiltrePasseBasEnPi::Qscroll_Change};
-    Label      LblQ    {this, "LblQ",    {.Caption = "Q", .at = {5460, 2640, 240, 255}}};
-    TextBox    TxtQ    {this, "TxtQ",    resultField({5760, 2610, 1320, 315}, &LblQ)};
+    Label      LblQ    {this, "LblQ",    {.Caption = "Q", .at = {5880, 2640, 240, 255}}};
+    TextBox    TxtQ    {this, "TxtQ",    resultField({6180, 2610, 960, 315}, &LblQ)};
     Label      LblP    {this, "LblP",    {.Caption = "P désiré", .at = {240, 3000, 1050, 255}}};
-    HScrollBar Pscroll {this, "Pscroll", {.Min = 1, .Max = 17999, .Value = 100, .LargeChange = 100, .at = {1320, 3000, 4020, 255}, .label = &LblP},
+    HScrollBar Pscroll {this, "Pscroll", {.Min = 1, .Max = 17999, .Value = 100, .LargeChange = 100, .at = {1320, 3000, 4440, 255}, .label = &LblP},
                         &FiltrePasseBasEnPi::Pscroll_Change};
 
     Label      LblN    {this, "LblN",  {.Caption = "N", .at = {240, 3450, 900, 255}}};
-    TextBox    TxtN    {this, "TxtN",  resultField({1170, 3420, 2430, 315}, &LblN)};
+    TextBox    TxtN    {this, "TxtN",  resultField({1155, 3420, 2460, 315}, &LblN)};
     Label      LblT    {this, "LblT",  {.Caption = "T", .at = {3720, 3450, 900, 255}}};
-    TextBox    TxtT    {this, "TxtT",  resultField({4650, 3420, 2430, 315}, &LblT)};
+    TextBox    TxtT    {this, "TxtT",  resultField({4680, 3420, 2460, 315}, &LblT)};
     Label      LblPm   {this, "LblPm", {.Caption = "Pm", .at = {240, 3810, 900, 255}}};
-    TextBox    TxtPm   {this, "TxtPm", resultField({1170, 3780, 2430, 315}, &LblPm)};
+    TextBox    TxtPm   {this, "TxtPm", resultField({1155, 3780, 2460, 315}, &LblPm)};
     Label      LblQm   {this, "LblQm", {.Caption = "Qm", .at = {3720, 3810, 900, 255}}};
-    TextBox    TxtQm   {this, "TxtQm", resultField({4650, 3780, 2430, 315}, &LblQm)};
+    TextBox    TxtQm   {this, "TxtQm", resultField({4680, 3780, 2460, 315}, &LblQm)};
     Label      LblPc   {this, "LblPc", {.Caption = "P conv", .at = {240, 4170, 900, 255}}};
-    TextBox    TxtPc   {this, "TxtPc", resultField({1170, 4140, 2430, 315}, &LblPc)};
+    TextBox    TxtPc   {this, "TxtPc", resultField({1155, 4140, 2460, 315}, &LblPc)};
     Label      LblQc   {this, "LblQc", {.Caption = "Q conv", .at = {3720, 4170, 900, 255}}};
-    TextBox    TxtQc   {this, "TxtQc", resultField({4650, 4140, 2430, 315}, &LblQc)};
+    TextBox    TxtQc   {this, "TxtQc", resultField({4680, 4140, 2460, 315}, &LblQc)};
     Label      LblPu   {this, "LblPu", {.Caption = "P unconv", .at = {240, 4530, 900, 255}}};
-    TextBox    TxtPu   {this, "TxtPu", resultField({1170, 4500, 2430, 315}, &LblPu)};
+    TextBox    TxtPu   {this, "TxtPu", resultField({1155, 4500, 2460, 315}, &LblPu)};
     Label      LblQu   {this, "LblQu", {.Caption = "Q unconv", .at = {3720, 4530, 900, 255}}};
-    TextBox    TxtQu   {this, "TxtQu", resultField({4650, 4500, 2430, 315}, &LblQu)};
+    TextBox    TxtQu   {this, "TxtQu", resultField({4680, 4500, 2460, 315}, &LblQu)};
 
     // The reactances of the Pi and of the T share one place: only one of them is ever shown.
     Label      LblXa   {this, "LblXa", {.Caption = "Xa", .at = {240, 5040, 900, 255}}};
-    TextBox    TxtXa   {this, "TxtXa", resultField({1170, 5010, 2430, 315}, &LblXa)};
+    TextBox    TxtXa   {this, "TxtXa", resultField({1155, 5010, 2460, 315}, &LblXa)};
     Label      LblX1   {this, "LblX1", {.Caption = "X1", .at = {240, 5040, 900, 255}}};
-    TextBox    TxtX1   {this, "TxtX1", resultField({1170, 5010, 2430, 315}, &LblX1)};
+    TextBox    TxtX1   {this, "TxtX1", resultField({1155, 5010, 2460, 315}, &LblX1)};
     Label      LblC1   {this, "LblC1", {.Caption = "C1 pF", .at = {3720, 5040, 900, 255}}};
-    TextBox    TxtC1   {this, "TxtC1", resultField({4650, 5010, 2430, 315}, &LblC1)};
+    TextBox    TxtC1   {this, "TxtC1", resultField({4680, 5010, 2460, 315}, &LblC1)};
     Label      LblXb   {this, "LblXb", {.Caption = "Xb", .at = {240, 5400, 900, 255}}};
-    TextBox    TxtXb   {this, "TxtXb", resultField({1170, 5370, 2430, 315}, &LblXb)};
+    TextBox    TxtXb   {this, "TxtXb", resultField({1155, 5370, 2460, 315}, &LblXb)};
     Label      LblX2   {this, "LblX2", {.Caption = "X2", .at = {240, 5400, 900, 255}}};
-    TextBox    TxtX2   {this, "TxtX2", resultField({1170, 5370, 2430, 315}, &LblX2)};
+    TextBox    TxtX2   {this, "TxtX2", resultField({1155, 5370, 2460, 315}, &LblX2)};
     Label      LblL1   {this, "LblL1", {.Caption = "L1 µH", .at = {3720, 5400, 900, 255}}};
-    TextBox    TxtL1   {this, "TxtL1", resultField({4650, 5370, 2430, 315}, &LblL1)};
+    TextBox    TxtL1   {this, "TxtL1", resultField({4680, 5370, 2460, 315}, &LblL1)};
     Label      LblXc   {this, "LblXc", {.Caption = "Xc", .at = {240, 5760, 900, 255}}};
-    TextBox    TxtXc   {this, "TxtXc", resultField({1170, 5730, 2430, 315}, &LblXc)};
+    TextBox    TxtXc   {this, "TxtXc", resultField({1155, 5730, 2460, 315}, &LblXc)};
     Label      LblX3   {this, "LblX3", {.Caption = "X3", .at = {240, 5760, 900, 255}}};
-    TextBox    TxtX3   {this, "TxtX3", resultField({1170, 5730, 2430, 315}, &LblX3)};
+    TextBox    TxtX3   {this, "TxtX3", resultField({1155, 5730, 2460, 315}, &LblX3)};
     Label      LblC2   {this, "LblC2", {.Caption = "C2 pF", .at = {3720, 5760, 900, 255}}};
-    TextBox    TxtC2   {this, "TxtC2", resultField({4650, 5730, 2430, 315}, &LblC2)};
+    TextBox    TxtC2   {this, "TxtC2", resultField({4680, 5730, 2460, 315}, &LblC2)};
 
-    Label      Label23 {this, "Label23", {.at = {240, 6210, 6840, 255}}};
+    Label      Label23 {this, "Label23", {.at = {240, 6210, 6900, 255}}};
     // clang-format on
 
 private:

@@ -24,31 +24,31 @@ public:
         Box letterZ;
     };
 
-    static constexpr Box drawing{660, 180, 4500, 2850};
+    static constexpr Box drawing{675, 150, 4500, 2580};
 
     SectionBande(Desk& desk, std::string name, std::string caption, const Texts& texts)
         // clang-format off
-        : FeuilleCalcul{desk, {.name = std::move(name), .Caption = std::move(caption), .Width = 5970, .Height = 6450}},
+        : FeuilleCalcul{desk, {.name = std::move(name), .Caption = std::move(caption), .Width = 5970, .Height = 6150}},
           Schema    {this, "Schema",     {.picture = texts.picture, .at = drawing}},
           Label1    {this, "Label1",     {.Caption = "L1", .at = texts.letterL1, .align = Align::Center}},
           Label5    {this, "Label5",     {.Caption = "C1", .at = texts.letterC1, .align = Align::Center}},
           Label10   {this, "Label10",    {.Caption = "L2", .at = texts.letterL2, .align = Align::Center}},
           Label11   {this, "Label11",    {.Caption = "C2", .at = texts.letterC2, .align = Align::Center}},
           Label4    {this, "Label4",     {.Caption = "Z",  .at = texts.letterZ,  .align = Align::Center}},
-          Label6    {this, "Label6",     {.Caption = texts.captionF1, .at = {240, 3210, 3240, 255}}},
-          TxtFreq1  {this, "TxtFreq1",   {.at = {3540, 3180, 2040, 315}, .label = &Label6}, &SectionBande::TxtFreq1_Change},
-          Label2    {this, "Label2",     {.Caption = texts.captionF2, .at = {240, 3570, 3240, 255}}},
-          TxtFreq2  {this, "TxtFreq2",   {.at = {3540, 3540, 2040, 315}, .label = &Label2}, &SectionBande::TxtFreq2_Change},
-          Label7    {this, "Label7",     {.Caption = "Impédance de charge", .at = {240, 3930, 3240, 255}}},
-          TxtZCharge{this, "TxtZCharge", {.at = {3540, 3900, 2040, 315}, .label = &Label7}, &SectionBande::TxtZCharge_Change},
-          Label9    {this, "Label9",     {.Caption = "Self1 en Henry", .at = {240, 4410, 3240, 255}}},
-          TxtSelf1  {this, "TxtSelf1",   resultField({3540, 4380, 2040, 315}, &Label9, 0xFFFF80)},
-          Label8    {this, "Label8",     {.Caption = "Capacité1 en Farad", .at = {240, 4770, 3240, 255}}},
-          TxtCapa1  {this, "TxtCapa1",   resultField({3540, 4740, 2040, 315}, &Label8, 0xFFFF80)},
-          Label15   {this, "Label15",    {.Caption = "Self2 en Henry", .at = {240, 5130, 3240, 255}}},
-          TxtSelf2  {this, "TxtSelf2",   resultField({3540, 5100, 2040, 315}, &Label15, 0xFFFF80)},
-          Label14   {this, "Label14",    {.Caption = "Capacité2 en Farad", .at = {240, 5490, 3240, 255}}},
-          TxtCapa2  {this, "TxtCapa2",   resultField({3540, 5460, 2040, 315}, &Label14, 0xFFFF80)}
+          Label6    {this, "Label6",     {.Caption = texts.captionF1, .at = {240, 2910, 3240, 255}}},
+          TxtFreq1  {this, "TxtFreq1",   {.at = {3540, 2880, 1320, 315}, .label = &Label6}, &SectionBande::TxtFreq1_Change},
+          Label2    {this, "Label2",     {.Caption = texts.captionF2, .at = {240, 3270, 3240, 255}}},
+          TxtFreq2  {this, "TxtFreq2",   {.at = {3540, 3240, 1320, 315}, .label = &Label2}, &SectionBande::TxtFreq2_Change},
+          Label7    {this, "Label7",     {.Caption = "Impédance de charge", .at = {240, 3630, 3240, 255}}},
+          TxtZCharge{this, "TxtZCharge", {.at = {3540, 3600, 1320, 315}, .label = &Label7}, &SectionBande::TxtZCharge_Change},
+          Label9    {this, "Label9",     {.Caption = "Self1 en Henry", .at = {240, 4110, 3240, 255}}},
+          TxtSelf1  {this, "TxtSelf1",   resultField({3540, 4080, 2040, 315}, &Label9, 0xFFFF80)},
+          Label8    {this, "Label8",     {.Caption = "Capacité1 en Farad", .at = {240, 4470, 3240, 255}}},
+          TxtCapa1  {this, "TxtCapa1",   resultField({3540, 4440, 2040, 315}, &Label8, 0xFFFF80)},
+          Label15   {this, "Label15",    {.Caption = "Self2 en Henry", .at = {240, 4830, 3240, 255}}},
+          TxtSelf2  {this, "TxtSelf2",   resultField({3540, 4800, 2040, 315}, &Label15, 0xFFFF80)},
+          Label14   {this, "Label14",    {.Caption = "Capacité2 en Farad", .at = {240, 5190, 3240, 255}}},
+          TxtCapa2  {this, "TxtCapa2",   resultField({3540, 5160, 2040, 315}, &Label14, 0xFFFF80)}
     // clang-format on
     {
     }

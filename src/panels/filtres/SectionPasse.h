@@ -20,7 +20,7 @@ public:
         Box letterC;
     };
 
-    static constexpr Box drawing{960, 150, 3900, 2210};
+    static constexpr Box drawing{675, 150, 4500, 2220};
 
     SectionPasse(Desk& desk, std::string name, std::string caption, const Texts& texts)
         // clang-format off
@@ -28,13 +28,13 @@ public:
           Schema    {this, "Schema",     {.picture = texts.picture, .at = drawing}},
           Label1    {this, "Label1",     {.Caption = "L", .at = texts.letterL, .align = Align::Center}},
           Label5    {this, "Label5",     {.Caption = "C", .at = texts.letterC, .align = Align::Center}},
-          Label4    {this, "Label4",     {.Caption = "Z", .at = lettre(drawing, 0.934, 0.559), .align = Align::Center}},
+          Label4    {this, "Label4",     {.Caption = "Z", .at = lettre(drawing, 0.934, 0.601), .align = Align::Center}},
           Label2    {this, "Label2",     {.Caption = texts.formulaL, .at = {240, 2415, 2580, 255}}},
           Label3    {this, "Label3",     {.Caption = texts.formulaC, .at = {2880, 2415, 2700, 255}}},
           Label6    {this, "Label6",     {.Caption = "Fréquence de coupure en Hz", .at = {240, 2790, 3240, 255}}},
-          TxtFreq   {this, "TxtFreq",    {.at = {3540, 2760, 2040, 315}, .label = &Label6}, &SectionPasse::TxtFreq_Change},
+          TxtFreq   {this, "TxtFreq",    {.at = {3540, 2760, 1320, 315}, .label = &Label6}, &SectionPasse::TxtFreq_Change},
           Label7    {this, "Label7",     {.Caption = "Impédance de charge en Ohms", .at = {240, 3150, 3240, 255}}},
-          TxtZCharge{this, "TxtZCharge", {.at = {3540, 3120, 2040, 315}, .label = &Label7}, &SectionPasse::TxtZCharge_Change},
+          TxtZCharge{this, "TxtZCharge", {.at = {3540, 3120, 1320, 315}, .label = &Label7}, &SectionPasse::TxtZCharge_Change},
           Label9    {this, "Label9",     {.Caption = "Self en Henry", .at = {240, 3570, 3240, 255}}},
           TxtSelf   {this, "TxtSelf",    resultField({3540, 3540, 2040, 315}, &Label9, 0xFFFF80)},
           Label8    {this, "Label8",     {.Caption = "Capacité en Farad", .at = {240, 3930, 3240, 255}}},
