@@ -21,19 +21,19 @@ public:
                                            .at = {240, 240, 4440, 1740}}, &CircuitsOscillants::LstCalcul_Click};
 
     Label   LblFreq   {this, "LblFreq",   {.Caption = "Fréquence en ...", .at = {240, 2280, 1920, 255}}};
-    TextBox TxtFreq   {this, "TxtFreq",   {.at = {2220, 2250, 1380, 315}, .label = &LblFreq}, &CircuitsOscillants::TxtFreq_Change};
+    TextBox TxtFreq   {this, "TxtFreq",   {.at = {2280, 2250, 1320, 315}, .label = &LblFreq}, &CircuitsOscillants::TxtFreq_Change};
     ListBox LstFreq   {this, "LstFreq",   {.Items = {"GHz", "MHz", "KHz", "Hz"}, .at = {3720, 2220, 960, 1020}, .label = &LblFreq}, &CircuitsOscillants::LstFreq_Click};
 
     Label   LblRes    {this, "LblRes",    {.Caption = "Résitance en ...", .at = {240, 3420, 1920, 255}}};
-    TextBox TxtRes    {this, "TxtRes",    {.at = {2220, 3390, 1380, 315}, .label = &LblRes}, &CircuitsOscillants::TxtRes_Change};
+    TextBox TxtRes    {this, "TxtRes",    {.at = {2280, 3390, 1320, 315}, .label = &LblRes}, &CircuitsOscillants::TxtRes_Change};
     ListBox LstRes    {this, "LstRes",    {.Items = {"MOhms", "KOhms", "Ohms"}, .at = {3720, 3360, 960, 780}, .label = &LblRes}, &CircuitsOscillants::LstRes_Click};
 
     Label   LblInd    {this, "LblInd",    {.Caption = "Inductance en ...", .at = {240, 4320, 1920, 255}}};
-    TextBox TxtInd    {this, "TxtInd",    {.at = {2220, 4290, 1380, 315}, .label = &LblInd}, &CircuitsOscillants::TxtInd_Change};
+    TextBox TxtInd    {this, "TxtInd",    {.at = {2280, 4290, 1320, 315}, .label = &LblInd}, &CircuitsOscillants::TxtInd_Change};
     ListBox LstInd    {this, "LstInd",    {.Items = {"mH", "µH", "nH", "pH"}, .at = {3720, 4260, 960, 1020}, .label = &LblInd}, &CircuitsOscillants::LstInd_Click};
 
     Label   LblCapa   {this, "LblCapa",   {.Caption = "Capacite en ...", .at = {240, 5460, 1920, 255}}};
-    TextBox TxtCapa   {this, "TxtCapa",   {.at = {2220, 5430, 1380, 315}, .label = &LblCapa}, &CircuitsOscillants::TxtCapa_Change};
+    TextBox TxtCapa   {this, "TxtCapa",   {.at = {2280, 5430, 1320, 315}, .label = &LblCapa}, &CircuitsOscillants::TxtCapa_Change};
     ListBox LstCapa   {this, "LstCapa",   {.Items = {"µF", "nF", "pF"}, .at = {3720, 5400, 960, 780}, .label = &LblCapa}, &CircuitsOscillants::LstCapa_Click};
 
     ControlArray<Frame> frmCircuit{this, "frmCircuit", 7, &CircuitsOscillants::frmCircuitDesign};
