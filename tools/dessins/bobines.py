@@ -152,11 +152,11 @@ def epingle(s: Sheet) -> None:
     s.dimension((right - 40, top - 4.5), (right - 40, top + 4.5), "Ø", extend=False)
 
 
-@picture("autotransformateur", 240, 190, "Autotransformateur")
+@picture("autotransformateur", 240, 150, "Autotransformateur")
 def autotransformateur(s: Sheet) -> None:
     """One winding; Z1 sees a part of it, Z2 the whole."""
-    coil, top, tap, bottom, left, right = 120.0, 24.0, 59.0, 164.0, 34.0, 206.0
-    inductor(s, (coil, top), (coil, bottom), turns=13)
+    coil, top, tap, bottom, left, right = 120.0, 16.0, 46.0, 134.0, 34.0, 206.0
+    inductor(s, (coil, top), (coil, bottom), turns=11)
     s.wire((left, tap), (coil, tap))
     s.wire((coil, top), (right, top))
     s.wire((left, bottom), (right, bottom))

@@ -117,10 +117,10 @@ def lc(s: Sheet) -> None:
         s.wire((60, y), (140, y))
 
 
-@picture("thomson-icone", 64, 64, "Circuit oscillant")
+@picture("thomson-icone", 46, 46, "Circuit oscillant")
 def thomson_icone(s: Sheet) -> None:
     """The same circuit as a small sign, without letters."""
-    inductor(s, (16, 8), (16, 56), side=-1, turns=4)
-    capacitor(s, (46, 8), (46, 56))
-    for y in (8, 56):
-        s.wire((16, y), (46, y))
+    inductor(s, (12, 6), (12, 40), side=-1, turns=3)
+    capacitor(s, (34, 6), (34, 40))
+    for y in (6, 40):
+        s.wire((12, y), (34, y))

@@ -13,17 +13,17 @@ public:
     explicit FiltreEnDoublePi(Desk& desk);
 
     // clang-format off
-    Label   Label19{this, "Label19", {.Caption = "Entrer vos valeurs dans les champs sur fond vert", .at = {240, ligne(0) + 30, 3720, 510}}};
-    Label   Label8 {this, "Label8",  {.Caption = "Fréquence centrale", .at = {240, ligne(2.5) + 30, 1860, 255}}};
-    TextBox TxtF0  {this, "TxtF0",   {.at = {2160, ligne(2.5), 1320, 315}, .BackColor = entree, .label = &Label8}, &FiltreEnDoublePi::TxtF0_Change};
-    Label   Label10{this, "Label10", {.Caption = "MHz", .at = {3540, ligne(2.5) + 30, 540, 255}}};
-    Label   Label9 {this, "Label9",  {.Caption = "Bande passante", .at = {240, ligne(3.5) + 30, 1860, 255}}};
-    TextBox TxtBP  {this, "TxtBP",   {.at = {2160, ligne(3.5), 1320, 315}, .BackColor = entree, .label = &Label9}, &FiltreEnDoublePi::TxtBP_Change};
-    Label   Label11{this, "Label11", {.Caption = "MHz", .at = {3540, ligne(3.5) + 30, 540, 255}}};
-    Label   Label1 {this, "Label1",  {.Caption = "Z in en Ohms", .at = {240, ligne(4.5) + 30, 1860, 255}}};
-    TextBox TxtZin {this, "TxtZin",  {.at = {2160, ligne(4.5), 1320, 315}, .BackColor = entree, .label = &Label1}, &FiltreEnDoublePi::TxtZin_Change};
-    Label   Label7 {this, "Label7",  {.Caption = "Z out en Ohms", .at = {240, ligne(5.5) + 30, 1860, 255}}};
-    TextBox TxtZout{this, "TxtZout", {.at = {2160, ligne(5.5), 1320, 315}, .BackColor = entree, .label = &Label7}, &FiltreEnDoublePi::TxtZout_Change};
+    Label   Label19{this, "Label19", {.Caption = "Entrer vos valeurs dans les champs sur fond vert", .at = {240, ligne(0) + 30, 5040, 255}}};
+    Label   Label8 {this, "Label8",  {.Caption = "Fréquence centrale", .at = {240, ligne(2) + 30, 1860, 255}}};
+    TextBox TxtF0  {this, "TxtF0",   {.at = {2160, ligne(2), 1320, 315}, .BackColor = entree, .label = &Label8}, &FiltreEnDoublePi::TxtF0_Change};
+    Label   Label10{this, "Label10", {.Caption = "MHz", .at = {3540, ligne(2) + 30, 540, 255}}};
+    Label   Label9 {this, "Label9",  {.Caption = "Bande passante", .at = {240, ligne(3) + 30, 1860, 255}}};
+    TextBox TxtBP  {this, "TxtBP",   {.at = {2160, ligne(3), 1320, 315}, .BackColor = entree, .label = &Label9}, &FiltreEnDoublePi::TxtBP_Change};
+    Label   Label11{this, "Label11", {.Caption = "MHz", .at = {3540, ligne(3) + 30, 540, 255}}};
+    Label   Label1 {this, "Label1",  {.Caption = "Z in en Ohms", .at = {240, ligne(4) + 30, 1860, 255}}};
+    TextBox TxtZin {this, "TxtZin",  {.at = {2160, ligne(4), 1320, 315}, .BackColor = entree, .label = &Label1}, &FiltreEnDoublePi::TxtZin_Change};
+    Label   Label7 {this, "Label7",  {.Caption = "Z out en Ohms", .at = {240, ligne(5) + 30, 1860, 255}}};
+    TextBox TxtZout{this, "TxtZout", {.at = {2160, ligne(5), 1320, 315}, .BackColor = entree, .label = &Label7}, &FiltreEnDoublePi::TxtZout_Change};
 
     Image   Schema {this, "Schema",  {.picture = "double-pi", .at = drawing}};
     Label   Label2 {this, "Label2",  {.Caption = "C1", .at = lettre(drawing, 0.159, 0.629), .align = Align::Center}};

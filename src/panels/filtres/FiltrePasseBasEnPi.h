@@ -18,7 +18,7 @@ public:
     TextBox    TxtRin  {this, "TxtRin",  champ(600, &LblRin), &FiltrePasseBasEnPi::TxtRin_Change};
     Label      LblRout {this, "LblRout", {.Caption = "r sortie", .at = {240, 990, 900, 255}}};
     TextBox    TxtRout {this, "TxtRout", champ(960, &LblRout), &FiltrePasseBasEnPi::TxtRout_Change};
-    Label      Label21 {this, "Label21", {.Caption = "R > r", .at = {1140, 810, 600, 255}, .ForeColor = 0x0000FF, .align = Align::Center}};
+    Label      Label21 {this, "Label21", {.Caption = "R > r", .at = {1140, 990, 600, 255}, .ForeColor = 0x0000FF, .align = Align::Center}};
 
     Label      Label22 {this, "Label22", {.Caption = "Choix du type de filtre", .at = {240, 1410, 2640, 255}}};
     ListBox    LstType {this, "LstType", {.Items = {"Filtre en Pi", "Filtre en T", "Filtre en L"}, .at = {240, 1670, 2640, 780}, .label = &Label22},
@@ -41,41 +41,41 @@ public:
                         &FiltrePasseBasEnPi::Pscroll_Change};
 
     Label      LblN    {this, "LblN",  {.Caption = "N", .at = {240, 3450, 900, 255}}};
-    TextBox    TxtN    {this, "TxtN",  resultField({1155, 3420, 2460, 315}, &LblN)};
-    Label      LblT    {this, "LblT",  {.Caption = "T", .at = {3720, 3450, 900, 255}}};
-    TextBox    TxtT    {this, "TxtT",  resultField({4680, 3420, 2460, 315}, &LblT)};
+    TextBox    TxtN    {this, "TxtN",  resultField({1200, 3420, 2400, 315}, &LblN)};
+    Label      LblT    {this, "LblT",  {.Caption = "T", .at = {3780, 3450, 900, 255}}};
+    TextBox    TxtT    {this, "TxtT",  resultField({4740, 3420, 2400, 315}, &LblT)};
     Label      LblPm   {this, "LblPm", {.Caption = "Pm", .at = {240, 3810, 900, 255}}};
-    TextBox    TxtPm   {this, "TxtPm", resultField({1155, 3780, 2460, 315}, &LblPm)};
-    Label      LblQm   {this, "LblQm", {.Caption = "Qm", .at = {3720, 3810, 900, 255}}};
-    TextBox    TxtQm   {this, "TxtQm", resultField({4680, 3780, 2460, 315}, &LblQm)};
+    TextBox    TxtPm   {this, "TxtPm", resultField({1200, 3780, 2400, 315}, &LblPm)};
+    Label      LblQm   {this, "LblQm", {.Caption = "Qm", .at = {3780, 3810, 900, 255}}};
+    TextBox    TxtQm   {this, "TxtQm", resultField({4740, 3780, 2400, 315}, &LblQm)};
     Label      LblPc   {this, "LblPc", {.Caption = "P conv", .at = {240, 4170, 900, 255}}};
-    TextBox    TxtPc   {this, "TxtPc", resultField({1155, 4140, 2460, 315}, &LblPc)};
-    Label      LblQc   {this, "LblQc", {.Caption = "Q conv", .at = {3720, 4170, 900, 255}}};
-    TextBox    TxtQc   {this, "TxtQc", resultField({4680, 4140, 2460, 315}, &LblQc)};
+    TextBox    TxtPc   {this, "TxtPc", resultField({1200, 4140, 2400, 315}, &LblPc)};
+    Label      LblQc   {this, "LblQc", {.Caption = "Q conv", .at = {3780, 4170, 900, 255}}};
+    TextBox    TxtQc   {this, "TxtQc", resultField({4740, 4140, 2400, 315}, &LblQc)};
     Label      LblPu   {this, "LblPu", {.Caption = "P unconv", .at = {240, 4530, 900, 255}}};
-    TextBox    TxtPu   {this, "TxtPu", resultField({1155, 4500, 2460, 315}, &LblPu)};
-    Label      LblQu   {this, "LblQu", {.Caption = "Q unconv", .at = {3720, 4530, 900, 255}}};
-    TextBox    TxtQu   {this, "TxtQu", resultField({4680, 4500, 2460, 315}, &LblQu)};
+    TextBox    TxtPu   {this, "TxtPu", resultField({1200, 4500, 2400, 315}, &LblPu)};
+    Label      LblQu   {this, "LblQu", {.Caption = "Q unconv", .at = {3780, 4530, 900, 255}}};
+    TextBox    TxtQu   {this, "TxtQu", resultField({4740, 4500, 2400, 315}, &LblQu)};
 
     // The reactances of the Pi and of the T share one place: only one of them is ever shown.
     Label      LblXa   {this, "LblXa", {.Caption = "Xa", .at = {240, 5040, 900, 255}}};
-    TextBox    TxtXa   {this, "TxtXa", resultField({1155, 5010, 2460, 315}, &LblXa)};
+    TextBox    TxtXa   {this, "TxtXa", resultField({1200, 5010, 2400, 315}, &LblXa)};
     Label      LblX1   {this, "LblX1", {.Caption = "X1", .at = {240, 5040, 900, 255}}};
-    TextBox    TxtX1   {this, "TxtX1", resultField({1155, 5010, 2460, 315}, &LblX1)};
-    Label      LblC1   {this, "LblC1", {.Caption = "C1 pF", .at = {3720, 5040, 900, 255}}};
-    TextBox    TxtC1   {this, "TxtC1", resultField({4680, 5010, 2460, 315}, &LblC1)};
+    TextBox    TxtX1   {this, "TxtX1", resultField({1200, 5010, 2400, 315}, &LblX1)};
+    Label      LblC1   {this, "LblC1", {.Caption = "C1 pF", .at = {3780, 5040, 900, 255}}};
+    TextBox    TxtC1   {this, "TxtC1", resultField({4740, 5010, 2400, 315}, &LblC1)};
     Label      LblXb   {this, "LblXb", {.Caption = "Xb", .at = {240, 5400, 900, 255}}};
-    TextBox    TxtXb   {this, "TxtXb", resultField({1155, 5370, 2460, 315}, &LblXb)};
+    TextBox    TxtXb   {this, "TxtXb", resultField({1200, 5370, 2400, 315}, &LblXb)};
     Label      LblX2   {this, "LblX2", {.Caption = "X2", .at = {240, 5400, 900, 255}}};
-    TextBox    TxtX2   {this, "TxtX2", resultField({1155, 5370, 2460, 315}, &LblX2)};
-    Label      LblL1   {this, "LblL1", {.Caption = "L1 µH", .at = {3720, 5400, 900, 255}}};
-    TextBox    TxtL1   {this, "TxtL1", resultField({4680, 5370, 2460, 315}, &LblL1)};
+    TextBox    TxtX2   {this, "TxtX2", resultField({1200, 5370, 2400, 315}, &LblX2)};
+    Label      LblL1   {this, "LblL1", {.Caption = "L1 µH", .at = {3780, 5400, 900, 255}}};
+    TextBox    TxtL1   {this, "TxtL1", resultField({4740, 5370, 2400, 315}, &LblL1)};
     Label      LblXc   {this, "LblXc", {.Caption = "Xc", .at = {240, 5760, 900, 255}}};
-    TextBox    TxtXc   {this, "TxtXc", resultField({1155, 5730, 2460, 315}, &LblXc)};
+    TextBox    TxtXc   {this, "TxtXc", resultField({1200, 5730, 2400, 315}, &LblXc)};
     Label      LblX3   {this, "LblX3", {.Caption = "X3", .at = {240, 5760, 900, 255}}};
-    TextBox    TxtX3   {this, "TxtX3", resultField({1155, 5730, 2460, 315}, &LblX3)};
-    Label      LblC2   {this, "LblC2", {.Caption = "C2 pF", .at = {3720, 5760, 900, 255}}};
-    TextBox    TxtC2   {this, "TxtC2", resultField({4680, 5730, 2460, 315}, &LblC2)};
+    TextBox    TxtX3   {this, "TxtX3", resultField({1200, 5730, 2400, 315}, &LblX3)};
+    Label      LblC2   {this, "LblC2", {.Caption = "C2 pF", .at = {3780, 5760, 900, 255}}};
+    TextBox    TxtC2   {this, "TxtC2", resultField({4740, 5730, 2400, 315}, &LblC2)};
 
     Label      Label23 {this, "Label23", {.at = {240, 6210, 6900, 255}}};
     // clang-format on

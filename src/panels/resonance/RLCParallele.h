@@ -35,10 +35,10 @@ public:
     Label      Label14   {this, "Label14",    {.Caption = "Déphasage", .at = {240, ligne(11) + 30, 2100, 255}}};
     TextBox    TxtPhi    {this, "TxtPhi",     resultField({2400, ligne(11), 1650, 315}, &Label14)};
 
-    Label      Label20   {this, "Label20",    {.Caption = "I1 = ", .at = {240, ligne(12.5) + 30, 600, 255}}};
-    Label      Label13   {this, "Label13",    {.at = {900, ligne(12.5) + 30, 3150, 255}}};
-    Label      Label21   {this, "Label21",    {.Caption = "I2 = ", .at = {240, ligne(13.5) + 30, 600, 255}}};
-    Label      Label16   {this, "Label16",    {.at = {900, ligne(13.5) + 30, 3150, 255}}};
+    Label      Label20   {this, "Label20",    {.Caption = "I1 = ", .at = {240, ligne(12) + 30, 600, 255}}};
+    Label      Label13   {this, "Label13",    {.at = {900, ligne(12) + 30, 3150, 255}}};
+    Label      Label21   {this, "Label21",    {.Caption = "I2 = ", .at = {240, ligne(13) + 30, 600, 255}}};
+    Label      Label16   {this, "Label16",    {.at = {900, ligne(13) + 30, 3150, 255}}};
 
     Image      Schema    {this, "Schema",     {.picture = "rlc-parallele", .at = {4260, 120, 3705, 2745}}};
 
