@@ -45,8 +45,8 @@ public:
     // The diagram. Lines may lie on one another: the later ones are the thinner.
     Label      LblIc     {this, "LblIc",      {.Caption = "Ic en avance sur U", .at = {4260, 3000, 3705, 255}}};
     Shape      Cadre     {this, "Cadre",      {.at = {4260, 3300, 3705, 3420}}};
-    Line       Line1     {this, "Line1",      {.X1 = 4560, .Y1 = 5010, .X2 = 7485, .Y2 = 5010, .BorderColor = axe}};
-    Label      LblU      {this, "LblU",       {.Caption = "U", .at = {7560, 4882, 285, 255}}};
+    Line       Line1     {this, "Line1",      {.X1 = 4560, .Y1 = 5010, .X2 = 7845, .Y2 = 5010, .BorderColor = axe}};
+    Label      LblU      {this, "LblU",       {.Caption = "U", .at = {7605, 5055, 285, 255}}};
     Line       LXl       {this, "LXl",        {.BorderColor = bleu, .BorderWidth = 7, .within = &Cadre}};
     Line       LR        {this, "LR",         {.BorderColor = ocre, .BorderWidth = 5, .within = &Cadre}};
     Line       LXc       {this, "LXc",        {.BorderColor = vert, .BorderWidth = 4, .within = &Cadre}};
