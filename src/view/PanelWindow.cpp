@@ -148,6 +148,7 @@ void PanelWindow::makeWidgets()
         follow(*control);
 
     auto* const mark = new FocusFrame{form};
+    mark->hide(); // a panel of texts has nothing to mark
     connect(qApp, &QApplication::focusChanged, mark, [this, mark](QWidget* /*before*/, QWidget* now) {
         mark->setWidget(controlOf(now) == nullptr ? nullptr : now);
     });

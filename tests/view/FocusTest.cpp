@@ -1,3 +1,4 @@
+#include <QFocusFrame>
 #include <QImage>
 #include <QtMath>
 #include <algorithm>
@@ -5,6 +6,7 @@
 #include "Program.h"
 #include "TestPanel.h"
 #include "panels/resonance/FormuleDeThomson.h"
+#include "shell/Apropos.h"
 
 namespace ondelis {
 namespace {
@@ -100,6 +102,13 @@ private slots:
         const auto& panel = program.desk.get<FormuleDeThomson>();
         for (const OptionButton* option : {&panel.OptF, &panel.OptL})
             QVERIFY(mark(program, *option, panel.TxtSelf) > 1);
+    }
+
+    void nothingIsMarkedOnAPanelOfTexts()
+    {
+        Program program;
+        program.pick("MenuLogiciel");
+        QVERIFY(!program.window(program.desk.get<Apropos>()).form().findChild<QFocusFrame*>()->isVisible());
     }
 
     void theMarkGoesWithItsControl()
