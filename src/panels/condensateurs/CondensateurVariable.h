@@ -15,9 +15,9 @@ public:
     explicit CondensateurVariable(Desk& desk);
 
     // clang-format off
-    OptionButton OptClassique {this, "OptClassique",  {.Caption = "Cv classique", .at = {240, 240, 3360, 300}}, &CondensateurVariable::OptClassique_Click};
-    OptionButton OptPapSer    {this, "OptPapSer",     {.Caption = "Cv papillon série", .at = {240, 600, 3360, 300}}, &CondensateurVariable::OptPapSer_Click};
-    OptionButton OptPapPar    {this, "OptPapPar",     {.Caption = "CV papillon parallèle", .at = {240, 960, 3360, 300}}, &CondensateurVariable::OptPapPar_Click};
+    OptionButton OptClassique {this, "OptClassique",  {.Caption = "Cv classique", .at = {240, 240, 2640, 300}}, &CondensateurVariable::OptClassique_Click};
+    OptionButton OptPapSer    {this, "OptPapSer",     {.Caption = "Cv papillon série", .at = {240, 600, 2640, 300}}, &CondensateurVariable::OptPapSer_Click};
+    OptionButton OptPapPar    {this, "OptPapPar",     {.Caption = "CV papillon parallèle", .at = {240, 960, 2640, 300}}, &CondensateurVariable::OptPapPar_Click};
 
     Label        LblMobiles   {this, "LblMobiles",    {.Caption = "Lames mobiles", .at = {240, 1470, 2040, 255}}};
     TextBox      TxtMobiles   {this, "TxtMobiles",    {.at = {2340, 1440, 1260, 315}, .label = &LblMobiles}, &CondensateurVariable::TxtMobiles_Change};
