@@ -8,6 +8,7 @@ the same picture: no style sheets, markers, masks or clip paths.
 from __future__ import annotations
 
 import math
+from collections import Counter
 from dataclasses import dataclass
 from typing import Callable
 from xml.sax.saxutils import escape
@@ -107,12 +108,41 @@ def polar(centre: Point, radius: float, degrees: float) -> Point:
     return (centre[0] + radius * math.cos(a), centre[1] - radius * math.sin(a))
 
 
+def place(point: Point) -> tuple[str, str]:
+    """A point as it is written, which is what tells whether two lines meet."""
+    return (number(point[0]), number(point[1]))
+
+
+def line_data(points: list[Point]) -> str:
+    """The data of a path through the points."""
+    return "M" + " L".join(" ".join(place(point)) for point in points)
+
+
+def join(lines: list[list[Point]]) -> None:
+    """Makes one line of two that alone end at one point; the later one is left empty.
+
+    Two round ends on one another would show as a speck, where half covered pixels are painted twice.
+    """
+    ends = Counter(place(end) for line in lines for end in (line[0], line[-1]))
+    for i, line in enumerate(lines):
+        j = i + 1
+        while line and j < len(lines):
+            other = lines[j]
+            for a, b in ((line, other), (line, other[::-1]), (line[::-1], other), (line[::-1], other[::-1])):
+                if b and place(a[-1]) == place(b[0]) and ends[place(b[0])] == 2:
+                    line[:] = a + b[1:]
+                    other.clear()
+                    j = i  # the longer line may meet one that came before
+                    break
+            j += 1
+
+
 class Sheet:
     """One picture while it is drawn."""
 
     def __init__(self, name: str, width: int, height: int, title: str) -> None:
         self.name, self.width, self.height, self.title = name, width, height, title
-        self.items: list[str] = []
+        self.items: list[str | list[Point]] = []  # a plain line is its points until the end
         self.rooms: list[Room] = []
 
     # Shapes.
@@ -137,12 +167,15 @@ class Sheet:
         self.items.append(f"<path {' '.join(attributes)}/>")
 
     def wire(self, *points: Point, **look) -> None:
-        """A line through the points."""
-        self.path("M" + " L".join(f"{number(x)} {number(y)}" for x, y in points), **look)
+        """A line through the points; plain ones that meet two by two become one."""
+        if look:
+            self.path(line_data(list(points)), **look)
+        else:
+            self.items.append(list(points))
 
     def polygon(self, *points: Point, **look) -> None:
         """A closed line through the points."""
-        self.path("M" + " L".join(f"{number(x)} {number(y)}" for x, y in points) + " Z", **look)
+        self.path(line_data(list(points)) + " Z", **look)
 
     def rect(self, x: float, y: float, across: float, down: float, **look) -> None:
         """A rectangle by its upper left corner and its size."""
@@ -230,9 +263,12 @@ class Sheet:
 
     def svg(self) -> str:
         """The picture as an SVG document."""
-        body = "\n".join(self.items)
+        lines = [item for item in self.items if isinstance(item, list)]
+        join(lines)
+        body = "\n".join(item if isinstance(item, str) else f'<path d="{line_data(item)}"/>'
+                         for item in self.items if item)
         return (f'<svg xmlns="http://www.w3.org/2000/svg" version="1.2" baseProfile="tiny"'
                 f' width="{self.width}" height="{self.height}" viewBox="0 0 {self.width} {self.height}">\n'
                 f"<title>{escape(self.title)}</title>\n"
                 f'<g fill="none" stroke="{INK}" stroke-width="{MAIN}" stroke-linecap="round"'
-                f' stroke-linejoin="round" font-family="DejaVu Sans, sans-serif">\n{body}\n</g>\n</svg>\n')
+                f' stroke-linejoin="round" font-family="DejaVu Sans">\n{body}\n</g>\n</svg>\n')
