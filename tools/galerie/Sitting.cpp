@@ -28,6 +28,15 @@ Sitting::Sitting()
     settle();
 }
 
+Sitting::~Sitting()
+{
+    view_.act([this](User&) {
+        while (!desk_.loadedPanels().empty())
+            desk_.Unload(*desk_.loadedPanels().front());
+    });
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete); // no event loop comes to it
+}
+
 void Sitting::play(std::string_view line)
 {
     pilote::Words words{line};

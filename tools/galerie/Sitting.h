@@ -23,6 +23,10 @@ public:
 class Sitting {
 public:
     Sitting();
+    /// Closes all panels, so that no window of this program outlives it.
+    ~Sitting();
+    Sitting(const Sitting&) = delete;
+    Sitting& operator=(const Sitting&) = delete;
 
     /// Carries out one line in the driver's language: a gesture, or the answer to the next box that asks one. Throws
     /// Refused where a person could not do it or it ends the program, and Malformed.

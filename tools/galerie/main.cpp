@@ -76,7 +76,10 @@ bool drawEach(std::span<const Look> some, const std::vector<Subject>& subjects, 
     bool good = true;
     for (const pid_t process : processes) {
         int status = 1;
-        good = waitpid(process, &status, 0) == process && WIFEXITED(status) && WEXITSTATUS(status) == 0 && good;
+        waitpid(process, &status, 0);
+        if (WIFSIGNALED(status))
+            std::cerr << "galerie: ended by signal " << WTERMSIG(status) << '\n';
+        good = status == 0 && good;
     }
     return good;
 }
