@@ -8,7 +8,7 @@
 namespace ondelis {
 namespace {
 
-/// The mean colour of the picture, which stands for it for a moment at the start.
+/// The mean colour of the picture, which stands for it for a moment at the start, and where it cannot be read.
 constexpr QRgb dusk = 0xFF3D4A5D;
 
 constexpr std::chrono::milliseconds idleTime{500};
@@ -29,13 +29,15 @@ void ClientArea::paintEvent(QPaintEvent* event)
 {
     QPainter painter{viewport()};
     painter.setClipRegion(event->region());
-    if (!std::exchange(onScreen_, true)) { // the window comes on screen first, then the picture is decoded
-        painter.fillRect(viewport()->rect(), QColor{dusk});
+    const bool first = !std::exchange(onScreen_, true);
+    if (first) // the window comes on screen, then the picture is decoded
         QTimer::singleShot(0, viewport(), qOverload<>(&QWidget::update));
+    const QImage image = first ? QImage{} : picture();
+    if (image.isNull()) {
+        painter.fillRect(viewport()->rect(), QColor{dusk});
         return;
     }
     // The picture covers the area, its middle in the middle; what is too much of it is cut at both ends.
-    const QImage& image = picture();
     QRect target{{}, image.size().scaled(viewport()->size(), Qt::KeepAspectRatioByExpanding)};
     target.moveCenter(viewport()->rect().center());
     painter.setRenderHint(QPainter::SmoothPixmapTransform);
@@ -50,8 +52,8 @@ void ClientArea::scrollContentsBy(int dx, int dy)
 
 const QImage& ClientArea::picture()
 {
-    if (picture_.isNull())
-        picture_.load(QStringLiteral(":/fond.jpg"));
+    if (picture_.isNull() && readable_)
+        readable_ = picture_.load(QStringLiteral(":/fond.jpg"));
     idle_.start();
     return picture_;
 }

@@ -16,12 +16,13 @@ protected:
     void scrollContentsBy(int dx, int dy) override;
 
 private:
-    /// The picture, decoded where it is not at hand.
+    /// The picture, decoded where it is not at hand; null where the toolkit cannot read it.
     const QImage& picture();
 
     QImage picture_;
     QTimer idle_; ///< lets the picture go when nothing has been painted for a while: decoded, it is large
     bool onScreen_ = false;
+    bool readable_ = true; ///< as far as it has been tried
 };
 
 } // namespace ondelis
