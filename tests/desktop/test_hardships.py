@@ -1,0 +1,100 @@
+"""What goes wrong around the program: it lives on, or it ends at once and says why."""
+
+from __future__ import annotations
+
+import signal
+import tempfile
+import unittest
+from pathlib import Path
+
+from case import DesktopCase
+from desktop import until, without_plugins
+from person import Atspi, Role
+
+DUSK = "3D4A5D"  # the colour that stands for the picture of the client area
+
+
+class Hardships(DesktopCase):
+    """The program lives on."""
+
+    def open_section(self) -> None:
+        self.person.pick_by_key("Rubiques en vrac", "Section vers diamètre")
+        self.works()
+
+    def works(self) -> None:
+        for section, diameter in [("12", "3"), ("1", "1")]:
+            self.person.write("Section du fil", section)
+            until(lambda: self.person.reads("Diametre du fil").startswith(diameter), f"a diameter of {diameter}")
+
+    def test_locale_that_does_not_exist(self) -> None:
+        self.start(LC_ALL="xx_YY.UTF-8")
+        self.open_section()
+        self.assertEqual(self.person.reads("Diametre du fil"), "1.12")
+
+    def test_no_plugin_for_any_picture(self) -> None:
+        folder = Path(self.enterContext(tempfile.TemporaryDirectory()))
+        self.start(without_plugins(folder, "imageformats", "iconengines"))
+        self.person.pick("Antennes", "HB9CV HF")
+        panel = self.person.find(Role.FRAME, "HB9CV pour bandes HF")
+        place = Atspi.Component.get_extents(panel, Atspi.CoordType.SCREEN)
+        self.assertNotEqual(self.desktop.color(place.x + 20, place.y + 40), DUSK)
+        self.open_section()
+        until(lambda: self.desktop.color(place.x + 20, place.y + 40) == DUSK, "a plain area where the panel was")
+        self.person.pick("Fin de travail", "Quitter")
+        self.ends(0)
+
+    def test_small_screen(self) -> None:
+        self.start(size="800x600")  # the menu bar stands above its upper edge
+        self.open_section()
+        self.person.pick_by_key("Fin de travail", "Quitter")
+        self.ends(0)
+
+    def test_screen_unplugged(self) -> None:
+        self.start()
+        self.open_section()
+        self.desktop.plug(False)
+        self.works()
+        self.desktop.plug(True)
+        self.open_section()
+        self.person.pick("Fin de travail", "Quitter")
+        self.ends(0)
+
+
+class Ends(DesktopCase):
+    """The program ends."""
+
+    def search_traps(self) -> None:
+        self.person.pick("Antennes", "Trappes en coaxial")
+        self.person.write("Frequence de resonance MHz", "0.1")
+        before = self.person.reads("Reatance inductive")
+        self.person.click(self.person.find(Role.PUSH_BUTTON, "Calculer"))
+        until(lambda: self.person.reads("Reatance inductive") != before, "a search")
+
+    def open_box(self) -> None:
+        self.person.pick("Filtres", "Filtre en Pi f(Ze, Zs, Q)")
+        self.person.box("Filtre en Pi")
+
+    def open_fault(self) -> None:
+        self.person.pick("Rubiques en vrac", "Section vers diamètre")
+        self.person.write("Section du fil", "-1")
+        self.person.box("Ondelis")
+
+    def test_display_dies(self) -> None:
+        for meanwhile in [lambda: None, lambda: self.person.press("F10", "Down"), self.open_box, self.open_fault,
+                          self.search_traps]:
+            with self.subTest(meanwhile.__name__):
+                self.start()
+                meanwhile()
+                self.desktop.break_down()
+                self.assertEqual(self.program.exit_status(), 1)
+                self.assertIn("X11 connection broke", self.program.complaints())
+
+    def test_terminated_while_a_box_waits(self) -> None:
+        self.start()
+        self.open_box()
+        self.program.terminate()
+        self.ends(-signal.SIGTERM)
+
+
+if __name__ == "__main__":
+    unittest.main()
