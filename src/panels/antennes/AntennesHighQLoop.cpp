@@ -1,5 +1,7 @@
 #include "panels/antennes/AntennesHighQLoop.h"
 
+#include <tuple>
+
 #include "kit/Conversions.h"
 #include "kit/Maths.h"
 #include "panels/antennes/CalculsFminFmax.h"
@@ -98,9 +100,14 @@ void AntennesHighQLoop::BtnCalculer_Click()
 
     // What the loop does at the centre is shown nowhere, but it can end the program before the edges are reached.
     const Fonctionnement centre{*this, FreqMoy, DeltaFMoy};
-    for (const auto grandeur : {&Fonctionnement::Q, &Fonctionnement::XL, &Fonctionnement::RR, &Fonctionnement::RL,
-             &Fonctionnement::Vc, &Fonctionnement::IL, &Fonctionnement::Efficacite, &Fonctionnement::Cf})
-        static_cast<void>((centre.*grandeur)());
+    std::ignore = centre.Q();
+    std::ignore = centre.XL();
+    std::ignore = centre.RR();
+    std::ignore = centre.RL();
+    std::ignore = centre.Vc();
+    std::ignore = centre.IL();
+    std::ignore = centre.Efficacite();
+    std::ignore = centre.Cf();
 
     CalculsFminFmax(*this);
 }
