@@ -2,7 +2,7 @@
 
 from __future__ import annotations
 
-from sheet import COPPER, DIELECTRIC, DIM, METAL, PALE, THIN, TUBE, WORD, Sheet, picture, polar
+from sheet import COPPER, DIELECTRIC, DIM, METAL, PALE, THIN, TUBE, WORD, Sheet, number, picture, polar
 from symbols import bar, cable, capacitor, inductor, junction
 
 
@@ -43,10 +43,10 @@ def lpda_structure(s: Sheet) -> None:
         junction(s, (x, axis - half_gap), (x, axis + half_gap))
 
 
-@picture("high-q-loop", 280, 262, "Boucle accordée à grand coefficient de qualité")
+@picture("high-q-loop", 312, 271, "Boucle accordée à grand coefficient de qualité")
 def high_q_loop(s: Sheet) -> None:
     """A polygon of thick tube, tuned by a capacitor, with its coupling loop opposite."""
-    centre, radius = (128.0, 132.0), 96.0
+    centre, radius = (150.0, 138.0), 104.0
     corners = [polar(centre, radius, 67.5 - 45 * i) for i in range(8)]
     (right, top), left = corners[0], corners[-1][0]
     middle = (left + right) / 2
@@ -56,8 +56,8 @@ def high_q_loop(s: Sheet) -> None:
     s.dimension(centre, corners[1], "Rayon")
     s.dimension(corners[2], corners[3], "Côté", 20)
     floor = corners[4][1]
-    s.path(f"M{middle - 4} {floor - 12} A19 19 0 1 1 {middle + 4} {floor - 12}")
-    cable(s, (middle, floor - 14), (middle, 256))
+    s.path(f"M{number(middle - 4)} {number(floor - 12)} A21 21 0 1 1 {number(middle + 4)} {number(floor - 12)}")
+    cable(s, (middle, floor - 14), (middle, 264))
 
 
 def earth_line(s: Sheet, y: float, x1: float, x2: float) -> None:

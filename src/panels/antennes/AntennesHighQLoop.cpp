@@ -11,7 +11,7 @@ namespace ondelis {
 
 AntennesHighQLoop::AntennesHighQLoop(Desk& desk)
     : FeuilleCalcul{
-        desk, {.name = "AntennesHighQLoop", .Caption = "Calcul des High Q Loop", .Width = 13590, .Height = 7740}}
+        desk, {.name = "AntennesHighQLoop", .Caption = "Calcul des High Q Loop", .Width = 13950, .Height = 7740}}
 {
 }
 
