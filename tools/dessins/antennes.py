@@ -6,41 +6,46 @@ from sheet import COPPER, DIELECTRIC, DIM, METAL, PALE, THIN, TUBE, WORD, Sheet,
 from symbols import bar, cable, capacitor, inductor, junction
 
 
-@picture("lpda-structure", 340, 270, "Structure de l'antenne log-périodique")
+@picture("lpda-structure", 356, 306, "Structure de l'antenne log-périodique")
 def lpda_structure(s: Sheet) -> None:
-    """Elements of falling length on two booms; the feed crosses between successive elements."""
-    axis, half_gap = 132.0, 9.0
-    x, reach, step = 76.0, 100.0, 42.0
+    """Elements of falling length on two booms; the feed between them crosses from element to element."""
+    axis, feed, boom = 146.0, 9.0, 25.0
+    x, tip, step = 96.0, 122.0, 46.0
     places = []
     for _ in range(6):
-        places.append((x, reach))
-        x, reach, step = x + step, reach * 0.85, step * 0.85
+        places.append((x, tip))
+        x, tip, step = x + step, tip * 0.85, step * 0.85
+    (first, long), (last, short) = places[0], places[-1]
     # The tips lie on two straight lines that meet beyond the shortest element.
-    (x0, y0), (x1, y1) = places[0], places[-1]
-    slope = (y0 - y1) / (x1 - x0)
+    slope = (long - short) / (last - first)
     for side in (-1, 1):
-        s.wire((x0 - 10, axis + side * (y0 + half_gap + 10 * slope)),
-               (x1 + 14, axis + side * (y1 + half_gap - 14 * slope)), stroke=DIM, width=THIN, dash="5 4")
-    for x, reach in places:
+        s.wire((first - 10, axis + side * (long + 10 * slope)), (last + 14, axis + side * (short - 14 * slope)),
+               stroke=DIM, width=THIN, dash="5 4")
+        s.rect(first - 16, axis + side * boom - 3.5, last - first + 32, 7, width=1.3, fill=METAL)
+    # Each half element stands on its boom in an insulator and reaches to the feed.
+    for x, tip in places:
         for side in (-1, 1):
-            s.wire((x, axis + side * half_gap), (x, axis + side * (half_gap + reach)), stroke=COPPER, width=TUBE,
-                   cap="butt")
-    # Each span of the feed runs straight, crosses in its middle, and runs straight again.
+            s.rect(x - 5.5, axis + side * boom - 6.5, 11, 13, width=1.2, fill=DIELECTRIC)
+            s.wire((x, axis + side * feed), (x, axis + side * tip), stroke=COPPER, width=TUBE, cap="butt")
     for (xa, _), (xb, _) in zip(places, places[1:]):
-        middle = (xa + xb) / 2
+        middle, reach = (xa + xb) / 2, 0.3 * (xb - xa)
         for side in (-1, 1):
-            s.wire((xa, axis + side * half_gap), (middle - 7, axis + side * half_gap),
-                   (middle + 7, axis - side * half_gap), (xb, axis - side * half_gap))
-    first, last = places[0][0], places[-1][0]
-    s.wire((first, axis - half_gap), (22, axis - half_gap), (22, axis + half_gap), (first, axis + half_gap))
-    s.room("", "Stub Zt", 40, axis + half_gap + 18)
-    s.rect(last + 22, axis - 17, 38, 34, fill=PALE)
+            s.wire((xa, axis + side * feed), (middle - reach, axis + side * feed),
+                   (middle + reach, axis - side * feed), (xb, axis - side * feed))
+    s.wire((first, axis - feed), (30, axis - feed), (30, axis + feed), (first, axis + feed))
+    s.room("", "Stub Zt", 46, axis + feed + 18)
+    s.rect(last + 24, axis - 18, 40, 36, fill=PALE)
     for side in (-1, 1):
-        s.wire((last, axis + side * half_gap), (last + 22, axis + side * half_gap))
-    s.room("", "Balun", last + 41, axis + 31)
-    cable(s, (last + 60, axis), (s.width - 6, axis))
+        s.wire((last, axis + side * feed), (last + 24, axis + side * feed))
+    s.room("", "Balun", last + 44, axis + 32)
+    cable(s, (last + 64, axis), (s.width - 4, axis))
     for x, _ in places:
-        junction(s, (x, axis - half_gap), (x, axis + half_gap))
+        junction(s, (x, axis - feed), (x, axis + feed))
+    # The extension lines reach up to the tips, which lie at different heights.
+    foot = axis + long + 20
+    for x, tip in (places[0], places[-1]):
+        s.wire((x, axis + tip + 3), (x, foot + 3), stroke=DIM, width=THIN)
+    s.dimension((first, foot), (last, foot), "Longueur du boom")
 
 
 @picture("high-q-loop", 312, 271, "Boucle accordée à grand coefficient de qualité")

@@ -10,8 +10,8 @@ AntennesLPDA1::AntennesLPDA1(Desk& desk)
     : FeuilleCalcul{desk,
         {.name = "AntennesLPDA1",
             .Caption = "Eléments de base pour le calcul de la LPDA",
-            .Width = 14850,
-            .Height = 8085}}
+            .Width = 15240,
+            .Height = 8145}}
 {
 }
 
