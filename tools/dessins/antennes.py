@@ -2,7 +2,7 @@
 
 from __future__ import annotations
 
-from sheet import COPPER, DIELECTRIC, DIM, METAL, PALE, THIN, TUBE, WORD, Sheet, number, picture, polar
+from sheet import COPPER, DIELECTRIC, DIM, INK, JACKET, METAL, PALE, THIN, TUBE, WORD, Sheet, number, picture, polar
 from symbols import bar, cable, capacitor, inductor, junction
 
 
@@ -110,28 +110,28 @@ def gamma_dipole(s: Sheet) -> None:
     s.dimension((strap + 4, rod + 3.5), (strap + 4, rod - 3.5), "DR", -14)
 
 
-@picture("trappe-coaxiale", 356, 210, "Trappe en coaxial")
+@picture("trappe-coaxiale", 348, 237, "Trappe en coaxial")
 def trappe_coaxiale(s: Sheet) -> None:
     """Coax wound on a former: the inner conductor of one end is joined to the braid of the other."""
-    x, top, bottom, pitch, turns = 116.0, 76.0, 140.0, 16.0, 8
+    x, top, bottom, pitch, turns = 116.0, 88.0, 160.0, 16.0, 8
     s.rect(x - 26, top, turns * pitch + 52, bottom - top, fill=DIELECTRIC)
     for i in range(turns):
         a, b = (x + (i + 0.5) * pitch - 3, top - 5), (x + (i + 0.5) * pitch + 3, bottom + 5)
         s.wire(a, b, width=15.5)
-        s.wire(a, b, stroke="#8597a9", width=12.9)
+        s.wire(a, b, stroke=JACKET, width=12.9)
     first, last = x + 5, x + turns * pitch - 11
-    for end, inner in ((first, 28.0), (last, 40.0)):
-        s.wire((end, top - 6), (end, 62), width=15.5)
-        s.wire((end, top - 6), (end, 62), stroke="#8597a9", width=12.9)
-        s.rect(end - 4.5, 46, 9, 11, width=1.2, fill=METAL)
-        s.wire((end, 46), (end, inner), stroke=COPPER, width=2.2)
+    for end, inner in ((first, 34.0), (last, 46.0)):
+        s.wire((end, top - 6), (end, 74), width=15.5)
+        s.wire((end, top - 6), (end, 74), stroke=JACKET, width=12.9)
+        s.rect(end - 4.5, 55, 9, 13, width=1.2, fill=METAL)
+        s.wire((end, 55), (end, inner), stroke=COPPER, width=2.2)
     # Inner of the first end to the braid of the last one; the other two carry the wires of the antenna.
-    s.wire((first, 28), (last - 18, 28), (last - 18, 51), (last - 4.5, 51), stroke=COPPER, width=2.2)
-    s.wire((14, 51), (first - 4.5, 51), stroke=COPPER, width=2.2)
-    s.wire((last, 40), (342, 40), stroke=COPPER, width=2.2)
+    s.wire((first, 34), (last - 18, 34), (last - 18, 61), (last - 4.5, 61), stroke=COPPER, width=2.2)
+    s.wire((12, 61), (first - 4.5, 61), stroke=COPPER, width=2.2)
+    s.wire((last, 46), (336, 46), stroke=COPPER, width=2.2)
     s.dimension((x - 26, bottom), (x - 26, top), "Ø mandrin", 42)
-    s.dimension((x, bottom + 13), (x + turns * pitch, bottom + 13), "Longueur", -40)
-    s.dimension((x + 6 * pitch, bottom + 13), (x + 7 * pitch, bottom + 13), "Ø coaxial", -16)
+    s.dimension((x, bottom + 13), (x + turns * pitch, bottom + 13), "Longueur", -44)
+    s.dimension((x + 6 * pitch, bottom + 13), (x + 7 * pitch, bottom + 13), "Ø coaxial", -18)
 
 
 def insulator(s: Sheet, x: float, y: float) -> None:
@@ -139,23 +139,27 @@ def insulator(s: Sheet, x: float, y: float) -> None:
     s.ellipse((x, y), 7, 4.5, width=1.3, fill=DIELECTRIC)
 
 
-@picture("trappe-antenne", 460, 110, "Dipôle à trappes")
+def coil(s: Sheet, x: float, y: float, stroke: str) -> None:
+    """A coil on a former, in a wire that lies."""
+    s.rect(x - 15, y - 9, 30, 18, width=1.3, fill=DIELECTRIC)
+    for i in range(5):
+        s.wire((x - 11 + 5 * i, y - 9), (x - 9 + 5 * i, y + 9), stroke=stroke, width=2)
+
+
+@picture("trappe-antenne", 512, 106, "Dipôle à trappes")
 def trappe_antenne(s: Sheet) -> None:
     """On either side of the feed: a wire, a trap, a wire."""
-    axis, middle, trap, end = 40.0, 230.0, 106.0, 212.0
+    axis, middle, trap, end = 42.0, 256.0, 118.0, 236.0
     insulator(s, middle, axis)
     for side in (-1, 1):
         s.wire((middle + 7 * side, axis), (middle + end * side, axis), stroke=COPPER, width=2.4)
         s.wire((middle + 8 * side, axis), (middle + 2 * side, axis + 20))
         insulator(s, middle + (end + 6) * side, axis)
-        left = middle + trap * side - 15
-        s.rect(left, axis - 9, 30, 18, fill=DIELECTRIC)
-        for i in range(5):
-            s.wire((left + 4 + 5 * i, axis - 9), (left + 6 + 5 * i, axis + 9), width=2)
+        coil(s, middle + trap * side, axis, INK)
         s.text(middle + trap * side, axis - 20, "Trappe", WORD, colour=DIM)
-        s.text(middle + 52 * side, axis + 34, "Brin en amont", WORD, colour=DIM)
-        s.text(middle + 168 * side, axis + 34, "Brin suivant", WORD, colour=DIM)
-    cable(s, (middle, axis + 20), (middle, 106))
+        s.text(middle + (trap / 2 + 2) * side, axis + 20, "Brin en amont", WORD, colour=DIM)
+        s.text(middle + (trap + end + 8) / 2 * side, axis + 20, "Brin suivant", WORD, colour=DIM)
+    cable(s, (middle, axis + 20), (middle, 102))
 
 
 @picture("hb9cv-hf", 430, 300, "HB9CV à deux éléments et adaptations en T")

@@ -2,7 +2,7 @@
 
 from __future__ import annotations
 
-from sheet import COPPER, COPPER_PALE, DIELECTRIC, INK, METAL, Sheet, number, picture
+from sheet import COPPER, COPPER_PALE, DIELECTRIC, INK, JACKET, METAL, Sheet, number, picture
 from symbols import bar, block
 
 
@@ -10,7 +10,7 @@ from symbols import bar, block
 def coaxial_icone(s: Sheet) -> None:
     """A cable stripped in steps: jacket, braid, insulator, inner conductor."""
     axis = 32.0
-    layers = ((9, 27, 17, "#5d7085", "#8597a9", INK), (27, 39, 13, METAL, METAL, INK),
+    layers = ((9, 27, 17, "#5d7085", JACKET, INK), (27, 39, 13, METAL, METAL, INK),
               (39, 48, 9.5, DIELECTRIC, DIELECTRIC, INK), (48, 58, 3.2, COPPER_PALE, COPPER_PALE, COPPER))
     for start, end, radius, fill, face, edge in layers:
         flat = radius * 0.34

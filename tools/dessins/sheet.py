@@ -24,6 +24,7 @@ PAPER = "#ffffff"  # fill: what must hide the lines under it
 PALE = "#edf2f7"  # fill: the inside of a symbol
 DIELECTRIC = "#f6ecd0"  # fill: insulators
 COPPER_PALE = "#e9c9ad"  # fill: copper seen in section
+JACKET = "#8597a9"  # fill: the outside of a cable
 
 # Strokes, in pixels at nominal size.
 MAIN = 1.6

@@ -15,46 +15,46 @@ public:
     explicit AntennesTrappesCoaxiales(Desk& desk);
 
     // clang-format off
-    Label         LblCoax               {this, "LblCoax",                {.Caption = "Sélectionner un coaxial", .at = {240, 240, 2280, 255}}};
-    ListBox       LstCoax               {this, "LstCoax",                {.Items = Coaxiaux(), .at = {240, 540, 2280, 5055}, .label = &LblCoax}, &AntennesTrappesCoaxiales::LstCoax_Click};
+    Label         LblCoax               {this, "LblCoax",                {.Caption = "Sélectionner un coaxial", .at = {240, 225, 2280, 255}}};
+    ListBox       LstCoax               {this, "LstCoax",                {.Items = Coaxiaux(), .at = {240, 495, 2280, 5100}, .label = &LblCoax}, &AntennesTrappesCoaxiales::LstCoax_Click};
 
     Label         LblZ                  {this, "LblZ",                   {.Caption = "Impédance caractéristique", .at = {2760, 270, 2820, 255}}};
-    TextBox       TxtZ                  {this, "TxtZ",                   resultField({5640, 240, 2010, 315}, &LblZ)};
+    TextBox       TxtZ                  {this, "TxtZ",                   resultField({5640, 240, 2400, 315}, &LblZ)};
     Label         LblVF                 {this, "LblVF",                  {.Caption = "Coefficient de vélocité", .at = {2760, 630, 2820, 255}}};
-    TextBox       TxtVF                 {this, "TxtVF",                  resultField({5640, 600, 2010, 315}, &LblVF)};
-    Label         LblOuEntrer           {this, "LblOuEntrer",            {.Caption = "ou entrer les valeurs de diamètre et de capacité par mètre", .at = {2760, 1080, 4890, 510}}};
+    TextBox       TxtVF                 {this, "TxtVF",                  resultField({5640, 600, 2400, 315}, &LblVF)};
+    Label         LblOuEntrer           {this, "LblOuEntrer",            {.Caption = "ou entrer les valeurs de diamètre et de capacité par mètre", .at = {2760, 1080, 3300, 510}}};
     Label         LblDiamCoax           {this, "LblDiamCoax",            {.Caption = "Diametre Coaxial  mm", .at = {2760, 1710, 2820, 255}}};
-    TextBox       TxtDiamCoax           {this, "TxtDiamCoax",            {.at = {5640, 1680, 2010, 315}, .label = &LblDiamCoax}, &AntennesTrappesCoaxiales::TxtDiamCoax_Change};
+    TextBox       TxtDiamCoax           {this, "TxtDiamCoax",            {.at = {5640, 1680, 2400, 315}, .label = &LblDiamCoax}, &AntennesTrappesCoaxiales::TxtDiamCoax_Change};
     Label         LblCapacitParMetre    {this, "LblCapacitParMetre",     {.Caption = "pF/m", .at = {2760, 2070, 2820, 255}}};
-    TextBox       TxtCapacitParMetre    {this, "TxtCapacitParMetre",     {.at = {5640, 2040, 2010, 315}, .label = &LblCapacitParMetre}, &AntennesTrappesCoaxiales::TxtCapacitParMetre_Change};
+    TextBox       TxtCapacitParMetre    {this, "TxtCapacitParMetre",     {.at = {5640, 2040, 2400, 315}, .label = &LblCapacitParMetre}, &AntennesTrappesCoaxiales::TxtCapacitParMetre_Change};
     Label         LblDiamMandrin        {this, "LblDiamMandrin",         {.Caption = "Diametre mandrin mm", .at = {2760, 2670, 2820, 255}}};
-    TextBox       TxtDiamMandrin        {this, "TxtDiamMandrin",         {.at = {5640, 2640, 2010, 315}, .label = &LblDiamMandrin}, &AntennesTrappesCoaxiales::TxtDiamMandrin_Change};
+    TextBox       TxtDiamMandrin        {this, "TxtDiamMandrin",         {.at = {5640, 2640, 2400, 315}, .label = &LblDiamMandrin}, &AntennesTrappesCoaxiales::TxtDiamMandrin_Change};
     Label         LblFrequence          {this, "LblFrequence",           {.Caption = "Frequence de resonance MHz", .at = {2760, 3030, 2820, 255}}};
-    TextBox       TxtFrequence          {this, "TxtFrequence",           {.at = {5640, 3000, 2010, 315}, .label = &LblFrequence}, &AntennesTrappesCoaxiales::TxtFrequence_Change};
-    CommandButton BtnCalculer           {this, "BtnCalculer",            {.Caption = "Calculer", .at = {5640, 3480, 2010, 375}}, &AntennesTrappesCoaxiales::BtnCalculer_Click};
-    PictureBox    Picture2              {this, "Picture2",               {.picture = "trappe-coaxiale", .at = {7950, 240, 5340, 3615}}};
+    TextBox       TxtFrequence          {this, "TxtFrequence",           {.at = {5640, 3000, 2400, 315}, .label = &LblFrequence}, &AntennesTrappesCoaxiales::TxtFrequence_Change};
+    CommandButton BtnCalculer           {this, "BtnCalculer",            {.Caption = "Calculer", .at = {5640, 3480, 1320, 375}}, &AntennesTrappesCoaxiales::BtnCalculer_Click};
+    PictureBox    Picture2              {this, "Picture2",               {.picture = "trappe-coaxiale", .at = {8340, 240, 5280, 3615}}};
 
     Label         LblReactanceInductive {this, "LblReactanceInductive",  {.Caption = "Reatance inductive", .at = {2760, 4230, 2820, 255}}};
-    TextBox       TxtReactanceInductive {this, "TxtReactanceInductive",  resultField({5640, 4200, 2010, 315}, &LblReactanceInductive)};
+    TextBox       TxtReactanceInductive {this, "TxtReactanceInductive",  resultField({5640, 4200, 2400, 315}, &LblReactanceInductive)};
     Label         LblReactanceCapacitive{this, "LblReactanceCapacitive", {.Caption = "ReactanceCapacitive", .at = {2760, 4590, 2820, 255}}};
-    TextBox       TxtReactanceCapacitive{this, "TxtReactanceCapacitive", resultField({5640, 4560, 2010, 315}, &LblReactanceCapacitive)};
+    TextBox       TxtReactanceCapacitive{this, "TxtReactanceCapacitive", resultField({5640, 4560, 2400, 315}, &LblReactanceCapacitive)};
     Label         LblInductance         {this, "LblInductance",          {.Caption = "Inductance µH", .at = {2760, 4950, 2820, 255}}};
-    TextBox       TxtInductance         {this, "TxtInductance",          resultField({5640, 4920, 2010, 315}, &LblInductance)};
+    TextBox       TxtInductance         {this, "TxtInductance",          resultField({5640, 4920, 2400, 315}, &LblInductance)};
     Label         LblCapacitance        {this, "LblCapacitance",         {.Caption = "Capacitance pF", .at = {2760, 5310, 2820, 255}}};
-    TextBox       TxtCapacitance        {this, "TxtCapacitance",         resultField({5640, 5280, 2010, 315}, &LblCapacitance)};
-    Label         LblNombreTours        {this, "LblNombreTours",         {.Caption = "Nombre de tours", .at = {7950, 4230, 3840, 255}}};
-    TextBox       TxtNombreTours        {this, "TxtNombreTours",         resultField({11850, 4200, 1440, 315}, &LblNombreTours)};
-    Label         LblLongueurBobinage   {this, "LblLongueurBobinage",    {.Caption = "Longueur du bobinage mm", .at = {7950, 4590, 3840, 255}}};
-    TextBox       TxtLongueurBobinage   {this, "TxtLongueurBobinage",    resultField({11850, 4560, 1440, 315}, &LblLongueurBobinage)};
-    Label         LblLongueurCoaxial    {this, "LblLongueurCoaxial",     {.Caption = "Longueur de coax requise mm", .at = {7950, 4950, 3840, 255}}};
-    TextBox       TxtLongueurCoaxial    {this, "TxtLongueurCoaxial",     resultField({11850, 4920, 1440, 315}, &LblLongueurCoaxial)};
-    Label         LblLongueurEffective  {this, "LblLongueurEffective",   {.Caption = "Longueur electrique equivalente en mm", .at = {7950, 5310, 3840, 255}}};
-    TextBox       TxtLongueurEffective  {this, "TxtLongueurEffective",   resultField({11850, 5280, 1440, 315}, &LblLongueurEffective)};
+    TextBox       TxtCapacitance        {this, "TxtCapacitance",         resultField({5640, 5280, 2400, 315}, &LblCapacitance)};
+    Label         LblNombreTours        {this, "LblNombreTours",         {.Caption = "Nombre de tours", .at = {8340, 4230, 3900, 255}}};
+    TextBox       TxtNombreTours        {this, "TxtNombreTours",         resultField({12300, 4200, 1320, 315}, &LblNombreTours)};
+    Label         LblLongueurBobinage   {this, "LblLongueurBobinage",    {.Caption = "Longueur du bobinage mm", .at = {8340, 4590, 3900, 255}}};
+    TextBox       TxtLongueurBobinage   {this, "TxtLongueurBobinage",    resultField({12300, 4560, 1320, 315}, &LblLongueurBobinage)};
+    Label         LblLongueurCoaxial    {this, "LblLongueurCoaxial",     {.Caption = "Longueur de coax requise mm", .at = {8340, 4950, 3900, 255}}};
+    TextBox       TxtLongueurCoaxial    {this, "TxtLongueurCoaxial",     resultField({12300, 4920, 1320, 315}, &LblLongueurCoaxial)};
+    Label         LblLongueurEffective  {this, "LblLongueurEffective",   {.Caption = "Longueur electrique equivalente en mm", .at = {8340, 5310, 3900, 255}}};
+    TextBox       TxtLongueurEffective  {this, "TxtLongueurEffective",   resultField({12300, 5280, 1320, 315}, &LblLongueurEffective)};
 
-    PictureBox    Picture3              {this, "Picture3",               {.picture = "trappe-antenne", .at = {240, 5880, 7410, 1650}}};
-    Label         LblBrinSuivant        {this, "LblBrinSuivant",         {.Caption = "Le brin rayonnant suivant la trappe doit être raccourci de la longueur électrique équivalente de la trappe", .at = {7950, 6060, 5340, 510}}};
-    Label         LblBrinAmont          {this, "LblBrinAmont",           {.Caption = "Le brin rayonnant en amont de la trappe doit être accordé avant la mise en place de cette dernière", .at = {7950, 6840, 5340, 510}}};
-    Label         Label19               {this, "Label19",                {.at = {240, 7770, 13050, 255}}};
+    PictureBox    Picture3              {this, "Picture3",               {.picture = "trappe-antenne", .at = {240, 5880, 7800, 1650}}};
+    Label         LblBrinSuivant        {this, "LblBrinSuivant",         {.Caption = "Le brin rayonnant suivant la trappe doit être raccourci de la longueur électrique équivalente de la trappe", .at = {8340, 6075, 5280, 510}}};
+    Label         LblBrinAmont          {this, "LblBrinAmont",           {.Caption = "Le brin rayonnant en amont de la trappe doit être accordé avant la mise en place de cette dernière", .at = {8340, 6825, 5280, 510}}};
+    Label         Label19               {this, "Label19",                {.at = {240, 7770, 13380, 255}}};
     // clang-format on
 
 private:
