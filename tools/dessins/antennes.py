@@ -162,36 +162,37 @@ def trappe_antenne(s: Sheet) -> None:
     cable(s, (middle, axis + 20), (middle, 102))
 
 
-@picture("hb9cv-hf", 430, 300, "HB9CV à deux éléments et adaptations en T")
+@picture("hb9cv-hf", 430, 281, "HB9CV à deux éléments et adaptations en T")
 def hb9cv_hf(s: Sheet) -> None:
     """The crossed line feeds both elements through symmetric T matches; the balun is at the front one."""
-    middle, back, front, half, gap = 222.0, 86.0, 190.0, 164.0, 14.0
+    middle, back, front, half, gap = 222.0, 84.0, 184.0, 164.0, 14.0
+    s.rect(middle - 5, back - 12, 10, front - back + 24, width=1.3, fill=METAL)
     elements = ((back, half, back - gap), (front, 0.92 * half, front + gap))
     for y, reach, rod in elements:
         bar(s, (middle - reach, y), (middle + reach, y), 7)
         for side in (-1, 1):
-            s.wire((middle + 9 * side, rod), (middle + 74 * side, rod), stroke=COPPER, width=TUBE, cap="butt")
+            s.wire((middle + 10 * side, rod), (middle + 74 * side, rod), stroke=COPPER, width=TUBE, cap="butt")
             s.rect(middle + 74 * side - 3, min(y, rod) - 5, 6, gap + 10, width=1.2, fill=METAL)
     for side in (-1, 1):
-        s.wire((middle + 9 * side, back - gap), (middle + 9 * side, 126), (middle - 9 * side, 150),
-               (middle - 9 * side, front + gap), (middle - 9 * side, front + 34))
+        s.wire((middle + 10 * side, back - gap), (middle + 10 * side, 122), (middle - 10 * side, 146),
+               (middle - 10 * side, front + 30))
     for _, _, rod in elements:
-        junction(s, (middle - 9, rod), (middle + 9, rod))
-    s.rect(middle - 28, front + 34, 56, 24, fill=PALE)
-    s.text(middle, front + 46, "Balun", WORD)
-    cable(s, (middle + 28, front + 46), (middle + 130, front + 46))
+        junction(s, (middle - 10, rod), (middle + 10, rod))
+    s.rect(middle - 28, front + 30, 56, 24, fill=PALE)
+    s.text(middle, front + 42, "Balun", WORD)
+    cable(s, (middle + 28, front + 42), (middle + 136, front + 42))
     s.dimension((middle - half, back - 4), (middle + half, back - 4), "λ/2", 66)
     s.dimension((middle - 74, back - gap - 5), (middle + 74, back - gap - 5), "0.25 ou 0.30 λ/2", 25)
-    s.dimension((middle - 0.92 * half, front + 4), (middle + 0.92 * half, front + 4), "0.92 λ/2", -88)
+    s.dimension((middle - 0.92 * half, front + 4), (middle + 0.92 * half, front + 4), "0.92 λ/2", -80)
     s.dimension((middle - half, front), (middle - half, back), "λ/8", 26)
     s.dimension((middle + 77, back - gap), (middle + 77, back), "λ/200", 36)
     s.dimension((middle + 0.92 * half, front - 3.5), (middle + 0.92 * half, front + 3.5), "Ø", 14)
 
 
-@picture("hb9cv-vushf", 430, 286, "HB9CV à deux éléments et gammas")
+@picture("hb9cv-vushf", 430, 281, "HB9CV à deux éléments et gammas")
 def hb9cv_vushf(s: Sheet) -> None:
     """The elements stand on the boom; one line feeds their gammas, which lie on opposite sides of it."""
-    middle, back, front, half, gap, feed = 222.0, 76.0, 206.0, 164.0, 14.0, 160.0
+    middle, back, front, half, gap, feed = 222.0, 76.0, 202.0, 164.0, 14.0, 156.0
     s.rect(middle - 5, back - 12, 10, front - back + 24, width=1.3, fill=METAL)
     bar(s, (middle - half, back), (middle + half, back), 7)
     bar(s, (middle - 0.92 * half, front), (middle + 0.92 * half, front), 7)
@@ -200,22 +201,22 @@ def hb9cv_vushf(s: Sheet) -> None:
         s.rect(middle + 78 * side - 3, min(y, rod) - 5, 6, gap + 10, width=1.2, fill=METAL)
     s.wire((middle - 14, back + gap), (middle - 14, 96), (middle + 14, 116), (middle + 14, front - gap))
     # The inner conductor through C to the gamma of the front element, the braid to the boom.
-    capacitor(s, (middle + 14, feed), (middle + 74, feed), "C", variable=True)
-    s.wire((middle + 74, feed - 2.5), (middle + 74, feed - 36), (middle + 5, feed - 36))
-    cable(s, (middle + 74, feed), (424, feed))
+    capacitor(s, (middle + 14, feed), (middle + 78, feed), "C", variable=True)
+    s.wire((middle + 78, feed - 2.5), (middle + 78, feed - 34), (middle + 5, feed - 34))
+    cable(s, (middle + 78, feed), (424, feed))
     junction(s, (middle - 14, back + gap), (middle + 14, front - gap), (middle + 14, feed))
     s.dimension((middle - half, back - 4), (middle + half, back - 4), "λ/2", 54)
     s.dimension((middle - 78, back - 4), (middle, back - 4), "λ/16", 28)
     s.dimension((middle, front + 4), (middle + 78, front + 4), "λ/16", -28)
-    s.dimension((middle - 0.92 * half, front + 4), (middle + 0.92 * half, front + 4), "0.92 λ/2", -56)
+    s.dimension((middle - 0.92 * half, front + 4), (middle + 0.92 * half, front + 4), "0.92 λ/2", -58)
     s.dimension((middle - half, front), (middle - half, back), "λ/8", 26)
     s.dimension((middle + 0.92 * half, front - 3.5), (middle + 0.92 * half, front + 3.5), "Ø", 14)
 
 
-@picture("double-quad", 440, 226, "Double quad et son réflecteur")
+@picture("double-quad", 400, 173, "Double quad et son réflecteur")
 def double_quad(s: Sheet) -> None:
     """Two squares of side a quarter wave that share their feed, before a panel; on the right, from the side."""
-    x, y, quarter = 168.0, 84.0, 46.0
+    x, y, quarter = 150.0, 72.0, 40.0
     width, height = 4.5 * quarter, 3 * quarter
     left, top = x - width / 2, y - height / 2
     s.rect(left, top, width, height, width=1.3, fill=METAL)
@@ -226,15 +227,16 @@ def double_quad(s: Sheet) -> None:
     for dy in (-4, 4):
         s.wire((x - 2, y + dy), (x + 2, y + dy), stroke=COPPER, width=TUBE)
         junction(s, (x, y + dy))
-    s.dimension((left, y + height / 2), (left + width, y + height / 2), "4.5 λ/4", -28)
+    s.dimension((left, y + height / 2), (left + width, y + height / 2), "4.5 λ/4", -26)
     s.dimension((left, y + height / 2), (left, top), "3 λ/4", 26)
-    s.dimension((x + half, y - half), (x + 2 * half, y), "λ/4", 16)
+    s.dimension((x + half, y - half), (x + 2 * half, y), offset=12)
+    s.text(x + 1.5 * half + 22, y - half / 2 - 18, "λ/4", WORD, colour=DIM)
     # From the side: the panel, the squares before it, the cable behind.
-    panel, front = 368.0, 368.0 - 0.136 * 4 * quarter
+    panel, front = 330.0, 330.0 - 0.136 * 4 * quarter
     s.rect(panel, top, 5, height, width=1.3, fill=METAL)
     s.wire((front, y - half), (front, y + half), stroke=COPPER, width=TUBE, cap="butt")
-    cable(s, (front, y), (424, y))
-    s.dimension((front, top + height), (panel, top + height), "0.136 λ", -28)
+    cable(s, (front, y), (386, y))
+    s.dimension((front, top + height), (panel, top + height), "0.136 λ", -26)
 
 
 @picture("dipole-raccourci", 400, 130, "Dipôle raccourci par deux selfs")

@@ -6,7 +6,7 @@
 namespace ondelis {
 
 DoubleQuad::DoubleQuad(Desk& desk)
-    : FeuilleCalcul{desk, {.name = "DoubleQuad", .Caption = "Double Quad", .Width = 12150, .Height = 4380}}
+    : FeuilleCalcul{desk, {.name = "DoubleQuad", .Caption = "Double Quad", .Width = 11580, .Height = 3555}}
 {
 }
 

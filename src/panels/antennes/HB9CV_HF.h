@@ -13,8 +13,8 @@ public:
     // clang-format off
     Label        LblFreq  {this, "LblFreq",   {.Caption = "Fréquence centrale (MHz)",   .at = {240, ligne(0) + 30, 3120, 255}}};
     TextBox      TxtFreq  {this, "TxtFreq",   {.at = {3420, ligne(0), 1320, 315}, .label = &LblFreq}, &HB9CV_HF::TxtFreq_Change};
-    OptionButton Option1  {this, "Option1",   {.Caption = "Zc = 150 Ohms", .at = {240, ligne(1), 2100, 300}}, &HB9CV_HF::Option1_Click};
-    OptionButton Option2  {this, "Option2",   {.Caption = "Zc = 300 Ohms", .at = {2640, ligne(1), 2100, 300}}, &HB9CV_HF::Option2_Click};
+    OptionButton Option1  {this, "Option1",   {.Caption = "Zc = 150 Ohms", .at = {240, ligne(1) - 15, 2160, 345}}, &HB9CV_HF::Option1_Click};
+    OptionButton Option2  {this, "Option2",   {.Caption = "Zc = 300 Ohms", .at = {2580, ligne(1) - 15, 2160, 345}}, &HB9CV_HF::Option2_Click};
     Label        Label1   {this, "Label1",    {.Caption = "Coefficient  diamètre tube", .at = {240, ligne(2) + 30, 3120, 255}}};
     TextBox      TxtCoeff {this, "TxtCoeff",  resultField({3420, ligne(2), 1320, 315}, &Label1)};
     HScrollBar   HScroll1 {this, "HScroll1",  {.Min = 400, .Max = 700, .Value = 400, .SmallChange = 10, .LargeChange = 100,
@@ -36,7 +36,7 @@ public:
     Label        Label5   {this, "Label5",    {.Caption = "Lambda / Coeff (m)",         .at = {240, ligne(11) + 30, 3120, 255}}};
     TextBox      TxtDiam  {this, "TxtDiam",   resultField({3420, ligne(11), 1320, 315}, &Label5)};
 
-    PictureBox   Picture1 {this, "Picture1",  {.picture = "hb9cv-hf", .at = {5040, 240, 6450, 4500}}};
+    PictureBox   Picture1 {this, "Picture1",  {.picture = "hb9cv-hf", .at = {5040, 240, 6510, 4275}}};
     // clang-format on
 
 private:
