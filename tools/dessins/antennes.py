@@ -2,8 +2,11 @@
 
 from __future__ import annotations
 
-from sheet import COPPER, DIELECTRIC, DIM, INK, JACKET, METAL, PALE, THIN, TUBE, WORD, Sheet, number, picture, polar
-from symbols import bar, cable, capacitor, inductor, junction
+import math
+
+from sheet import (COPPER, COPPER_PALE, DIELECTRIC, DIM, INK, JACKET, METAL, PALE, THIN, TUBE, WORD, Point, Sheet, along,
+                   number, picture, polar, towards)
+from symbols import bar, cable, capacitor, junction
 
 
 @picture("lpda-structure", 356, 306, "Structure de l'antenne log-périodique")
@@ -73,41 +76,69 @@ def earth_line(s: Sheet, y: float, x1: float, x2: float) -> None:
         s.wire((x, y), (x - 6, y + 7), width=THIN)
 
 
-@picture("gamma-monopole", 270, 290, "Gamma match d'un monopôle")
+def gamma_section(s: Sheet, element: Point, rod: Point) -> None:
+    """The element and the rod cut across, with their strap behind: their diameters and the way between their axes."""
+    u = towards(rod, element)
+    reach = math.dist(rod, element)
+    s.polygon(along(rod, u, -16, 6), along(rod, u, reach, 6), along(rod, u, reach, -6), along(rod, u, -16, -6),
+              width=1.3, fill=METAL)
+    s.circle(element, 28, stroke=COPPER, fill=COPPER_PALE)
+    s.circle(rod, 9, stroke=COPPER, fill=COPPER_PALE)
+    for centre, radius in ((element, 28), (rod, 9)):
+        for cross in (u, (u[1], -u[0])):
+            s.wire(along(centre, cross, -radius - 5), along(centre, cross, radius + 5), stroke=DIM, width=THIN,
+                   dash="8 2.5 2 2.5")
+
+
+def cut(s: Sheet, a: Point, b: Point) -> None:
+    """The line along which a section is taken; it is seen to the left of the way from a to b, as the arrows point."""
+    u = towards(a, b)
+    s.wire(a, b, stroke=DIM, width=THIN, dash="8 2.5 2 2.5")
+    for end in (a, b):
+        s.arrow(end, along(end, u, 0, 14), DIM, THIN)
+
+
+@picture("gamma-monopole", 420, 440, "Gamma match d'un monopôle")
 def gamma_monopole(s: Sheet) -> None:
-    """The element stands on the ground; the rod, in series with C, joins it by a strap."""
-    mast, rod, top, strap, foot, cap = 150.0, 100.0, 34.0, 106.0, 250.0, 224.0
-    bar(s, (mast, foot), (mast, top), 14)
-    bar(s, (rod, cap - 14), (rod, strap - 4), 7)
-    s.rect(rod - 6, strap - 4, mast - rod + 14, 8, width=1.3, fill=METAL)
+    """The element stands on the ground; the rod, in series with C, joins it by a strap. Below, both are cut."""
+    mast, rod, top, strap, foot, cap = 236.0, 156.0, 20.0, 120.0, 290.0, 262.0
+    bar(s, (mast, foot), (mast, top), 16)
+    bar(s, (rod, cap - 14), (rod, strap - 5), 7)
+    s.rect(rod - 8, strap - 5, mast - rod + 18, 10, width=1.3, fill=METAL)
     capacitor(s, (rod, cap - 14), (rod, foot), "C", side=-1)
-    earth_line(s, foot, 40, 214)
-    cable(s, (rod, foot + 2), (rod, 284))
-    s.dimension((mast, foot), (mast, top), "Brin piloté", -64)
-    s.dimension((rod - 7, strap), (rod - 7, foot), "Gamma", -39)
-    s.dimension((rod, 150), (mast, 150), "S")
-    s.dimension((mast - 7, top), (mast + 7, top), "DE", 12)
-    s.dimension((rod + 3.5, strap + 26), (rod - 3.5, strap + 26), "DR", extend=False)
+    earth_line(s, foot, 70, 324)
+    cable(s, (rod, foot + 2), (rod, 326))
+    cut(s, (rod - 24, 190), (mast + 30, 190))
+    s.dimension((mast + 8, foot), (mast + 8, top), "Brin piloté", -58)
+    s.dimension((rod - 8, strap), (rod - 8, foot), "Gamma", -52)
+    y = 386.0
+    gamma_section(s, (mast, y), (rod, y))
+    s.dimension((mast, y + 28), (mast, y - 28), "DE", -48)
+    s.dimension((rod, y + 9), (rod, y - 9), "DR", 38)
+    s.dimension((rod, y + 17), (mast, y + 17), "S", -26)
 
 
-@picture("gamma-dipole", 380, 182, "Gamma match d'un dipôle")
+@picture("gamma-dipole", 420, 440, "Gamma match d'un dipôle")
 def gamma_dipole(s: Sheet) -> None:
-    """The element is whole; the rod, in series with C, joins one half of it by a strap."""
-    axis, rod, left, right, middle, strap = 66.0, 122.0, 26.0, 330.0, 178.0, 284.0
-    bar(s, (left, axis), (right, axis), 14)
-    bar(s, (middle + 40, rod), (strap + 4, rod), 7)
-    s.rect(strap - 4, axis - 8, 8, rod - axis + 14, width=1.3, fill=METAL)
-    s.rect(middle - 6, axis - 10, 12, 20, width=1.3, fill=METAL)
-    capacitor(s, (middle, rod), (middle + 40, rod), "C", side=1)
+    """The element is whole; the rod, in series with C, joins one half of it by a strap. Below, both are cut."""
+    axis, rod, left, right, middle, strap = 76.0, 156.0, 18.0, 402.0, 210.0, 340.0
+    bar(s, (left, axis), (right, axis), 16)
+    bar(s, (middle + 44, rod), (strap + 5, rod), 7)
+    s.rect(strap - 5, axis - 10, 10, rod - axis + 18, width=1.3, fill=METAL)
+    s.rect(middle - 7, axis - 12, 14, 24, width=1.3, fill=METAL)
+    capacitor(s, (middle, rod), (middle + 44, rod), "C", side=1)
     # The braid to the middle of the element, the inner conductor to C.
-    s.wire((middle, axis + 10), (middle, rod - 14), (middle - 20, rod - 14), (middle - 20, rod - 2.5))
-    s.wire((middle - 14, rod), (middle, rod))
-    cable(s, (20, rod), (middle - 14, rod))
-    s.dimension((left, axis - 7), (right, axis - 7), "Brin piloté", 29)
-    s.dimension((middle, rod), (strap, rod), "Gamma", -40)
-    s.dimension((strap - 34, rod), (strap - 34, axis), "S", extend=False)
-    s.dimension((right, axis + 7), (right, axis - 7), "DE", -12)
-    s.dimension((strap + 4, rod + 3.5), (strap + 4, rod - 3.5), "DR", -14)
+    s.wire((middle, axis + 12), (middle, rod - 18), (middle - 22, rod - 18), (middle - 22, rod - 2.5))
+    s.wire((middle - 16, rod), (middle, rod))
+    cable(s, (18, rod), (middle - 16, rod))
+    cut(s, (300, axis - 26), (300, rod + 20))
+    s.dimension((left, axis - 8), (right, axis - 8), "Brin piloté", 44)
+    s.dimension((middle, rod), (strap, rod), "Gamma", -46)
+    x = 196.0
+    gamma_section(s, (x, axis + 208), (x, rod + 208))
+    s.dimension((x - 28, axis + 208), (x + 28, axis + 208), "DE", 46)
+    s.dimension((x - 9, rod + 208), (x + 9, rod + 208), "DR", -36)
+    s.dimension((x + 33, rod + 208), (x + 33, axis + 208), "S", -26)
 
 
 @picture("trappe-coaxiale", 348, 237, "Trappe en coaxial")
@@ -239,17 +270,15 @@ def double_quad(s: Sheet) -> None:
     s.dimension((front, top + height), (panel, top + height), "0.136 λ", -26)
 
 
-@picture("dipole-raccourci", 400, 130, "Dipôle raccourci par deux selfs")
+@picture("dipole-raccourci", 348, 112, "Dipôle raccourci par deux selfs")
 def dipole_raccourci(s: Sheet) -> None:
     """A is the whole length, B the distance from the middle to a coil."""
-    axis, middle, coil, end = 62.0, 200.0, 96.0, 176.0
+    axis, middle, place, end = 66.0, 174.0, 88.0, 164.0
     for side in (-1, 1):
-        inner, outer = middle + (coil - 26) * side, middle + (coil + 26) * side
-        s.wire((middle + 7 * side, axis), (inner, axis), stroke=COPPER, width=2.4)
-        s.wire((outer, axis), (middle + end * side, axis), stroke=COPPER, width=2.4)
-        inductor(s, (min(inner, outer), axis), (max(inner, outer), axis), turns=5, side=-1)
+        s.wire((middle + 7 * side, axis), (middle + end * side, axis), stroke=COPPER, width=2.4)
+        coil(s, middle + place * side, axis, COPPER)
         s.wire((middle + 8 * side, axis), (middle + 2 * side, axis + 20))
     insulator(s, middle, axis)
-    cable(s, (middle, axis + 20), (middle, 126))
-    s.dimension((middle - end, axis), (middle + end, axis), "A", 44, label="")
-    s.dimension((middle, axis), (middle + coil, axis), "B", 20, label="")
+    cable(s, (middle, axis + 20), (middle, 110))
+    s.dimension((middle - end, axis), (middle + end, axis), "A", 52, label="")
+    s.dimension((middle, axis - 9), (middle + place, axis - 9), "B", 17, label="")

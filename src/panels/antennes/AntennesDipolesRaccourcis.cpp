@@ -10,7 +10,7 @@ namespace ondelis {
 
 AntennesDipolesRaccourcis::AntennesDipolesRaccourcis(Desk& desk)
     : FeuilleCalcul{
-        desk, {.name = "AntennesDipolesRaccourcis", .Caption = "Dipoles raccourcis", .Width = 6000, .Height = 6210}}
+        desk, {.name = "AntennesDipolesRaccourcis", .Caption = "Dipoles raccourcis", .Width = 5820, .Height = 6150}}
 {
 }
 
