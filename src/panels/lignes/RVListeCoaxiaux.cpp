@@ -22,7 +22,7 @@ std::string millimetres(Double pouces)
 
 RVListeCoaxiaux::RVListeCoaxiaux(Desk& desk)
     : FeuilleCalcul{desk,
-        {.name = "RVListeCoaxiaux", .Caption = "Caractéristiques des coaxiaux usuels", .Width = 8520, .Height = 6900}}
+        {.name = "RVListeCoaxiaux", .Caption = "Caractéristiques des coaxiaux usuels", .Width = 8520, .Height = 6840}}
 {
 }
 
