@@ -2,7 +2,7 @@
 
 from __future__ import annotations
 
-from sheet import COPPER, COPPER_PALE, DIELECTRIC, INK, JACKET, METAL, Sheet, number, picture
+from sheet import COPPER, COPPER_PALE, DIELECTRIC, DIM, INK, JACKET, METAL, WORD, Sheet, number, picture
 from symbols import bar, block
 
 
@@ -22,53 +22,57 @@ def coaxial_icone(s: Sheet) -> None:
                 s.wire((x, axis - 12), (x - 5, axis - 1), (x - 1, axis + 12), width=0.8)
 
 
-@picture("coaxial-rond", 200, 200, "Ligne coaxiale ronde, en coupe")
+@picture("coaxial-rond", 184, 172, "Ligne coaxiale ronde, en coupe")
 def coaxial_rond(s: Sheet) -> None:
     """d over the inner conductor, D inside the outer one."""
-    centre = (100.0, 82.0)
-    s.circle(centre, 72, fill=METAL)
-    s.circle(centre, 62, fill=DIELECTRIC)
-    inner(s, centre)
-    s.dimension((38, 82), (162, 82), "D", -102)
+    centre, inside = (92.0, 70.0), 60.0
+    s.circle(centre, inside + 9, fill=METAL)
+    s.circle(centre, inside, fill=DIELECTRIC)
+    inner(s, centre, 19, 36)
+    x, y = centre
+    s.dimension((x - inside, y), (x + inside, y), "D", -94)
 
 
-@picture("coaxial-carre", 200, 200, "Ligne coaxiale carrée, en coupe")
+@picture("coaxial-carre", 320, 325, "Ligne coaxiale carrée, en coupe")
 def coaxial_carre(s: Sheet) -> None:
     """The same with a square outer conductor and air inside."""
-    centre = (100.0, 82.0)
-    s.path("M28 10 h144 v144 h-144 Z M38 20 v124 h124 v-124 Z", fill=METAL)
-    inner(s, centre)
-    s.dimension((38, 144), (162, 144), "D", -40)
+    centre, inside, wall = (160.0, 137.0), 122.0, 13.0
+    (x, y), outside = centre, inside + wall
+    s.path(f"M{number(x - outside)} {number(y - outside)} h{number(2 * outside)} v{number(2 * outside)}"
+           f" h{number(-2 * outside)} Z M{number(x - inside)} {number(y - inside)} v{number(2 * inside)}"
+           f" h{number(2 * inside)} v{number(-2 * inside)} Z", fill=METAL)
+    inner(s, centre, 54, 86)
+    s.dimension((x - inside, y + inside), (x + inside, y + inside), "D", -wall - 33)
 
 
-def inner(s: Sheet, centre: tuple[float, float]) -> None:
-    """The inner conductor and its diameter d."""
+def inner(s: Sheet, centre: tuple[float, float], radius: float, below: float) -> None:
+    """The inner conductor and its diameter d, so far below its axis."""
     x, y = centre
-    s.circle(centre, 20, stroke=COPPER, fill=COPPER_PALE)
-    s.dimension((x - 20, y), (x + 20, y), "d", -38)
+    s.circle(centre, radius, stroke=COPPER, fill=COPPER_PALE)
+    s.dimension((x - radius, y), (x + radius, y), "d", -below)
 
 
-@picture("echelle-grenouille", 300, 150, "Ligne à deux fils")
+@picture("echelle-grenouille", 300, 143, "Ligne à deux fils")
 def echelle_grenouille(s: Sheet) -> None:
     """Two wires kept apart by spreaders: D between their axes, d over one of them."""
-    top, bottom, left, right = 40.0, 106.0, 58.0, 252.0
+    top, bottom, left, right = 36.0, 106.0, 50.0, 254.0
     for y in (top, bottom):
         bar(s, (left, y), (right, y), 8)
-    for x in (92, 156, 220):
+    for x in (86, 152, 218):
         s.rect(x - 5, top - 10, 10, bottom - top + 20, width=1.3, fill=DIELECTRIC)
     s.dimension((left, bottom), (left, top), "D", 26)
-    s.dimension((right, top + 4), (right, top - 4), "d", -14)
+    s.dimension((right, top + 4), (right, top - 4), "d", -16)
 
 
-@picture("ruban", 330, 170, "Ruban sur son support")
+@picture("ruban", 300, 146, "Ruban sur son support")
 def ruban(s: Sheet) -> None:
-    """A flat strip of width W and length B on a support of thickness H."""
-    x, y, length, thick, depth = 56.0, 76.0, 190.0, 26.0, 70.0
-    block(s, x, y, length, thick, depth, DIELECTRIC)
-    near, far = 0.3 * depth, 0.75 * depth
-    corners = [(x + 0.8 * near, y - 0.45 * near), (x + 0.8 * far, y - 0.45 * far)]
-    corners += [(cx + length, cy) for cx, cy in reversed(corners)]
-    s.polygon(*corners, stroke=COPPER, width=1.3, fill=COPPER_PALE)
-    s.dimension((x, y + thick), (x + length, y + thick), "B", -26)
-    s.dimension((x, y), (x, y + thick), "H", -22)
-    s.dimension(corners[0], corners[1], "W", 20)
+    """A flat strip on a support that stands: its width and height, and the thickness of the support."""
+    x, y, width, height, depth, strip = 78.0, 12.0, 128.0, 100.0, 24.0, 36.0
+    block(s, x, y, width, height, depth, DIELECTRIC)
+    left, right, foot = x + (width - strip) / 2, x + width, y + height
+    s.rect(left, y, strip, height, stroke=COPPER, width=1.3, fill=COPPER_PALE)
+    s.dimension((left, foot), (left + strip, foot), "Largeur", -25)
+    s.dimension((x, foot), (x, y), "Hauteur", 38)
+    across, up = 0.8 * depth, 0.45 * depth
+    s.dimension((right, foot), (right + across, foot - up), offset=-14)
+    s.text(right + across / 2 + 20, foot - up / 2 + 12, "Epaisseur", WORD, "start", DIM)

@@ -7,7 +7,7 @@ namespace ondelis {
 
 CoaxSectCyl::CoaxSectCyl(Desk& desk)
     : FeuilleCalcul{
-        desk, {.name = "CoaxSectCyl", .Caption = "Coaxial section cylindrique", .Width = 8730, .Height = 3900}}
+        desk, {.name = "CoaxSectCyl", .Caption = "Coaxial section cylindrique", .Width = 8820, .Height = 3480}}
 {
 }
 

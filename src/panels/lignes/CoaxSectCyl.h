@@ -11,16 +11,16 @@ public:
     explicit CoaxSectCyl(Desk& desk);
 
     // clang-format off
-    Label   Label1      {this, "Label1",       {.Caption = "d (mm)", .at = {240, 450, 2760, 255}}};
-    TextBox TxtDiamAme  {this, "TxtDiamAme",   {.at = {3060, 420, 2040, 315}, .label = &Label1}, &CoaxSectCyl::TxtDiamAme_Change};
-    Label   Label2      {this, "Label2",       {.Caption = "D (mm)", .at = {240, 810, 2760, 255}}};
-    TextBox TxtDiamCorps{this, "TxtDiamCorps", {.at = {3060, 780, 2040, 315}, .BackColor = 0xFFFFFF, .label = &Label2}, &CoaxSectCyl::TxtDiamCorps_Change};
-    Label   Label3      {this, "Label3",       {.Caption = "Dielectrique", .at = {240, 1290, 2760, 255}}};
-    ListBox LstEpsilon  {this, "LstEpsilon",   {.Items = {"Vide ou Air", "PTFE", "Polyéthylène"}, .at = {3060, 1260, 2040, 780}, .label = &Label3}, &CoaxSectCyl::LstEpsilon_Click};
-    Label   Label4      {this, "Label4",       {.Caption = "Impédance carecteristique", .at = {240, 2430, 2760, 255}}};
-    TextBox TxtZ        {this, "TxtZ",         {.at = {3060, 2400, 2040, 315}, .BackColor = 0xFFFF80, .label = &Label4}};
+    Label   Label1      {this, "Label1",       {.Caption = "d (mm)", .at = {240, 270, 2580, 255}}};
+    TextBox TxtDiamAme  {this, "TxtDiamAme",   {.at = {2880, 240, 2400, 315}, .label = &Label1}, &CoaxSectCyl::TxtDiamAme_Change};
+    Label   Label2      {this, "Label2",       {.Caption = "D (mm)", .at = {240, 630, 2580, 255}}};
+    TextBox TxtDiamCorps{this, "TxtDiamCorps", {.at = {2880, 600, 2400, 315}, .BackColor = 0xFFFFFF, .label = &Label2}, &CoaxSectCyl::TxtDiamCorps_Change};
+    Label   Label3      {this, "Label3",       {.Caption = "Dielectrique", .at = {240, 1170, 2580, 255}}};
+    ListBox LstEpsilon  {this, "LstEpsilon",   {.Items = {"Vide ou Air", "PTFE", "Polyéthylène"}, .at = {2880, 1140, 2400, 780}, .label = &Label3}, &CoaxSectCyl::LstEpsilon_Click};
+    Label   Label4      {this, "Label4",       {.Caption = "Impédance carecteristique", .at = {240, 2535, 2580, 255}}};
+    TextBox TxtZ        {this, "TxtZ",         {.at = {2880, 2505, 2400, 315}, .BackColor = 0xFFFF80, .label = &Label4}};
 
-    Image   Image1      {this, "Image1",       {.picture = "coaxial-rond", .at = {5340, 120, 3000, 3000}}};
+    Image   Image1      {this, "Image1",       {.picture = "coaxial-rond", .at = {5700, 240, 2760, 2580}}};
     // clang-format on
 
 private:

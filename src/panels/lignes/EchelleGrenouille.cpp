@@ -7,7 +7,7 @@ namespace ondelis {
 
 EchelleGrenouille::EchelleGrenouille(Desk& desk)
     : FeuilleCalcul{
-        desk, {.name = "EchelleGrenouille", .Caption = "Echelle a grenouille", .Width = 10230, .Height = 3195}}
+        desk, {.name = "EchelleGrenouille", .Caption = "Echelle a grenouille", .Width = 10440, .Height = 3045}}
 {
 }
 

@@ -12,24 +12,24 @@ public:
     explicit EchelleGrenouille(Desk& desk);
 
     // clang-format off
-    OptionButton OptZ        {this, "OptZ",         {.Caption = "Calcul de l'impédance", .at = {240, 240, 2760, 300}}, &EchelleGrenouille::OptZ_Click};
-    OptionButton OptD        {this, "OptD",         {.Caption = "Calcul de l'écartement", .at = {240, 600, 2760, 300}}, &EchelleGrenouille::OptD_Click};
+    OptionButton OptZ        {this, "OptZ",         {.Caption = "Calcul de l'impédance", .at = {240, 225, 2760, 345}}, &EchelleGrenouille::OptZ_Click};
+    OptionButton OptD        {this, "OptD",         {.Caption = "Calcul de l'écartement", .at = {240, 585, 2760, 345}}, &EchelleGrenouille::OptD_Click};
 
-    Label        Label1      {this, "Label1",       {.Caption = "d (mm)", .at = {240, 1170, 2760, 255}}};
-    TextBox      TxtDiamBrin {this, "TxtDiamBrin",  {.at = {3060, 1140, 2040, 315}, .label = &Label1}, &EchelleGrenouille::TxtDiamBrin_Change};
-    Label        Label2      {this, "Label2",       {.Caption = "D (mm)", .at = {240, 1530, 2760, 255}}};
-    TextBox      TxtEcartBrin{this, "TxtEcartBrin", {.at = {3060, 1500, 2040, 315}, .label = &Label2}, &EchelleGrenouille::TxtEcartBrin_Change};
-    Label        Label3      {this, "Label3",       {.Caption = "Impédance", .at = {240, 2070, 2760, 255}}};
-    TextBox      TxtImpedance{this, "TxtImpedance", resultField({3060, 2040, 2040, 315}, &Label3)};
+    Label        Label1      {this, "Label1",       {.Caption = "d (mm)", .at = {240, 1170, 2580, 255}}};
+    TextBox      TxtDiamBrin {this, "TxtDiamBrin",  {.at = {2880, 1140, 2400, 315}, .label = &Label1}, &EchelleGrenouille::TxtDiamBrin_Change};
+    Label        Label2      {this, "Label2",       {.Caption = "D (mm)", .at = {240, 1530, 2580, 255}}};
+    TextBox      TxtEcartBrin{this, "TxtEcartBrin", {.at = {2880, 1500, 2400, 315}, .label = &Label2}, &EchelleGrenouille::TxtEcartBrin_Change};
+    Label        Label3      {this, "Label3",       {.Caption = "Impédance", .at = {240, 2070, 2580, 255}}};
+    TextBox      TxtImpedance{this, "TxtImpedance", resultField({2880, 2040, 2400, 315}, &Label3)};
 
-    Label        LblZ        {this, "LblZ",         {.Caption = "Impédance carecteristique", .at = {240, 1170, 2760, 255}}};
-    TextBox      TxtZ        {this, "TxtZ",         {.at = {3060, 1140, 2040, 315}, .label = &LblZ}, &EchelleGrenouille::TxtZ_Change};
-    Label        LblAme      {this, "LblAme",       {.Caption = "d (mm)", .at = {240, 1530, 2760, 255}}};
-    TextBox      TxtDiamAme  {this, "TxtDiamAme",   {.at = {3060, 1500, 2040, 315}, .label = &LblAme}, &EchelleGrenouille::TxtDiamAme_Change};
-    Label        LblEcart    {this, "LblEcart",     {.Caption = "D  (mm)", .at = {240, 2070, 2760, 255}}};
-    TextBox      TxtCote     {this, "TxtCote",      resultField({3060, 2040, 2040, 315}, &LblEcart)};
+    Label        LblZ        {this, "LblZ",         {.Caption = "Impédance carecteristique", .at = {240, 1170, 2580, 255}}};
+    TextBox      TxtZ        {this, "TxtZ",         {.at = {2880, 1140, 2400, 315}, .label = &LblZ}, &EchelleGrenouille::TxtZ_Change};
+    Label        LblAme      {this, "LblAme",       {.Caption = "d (mm)", .at = {240, 1530, 2580, 255}}};
+    TextBox      TxtDiamAme  {this, "TxtDiamAme",   {.at = {2880, 1500, 2400, 315}, .label = &LblAme}, &EchelleGrenouille::TxtDiamAme_Change};
+    Label        LblEcart    {this, "LblEcart",     {.Caption = "D  (mm)", .at = {240, 2070, 2580, 255}}};
+    TextBox      TxtCote     {this, "TxtCote",      resultField({2880, 2040, 2400, 315}, &LblEcart)};
 
-    Image        Image1      {this, "Image1",       {.picture = "echelle-grenouille", .at = {5340, 180, 4500, 2250}}};
+    Image        Image1      {this, "Image1",       {.picture = "echelle-grenouille", .at = {5580, 240, 4500, 2145}}};
     // clang-format on
 
 private:

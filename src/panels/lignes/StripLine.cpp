@@ -7,7 +7,7 @@
 namespace ondelis {
 
 StripLine::StripLine(Desk& desk)
-    : FeuilleCalcul{desk, {.name = "StripLine", .Caption = "Strip line", .Width = 10680, .Height = 3240}}
+    : FeuilleCalcul{desk, {.name = "StripLine", .Caption = "Strip line", .Width = 9900, .Height = 3090}}
 {
 }
 
