@@ -2,15 +2,17 @@
 
 #include <QApplication>
 
+#include "view/Style.h"
+
 namespace ondelis {
 
 /// Chooses the widgets' style before the application is made, so that no other one is made first.
-struct FusionStyle {
-    FusionStyle() { QApplication::setStyle(QStringLiteral("fusion")); }
+struct ChosenStyle {
+    ChosenStyle() { QApplication::setStyle(new Style); }
 };
 
 /// The application as the toolkit sees it: its style, its name, its words.
-class Application final : private FusionStyle, public QApplication {
+class Application final : private ChosenStyle, public QApplication {
 public:
     Application(int& argc, char** argv);
 

@@ -16,13 +16,6 @@ double luminance(const QColor& color)
     return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) + 0.0722 * linear(color.blueF());
 }
 
-/// Contrast after WCAG 2.1, from 1 to 21.
-double contrast(const QColor& one, const QColor& other)
-{
-    const auto [darker, lighter] = std::minmax({luminance(one), luminance(other)});
-    return (lighter + 0.05) / (darker + 0.05);
-}
-
 QColor blackOrWhite(const QColor& background)
 {
     return contrast(Qt::black, background) >= contrast(Qt::white, background) ? Qt::black : Qt::white;
@@ -42,17 +35,34 @@ bool isDark(const QPalette& palette)
     return palette.color(QPalette::WindowText).lightness() > palette.color(QPalette::Window).lightness();
 }
 
-QColor readable(const QColor& text, const QColor& background)
+double contrast(const QColor& one, const QColor& other)
 {
-    constexpr double enough = 3;
-    constexpr int steps = 10;
+    const auto [darker, lighter] = std::minmax({luminance(one), luminance(other)});
+    return (lighter + 0.05) / (darker + 0.05);
+}
+
+QColor readable(const QColor& color, const QColor& background, double enough)
+{
+    constexpr int steps = 50;
     const QColor extreme = blackOrWhite(background);
-    QColor mixed = text;
+    QColor mixed = color;
     for (int step = 1; step <= steps && contrast(mixed, background) < enough; ++step) {
         const auto mix = [&](int from, int to) { return from + (to - from) * step / steps; };
-        mixed = {mix(text.red(), extreme.red()), mix(text.green(), extreme.green()), mix(text.blue(), extreme.blue())};
+        mixed
+            = {mix(color.red(), extreme.red()), mix(color.green(), extreme.green()), mix(color.blue(), extreme.blue())};
     }
     return mixed;
+}
+
+QRgb turned(QRgb pixel)
+{
+    const int red = qRed(pixel);
+    const int green = qGreen(pixel);
+    const int blue = qBlue(pixel);
+    const int alpha = qAlpha(pixel); // the white of the channels
+    const auto [low, high] = std::minmax({red, green, blue});
+    const int shift = alpha - low - high;
+    return qRgba(red + shift, green + shift, blue + shift, alpha);
 }
 
 void Colors::applyToField(QWidget& widget, Color background, Color text)
@@ -66,7 +76,7 @@ void Colors::applyToField(QWidget& widget, Color background, Color text)
         palette.setColor(QPalette::Base, toQColor(background));
     const QColor base = ownBackground ? toQColor(background) : QApplication::palette().color(QPalette::Base);
     if (ownText)
-        palette.setColor(QPalette::Text, ownBackground ? toQColor(text) : readable(toQColor(text), base));
+        palette.setColor(QPalette::Text, readable(toQColor(text), base));
     else if (ownBackground)
         palette.setColor(QPalette::Text, blackOrWhite(base));
     widget.setPalette(palette);

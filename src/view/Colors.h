@@ -13,8 +13,18 @@ namespace ondelis {
 /// Whether light text stands on dark windows.
 [[nodiscard]] bool isDark(const QPalette& palette);
 
-/// The text colour, made lighter or darker as far as it must be to be read on that background.
-[[nodiscard]] QColor readable(const QColor& text, const QColor& background);
+/// Contrast after WCAG 2.1, from 1 to 21.
+[[nodiscard]] double contrast(const QColor& one, const QColor& other);
+
+inline constexpr double textContrast = 4.5; ///< what a text needs to be read with ease
+inline constexpr double lineContrast = 3; ///< what a line needs to be seen with ease
+inline constexpr double quietContrast = 1.6; ///< what holds a group together without drawing the eye
+
+/// The colour, mixed with black or white as far as it must be to have that contrast with the background.
+[[nodiscard]] QColor readable(const QColor& color, const QColor& background, double enough = textContrast);
+
+/// A pixel, its channels multiplied by alpha, with its lightness turned round; hue and chroma stay.
+[[nodiscard]] QRgb turned(QRgb pixel);
 
 /// The colours of one widget: those that its control asks for, and the system's elsewhere.
 class Colors {

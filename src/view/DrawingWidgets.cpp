@@ -10,21 +10,12 @@
 namespace ondelis {
 namespace {
 
-/// Turns the lightness of each pixel round; hue and chroma stay.
 void turnLightness(QImage& image)
 {
     for (int y = 0; y < image.height(); ++y) {
         // NOLINTNEXTLINE(cppcoreguidelines-pro-type-reinterpret-cast): a row of 32-bit pixels, given as bytes
         auto* const line = reinterpret_cast<QRgb*>(image.scanLine(y));
-        for (QRgb* pixel = line; pixel != line + image.width(); ++pixel) {
-            const int red = qRed(*pixel);
-            const int green = qGreen(*pixel);
-            const int blue = qBlue(*pixel);
-            const int alpha = qAlpha(*pixel);
-            const auto [low, high] = std::minmax({red, green, blue});
-            const int shift = alpha - low - high; // channels are multiplied by alpha: it is their white
-            *pixel = qRgba(red + shift, green + shift, blue + shift, alpha);
-        }
+        std::transform(line, line + image.width(), line, turned);
     }
 }
 

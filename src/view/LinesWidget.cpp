@@ -86,7 +86,7 @@ void LinesWidget::paintEvent(QPaintEvent* /*event*/)
     QPainter painter{this};
     const QColor text = palette().color(QPalette::WindowText);
     const QColor window = palette().color(QPalette::Window);
-    painter.setPen(palette().color(QPalette::Mid)); // as quiet as the edge of a frame
+    painter.setPen(readable(palette().color(QPalette::Mid), window, quietContrast));
     for (const QRect& rectangle : rectangles_)
         painter.drawRect(rectangle.adjusted(0, 0, -1, -1));
     for (const Stroke& stroke : strokes_) {
@@ -96,7 +96,8 @@ void LinesWidget::paintEvent(QPaintEvent* /*event*/)
             painter.setClipRect(stroke.area);
         const bool straight = stroke.line.dx() == 0 || stroke.line.dy() == 0;
         painter.setRenderHint(QPainter::Antialiasing, !straight);
-        const QColor color = isSystemColor(stroke.color) ? text : readable(toQColor(stroke.color), window);
+        const QColor color
+            = isSystemColor(stroke.color) ? text : readable(toQColor(stroke.color), window, lineContrast);
         painter.setPen(QPen{color, stroke.width, Qt::SolidLine, Qt::FlatCap});
         painter.drawLine(stroke.line);
     }

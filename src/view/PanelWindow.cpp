@@ -6,6 +6,7 @@
 #include <QMenu>
 #include <QScopedValueRollback>
 #include <QScrollBar>
+#include <QStyleOptionTitleBar>
 #include <algorithm>
 #include <utility>
 
@@ -57,6 +58,7 @@ void PanelWindow::follow()
     setFixedSize(scale.pixels(Double{panel_.Width}.value()), scale.pixels(Double{panel_.Height}.value()));
     const QPoint corner{scale.pixels(Double{panel_.Left}.value()), scale.pixels(Double{panel_.Top}.value())};
     move(corner - scrolled());
+    fitTitle();
 }
 
 void PanelWindow::follow(const Control& control)
@@ -168,6 +170,22 @@ void PanelWindow::rename(const Label* label, const std::string& name)
         if (entry.second->accessibleName() != toQString(name)) // each call is announced
             entry.second->setAccessibleName(toQString(name));
     });
+}
+
+void PanelWindow::fitTitle()
+{
+    QStyleOptionTitleBar option;
+    option.initFrom(this);
+    option.titleBarFlags = windowFlags();
+    option.subControls = QStyle::SC_All;
+    constexpr int margin = 14; // of the style, at both sides together
+    const int room
+        = style()->subControlRect(QStyle::CC_TitleBar, &option, QStyle::SC_TitleBarLabel, this).width() - margin;
+    QFont font = QApplication::font("QMdiSubWindowTitleBar");
+    while (font.pointSizeF() > Font{}.size && QFontMetrics{font, this}.horizontalAdvance(windowTitle()) > room)
+        font.setPointSizeF(font.pointSizeF() - 0.5);
+    if (font != this->font())
+        setFont(font);
 }
 
 QPoint PanelWindow::corner() const

@@ -59,6 +59,8 @@ private:
     void makeMenu();
     /// Gives a new name to the widgets that are named after the label, or after the panel.
     void rename(const Label* label, const std::string& name);
+    /// Writes the title in the system's font, smaller where a large one does not fit.
+    void fitTitle();
     /// The upper left corner in the client area of the main window, which may be scrolled.
     [[nodiscard]] QPoint corner() const;
     [[nodiscard]] QPoint scrolled() const;

@@ -232,8 +232,8 @@ private slots:
         QCOMPARE(field.palette().color(QPalette::Text), QColor(Qt::black));
         program.store([&] { panel.TxtB.BackColor = 0x800000; });
         QCOMPARE(field.palette().color(QPalette::Text), QColor(Qt::white));
-        program.store([&] { panel.TxtB.ForeColor = 0x0000FF; });
-        QCOMPARE(field.palette().color(QPalette::Text), QColor(Qt::red));
+        program.store([&] { panel.TxtB.ForeColor = 0x00FFFF; });
+        QCOMPARE(field.palette().color(QPalette::Text), QColor(Qt::yellow));
         program.store([&] {
             panel.TxtB.BackColor = windowColor;
             panel.TxtB.ForeColor = windowTextColor;

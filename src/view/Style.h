@@ -1,0 +1,31 @@
+#pragma once
+
+#include <QProxyStyle>
+
+namespace ondelis {
+
+/// The widgets' look: Fusion, with what the system's colours leave illegible mended. Only what needs it changes, and
+/// only as far as it needs.
+class Style final : public QProxyStyle {
+public:
+    Style() : QProxyStyle{QStringLiteral("fusion")} { }
+
+    /// Makes each text of the system's palette readable on its ground.
+    void polish(QPalette& palette) override;
+    using QProxyStyle::polish;
+
+    /// Leaves the headings of the menu no more than their own margins, so that all of them fit with a large font.
+    int pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const override;
+
+    void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option, QPainter* painter,
+        const QWidget* widget) const override;
+    void drawPrimitive(
+        PrimitiveElement element, const QStyleOption* option, QPainter* painter, const QWidget* widget) const override;
+
+private:
+    /// Fusion shades the edge of a titled frame with black, which a dark window swallows: there it is shaded with
+    /// white.
+    void drawLightFrame(const QStyleOption& option, QPainter& painter, const QWidget* widget) const;
+};
+
+} // namespace ondelis
