@@ -12,6 +12,7 @@ packages=(
     # Tests and benchmarks
     libgtest-dev libgmock-dev libbenchmark-dev libmpfr-dev nlohmann-json3-dev
     libxcb1-dev libxcb-damage0-dev
+    fonts-cantarell fonts-noto-core
     # The code's shape
     clang-format clang-tidy shellcheck
     # A display where there is none, and a person's keys, clipboard and eyes on it

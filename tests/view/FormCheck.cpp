@@ -3,15 +3,11 @@
 #include <QAccessible>
 #include <QFile>
 #include <QGroupBox>
-#include <QLabel>
-#include <QLineEdit>
 #include <QListWidget>
-#include <QPushButton>
-#include <QRadioButton>
 #include <QScrollBar>
-#include <QStyleOptionFrame>
-#include <QStyleOptionGroupBox>
+#include <QStyleOptionTitleBar>
 
+#include "TextFit.h"
 #include "forms/Controls.h"
 #include "view/ControlWidget.h"
 
@@ -21,118 +17,78 @@ namespace {
 /// A list with as many rows or fewer shows them all.
 constexpr int fewRows = 8;
 
-/// The text of a button as it is read.
-QString readText(QString text)
-{
-    return text.replace(QStringLiteral("&&"), QStringLiteral("&"));
-}
-
-QString cutText(const QString& text)
-{
-    return QStringLiteral("the text \"%1\" is cut").arg(text);
-}
-
 class Check {
 public:
-    explicit Check(const PanelWindow& window) : window_{window} { }
+    Check(const PanelWindow& window, const Typed& typed) : window_{window}, typed_{typed} { }
 
-    QStringList run()
+    std::vector<FormFault> run()
     {
+        place_ = toQString(window_.panel().design().name);
+        checkTitle();
         for (const Control* control : window_.panel().controls()) {
-            const ControlWidget* const shown = window_.find(*control);
-            if (shown == nullptr || !control->onScreen())
+            if (!isShown(*control))
                 continue;
-            control_ = control;
+            turnTo(*control);
             QWidget& widget = window_.find(*control)->widget();
-            checkText(widget);
+            checkTexts(widget);
+            checkRows(widget);
             checkPlace(widget);
             checkDrawing();
             checkName(widget);
         }
         checkOverlaps();
-        return faults_;
+        return std::move(faults_);
     }
 
 private:
-    void fault(const QString& words)
+    [[nodiscard]] bool isShown(const Control& control) const
     {
-        faults_.append(toQString(window_.panel().design().name + "." + control_->name() + ": ") + words);
+        return control.onScreen() && window_.find(control) != nullptr;
     }
 
-    void require(bool fits, const QString& text)
+    void turnTo(const Control& control)
     {
-        if (!fits)
-            fault(cutText(text));
+        control_ = &control;
+        place_ = toQString(window_.panel().design().name + "." + control.name());
     }
 
-    void checkText(const QWidget& widget)
+    void fault(const QString& words, int missing = 0) { faults_.push_back({place_, words, missing}); }
+
+    void cut(const QString& text, int missing)
     {
-        if (const auto* const label = dynamic_cast<const QLabel*>(&widget))
-            checkLabel(*label);
-        else if (const auto* const field = dynamic_cast<const QLineEdit*>(&widget))
-            checkField(*field);
-        else if (const auto* const list = dynamic_cast<const QListWidget*>(&widget))
-            checkList(*list);
-        else if (const auto* const option = dynamic_cast<const QRadioButton*>(&widget))
-            require(fits(option->sizeHint(), option->size()), readText(option->text()));
-        else if (const auto* const button = dynamic_cast<const QPushButton*>(&widget))
-            checkButton(*button);
-        else if (const auto* const frame = dynamic_cast<const QGroupBox*>(&widget))
-            checkFrame(*frame);
+        fault(text.isEmpty() ? QStringLiteral("it is too low for any text")
+                             : QStringLiteral("the text \"%1\" is cut").arg(text),
+            missing);
     }
 
-    static bool fits(const QSize& inner, const QSize& outer)
+    void checkTitle()
     {
-        return inner.width() <= outer.width() && inner.height() <= outer.height();
+        QStyleOptionTitleBar option;
+        option.initFrom(&window_);
+        option.titleBarFlags = window_.windowFlags();
+        option.subControls = QStyle::SC_All;
+        const QStyle& style = *window_.style();
+        option.rect.setHeight(style.pixelMetric(QStyle::PM_TitleBarHeight, &option, &window_));
+        const QRect room = style.subControlRect(QStyle::CC_TitleBar, &option, QStyle::SC_TitleBarLabel, &window_);
+        constexpr int margin = 14; // of Fusion, at both sides together
+        const int missing = window_.fontMetrics().horizontalAdvance(window_.windowTitle()) + margin - room.width();
+        if (missing > 0)
+            cut(window_.windowTitle(), missing);
     }
 
-    void checkLabel(const QLabel& label)
+    void checkTexts(const QWidget& widget)
     {
-        const QFontMetrics metrics = label.fontMetrics();
-        const QRect room{0, 0, label.width(), label.wordWrap() ? QWIDGETSIZE_MAX : label.height()};
-        const int flags = label.wordWrap() ? Qt::TextWordWrap : 0;
-        require(fits(metrics.boundingRect(room, flags, label.text()).size(), label.size()), label.text());
+        const auto typed = typed_.find(control_);
+        for (const Cut& one : cutsIn(widget))
+            if (typed == typed_.end() || typed->second != one.text)
+                cut(one.text, one.missing);
     }
 
-    void checkField(const QLineEdit& field)
+    void checkRows(const QWidget& widget)
     {
-        QStyleOptionFrame option;
-        option.initFrom(&field);
-        option.lineWidth = field.style()->pixelMetric(QStyle::PM_DefaultFrameWidth, &option, &field);
-        const QRect room = field.style()->subElementRect(QStyle::SE_LineEditContents, &option, &field);
-        const QFontMetrics metrics = field.fontMetrics();
-        if (room.height() < metrics.height())
-            fault(QStringLiteral("the field is too low for its text"));
-        constexpr int innerMargin = 2; // of the widget, at either side
-        if (field.isReadOnly())
-            require(metrics.horizontalAdvance(field.text()) + 2 * innerMargin <= room.width(), field.text());
-    }
-
-    void checkList(const QListWidget& list)
-    {
-        const QFontMetrics metrics = list.fontMetrics();
-        const int margin = list.style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, &list) + 1;
-        for (int row = 0; row < list.count(); ++row) {
-            const QString text = list.item(row)->text();
-            const QSize room{list.viewport()->width() - 2 * margin, list.item(row)->sizeHint().height()};
-            require(fits({metrics.horizontalAdvance(text), metrics.height()}, room), text);
-        }
-        if (list.count() <= fewRows && list.verticalScrollBar()->maximum() > 0)
+        const auto* const list = dynamic_cast<const QListWidget*>(&widget);
+        if (list != nullptr && list->count() <= fewRows && list->verticalScrollBar()->maximum() > 0)
             fault(QStringLiteral("the list does not show all of its few rows"));
-    }
-
-    void checkButton(const QPushButton& button)
-    {
-        const QString text = readText(button.text());
-        const int margin = button.style()->pixelMetric(QStyle::PM_ButtonMargin, nullptr, &button);
-        const QSize needed{button.fontMetrics().horizontalAdvance(text) + margin, button.fontMetrics().height()};
-        require(fits(needed, button.size()), text);
-    }
-
-    void checkFrame(const QGroupBox& frame)
-    {
-        const QString title = readText(frame.title());
-        require(frame.fontMetrics().horizontalAdvance(title) <= frame.width(), title);
     }
 
     void checkPlace(const QWidget& widget)
@@ -142,14 +98,8 @@ private:
         const QWidget& around = *widget.parentWidget();
         if (!around.rect().contains(widget.geometry()))
             fault(QStringLiteral("it reaches beyond its panel or frame"));
-        if (const auto* const frame = dynamic_cast<const QGroupBox*>(&around))
-            if (widget.y() < titleHeight(*frame))
-                fault(QStringLiteral("it covers the title of its frame"));
-    }
-
-    static int titleHeight(const QGroupBox& frame)
-    {
-        return frame.title().isEmpty() ? 0 : frame.fontMetrics().height();
+        if (const QRect title = titleOf(around); title.isValid() && widget.y() <= title.bottom())
+            fault(QStringLiteral("it covers the title of its frame"));
     }
 
     void checkDrawing()
@@ -169,45 +119,51 @@ private:
             fault(QStringLiteral("it has no name for a screen reader"));
     }
 
-    /// Whether nothing else may stand on it. Drawings and lines may lie under other controls, and a frame lies under
-    /// what it holds.
-    [[nodiscard]] bool isSolid(const Control& control) const
+    /// The part of a control that nothing else may stand on, in pixels of the client area. Drawings and lines may lie
+    /// under other controls, and of a frame it is the title.
+    [[nodiscard]] QRect solidPartOf(const Control& control) const
     {
-        const ControlWidget* const shown = window_.find(control);
-        if (shown == nullptr || !control.onScreen())
-            return false;
-        if (const auto* const label = dynamic_cast<const Label*>(&control))
-            return !label->Caption.get().empty();
-        return control.focusable();
-    }
-
-    [[nodiscard]] QRect placeOf(const Control& control) const
-    {
+        if (!isShown(control))
+            return {};
         const QWidget& widget = window_.find(control)->widget();
-        return {widget.mapTo(&window_.form(), QPoint{}), widget.size()};
+        const auto* const label = dynamic_cast<const Label*>(&control);
+        const bool whole = control.focusable() || (label != nullptr && !label->Caption.get().empty());
+        const QRect part = whole ? widget.rect() : titleOf(widget);
+        return part.isValid() ? part.translated(widget.mapTo(&window_.form(), QPoint{})) : QRect{};
     }
 
     void checkOverlaps()
     {
         const std::vector<Control*>& controls = window_.panel().controls();
-        for (auto one = controls.begin(); one != controls.end(); ++one)
-            for (auto other = one + 1; other != controls.end(); ++other)
-                if (isSolid(**one) && isSolid(**other) && placeOf(**one).intersects(placeOf(**other))) {
-                    control_ = *one;
-                    fault(QStringLiteral("it overlaps %1").arg(toQString((*other)->name())));
+        std::vector<QRect> parts;
+        parts.reserve(controls.size());
+        for (const Control* control : controls)
+            parts.push_back(solidPartOf(*control));
+        for (std::size_t one = 0; one < parts.size(); ++one)
+            for (std::size_t other = one + 1; other < parts.size(); ++other)
+                if (parts[one].intersects(parts[other]) && controls[other]->container() != controls[one]) {
+                    turnTo(*controls[one]);
+                    fault(QStringLiteral("it overlaps %1").arg(toQString(controls[other]->name())));
                 }
     }
 
     const PanelWindow& window_;
+    const Typed& typed_;
     const Control* control_ = nullptr;
-    QStringList faults_;
+    QString place_;
+    std::vector<FormFault> faults_;
 };
 
 } // namespace
 
-QStringList faultsOf(const PanelWindow& window)
+QString FormFault::line() const
 {
-    return Check{window}.run();
+    return missing == 0 ? place + ": " + words : QStringLiteral("%1: %2, by %3 pixels").arg(place, words).arg(missing);
+}
+
+std::vector<FormFault> faultsOf(const PanelWindow& window, const Typed& typed)
+{
+    return Check{window, typed}.run();
 }
 
 } // namespace ondelis

@@ -1,0 +1,192 @@
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QPushButton>
+#include <QRadioButton>
+
+#include "Contrast.h"
+#include "Look.h"
+#include "Program.h"
+#include "TestPanel.h"
+#include "Walk.h"
+#include "view/Colors.h"
+
+namespace ondelis {
+
+/// Every text can be read, on light windows and on dark ones.
+class ContrastTest final : public QObject {
+    Q_OBJECT
+
+    static void addPalettes()
+    {
+        QTest::addColumn<bool>("dark");
+        QTest::newRow("light") << false;
+        QTest::newRow("dark") << true;
+    }
+
+    static ScopedLook palette(bool dark) { return {QStringLiteral("DejaVu Sans"), 9, dark}; }
+
+    static void report(const QStringList& faults)
+    {
+        for (const QString& fault : faults)
+            qWarning("%s", qPrintable(fault));
+        QVERIFY(faults.isEmpty());
+    }
+
+    /// Gives a widget text of nearly the colour of its ground.
+    static void spoil(QWidget& widget, QPalette::ColorRole text, QPalette::ColorRole ground)
+    {
+        QPalette palette = widget.palette();
+        palette.setColor(text, palette.color(ground).darker(110));
+        widget.setPalette(palette);
+    }
+
+private slots:
+    void contrastIsThatOfTheGuidelines()
+    {
+        QCOMPARE(contrast(Qt::black, Qt::white), 21.0);
+        QCOMPARE(contrast(Qt::white, Qt::white), 1.0);
+        QVERIFY(qAbs(contrast(QColor{0x767676}, Qt::white) - 4.54) < 0.005);
+        QVERIFY(qAbs(contrast(QColor{0x777777}, Qt::white) - 4.48) < 0.005);
+        QVERIFY(qAbs(contrast(Qt::red, Qt::white) - 4.00) < 0.005);
+    }
+
+    void colorsChangeOnlyAsFarAsTheyMust()
+    {
+        QCOMPARE(readable(Qt::blue, Qt::white), QColor{Qt::blue});
+        for (const QColor& ground : {QColor{0xC0FFFF}, QColor{0x353535}, QColor{0x808080}, QColor{0xEFEFEF}})
+            for (const QColor& text : {QColor{0xFF80FF}, QColor{0xFF0000}, QColor{0x0000FF}, ground}) {
+                const double before = contrast(text, ground);
+                const double after = contrast(readable(text, ground), ground);
+                QVERIFY(after >= 4.5);
+                QVERIFY(before >= 4.5 ? after == before : after < 4.9);
+            }
+    }
+
+    void theCheckFindsEachFault()
+    {
+        Program program;
+        auto& panel = program.open<TestPanel>();
+        program.store([&] { panel.LstR.ListIndex = 0; });
+        spoil(program.widget(panel.LblA), QPalette::WindowText, QPalette::Window);
+        spoil(program.widget(panel.TxtB), QPalette::Text, QPalette::Base);
+        spoil(program.widget(panel.TxtC), QPalette::HighlightedText, QPalette::Highlight);
+        spoil(program.widget(panel.LstU), QPalette::Text, QPalette::Base);
+        spoil(program.widget(panel.LstR), QPalette::HighlightedText, QPalette::Highlight);
+        spoil(program.widget(panel.OptX), QPalette::WindowText, QPalette::Window);
+        spoil(program.widget(panel.BtnGo), QPalette::ButtonText, QPalette::Button);
+        spoil(program.widget(panel.TxtM), QPalette::Text, QPalette::Base);
+        spoil(program.widget(panel.Frame1), QPalette::WindowText, QPalette::Window);
+        QStringList found;
+        for (const QString& fault : contrastFaultsOf(program.window(panel)))
+            found.append(fault.section(QLatin1Char{':'}, 0, 0).section(QLatin1Char{'.'}, 1));
+        found.removeDuplicates();
+        const QStringList expected{QStringLiteral("LblA"), QStringLiteral("TxtB"), QStringLiteral("TxtC"),
+            QStringLiteral("LstU"), QStringLiteral("LstR"), QStringLiteral("OptX"), QStringLiteral("BtnGo"),
+            QStringLiteral("TxtM"), QStringLiteral("Frame1")};
+        QCOMPARE(found, expected);
+    }
+
+    void theCheckSeesWhatIsPaintedUnderAText()
+    {
+        Program program;
+        const auto& panel = program.open<TestPanel>();
+        QWidget under{&program.window(panel).form()};
+        under.setGeometry(program.widget(panel.LblA).geometry());
+        under.setAutoFillBackground(true);
+        under.setPalette(QPalette{Qt::darkGray, Qt::darkGray});
+        under.show();
+        program.widget(panel.LblA).raise();
+        QVERIFY(contrastFaultsOf(program.window(panel)).isEmpty());
+        under.setPalette(QPalette{Qt::black, Qt::black});
+        const QStringList faults = contrastFaultsOf(program.window(panel));
+        QCOMPARE(faults.size(), 1);
+        QVERIFY(faults.first().startsWith(QStringLiteral("TestPanel.LblA")));
+    }
+
+    void theCheckFindsAPoorTitleAndMenu()
+    {
+        const ScopedLook look = palette(false);
+        QPalette poor = QApplication::palette();
+        poor.setColor(QPalette::Text, poor.color(QPalette::Base));
+        QApplication::setPalette(poor);
+        Program program;
+        QVERIFY(contrastFaultsOfMenus(*program.view.mainWindow().menuBar()).size() > 40);
+        program.open<TestPanel>();
+        program.pick("MenuThomson"); // two panels, one of which has no keyboard
+        const QStringList faults = contrastFaultsOf(program.window(*program.desk.loadedPanels().front()))
+            + contrastFaultsOf(program.window(*program.desk.loadedPanels().back()));
+        QCOMPARE(faults.filter(QStringLiteral("(title)")).size() > 0, true);
+    }
+
+    void aPropertyKeepsAColorThatIsNotReadable()
+    {
+        Program program;
+        auto& panel = program.open<TestPanel>();
+        program.store([&] {
+            panel.TxtB.BackColor = 0xFFFFC0;
+            panel.TxtB.ForeColor = 0xFF80FF;
+        });
+        QCOMPARE(panel.TxtB.ForeColor.get(), 0xFF80FFU);
+        const QPalette shown = program.widget(panel.TxtB).palette();
+        QCOMPARE(shown.color(QPalette::Base), QColor(0xC0, 0xFF, 0xFF));
+        QCOMPARE(shown.color(QPalette::Text), readable(QColor{0xFF, 0x80, 0xFF}, QColor{0xC0, 0xFF, 0xFF}));
+    }
+
+    void menus_data() { addPalettes(); }
+
+    void menus()
+    {
+        QFETCH(bool, dark);
+        const ScopedLook look = palette(dark);
+        const Program program;
+        report(contrastFaultsOfMenus(*program.view.mainWindow().menuBar()));
+    }
+
+    void boxes_data() { addPalettes(); }
+
+    void boxes()
+    {
+        QFETCH(bool, dark);
+        const ScopedLook look = palette(dark);
+        Program program;
+        Reader reader{{QStringLiteral("Oui")}};
+        QStringList faults;
+        bool looked = false;
+        reader.meanwhile = [&] {
+            QWidget& box = *QApplication::activeModalWidget();
+            looked = box.findChildren<QLabel*>().size() > 0 && box.findChildren<QPushButton*>().size() == 2;
+            faults = contrastFaultsOfBox(box);
+        };
+        auto& panel = program.open<TestPanel>();
+        panel.onGo = [&] { panel.MsgBox("Continuer ?", 4, "Question"); };
+        program.store([&] { panel.BtnGo.Value = true; });
+        QVERIFY(looked);
+        report(faults);
+    }
+
+    void panels_data() { addPalettes(); }
+
+    void panels()
+    {
+        QFETCH(bool, dark);
+        const ScopedLook look = palette(dark);
+        QStringList faults;
+        Walk walk;
+        for (const QString& entry : panelEntries()) {
+            walk.open(entry);
+            walk.choose([&](PanelWindow& window) { faults += contrastFaultsOf(window); });
+        }
+        faults.removeDuplicates();
+        report(faults);
+    }
+};
+
+} // namespace ondelis
+
+int main(int argc, char** argv)
+{
+    return ondelis::runTests<ondelis::ContrastTest>(argc, argv);
+}
+
+#include "ContrastTest.moc"

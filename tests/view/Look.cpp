@@ -1,0 +1,45 @@
+#include "Look.h"
+
+#include <QApplication>
+#include <QStyle>
+
+namespace ondelis {
+
+QPalette darkPalette()
+{
+    constexpr QColor window{0x35, 0x35, 0x35};
+    constexpr QColor base{0x2a, 0x2a, 0x2a};
+    constexpr QColor text{0xEE, 0xEE, 0xEC};
+    constexpr QColor dimmed{0x60, 0x60, 0x60};
+
+    QPalette palette{window};
+    for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText, QPalette::ToolTipText}) {
+        palette.setColor(role, text);
+        palette.setColor(QPalette::Disabled, role, dimmed);
+    }
+    palette.setColor(QPalette::Base, base);
+    palette.setColor(QPalette::ToolTipBase, base);
+    palette.setColor(QPalette::AlternateBase, window);
+    palette.setColor(QPalette::Highlight, QColor{0x3D, 0xAE, 0xE9});
+    palette.setColor(QPalette::HighlightedText, Qt::white);
+    return palette;
+}
+
+ScopedLook::ScopedLook(const QString& family, int points, bool dark)
+    : font_{QApplication::font()}, palette_{QApplication::palette()}
+{
+    QApplication::setFont(QFont{family, points});
+    if (!dark)
+        return;
+    QPalette palette = darkPalette();
+    QApplication::style()->polish(palette); // as it does with what the desktop has
+    QApplication::setPalette(palette);
+}
+
+ScopedLook::~ScopedLook()
+{
+    QApplication::setPalette(palette_);
+    QApplication::setFont(font_);
+}
+
+} // namespace ondelis

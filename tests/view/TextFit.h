@@ -1,0 +1,22 @@
+#pragma once
+
+#include <QString>
+#include <QWidget>
+#include <vector>
+
+namespace ondelis {
+
+/// A text that its widget has no room for.
+struct Cut {
+    QString text; ///< empty where the widget is too low for any
+    int missing; ///< pixels, of width or of height
+};
+
+/// The texts of a widget that are cut, measured with the font that it has: captions, fields, rows of lists, buttons,
+/// titles of frames.
+[[nodiscard]] std::vector<Cut> cutsIn(const QWidget& widget);
+
+/// The title of a group box, in the widget's pixels; empty where there is none.
+[[nodiscard]] QRect titleOf(const QWidget& widget);
+
+} // namespace ondelis

@@ -1,0 +1,38 @@
+#pragma once
+
+#include <QString>
+#include <functional>
+#include <memory>
+
+#include "Program.h"
+
+namespace ondelis {
+
+/// The entries of the menu that open panels.
+[[nodiscard]] QStringList panelEntries();
+
+/// A person's walk through the panels. After a fault that a panel has, and that ends the program, it goes on in another
+/// program.
+class Walk {
+public:
+    [[nodiscard]] Program& program() const { return *program_; }
+    /// Opens the panels of an entry of the menu.
+    void open(const QString& entry);
+    /// A person does something. False where it has ended the program: then the panels are open anew.
+    bool act(const std::function<void(User&)>& action);
+    /// The control of a panel that is open now; null where there is none.
+    [[nodiscard]] Control* find(const std::string& panel, const std::string& control) const;
+
+    /// Makes each choice that the panels offer, one after the other, and looks at the panels as they open and after
+    /// each of them.
+    void choose(const std::function<void(PanelWindow&)>& look);
+    /// Looks at each panel that is on screen.
+    void lookAt(const std::function<void(PanelWindow&)>& look) const;
+
+private:
+    QString entry_;
+    Patient patient_;
+    std::unique_ptr<Program> program_ = std::make_unique<Program>();
+};
+
+} // namespace ondelis
