@@ -11,7 +11,7 @@ void FocusFrame::paintEvent(QPaintEvent* /*event*/)
     QPainter painter{this}; // the style cuts out the middle, where the widget is
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);
-    painter.setBrush(readable(palette().color(QPalette::Highlight), palette().color(QPalette::Window)));
+    painter.setBrush(readable(palette().color(QPalette::Highlight), palette().color(QPalette::Window), lineContrast));
     painter.drawRoundedRect(rect(), 3, 3);
 }
 
