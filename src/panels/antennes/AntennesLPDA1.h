@@ -51,7 +51,7 @@ public:
     TextBox       TxtZ0          {this, "TxtZ0",           resultField({4080, 4965, 1950, 315}, &LblZ0)};
     Label         LblBalun       {this, "LblBalun",        {.at = {4080, 5355, 1950, 255}}};
     Label         Label15        {this, "Label15",         {.Caption = "R0 conditionne l'espacement entre booms. Plus R0 est élevé, plus l'entre-axe des boom est important. Le balun ramène à 50 Ohms.", .at = {6240, 3795, 2820, 1530}}};
-    Label         Label20        {this, "Label20",         {.Caption = "Choix de la combinaison dimensions et espacement des booms pour obtenir cette impédance", .at = {420, 5730, 5610, 510}}};
+    Label         Label20        {this, "Label20",         {.Caption = "Choix de la combinaison dimensions et espacement des booms pour obtenir cette impédance", .at = {420, 5715, 5610, 510}}};
     CommandButton BtnRetour2     {this, "BtnRetour2",      {.Caption = "Retour", .at = {6600, 5865, 1200, 375}}, &AntennesLPDA1::BtnRetour2_Click};
     CommandButton BtnCalculer2   {this, "BtnCalculer2",    {.Caption = "Calculer", .at = {7860, 5865, 1200, 375}, .Visible = false}, &AntennesLPDA1::BtnCalculer2_Click};
     CommandButton BtnSuite2      {this, "BtnSuite2",       {.Caption = "Suite", .at = {7860, 5865, 1200, 375}}, &AntennesLPDA1::BtnSuite2_Click};
@@ -74,14 +74,14 @@ public:
                                                             .at = {9420, 3060, 5460, 2220}, .Locked = true, .multiLine = true}};
 
     Shape         Cadre4         {this, "Cadre4",          {.at = {9420, 5400, 5460, 2085}}};
-    Label         LblDimBrin     {this, "LblDimBrin",      {.Caption = "Longueur des brins ", .at = {9600, 5580, 3720, 255}}};
-    TextBox       TxtLongBrin    {this, "TxtLongBrin",     {.at = {13380, 5550, 1320, 315}, .label = &LblDimBrin}};
-    Label         LblEspacement  {this, "LblEspacement",   {.Caption = "Espacement des brins ", .at = {9600, 5940, 3720, 255}}};
-    TextBox       TxtEspacement  {this, "TxtEspacement",   {.at = {13380, 5910, 1320, 315}, .label = &LblEspacement}};
-    Label         LblDiamètre    {this, "LblDiamètre",     {.Caption = "Diamètre du brin", .at = {9600, 6300, 3720, 255}}};
-    TextBox       TxtDiamètre    {this, "TxtDiamètre",     {.at = {13380, 6270, 1320, 315}, .label = &LblDiamètre}};
-    Label         Label8         {this, "Label8",          {.Caption = "Label8", .at = {9600, 6645, 780, 255}}};
-    Label         Label23        {this, "Label23",         {.at = {10500, 6645, 780, 255}}};
+    Label         Label8         {this, "Label8",          {.Caption = "Label8", .at = {9600, 5520, 780, 255}}};
+    Label         Label23        {this, "Label23",         {.at = {10500, 5520, 780, 255}}};
+    Label         LblDimBrin     {this, "LblDimBrin",      {.Caption = "Longueur des brins ", .at = {9600, 5865, 3720, 255}}};
+    TextBox       TxtLongBrin    {this, "TxtLongBrin",     {.at = {13380, 5835, 1320, 315}, .label = &LblDimBrin}};
+    Label         LblEspacement  {this, "LblEspacement",   {.Caption = "Espacement des brins ", .at = {9600, 6225, 3720, 255}}};
+    TextBox       TxtEspacement  {this, "TxtEspacement",   {.at = {13380, 6195, 1320, 315}, .label = &LblEspacement}};
+    Label         LblDiamètre    {this, "LblDiamètre",     {.Caption = "Diamètre du brin", .at = {9600, 6585, 3720, 255}}};
+    TextBox       TxtDiamètre    {this, "TxtDiamètre",     {.at = {13380, 6555, 1320, 315}, .label = &LblDiamètre}};
     CommandButton BtnAfficher    {this, "BtnAfficher",     {.Caption = "Afficher", .at = {9600, 6960, 1200, 375}}, &AntennesLPDA1::BtnAfficher_Click};
     CommandButton BtnPrecedent   {this, "BtnPrecedent",    {.Caption = "Précédent", .at = {10900, 6960, 1200, 375}}, &AntennesLPDA1::BtnPrecedent_Click};
     CommandButton BtnSuivant     {this, "BtnSuivant",      {.Caption = "Suivant", .at = {12200, 6960, 1200, 375}}, &AntennesLPDA1::BtnSuivant_Click};

@@ -42,14 +42,14 @@ public:
     TextBox       TxtInductance         {this, "TxtInductance",          resultField({5640, 4920, 2400, 315}, &LblInductance)};
     Label         LblCapacitance        {this, "LblCapacitance",         {.Caption = "Capacitance pF", .at = {2760, 5310, 2820, 255}}};
     TextBox       TxtCapacitance        {this, "TxtCapacitance",         resultField({5640, 5280, 2400, 315}, &LblCapacitance)};
-    Label         LblNombreTours        {this, "LblNombreTours",         {.Caption = "Nombre de tours", .at = {8340, 4230, 3900, 255}}};
-    TextBox       TxtNombreTours        {this, "TxtNombreTours",         resultField({12300, 4200, 1320, 315}, &LblNombreTours)};
-    Label         LblLongueurBobinage   {this, "LblLongueurBobinage",    {.Caption = "Longueur du bobinage mm", .at = {8340, 4590, 3900, 255}}};
-    TextBox       TxtLongueurBobinage   {this, "TxtLongueurBobinage",    resultField({12300, 4560, 1320, 315}, &LblLongueurBobinage)};
-    Label         LblLongueurCoaxial    {this, "LblLongueurCoaxial",     {.Caption = "Longueur de coax requise mm", .at = {8340, 4950, 3900, 255}}};
-    TextBox       TxtLongueurCoaxial    {this, "TxtLongueurCoaxial",     resultField({12300, 4920, 1320, 315}, &LblLongueurCoaxial)};
-    Label         LblLongueurEffective  {this, "LblLongueurEffective",   {.Caption = "Longueur electrique equivalente en mm", .at = {8340, 5310, 3900, 255}}};
-    TextBox       TxtLongueurEffective  {this, "TxtLongueurEffective",   resultField({12300, 5280, 1320, 315}, &LblLongueurEffective)};
+    Label         LblNombreTours        {this, "LblNombreTours",         {.Caption = "Nombre de tours", .at = {8340, 4230, 3660, 255}}};
+    TextBox       TxtNombreTours        {this, "TxtNombreTours",         resultField({12060, 4200, 1560, 315}, &LblNombreTours)};
+    Label         LblLongueurBobinage   {this, "LblLongueurBobinage",    {.Caption = "Longueur du bobinage mm", .at = {8340, 4590, 3660, 255}}};
+    TextBox       TxtLongueurBobinage   {this, "TxtLongueurBobinage",    resultField({12060, 4560, 1560, 315}, &LblLongueurBobinage)};
+    Label         LblLongueurCoaxial    {this, "LblLongueurCoaxial",     {.Caption = "Longueur de coax requise mm", .at = {8340, 4950, 3660, 255}}};
+    TextBox       TxtLongueurCoaxial    {this, "TxtLongueurCoaxial",     resultField({12060, 4920, 1560, 315}, &LblLongueurCoaxial)};
+    Label         LblLongueurEffective  {this, "LblLongueurEffective",   {.Caption = "Longueur electrique equivalente en mm", .at = {8340, 5310, 3660, 255}}};
+    TextBox       TxtLongueurEffective  {this, "TxtLongueurEffective",   resultField({12060, 5280, 1560, 315}, &LblLongueurEffective)};
 
     PictureBox    Picture3              {this, "Picture3",               {.picture = "trappe-antenne", .at = {240, 5880, 7800, 1650}}};
     Label         LblBrinSuivant        {this, "LblBrinSuivant",         {.Caption = "Le brin rayonnant suivant la trappe doit être raccourci de la longueur électrique équivalente de la trappe", .at = {8340, 6075, 5280, 510}}};

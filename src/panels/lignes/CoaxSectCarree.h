@@ -13,8 +13,8 @@ public:
 
     // clang-format off
     Shape        Cadre1    {this, "Cadre1",     {.at = {240, 240, 3060, 1800}}};
-    OptionButton OptZ      {this, "OptZ",       {.Caption = "Calcul de Z", .at = {420, 720, 2700, 345}}, &CoaxSectCarree::OptZ_Click};
-    OptionButton OptD      {this, "OptD",       {.Caption = "Calcul de D", .at = {420, 1215, 2700, 345}}, &CoaxSectCarree::OptD_Click};
+    OptionButton OptZ      {this, "OptZ",       {.Caption = "Calcul de Z", .at = {420, 615, 2700, 345}}, &CoaxSectCarree::OptZ_Click};
+    OptionButton OptD      {this, "OptD",       {.Caption = "Calcul de D", .at = {420, 1320, 2700, 345}}, &CoaxSectCarree::OptD_Click};
 
     // As it opens, D stands above d and the impedance under it.
     Shape        Cadre2    {this, "Cadre2",     {.at = {240, 2280, 3060, 2835}}};
