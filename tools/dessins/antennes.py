@@ -141,10 +141,10 @@ def gamma_dipole(s: Sheet) -> None:
     s.dimension((x + 33, rod + 208), (x + 33, axis + 208), "S", -26)
 
 
-@picture("trappe-coaxiale", 348, 237, "Trappe en coaxial")
+@picture("trappe-coaxiale", 368, 237, "Trappe en coaxial")
 def trappe_coaxiale(s: Sheet) -> None:
     """Coax wound on a former: the inner conductor of one end is joined to the braid of the other."""
-    x, top, bottom, pitch, turns = 116.0, 88.0, 160.0, 16.0, 8
+    x, top, bottom, pitch, turns = 126.0, 88.0, 160.0, 16.0, 8
     s.rect(x - 26, top, turns * pitch + 52, bottom - top, fill=DIELECTRIC)
     for i in range(turns):
         a, b = (x + (i + 0.5) * pitch - 3, top - 5), (x + (i + 0.5) * pitch + 3, bottom + 5)
@@ -159,7 +159,7 @@ def trappe_coaxiale(s: Sheet) -> None:
     # Inner of the first end to the braid of the last one; the other two carry the wires of the antenna.
     s.wire((first, 34), (last - 18, 34), (last - 18, 61), (last - 4.5, 61), stroke=COPPER, width=2.2)
     s.wire((12, 61), (first - 4.5, 61), stroke=COPPER, width=2.2)
-    s.wire((last, 46), (336, 46), stroke=COPPER, width=2.2)
+    s.wire((last, 46), (356, 46), stroke=COPPER, width=2.2)
     s.dimension((x - 26, bottom), (x - 26, top), "Ø mandrin", 42)
     s.dimension((x, bottom + 13), (x + turns * pitch, bottom + 13), "Longueur", -44)
     s.dimension((x + 6 * pitch, bottom + 13), (x + 7 * pitch, bottom + 13), "Ø coaxial", -18)

@@ -75,7 +75,7 @@ Double arrondi(Double x, Double parts)
 
 AntennesTrappesCoaxiales::AntennesTrappesCoaxiales(Desk& desk)
     : FeuilleCalcul{desk,
-        {.name = "AntennesTrappesCoaxiales", .Caption = "Calcul de trappes en coaxial", .Width = 13980, .Height = 8685}}
+        {.name = "AntennesTrappesCoaxiales", .Caption = "Calcul de trappes en coaxial", .Width = 14280, .Height = 8685}}
 {
 }
 

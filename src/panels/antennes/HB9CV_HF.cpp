@@ -7,7 +7,7 @@
 namespace ondelis {
 
 HB9CV_HF::HB9CV_HF(Desk& desk)
-    : FeuilleCalcul{desk, {.name = "HB9CV_HF", .Caption = "HB9CV pour bandes HF", .Width = 11850, .Height = 5175}}
+    : FeuilleCalcul{desk, {.name = "HB9CV_HF", .Caption = "HB9CV pour bandes HF", .Width = 12150, .Height = 5175}}
 {
 }
 
