@@ -54,15 +54,24 @@ QColor readable(const QColor& color, const QColor& background, double enough)
     return mixed;
 }
 
-QRgb turned(QRgb pixel)
+QRgb turned(QRgb pixel, const QColor& ground)
 {
-    const int red = qRed(pixel);
-    const int green = qGreen(pixel);
-    const int blue = qBlue(pixel);
     const int alpha = qAlpha(pixel); // the white of the channels
-    const auto [low, high] = std::minmax({red, green, blue});
-    const int shift = alpha - low - high;
-    return qRgba(red + shift, green + shift, blue + shift, alpha);
+    const int luma = (54 * qRed(pixel) + 183 * qGreen(pixel) + 19 * qBlue(pixel)) / 256; // after ITU-R BT.709
+    const int shift = alpha - 2 * luma;
+    const auto turn = [&](int channel, int dark) {
+        const int light = std::clamp(channel + shift, 0, alpha);
+        return light + dark * (alpha - light) / 255;
+    };
+    return qRgba(
+        turn(qRed(pixel), ground.red()), turn(qGreen(pixel), ground.green()), turn(qBlue(pixel), ground.blue()), alpha);
+}
+
+QColor shown(Color color, QPalette::ColorRole white)
+{
+    const QPalette palette = QApplication::palette();
+    const QColor plain = toQColor(color);
+    return isDark(palette) ? QColor{turned(plain.rgb(), palette.color(white))} : plain;
 }
 
 void Colors::applyToField(QWidget& widget, Color background, Color text)
@@ -72,11 +81,12 @@ void Colors::applyToField(QWidget& widget, Color background, Color text)
     QPalette palette;
     const bool ownBackground = !isSystemColor(background);
     const bool ownText = !isSystemColor(text);
+    const QColor base
+        = ownBackground ? shown(background, QPalette::Base) : QApplication::palette().color(QPalette::Base);
     if (ownBackground)
-        palette.setColor(QPalette::Base, toQColor(background));
-    const QColor base = ownBackground ? toQColor(background) : QApplication::palette().color(QPalette::Base);
+        palette.setColor(QPalette::Base, base);
     if (ownText)
-        palette.setColor(QPalette::Text, readable(toQColor(text), base));
+        palette.setColor(QPalette::Text, readable(shown(text, QPalette::Base), base));
     else if (ownBackground)
         palette.setColor(QPalette::Text, blackOrWhite(base));
     widget.setPalette(palette);
@@ -88,8 +98,8 @@ void Colors::applyToText(QWidget& widget, Color text)
         return;
     QPalette palette;
     if (!isSystemColor(text))
-        palette.setColor(
-            QPalette::WindowText, readable(toQColor(text), QApplication::palette().color(QPalette::Window)));
+        palette.setColor(QPalette::WindowText,
+            readable(shown(text, QPalette::Window), QApplication::palette().color(QPalette::Window)));
     widget.setPalette(palette);
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QColor>
+#include <QPalette>
 #include <QWidget>
 
 #include "forms/Color.h"
@@ -23,8 +24,12 @@ inline constexpr double quietContrast = 1.6; ///< what holds a group together wi
 /// The colour, mixed with black or white as far as it must be to have that contrast with the background.
 [[nodiscard]] QColor readable(const QColor& color, const QColor& background, double enough = textContrast);
 
-/// A pixel, its channels multiplied by alpha, with its lightness turned round; hue and chroma stay.
-[[nodiscard]] QRgb turned(QRgb pixel);
+/// A pixel of a dark window, its channels multiplied by alpha, from one that is meant for light windows: the luma is
+/// turned round, the hue stays, and white becomes the dark ground.
+[[nodiscard]] QRgb turned(QRgb pixel, const QColor& ground);
+
+/// The colour of a control as it is shown: itself on light palettes, turned on dark ones, where that role is white.
+[[nodiscard]] QColor shown(Color color, QPalette::ColorRole white);
 
 /// The colours of one widget: those that its control asks for, and the system's elsewhere.
 class Colors {

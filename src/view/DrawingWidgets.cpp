@@ -10,12 +10,12 @@
 namespace ondelis {
 namespace {
 
-void turnLightness(QImage& image)
+void turnLightness(QImage& image, const QColor& ground)
 {
     for (int y = 0; y < image.height(); ++y) {
         // NOLINTNEXTLINE(cppcoreguidelines-pro-type-reinterpret-cast): a row of 32-bit pixels, given as bytes
         auto* const line = reinterpret_cast<QRgb*>(image.scanLine(y));
-        std::transform(line, line + image.width(), line, turned);
+        std::transform(line, line + image.width(), line, [&](QRgb pixel) { return turned(pixel, ground); });
     }
 }
 
@@ -32,16 +32,17 @@ void Drawing::paint(QWidget& widget, const QRect& into)
         return;
     const double ratio = widget.devicePixelRatioF();
     const QSize pixels = into.size() * ratio;
-    const bool dark = isDark(widget.palette());
-    if (rendered_.size() != pixels || dark_ != dark) {
-        rendered_ = render(pixels, dark);
+    const QPalette& palette = widget.palette();
+    const QColor ground = isDark(palette) ? palette.color(QPalette::Window) : QColor{};
+    if (rendered_.size() != pixels || darkGround_ != ground) {
+        rendered_ = render(pixels, ground);
         rendered_.setDevicePixelRatio(ratio);
-        dark_ = dark;
+        darkGround_ = ground;
     }
     QPainter{&widget}.drawPixmap(into.topLeft(), rendered_);
 }
 
-QPixmap Drawing::render(const QSize& pixels, bool dark) const
+QPixmap Drawing::render(const QSize& pixels, const QColor& darkGround) const
 {
     QSvgRenderer renderer{file_};
     renderer.setAspectRatioMode(Qt::KeepAspectRatio);
@@ -51,8 +52,8 @@ QPixmap Drawing::render(const QSize& pixels, bool dark) const
     painter.setRenderHint(QPainter::Antialiasing);
     renderer.render(&painter);
     painter.end();
-    if (dark)
-        turnLightness(image);
+    if (darkGround.isValid())
+        turnLightness(image, darkGround);
     return QPixmap::fromImage(std::move(image));
 }
 

@@ -11,7 +11,7 @@ namespace ondelis {
 
 /// A vector drawing of resources/dessins, read and rendered when it is first painted, and again when its size or the
 /// system's colours change. The drawings are made for light windows; on dark ones light and dark change places, hues
-/// stay.
+/// stay, and white is the ground of the window.
 class Drawing {
 public:
     explicit Drawing(std::string_view name);
@@ -20,11 +20,11 @@ public:
     void paint(QWidget& widget, const QRect& into);
 
 private:
-    [[nodiscard]] QPixmap render(const QSize& pixels, bool dark) const;
+    [[nodiscard]] QPixmap render(const QSize& pixels, const QColor& darkGround) const;
 
     QString file_;
     QPixmap rendered_;
-    bool dark_ = false;
+    QColor darkGround_; ///< none on light windows
 };
 
 /// A titled group of controls, or a titled drawing.

@@ -96,8 +96,9 @@ void LinesWidget::paintEvent(QPaintEvent* /*event*/)
             painter.setClipRect(stroke.area);
         const bool straight = stroke.line.dx() == 0 || stroke.line.dy() == 0;
         painter.setRenderHint(QPainter::Antialiasing, !straight);
-        const QColor color
-            = isSystemColor(stroke.color) ? text : readable(toQColor(stroke.color), window, lineContrast);
+        const QColor color = isSystemColor(stroke.color)
+            ? text
+            : readable(shown(stroke.color, QPalette::Window), window, lineContrast);
         painter.setPen(QPen{color, stroke.width, Qt::SolidLine, Qt::FlatCap});
         painter.drawLine(stroke.line);
     }

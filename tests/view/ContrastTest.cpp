@@ -133,6 +133,28 @@ private slots:
         QCOMPARE(shown.color(QPalette::Text), readable(QColor{0xFF, 0x80, 0xFF}, QColor{0xC0, 0xFF, 0xFF}));
     }
 
+    void colorsAreTurnedOnDarkPalettes()
+    {
+        const ScopedLook look = palette(true);
+        const QPalette system = QApplication::palette();
+        Program program;
+        auto& panel = program.open<TestPanel>();
+        program.store([&] {
+            panel.TxtA.BackColor = 0xFFFFFF;
+            panel.TxtB.BackColor = 0xFFFFC0;
+            panel.TxtC.ForeColor = 0;
+        });
+        const auto color = [&](const Control& control, QPalette::ColorRole role) {
+            return program.widget(control).palette().color(role);
+        };
+        QCOMPARE(color(panel.TxtA, QPalette::Base), system.color(QPalette::Base));
+        QCOMPARE(color(panel.TxtC, QPalette::Text), QColor{Qt::white});
+        const QColor result = color(panel.TxtB, QPalette::Base);
+        QVERIFY(result.lightness() < 128);
+        QCOMPARE(result.hue(), QColor(0xC0, 0xFF, 0xFF).hue());
+        QCOMPARE(panel.TxtB.BackColor.get(), 0xFFFFC0U);
+    }
+
     void menus_data() { addPalettes(); }
 
     void menus()

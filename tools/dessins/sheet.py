@@ -18,7 +18,7 @@ Point = tuple[float, float]
 # Colours, by role.
 INK = "#1f2d3d"  # circuits and outlines
 COPPER = "#a8561f"  # metal that radiates or is wound: elements, wire, braid
-DIM = "#2f5283"  # dimension lines and what they say
+DIM = "#2a4a78"  # dimension lines and what they say
 METAL = "#d3dae2"  # fill: sheet metal, blocks
 PAPER = "#ffffff"  # fill: what must hide the lines under it
 PALE = "#edf2f7"  # fill: the inside of a symbol
