@@ -4,8 +4,8 @@ from __future__ import annotations
 
 import math
 
-from sheet import (COPPER, COPPER_PALE, DIELECTRIC, DIM, INK, JACKET, METAL, PALE, THIN, TUBE, WORD, Point, Sheet, along,
-                   number, picture, polar, towards)
+from sheet import (COPPER, COPPER_PALE, DIELECTRIC, DIM, INK, JACKET, METAL, PALE, THIN, TUBE, WORD, Point, Sheet,
+                   along, number, picture, polar, towards)
 from symbols import bar, cable, capacitor, junction
 
 
@@ -86,14 +86,13 @@ def gamma_section(s: Sheet, element: Point, rod: Point) -> None:
     s.circle(rod, 9, stroke=COPPER, fill=COPPER_PALE)
     for centre, radius in ((element, 28), (rod, 9)):
         for cross in (u, (u[1], -u[0])):
-            s.wire(along(centre, cross, -radius - 5), along(centre, cross, radius + 5), stroke=DIM, width=THIN,
-                   dash="8 2.5 2 2.5")
+            s.axis(along(centre, cross, -radius - 5), along(centre, cross, radius + 5))
 
 
 def cut(s: Sheet, a: Point, b: Point) -> None:
     """The line along which a section is taken; it is seen to the left of the way from a to b, as the arrows point."""
     u = towards(a, b)
-    s.wire(a, b, stroke=DIM, width=THIN, dash="8 2.5 2 2.5")
+    s.axis(a, b)
     for end in (a, b):
         s.arrow(end, along(end, u, 0, 14), DIM, THIN)
 

@@ -2,7 +2,7 @@
 
 from __future__ import annotations
 
-from sheet import COPPER, COPPER_PALE, DIELECTRIC, DIM, THIN, Point, Sheet, number, picture, polar
+from sheet import AXIS, COPPER, COPPER_PALE, DIELECTRIC, DIM, THIN, Sheet, number, picture, polar
 from symbols import inductor, junction, terminal
 
 CORE = "#8a98a6"  # iron powder and ferrite
@@ -35,11 +35,6 @@ def section(s: Sheet, x: float, top: float, bottom: float, wire: float, pitch: f
         s.circle((x + (i + 0.5) * pitch, bottom), wire / 2, stroke=COPPER, width=1.4, fill=COPPER_PALE)
 
 
-def axis_line(s: Sheet, a: Point, b: Point) -> None:
-    """A chain line along an axis."""
-    s.wire(a, b, stroke=DIM, width=THIN, dash="9 3 2 3")
-
-
 # Four pictures of one size, which stand in a row.
 
 
@@ -57,7 +52,7 @@ def bobine_diametre(s: Sheet) -> None:
     x, y, radius = 52.0, 60.0, 41.0
     s.circle((x, y), radius, stroke=COPPER, width=10)
     s.circle((x, y), radius, stroke=COPPER_PALE, width=7.4)
-    s.circle((x, y), radius, stroke=DIM, width=THIN, dash="9 3 2 3")
+    s.circle((x, y), radius, stroke=DIM, width=THIN, dash=AXIS)
     s.dimension((x - radius + 5, y), (x + radius - 5, y), "D")
     s.dimension((x, y + radius), (x, y - radius), "D + e", -71)
 
@@ -78,7 +73,7 @@ def bobine_longueur(s: Sheet) -> None:
     """The winding in section, with its inner diameter and its length."""
     pitch, wire, turns, x, top, bottom = 15.0, 11.0, 6, 50.0, 18.0, 80.0
     section(s, x, top, bottom, wire, pitch, turns)
-    axis_line(s, (38, 49), (148, 49))
+    s.axis((38, 49), (148, 49))
     right = x + (turns - 0.5) * pitch + wire / 2
     s.dimension((x - wire / 2, bottom + wire / 2), (right, bottom + wire / 2), "L", -24)
     s.dimension((x - wire / 2 - 2, bottom - wire / 2), (x - wire / 2 - 2, top + wire / 2), "D", 26)
@@ -108,7 +103,7 @@ def self_cotes(s: Sheet) -> None:
     """The numbers are those of the fields: inner diameter, length, turns."""
     pitch, wire, turns, x, top, bottom = 26.0, 15.0, 9, 72.0, 50.0, 118.0
     section(s, x, top, bottom, wire, pitch, turns)
-    axis_line(s, (56, 84), (326, 84))
+    s.axis((56, 84), (326, 84))
     right = x + (turns - 0.5) * pitch + wire / 2
     s.dimension((x - wire / 2, bottom + wire / 2), (right, bottom + wire / 2), "2", -25)
     s.dimension((x - wire / 2 - 2, bottom - wire / 2), (x - wire / 2 - 2, top + wire / 2), "1", 30)

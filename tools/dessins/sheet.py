@@ -30,6 +30,7 @@ JACKET = "#8597a9"  # fill: the outside of a cable
 MAIN = 1.6
 THIN = 1.0
 TUBE = 3.4
+AXIS = "9 3 2 3"  # dashes of axes and cuts
 
 # Lettering, in pixels at nominal size.
 LETTER = 13
@@ -209,6 +210,10 @@ class Sheet:
         u = towards(a, b)
         self.wire(a, along(b, u, -ARROW[0] + 1), stroke=colour, width=width)
         self.head(b, u, colour)
+
+    def axis(self, a: Point, b: Point) -> None:
+        """A chain line along an axis, or where a section is cut."""
+        self.wire(a, b, stroke=DIM, width=THIN, dash=AXIS)
 
     # Lettering.
 
