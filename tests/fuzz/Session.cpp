@@ -175,7 +175,8 @@ Outcome playUser(std::uint64_t seed)
 Outcome playAgain(const std::vector<std::string>& commands)
 {
     return play([&commands](Session& session) {
-        static_cast<void>(std::freopen("/dev/null", "w", stderr)); // the sanitizers have reported it already
+        [[maybe_unused]] const std::FILE* const silence
+            = std::freopen("/dev/null", "w", stderr); // the sanitizers have reported it already
         for (const std::string& command : commands)
             if (!session.over())
                 session.carryOut(command);
