@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
-# Checks everything: installs what is missing, builds with warnings as errors, checks the code's shape, and runs
-# every test twice, the second time with sanitizers. Ends at the first step that fails.
+# Checks everything: installs what is missing, builds with warnings as errors, checks the code's shape, makes the
+# package and checks what people install, and runs every test twice, the second time with sanitizers. Ends at the first
+# step that fails.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")"
 source tools/steps.sh
@@ -9,7 +10,7 @@ jobs=$(nproc)
 code=(src tests tools bench)
 
 check_scripts() {
-    shellcheck -x ./*.sh tools/*.sh .ci/run
+    shellcheck -x ./*.sh tools/*.sh packaging/*.sh .ci/run
 }
 
 check_format() {
@@ -28,12 +29,18 @@ run_tests() {
     ctest --preset "$1" -j"$jobs"
 }
 
+make_package() (
+    cd build/release && cpack -G DEB
+)
+
 step "Packages" tools/install-packages.sh
 step "Scripts (shellcheck)" check_scripts
 step "Layout (clang-format)" check_format
 step "Release build, warnings as errors" build release
 step "Lint (clang-tidy)" check_tidy
 step "Tests (release)" run_tests release
+step "Debian package" make_package
+step "Installation and package (validators)" packaging/check.sh build/release
 step "Build with address and undefined behaviour sanitizers" build sanitize
 step "Tests (sanitizers)" run_tests sanitize
 report

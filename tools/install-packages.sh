@@ -4,9 +4,9 @@
 set -euo pipefail
 
 packages=(
-    # Building
+    # Building; the icons are rendered from a drawing
     g++ cmake ninja-build pkg-config
-    qt6-base-dev qt6-base-private-dev qt6-svg-dev
+    qt6-base-dev qt6-base-private-dev qt6-svg-dev librsvg2-bin
     # Running: the platform plugins, the toolkit's French words, the common font
     qt6-qpa-plugins qt6-wayland qt6-translations-l10n fonts-dejavu-core
     # Tests and benchmarks
@@ -20,9 +20,11 @@ packages=(
     # A desktop around the program in its tests, and the eyes of a screen reader
     openbox x11-xserver-utils dbus-daemon at-spi2-core gir1.2-atspi-2.0 python3-gi
     # The drawings, made anew by tools/dessins
-    python3 librsvg2-bin
+    python3
     # A region with a decimal comma, for tests
     locales
+    # The package and what people install
+    dpkg-dev lintian desktop-file-utils appstream man-db
 )
 
 missing=()

@@ -1,0 +1,106 @@
+#!/usr/bin/env bash
+# check.sh BUILD
+# Checks what people install from a release build, and the Debian package that cpack has made there. Ends at the first
+# check that fails.
+set -euo pipefail
+
+build=$1
+here=$(dirname "${BASH_SOURCE[0]}")
+
+scratch=$(mktemp -d)
+running="Preparation"
+finish() {
+    local status=$?
+    rm -rf "$scratch"
+    [[ $status -eq 0 ]] || echo "FAILED: $running" >&2
+}
+trap finish EXIT
+
+staged=$scratch/staged/opt/ondelis # a prefix that no default knows
+unpacked=$scratch/unpacked
+
+version=$(sed -n 's/^CMAKE_PROJECT_VERSION:.*=//p' "$build/CMakeCache.txt")
+package=$build/ondelis_${version}_$(dpkg --print-architecture).deb
+
+# check WORDS COMMAND...
+check() {
+    running=$1
+    echo "$running"
+    shift
+    "$@"
+}
+
+# silent COMMAND...: succeeds, and warns of nothing.
+silent() {
+    local said
+    if ! said=$("$@" 2>&1) || [[ -n $said ]]; then
+        printf '%s\n' "$said" >&2
+        return 1
+    fi
+}
+
+unpack() {
+    DESTDIR=$scratch/staged cmake --install "$build" --prefix /opt/ondelis >"$scratch/log"
+    dpkg-deb -x "$package" "$unpacked"
+}
+
+# files FOLDER PAPER...: the folder holds what belongs to the program, its papers, and nothing else; nothing in it is
+# closed to other users.
+files() {
+    local folder=$1
+    shift
+    {
+        printf '%s\n' bin/ondelis share/applications/ondelis.desktop share/metainfo/org.example.ondelis.metainfo.xml \
+            share/icons/hicolor/{16x16,22x22,24x24,32x32,48x48,64x64,128x128,256x256,512x512}/apps/ondelis.png \
+            share/icons/hicolor/scalable/apps/ondelis.svg share/man/{,fr/}man1/ondelis.1.gz
+        printf "share/doc/ondelis/%s\n" "$@"
+    } | LC_ALL=C sort >"$scratch/expected"
+    (cd "$folder" && find . ! -type d -printf '%P\n') | LC_ALL=C sort | diff "$scratch/expected" -
+    silent find "$folder" ! -perm -o=r
+}
+
+icons() {
+    local icon size
+    for icon in "$staged"/share/icons/hicolor/*x*/apps/ondelis.png; do
+        size=$(identify -format '%wx%h' "$icon")
+        [[ $icon == */"$size"/apps/* ]] || { echo "$icon is of $size" >&2; return 1; }
+    done
+}
+
+# Every list of releases begins with the version that is built.
+releases() {
+    local says
+    says=$(printf '%s\n' "$(sed -n 's/^## \[\([0-9.]*\)\].*/\1/p' "$here/../CHANGELOG.md" | head -n1)" \
+        "$(sed -n 's/.*<release version="\([^"]*\)".*/\1/p' "$here/org.example.ondelis.metainfo.xml" | head -n1)" \
+        "$(dpkg-parsechangelog -l "$here/debian/changelog" -S Version)" | sort -u)
+    [[ $says == "$version" ]] || { printf '%s\n' "$says" "is not $version" >&2; return 1; }
+}
+
+man_pages() {
+    local page warnings
+    for page in "$staged"/share/man/{,fr/}man1/ondelis.1.gz; do
+        warnings=$(LC_ALL=C.UTF-8 MANROFFSEQ='' MANWIDTH=80 man --warnings -E UTF-8 -l -Tutf8 -Z "$page" 2>&1 >/dev/null)
+        [[ -z $warnings ]] || { printf '%s\n' "$warnings" >&2; return 1; }
+        lexgrog "$page" >/dev/null
+    done
+}
+
+# starts FOLDER: the program of the desktop entry, installed there, answers real keys on a display.
+starts() {
+    local program
+    program=$1/bin/$(sed -n 's/^Exec=//p' "$1/share/applications/ondelis.desktop")
+    LC_ALL=C.UTF-8 "$here/../tools/demonstration.sh" "$program" "$scratch/screen.png" >"$scratch/shown"
+    grep -q 'Résonance: "1449275.36"' "$scratch/shown" || { cat "$scratch/shown" >&2; return 1; }
+}
+
+check "Installation into a prefix, and the package unpacked" unpack
+check "The files of the installation" files "$staged" LICENSE CHANGELOG.md
+check "The files of the package" files "$unpacked/usr" copyright changelog.gz
+check "The sizes of the icons" icons
+check "The version in all lists of releases" releases
+check "Desktop entry (desktop-file-validate)" silent desktop-file-validate "$staged/share/applications/ondelis.desktop"
+check "Metainfo (appstreamcli)" appstreamcli validate --no-net --strict "$staged"/share/metainfo/*.xml
+check "Man pages" man_pages
+check "Package (lintian)" lintian --allow-root --fail-on error,warning --display-level '>=warning' "$package"
+check "The installed program starts" starts "$staged"
+check "The packaged program starts" starts "$unpacked/usr"
