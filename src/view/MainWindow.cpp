@@ -1,8 +1,12 @@
 #include "view/MainWindow.h"
 
+#include <QApplication>
 #include <QCloseEvent>
+#include <QIcon>
 #include <QMenuBar>
 #include <QShortcut>
+#include <QTimer>
+#include <utility>
 
 #include "shell/MDIOndelis.h"
 #include "shell/Menu.h"
@@ -31,6 +35,13 @@ void MainWindow::closeEvent(QCloseEvent* event)
 {
     event->accept();
     view_.close();
+}
+
+void MainWindow::paintEvent(QPaintEvent* event)
+{
+    QMainWindow::paintEvent(event);
+    if (!std::exchange(painted_, true)) // the icon is a drawing: it must not hold up the first sight of the window
+        QTimer::singleShot(0, this, [] { QApplication::setWindowIcon(QIcon{QStringLiteral(":/ondelis.svg")}); });
 }
 
 void MainWindow::showEvent(QShowEvent* event)

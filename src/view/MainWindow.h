@@ -20,6 +20,7 @@ public:
 
 protected:
     void closeEvent(QCloseEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
     void showEvent(QShowEvent* event) override;
     void moveEvent(QMoveEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
@@ -39,6 +40,7 @@ private:
     MDIOndelis& frame_;
     ClientArea* area_;
     bool bordered_ = false;
+    bool painted_ = false;
 };
 
 } // namespace ondelis

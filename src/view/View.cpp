@@ -1,11 +1,9 @@
 #include "view/View.h"
 
 #include <QApplication>
-#include <QIcon>
 #include <QMdiArea>
 #include <QScopedValueRollback>
 #include <QScreen>
-#include <QTimer>
 #include <algorithm>
 #include <utility>
 
@@ -52,9 +50,6 @@ void View::open(MDIOndelis& frame)
     frame.start();
     show();
     mainWindow_->show();
-    // The icon is a drawing: it must not hold up the first sight of the window.
-    QTimer::singleShot(
-        0, mainWindow_.get(), [] { QApplication::setWindowIcon(QIcon{QStringLiteral(":/ondelis.svg")}); });
 }
 
 int View::run()
