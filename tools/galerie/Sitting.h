@@ -32,6 +32,9 @@ public:
     /// Refused where a person could not do it or it ends the program, and Malformed.
     void play(std::string_view line);
 
+    [[nodiscard]] View& view() { return view_; }
+    [[nodiscard]] MDIOndelis& frame() { return frame_; }
+
     /// Writes a picture of a window: that of a panel, or "MDIOndelis". Throws Refused.
     void picture(std::string_view window, const std::string& file) const;
 
