@@ -4,6 +4,7 @@
 #include <QFont>
 #include <QLoggingCategory>
 #include <QPalette>
+#include <QStyle>
 
 namespace ondelis::galerie {
 namespace {
@@ -46,8 +47,11 @@ void Look::chooseResolution() const
 void Look::apply() const
 {
     QApplication::setFont(QFont{QStringLiteral("DejaVu Sans"), 9}); // the same pictures whatever the system's font
-    if (dark)
-        QApplication::setPalette(darkPalette());
+    if (!dark)
+        return;
+    QPalette palette = darkPalette();
+    QApplication::style()->polish(palette); // as the style does with what the desktop has
+    QApplication::setPalette(palette);
 }
 
 } // namespace ondelis::galerie
