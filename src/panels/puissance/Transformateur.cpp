@@ -62,7 +62,7 @@ Label::Design Transformateur::cote(const char* texte, double x, double y)
 {
     return {.Caption = texte,
         .at = lettre({4470, 2430, 6450, 3480}, x, y),
-        .ForeColor = 0x83522F, // of the dimension lines
+        .ForeColor = 0x784A2A, // of the dimension lines
         .align = Align::Center,
         .font = {.size = 8}};
 }
