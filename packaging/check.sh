@@ -67,6 +67,15 @@ icons() {
     done
 }
 
+# The metainfo says how large the pictures are that it names.
+screenshots() {
+    local width height name
+    while read -r width height name; do
+        diff <(echo "$width $height") <(identify -format '%w %h\n' "$here/../docs/pictures/$name")
+    done < <(sed -n 's|.*<image .*width="\(.*\)" height="\(.*\)">.*/pictures/\(.*\)</image>|\1 \2 \3|p' \
+        "$here/org.example.ondelis.metainfo.xml")
+}
+
 # Every list of releases begins with the version that is built.
 releases() {
     local says
@@ -97,6 +106,7 @@ check "Installation into a prefix, and the package unpacked" unpack
 check "The files of the installation" files "$staged" LICENSE CHANGELOG.md
 check "The files of the package" files "$unpacked/usr" copyright changelog.gz
 check "The sizes of the icons" icons
+check "The sizes of the screenshots" screenshots
 check "The version in all lists of releases" releases
 check "Desktop entry (desktop-file-validate)" silent desktop-file-validate "$staged/share/applications/ondelis.desktop"
 check "Metainfo (appstreamcli)" appstreamcli validate --no-net --strict "$staged"/share/metainfo/*.xml
