@@ -65,7 +65,7 @@ PanelWindow* View::find(const FeuilleCalcul& panel) const
 
 void View::act(const std::function<void(User&)>& action)
 {
-    if (waitingBoxes_ > 0 || showing_ || status_)
+    if (waitingBoxes_ > 0 || showing_ || frame_->desk().ended())
         return;
     {
         const Counted running{actions_};

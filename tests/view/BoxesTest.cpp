@@ -134,6 +134,21 @@ private slots:
         QCOMPARE(panel.events, (std::vector<std::string>{"BtnGo_Click"}));
     }
 
+    void aFaultIsNamedThoughItsButtonIsGone()
+    {
+        Program program;
+        auto& panel = program.open<TestPanel>();
+        panel.onGo = [&] {
+            panel.BtnGo.Visible = false; // the keyboard goes to another control
+            throw Fault{FaultKind::DivisionByZero};
+        };
+        Reader reader{{"OK"}};
+        clickLater(program, panel);
+        QCOMPARE(program.view.run(), 1);
+        QCOMPARE(reader.seen.size(), std::size_t{1});
+        QVERIFY(reader.seen.at(0).text.contains(QStringLiteral("Division par zéro")));
+    }
+
     void aFaultWhileEventsRunLeavesTheHandler()
     {
         Program program;
