@@ -2,6 +2,8 @@
 
 #include <QPaintEvent>
 #include <QPainter>
+#include <QScrollBar>
+#include <algorithm>
 #include <chrono>
 #include <utility>
 
@@ -13,6 +15,13 @@ constexpr QRgb dusk = 0xFF3D4A5D;
 
 constexpr std::chrono::milliseconds idleTime{500};
 
+/// Scrolls until what reaches from `first` to `last` lies in the length that is seen, or at least begins there.
+void reveal(QScrollBar& bar, int first, int last, int seen)
+{
+    const int beyond = std::max(0, last - seen + 1);
+    bar.setValue(bar.value() + std::min(first, beyond));
+}
+
 } // namespace
 
 ClientArea::ClientArea(QWidget* parent) : QMdiArea{parent}
@@ -23,6 +32,15 @@ ClientArea::ClientArea(QWidget* parent) : QMdiArea{parent}
     idle_.setSingleShot(true);
     idle_.setInterval(idleTime);
     connect(&idle_, &QTimer::timeout, this, [this] { picture_ = {}; });
+}
+
+void ClientArea::bringIntoSight(const QWidget& widget)
+{
+    constexpr int around = 8; // pixels
+    const QRect place
+        = QRect{widget.mapTo(viewport(), QPoint{}), widget.size()}.adjusted(-around, -around, around, around);
+    reveal(*horizontalScrollBar(), place.left(), place.right(), viewport()->width());
+    reveal(*verticalScrollBar(), place.top(), place.bottom(), viewport()->height());
 }
 
 void ClientArea::paintEvent(QPaintEvent* event)

@@ -11,6 +11,9 @@ class ClientArea final : public QMdiArea {
 public:
     explicit ClientArea(QWidget* parent);
 
+    /// Scrolls until the widget, which is on a panel, can be seen.
+    void bringIntoSight(const QWidget& widget);
+
 protected:
     void paintEvent(QPaintEvent* event) override;
     void scrollContentsBy(int dx, int dy) override;

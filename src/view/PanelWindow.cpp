@@ -10,8 +10,10 @@
 #include <algorithm>
 #include <utility>
 
+#include "view/ClientArea.h"
 #include "view/ControlWidget.h"
 #include "view/FocusFrame.h"
+#include "view/MainWindow.h"
 #include "view/View.h"
 #include "view/WidgetMaker.h"
 
@@ -32,6 +34,7 @@ PanelWindow::PanelWindow(View& view, FeuilleCalcul& panel)
 PanelWindow::~PanelWindow()
 {
     leave(); // widgets that lose the keyboard while they go tell it to nobody
+    disconnect(qApp, nullptr, this, nullptr);
 }
 
 ControlWidget* PanelWindow::find(const Control& control) const
@@ -149,11 +152,20 @@ void PanelWindow::makeWidgets()
     for (Control* control : panel_.controls())
         follow(*control);
 
-    auto* const mark = new FocusFrame{form};
-    mark->hide(); // a panel of texts has nothing to mark
-    connect(qApp, &QApplication::focusChanged, mark, [this, mark](QWidget* /*before*/, QWidget* now) {
-        mark->setWidget(controlOf(now) == nullptr ? nullptr : now);
-    });
+    focusFrame_ = new FocusFrame{form};
+    focusFrame_->hide(); // until a control has the keyboard: a panel of texts never has one
+    connect(qApp, &QApplication::focusChanged, this, [this](QWidget* /*before*/, QWidget* now) { markFocus(now); });
+}
+
+void PanelWindow::markFocus(QWidget* focused)
+{
+    if (gone_)
+        return;
+    const bool mine = controlOf(focused) != nullptr;
+    focusFrame_->setWidget(mine ? focused : nullptr);
+    // Under a mouse button nothing must move away.
+    if (mine && QApplication::mouseButtons() == Qt::NoButton)
+        view_.mainWindow().area().bringIntoSight(*focused);
 }
 
 void PanelWindow::makeMenu()

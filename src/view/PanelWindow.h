@@ -10,6 +10,7 @@
 namespace ondelis {
 
 class ControlWidget;
+class FocusFrame;
 class View;
 
 /// The window of any panel: made when the panel comes on screen, gone when it is closed. A panel that is opened again
@@ -57,6 +58,8 @@ protected:
 private:
     void makeWidgets();
     void makeMenu();
+    /// Shows which widget has the keyboard, if it is one of this panel.
+    void markFocus(QWidget* focused);
     /// Gives a new name to the widgets that are named after the label, or after the panel.
     void rename(const Label* label, const std::string& name);
     /// Writes the title in the system's font, smaller where a large one does not fit.
@@ -69,6 +72,7 @@ private:
     FeuilleCalcul& panel_;
     std::unordered_map<const Control*, ControlWidget*> widgets_;
     std::unordered_multimap<const Label*, QWidget*> named_; ///< by their label; null for the panel
+    FocusFrame* focusFrame_ = nullptr;
     bool gone_ = false;
     bool activated_ = false;
     bool following_ = false;

@@ -41,7 +41,11 @@ void note(std::vector<Noted*>& list, Noted& one)
 
 View::View() = default;
 
-View::~View() = default;
+View::~View()
+{
+    for (const auto& [panel, window] : windows_)
+        window->leave();
+}
 
 void View::open(MDIOndelis& frame)
 {

@@ -111,6 +111,20 @@ private slots:
         QVERIFY(!program.window(program.desk.get<Apropos>()).form().findChild<QFocusFrame*>()->isVisible());
     }
 
+    void thereIsNoMarkWithoutTheKeyboard()
+    {
+        Program program;
+        QWidget other;
+        other.show();
+        other.activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&other));
+        const auto& panel = program.open<TestPanel>();
+        QVERIFY(!program.widget(panel.TxtA).hasFocus());
+        const auto marks = program.window(panel).findChildren<QFocusFrame*>();
+        QCOMPARE(marks.size(), 1);
+        QVERIFY(!marks.first()->isVisible());
+    }
+
     void theMarkGoesWithItsControl()
     {
         Program program;
