@@ -4,8 +4,10 @@
 #include <QCloseEvent>
 #include <QIcon>
 #include <QMenuBar>
+#include <QScreen>
 #include <QShortcut>
 #include <QTimer>
+#include <algorithm>
 #include <utility>
 
 #include "shell/MDIOndelis.h"
@@ -54,12 +56,14 @@ void MainWindow::moveEvent(QMoveEvent* event)
 {
     QMainWindow::moveEvent(event);
     tellPlace();
+    keepInSight();
 }
 
 void MainWindow::resizeEvent(QResizeEvent* event)
 {
     QMainWindow::resizeEvent(event);
     tellPlace();
+    keepInSight();
 }
 
 void MainWindow::makeMenu()
@@ -117,6 +121,22 @@ void MainWindow::tellPlace()
     const Scale scale{*this};
     frame_.placed({scale.twips(frameGeometry().x()), scale.twips(frameGeometry().y())},
         {scale.twips(frameGeometry().width()), scale.twips(frameGeometry().height())});
+}
+
+void MainWindow::keepInSight()
+{
+    const QRect screens = screen()->availableVirtualGeometry();
+    const QRect inner = geometry();
+    QMargins hidden;
+    if (inner.width() > screens.width()) {
+        hidden.setLeft(std::max(0, screens.left() - inner.left()));
+        hidden.setRight(std::max(0, inner.right() - screens.right()));
+    }
+    if (inner.height() > screens.height()) {
+        hidden.setTop(std::max(0, screens.top() - inner.top()));
+        hidden.setBottom(std::max(0, inner.bottom() - screens.bottom()));
+    }
+    setContentsMargins(hidden);
 }
 
 } // namespace ondelis

@@ -35,6 +35,8 @@ private:
     void takePlace();
     /// Tells the frame where the user has put the window.
     void tellPlace();
+    /// Keeps menu and client area in the part of the window that can be seen, where it is larger than the screen.
+    void keepInSight();
 
     View& view_;
     MDIOndelis& frame_;

@@ -44,9 +44,9 @@ class Hardships(DesktopCase):
         self.ends(0)
 
     def test_small_screen(self) -> None:
-        self.start(size="800x600")  # the menu bar stands above its upper edge
+        self.start(size="800x600")  # the frame reaches beyond it on all sides
         self.open_section()
-        self.person.pick_by_key("Fin de travail", "Quitter")
+        self.person.pick("Fin de travail", "Quitter")
         self.ends(0)
 
     def test_screen_unplugged(self) -> None:

@@ -40,7 +40,7 @@ void Look::chooseResolution() const
     qputenv("QT_FONT_DPI", QByteArray::number(dpi));
     if (qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
         return;
-    qputenv("QT_QPA_PLATFORM", "offscreen");
+    qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" SCREEN); // large enough for the frame
     QLoggingCategory::setFilterRules(QStringLiteral("default.warning=false")); // it warns of each window's size hints
 }
 

@@ -1,0 +1,161 @@
+#include <QLineEdit>
+#include <QMenuBar>
+#include <QScreen>
+#include <QScrollBar>
+
+#include "Program.h"
+#include "TestPanel.h"
+#include "shell/Menu.h"
+#include "view/ClientArea.h"
+
+namespace ondelis {
+
+/// The program on the screen of a small laptop, 1366 by 768 pixels, which the frame does not fit on.
+class SmallScreenTest final : public QObject {
+    Q_OBJECT
+
+    static QRect onScreen(const QWidget& widget) { return {widget.mapToGlobal(QPoint{}), widget.size()}; }
+
+    /// What can be seen of the client area.
+    static QRect seen(const Program& program)
+    {
+        return onScreen(*program.view.mainWindow().area().viewport()) & program.view.mainWindow().screen()->geometry();
+    }
+
+    /// The controls that do not come into sight when they get the keyboard.
+    static QStringList controlsOutOfSight(const Program& program)
+    {
+        QStringList faults;
+        for (const FeuilleCalcul* panel : program.desk.loadedPanels())
+            for (const Control* control : panel->controls()) {
+                if (!control->focusable())
+                    continue;
+                QWidget& widget = program.widget(*control);
+                widget.setFocus(Qt::TabFocusReason);
+                if (!seen(program).contains(onScreen(widget)))
+                    faults.append(toQString(panel->design().name + "." + control->name()));
+            }
+        return faults;
+    }
+
+    /// The panels of which some part is not seen, wherever the client area is scrolled to.
+    static QStringList panelsOutOfSight(const Program& program)
+    {
+        QScrollBar& across = *program.view.mainWindow().area().horizontalScrollBar();
+        QScrollBar& down = *program.view.mainWindow().area().verticalScrollBar();
+        QStringList faults;
+        for (const FeuilleCalcul* panel : program.desk.loadedPanels()) {
+            const PanelWindow& window = program.window(*panel);
+            across.setValue(across.minimum());
+            down.setValue(down.minimum());
+            const bool start = seen(program).contains(onScreen(window).topLeft());
+            across.setValue(across.maximum());
+            down.setValue(down.maximum());
+            if (!start || !seen(program).contains(onScreen(window).bottomRight()))
+                faults.append(toQString(panel->design().name));
+        }
+        return faults;
+    }
+
+private slots:
+    void initTestCase()
+    {
+        const QSize size = QGuiApplication::primaryScreen()->size();
+        QCOMPARE(size, (QSize{1366, 768}));
+    }
+
+    void theFrameIsAsLargeAsItSays()
+    {
+        const Program program;
+        const MainWindow& window = program.view.mainWindow();
+        QCOMPARE(window.frameGeometry(), (QRect{34, -116, 1298, 1000}));
+        QCOMPARE(Double{program.frame.Height}.value(), 15000.0);
+        QVERIFY(Double{program.frame.Top}.value() < 0);
+    }
+
+    void menuAndClientAreaAreSeen()
+    {
+        const Program program;
+        const MainWindow& window = program.view.mainWindow();
+        const QRect screen = window.screen()->geometry();
+        QVERIFY(screen.contains(onScreen(*window.menuBar())));
+        QVERIFY(screen.contains(onScreen(window.area())));
+        QVERIFY(window.area().height() > 700);
+    }
+
+    void theyComeWithTheWindow()
+    {
+        const Program program;
+        MainWindow& window = program.view.mainWindow();
+        window.move(window.x(), 0);
+        QTRY_COMPARE(window.menuBar()->y(), 0);
+        QTRY_VERIFY(window.screen()->geometry().contains(onScreen(window.area())));
+        window.resize(800, 600);
+        QTRY_COMPARE(window.contentsMargins(), QMargins{});
+        window.move(-100, 400); // it fits on the screen: where the user puts it is his business
+        QCOMPARE(window.contentsMargins(), QMargins{});
+    }
+
+    void everythingCanBeReached_data()
+    {
+        QTest::addColumn<QString>("entry");
+        for (const Menu& menu : menuTree())
+            for (const MenuEntry& entry : menu.entries)
+                if (entry.control != "MenuQuitter")
+                    QTest::newRow(toQString(entry.control).toUtf8().constData()) << toQString(entry.control);
+    }
+
+    void everythingCanBeReached()
+    {
+        QFETCH(QString, entry);
+        const Patient patient;
+        Program program;
+        MainWindow& window = program.view.mainWindow();
+        program.pick(entry.toUtf8().constData());
+        window.activateWindow(); // a box may have been before it, and there is no window manager
+        QVERIFY(QTest::qWaitForWindowActive(&window));
+        QCOMPARE(controlsOutOfSight(program), QStringList{});
+        QCOMPARE(panelsOutOfSight(program), QStringList{});
+        window.setGeometry(100, 100, 800, 600);
+        QTRY_COMPARE(window.contentsMargins(), QMargins{});
+        QCOMPARE(controlsOutOfSight(program), QStringList{});
+        QCOMPARE(panelsOutOfSight(program), QStringList{});
+    }
+
+    void aPanelComesIntoSightAsItOpens()
+    {
+        Program program;
+        auto& panel = program.desk.get<TestPanel>();
+        panel.onLoad = [&] { panel.Left = 24000; };
+        program.open<TestPanel>();
+        QTRY_VERIFY(seen(program).contains(onScreen(program.widget(panel.TxtA))));
+        QCOMPARE(Double{panel.Left}.value(), 24000.0);
+    }
+
+    void nothingMovesUnderTheMouse()
+    {
+        Program program;
+        auto& panel = program.open<TestPanel>();
+        program.store([&] { panel.Left = 14000; }); // the second list is cut by the edge
+        auto& list = program.widget(panel.LstR);
+        QVERIFY(!seen(program).contains(onScreen(list)));
+        const QPoint place = onScreen(list).topLeft();
+        QVERIFY(seen(program).contains(place));
+        QWindow* const window = program.view.mainWindow().windowHandle();
+        const QPoint press = window->mapFromGlobal(place) + QPoint{3, 3};
+        QTest::mousePress(window, Qt::LeftButton, Qt::NoModifier, press);
+        QVERIFY(list.hasFocus());
+        QCOMPARE(onScreen(list).topLeft(), place);
+        QTest::mouseRelease(window, Qt::LeftButton, Qt::NoModifier, press);
+        QCOMPARE(panel.LstR.ListIndex.get().value(), 0);
+    }
+};
+
+} // namespace ondelis
+
+int main(int argc, char** argv)
+{
+    return ondelis::runTests<ondelis::SmallScreenTest>(argc, argv);
+}
+
+#include "SmallScreenTest.moc"
