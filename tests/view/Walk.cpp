@@ -1,6 +1,7 @@
 #include "Walk.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "forms/Controls.h"
 #include "shell/Menu.h"
@@ -44,13 +45,23 @@ QStringList panelEntries()
 
 void Walk::open(const QString& entry)
 {
-    entry_ = entry;
+    open([entry](Program& program) { program.pick(entry.toUtf8().constData()); });
+}
+
+void Walk::open(std::function<void(Program&)> opening)
+{
+    opening_ = std::move(opening);
+    reopen();
+}
+
+void Walk::reopen()
+{
     if (program_->desk.ended()) {
         program_.reset();
         patient_.recover();
         program_ = std::make_unique<Program>();
     }
-    program_->pick(entry_.toUtf8().constData());
+    opening_(*program_);
 }
 
 bool Walk::act(const std::function<void(User&)>& action)
@@ -58,7 +69,7 @@ bool Walk::act(const std::function<void(User&)>& action)
     program_->view.act(action);
     if (!program_->desk.ended())
         return true;
-    open(entry_);
+    reopen();
     return false;
 }
 

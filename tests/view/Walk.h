@@ -18,6 +18,8 @@ public:
     [[nodiscard]] Program& program() const { return *program_; }
     /// Opens the panels of an entry of the menu.
     void open(const QString& entry);
+    /// Opens other panels: what this does is done again after a fault.
+    void open(std::function<void(Program&)> opening);
     /// A person does something. False where it has ended the program: then the panels are open anew.
     bool act(const std::function<void(User&)>& action);
     /// The control of a panel that is open now; null where there is none.
@@ -30,7 +32,9 @@ public:
     void lookAt(const std::function<void(PanelWindow&)>& look) const;
 
 private:
-    QString entry_;
+    void reopen();
+
+    std::function<void(Program&)> opening_;
     Patient patient_;
     std::unique_ptr<Program> program_ = std::make_unique<Program>();
 };

@@ -1,0 +1,38 @@
+#pragma once
+
+#include <functional>
+#include <random>
+
+#include "FormCheck.h"
+#include "Walk.h"
+#include "forms/Controls.h"
+
+namespace ondelis {
+
+/// A person who types awkward numbers into every field, chooses rows and options, moves bars to their ends and presses
+/// buttons, the same ones each time: results come out as long as they get.
+class Typist {
+public:
+    using Look = std::function<void(PanelWindow& window, const Typed& typed)>;
+
+    /// Looks at the panels of the walk after each action.
+    Typist(Walk& walk, Look look) : walk_{walk}, look_{std::move(look)} { }
+
+    /// Goes through all controls of the panels that are open, so many times.
+    void work(int rounds);
+
+private:
+    void round();
+    /// What the person does with a control now.
+    [[nodiscard]] std::function<void(User&)> gestureOn(Control& control);
+    void noteTyped(const Control& control);
+    [[nodiscard]] unsigned oneOf(unsigned count) { return static_cast<unsigned>(random_() % count); }
+
+    Walk& walk_;
+    Look look_;
+    std::mt19937 random_;
+    QString number_; ///< that was typed last
+    Typed typed_;
+};
+
+} // namespace ondelis
