@@ -76,12 +76,12 @@ public:
     Shape         Cadre4         {this, "Cadre4",          {.at = {9420, 5400, 5460, 2085}}};
     Label         Label8         {this, "Label8",          {.Caption = "Label8", .at = {9600, 5520, 780, 255}}};
     Label         Label23        {this, "Label23",         {.at = {10500, 5520, 780, 255}}};
-    Label         LblDimBrin     {this, "LblDimBrin",      {.Caption = "Longueur des brins ", .at = {9600, 5865, 3720, 255}}};
-    TextBox       TxtLongBrin    {this, "TxtLongBrin",     {.at = {13380, 5835, 1320, 315}, .label = &LblDimBrin}};
-    Label         LblEspacement  {this, "LblEspacement",   {.Caption = "Espacement des brins ", .at = {9600, 6225, 3720, 255}}};
-    TextBox       TxtEspacement  {this, "TxtEspacement",   {.at = {13380, 6195, 1320, 315}, .label = &LblEspacement}};
-    Label         LblDiamètre    {this, "LblDiamètre",     {.Caption = "Diamètre du brin", .at = {9600, 6585, 3720, 255}}};
-    TextBox       TxtDiamètre    {this, "TxtDiamètre",     {.at = {13380, 6555, 1320, 315}, .label = &LblDiamètre}};
+    Label         LblDimBrin     {this, "LblDimBrin",      {.Caption = "Longueur des brins ", .at = {9600, 5865, 3420, 255}}};
+    TextBox       TxtLongBrin    {this, "TxtLongBrin",     {.at = {13080, 5835, 1620, 315}, .label = &LblDimBrin}};
+    Label         LblEspacement  {this, "LblEspacement",   {.Caption = "Espacement des brins ", .at = {9600, 6225, 3420, 255}}};
+    TextBox       TxtEspacement  {this, "TxtEspacement",   {.at = {13080, 6195, 1620, 315}, .label = &LblEspacement}};
+    Label         LblDiamètre    {this, "LblDiamètre",     {.Caption = "Diamètre du brin", .at = {9600, 6585, 3420, 255}}};
+    TextBox       TxtDiamètre    {this, "TxtDiamètre",     {.at = {13080, 6555, 1620, 315}, .label = &LblDiamètre}};
     CommandButton BtnAfficher    {this, "BtnAfficher",     {.Caption = "Afficher", .at = {9600, 6960, 1200, 375}}, &AntennesLPDA1::BtnAfficher_Click};
     CommandButton BtnPrecedent   {this, "BtnPrecedent",    {.Caption = "Précédent", .at = {10900, 6960, 1200, 375}}, &AntennesLPDA1::BtnPrecedent_Click};
     CommandButton BtnSuivant     {this, "BtnSuivant",      {.Caption = "Suivant", .at = {12200, 6960, 1200, 375}}, &AntennesLPDA1::BtnSuivant_Click};

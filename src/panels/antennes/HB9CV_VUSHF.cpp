@@ -7,7 +7,7 @@
 namespace ondelis {
 
 HB9CV_VUSHF::HB9CV_VUSHF(Desk& desk)
-    : FeuilleCalcul{desk, {.name = "HB9CV_VUSHF", .Caption = "HB9CV VHF-UHF-SHF", .Width = 12690, .Height = 5175}}
+    : FeuilleCalcul{desk, {.name = "HB9CV_VUSHF", .Caption = "HB9CV VHF-UHF-SHF", .Width = 13230, .Height = 5175}}
 {
 }
 

@@ -8,19 +8,19 @@ namespace ondelis {
 
 CondensateurVariable::CondensateurVariable(Desk& desk)
     : FeuilleCalcul{
-        desk, {.name = "CondensateurVariable", .Caption = "Condensateur variable", .Width = 8580, .Height = 5520}}
+        desk, {.name = "CondensateurVariable", .Caption = "Condensateur variable", .Width = 9120, .Height = 5520}}
 {
 }
 
 Line::Design CondensateurVariable::lameMobile(int index)
 {
-    const double x = 5400 + 600 * index;
+    const double x = 5940 + 600 * index;
     return {.X1 = x, .Y1 = 3660, .X2 = x, .Y2 = 4560, .BorderColor = cuivre, .BorderWidth = 3};
 }
 
 Line::Design CondensateurVariable::lameFixe(int index)
 {
-    const double x = 5100 + 600 * index;
+    const double x = 5640 + 600 * index;
     return {.X1 = x, .Y1 = 4740, .X2 = x, .Y2 = 3840, .BorderWidth = 3};
 }
 

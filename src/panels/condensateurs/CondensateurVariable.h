@@ -34,14 +34,14 @@ public:
     Label        LblIsolant   {this, "LblIsolant",    {.Caption = "Diélectrique : Air", .at = {240, 3690, 3360, 255}}};
 
     Label        LblSurfUtile {this, "LblSurfUtile",  {.Caption = "Surface utile cm²", .at = {240, 4140, 2040, 255}}};
-    TextBox      TxtSurfUtile {this, "TxtSurfUtile",  resultField({2340, 4110, 2040, 315}, &LblSurfUtile)};
+    TextBox      TxtSurfUtile {this, "TxtSurfUtile",  resultField({2340, 4110, 2820, 315}, &LblSurfUtile)};
     Label        LblCapacite  {this, "LblCapacite",   {.Caption = "Capacite max", .at = {240, 4500, 2040, 255}}};
-    TextBox      TxtCapacite  {this, "TxtCapacite",   resultField({2340, 4470, 2040, 315}, &LblCapacite)};
+    TextBox      TxtCapacite  {this, "TxtCapacite",   resultField({2340, 4470, 2820, 315}, &LblCapacite)};
 
-    Image        Schema       {this, "Schema",        {.picture = "condensateur-variable", .at = {4620, 60, 3600, 3300}}};
+    Image        Schema       {this, "Schema",        {.picture = "condensateur-variable", .at = {5160, 60, 3600, 3300}}};
     // The blades from the side: two combs that reach into one another.
-    Line         LM           {this, "LM", {.X1 = 4800, .Y1 = 3660, .X2 = 8040, .Y2 = 3660, .BorderColor = cuivre, .BorderWidth = 3}};
-    Line         LF           {this, "LF", {.X1 = 4800, .Y1 = 4740, .X2 = 8040, .Y2 = 4740, .BorderWidth = 3}};
+    Line         LM           {this, "LM", {.X1 = 5340, .Y1 = 3660, .X2 = 8580, .Y2 = 3660, .BorderColor = cuivre, .BorderWidth = 3}};
+    Line         LF           {this, "LF", {.X1 = 5340, .Y1 = 4740, .X2 = 8580, .Y2 = 4740, .BorderWidth = 3}};
     ControlArray<Line> LM1    {this, "LM1", 5, &CondensateurVariable::lameMobile};
     ControlArray<Line> LF1    {this, "LF1", 5, &CondensateurVariable::lameFixe};
     // clang-format on

@@ -32,10 +32,10 @@ public:
     HScrollBar   HscrlE {this, "HscrlE",  {.Min = 0, .Max = 100, .LargeChange = 10, .at = {240, ligne(10.5) + 30, 3960, 255}, .label = &Label10}, &CalculNombreSpires::HscrlE_Change};
     Label        Label5 {this, "Label5",  {.Caption = "Faire varier les valeurs avec les potenciomètres", .at = {240, ligne(11.5) + 30, 5760, 255}}};
 
-    Label        Label4 {this, "Label4",  {.Caption = "Nombre de spires", .at = {6540, ligne(8.5) + 30, 1980, 255}}};
-    TextBox      TxtN   {this, "TxtN",    resultField({8580, ligne(8.5), 1320, 315}, &Label4)};
-    Label        Label3 {this, "Label3",  {.Caption = "Longueur en mm", .at = {6540, ligne(9.5) + 30, 1980, 255}}};
-    TextBox      TxtL   {this, "TxtL",    resultField({8580, ligne(9.5), 1320, 315}, &Label3)};
+    Label        Label4 {this, "Label4",  {.Caption = "Nombre de spires", .at = {5400, ligne(8.5) + 30, 1980, 255}}};
+    TextBox      TxtN   {this, "TxtN",    resultField({7440, ligne(8.5), 2460, 315}, &Label4)};
+    Label        Label3 {this, "Label3",  {.Caption = "Longueur en mm", .at = {5400, ligne(9.5) + 30, 1980, 255}}};
+    TextBox      TxtL   {this, "TxtL",    resultField({7440, ligne(9.5), 2460, 315}, &Label3)};
 
     Label        Label8 {this, "Label8",  {.at = {240, ligne(13), 9660, 510}}};
     Label        Label7 {this, "Label7",  {.at = {240, ligne(15), 9660, 255}}};

@@ -26,14 +26,14 @@ public:
     HScrollBar HScroll1  {this, "HScroll1",   {.LargeChange = 10, .at = {240, ligne(6.5) + 30, 3810, 255}, .label = &Label22}, &RLCParallele::HScroll1_Change};
     TextBox    TxtFreq   {this, "TxtFreq",    resultField({2400, ligne(5.5), 1320, 315}, &Label22)};
 
-    Label      Label5    {this, "Label5",     {.Caption = "sqr(R² + L² w²)", .at = {240, ligne(8) + 30, 2100, 255}}};
-    TextBox    TxtXl     {this, "TxtXl",      resultField({2400, ligne(8), 1650, 315}, &Label5)};
-    Label      Label6    {this, "Label6",     {.Caption = "1/Cw", .at = {240, ligne(9) + 30, 2100, 255}}};
-    TextBox    TxtXc     {this, "TxtXc",      resultField({2400, ligne(9), 1650, 315}, &Label6)};
-    Label      Label15   {this, "Label15",    {.Caption = "Impédance", .at = {240, ligne(10) + 30, 2100, 255}}};
-    TextBox    TxtZ      {this, "TxtZ",       resultField({2400, ligne(10), 1650, 315}, &Label15)};
-    Label      Label14   {this, "Label14",    {.Caption = "Déphasage", .at = {240, ligne(11) + 30, 2100, 255}}};
-    TextBox    TxtPhi    {this, "TxtPhi",     resultField({2400, ligne(11), 1650, 315}, &Label14)};
+    Label      Label5    {this, "Label5",     {.Caption = "sqr(R² + L² w²)", .at = {240, ligne(8) + 30, 1350, 255}}};
+    TextBox    TxtXl     {this, "TxtXl",      resultField({1650, ligne(8), 2400, 315}, &Label5)};
+    Label      Label6    {this, "Label6",     {.Caption = "1/Cw", .at = {240, ligne(9) + 30, 1350, 255}}};
+    TextBox    TxtXc     {this, "TxtXc",      resultField({1650, ligne(9), 2400, 315}, &Label6)};
+    Label      Label15   {this, "Label15",    {.Caption = "Impédance", .at = {240, ligne(10) + 30, 1350, 255}}};
+    TextBox    TxtZ      {this, "TxtZ",       resultField({1650, ligne(10), 2400, 315}, &Label15)};
+    Label      Label14   {this, "Label14",    {.Caption = "Déphasage", .at = {240, ligne(11) + 30, 1350, 255}}};
+    TextBox    TxtPhi    {this, "TxtPhi",     resultField({1650, ligne(11), 2400, 315}, &Label14)};
 
     Label      Label20   {this, "Label20",    {.Caption = "I1 = ", .at = {240, ligne(12) + 30, 600, 255}}};
     Label      Label13   {this, "Label13",    {.at = {900, ligne(12) + 30, 3150, 255}}};
