@@ -63,6 +63,19 @@ int Style::pixelMetric(PixelMetric metric, const QStyleOption* option, const QWi
     return metric == PM_MenuBarItemSpacing ? 0 : QProxyStyle::pixelMetric(metric, option, widget);
 }
 
+void Style::drawControl(
+    ControlElement element, const QStyleOption* option, QPainter* painter, const QWidget* widget) const
+{
+    const auto* const heading = qstyleoption_cast<const QStyleOptionMenuItem*>(option);
+    if (element != CE_MenuBarItem || heading == nullptr || (heading->state & State_Selected) == 0) {
+        QProxyStyle::drawControl(element, option, painter, widget);
+        return;
+    }
+    QStyleOptionMenuItem marked{*heading};
+    marked.state |= State_Sunken; // as Fusion draws it once its menu is open
+    QProxyStyle::drawControl(element, &marked, painter, widget);
+}
+
 void Style::drawComplexControl(
     ComplexControl control, const QStyleOptionComplex* option, QPainter* painter, const QWidget* widget) const
 {

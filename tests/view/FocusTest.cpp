@@ -1,33 +1,14 @@
 #include <QFocusFrame>
 #include <QImage>
-#include <QtMath>
-#include <algorithm>
+#include <QMenuBar>
 
 #include "Program.h"
 #include "TestPanel.h"
 #include "panels/resonance/FormuleDeThomson.h"
 #include "shell/Apropos.h"
+#include "view/Colors.h"
 
 namespace ondelis {
-namespace {
-
-double luminance(QRgb color)
-{
-    const auto linear
-        = [](double channel) { return channel <= 0.04045 ? channel / 12.92 : qPow((channel + 0.055) / 1.055, 2.4); };
-    return 0.2126 * linear(qRed(color) / 255.0) + 0.7152 * linear(qGreen(color) / 255.0)
-        + 0.0722 * linear(qBlue(color) / 255.0);
-}
-
-/// Contrast after WCAG 2.1, from 1 to 21.
-double contrast(QRgb one, QRgb other)
-{
-    const auto [darker, lighter] = std::minmax({luminance(one), luminance(other)});
-    return (lighter + 0.05) / (darker + 0.05);
-}
-
-} // namespace
-
 /// Which control has the keyboard can be seen: each kind of control, in light and in dark windows.
 class FocusTest final : public QObject {
     Q_OBJECT
@@ -102,6 +83,19 @@ private slots:
         const auto& panel = program.desk.get<FormuleDeThomson>();
         for (const OptionButton* option : {&panel.OptF, &panel.OptL})
             QVERIFY(mark(program, *option, panel.TxtSelf) > 1);
+    }
+
+    void theHeadingThatAltLeadsToIsMarked()
+    {
+        const Program program;
+        QMenuBar& bar = *program.view.mainWindow().menuBar();
+        const auto picture = [&] { return bar.grab(bar.actionGeometry(bar.actions().first())).toImage(); };
+        const QImage without = picture();
+        QWindow* const window = program.view.mainWindow().windowHandle();
+        QTest::keyPress(window, Qt::Key_Alt, Qt::AltModifier);
+        QTest::keyRelease(window, Qt::Key_Alt);
+        const QImage with = picture();
+        QVERIFY(contrast(without.pixel(2, 2), with.pixel(2, 2)) >= 3);
     }
 
     void nothingIsMarkedOnAPanelOfTexts()
