@@ -1,14 +1,31 @@
 #include "view/Dialogs.h"
 
+#include <QApplication>
+#include <QDialogButtonBox>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QStyle>
 
 #include "view/ControlWidget.h"
+#include "view/FocusFrame.h"
 
 namespace ondelis {
 namespace {
 
 constexpr int yesAndNo = 4;
+
+/// Shows the box, with a mark around the button that has the keyboard, until it is answered.
+void run(QMessageBox& dialog)
+{
+    auto& buttons = *dialog.findChild<QDialogButtonBox*>();
+    const int across = dialog.style()->pixelMetric(QStyle::PM_FocusFrameHMargin);
+    const int down = dialog.style()->pixelMetric(QStyle::PM_FocusFrameVMargin);
+    buttons.setContentsMargins(across, down, across, down); // room for the mark, which is a part of its surroundings
+    FocusFrame mark{&buttons};
+    QObject::connect(qApp, &QApplication::focusChanged, &mark,
+        [&](QWidget* /*before*/, QWidget* now) { mark.setWidget(buttons.isAncestorOf(now) ? now : nullptr); });
+    dialog.exec();
+}
 
 } // namespace
 
@@ -19,13 +36,13 @@ Answer ask(QWidget& window, const MessageBox& box)
     dialog.setTextFormat(Qt::PlainText);
     if (box.buttons != yesAndNo) {
         dialog.addButton(QStringLiteral("OK"), QMessageBox::AcceptRole);
-        dialog.exec();
+        run(dialog);
         return Answer::Ok;
     }
     QAbstractButton* const yes = dialog.addButton(QStringLiteral("Oui"), QMessageBox::YesRole);
     QAbstractButton* const no = dialog.addButton(QStringLiteral("Non"), QMessageBox::NoRole);
     dialog.setEscapeButton(no);
-    dialog.exec();
+    run(dialog);
     return dialog.clickedButton() == yes ? Answer::Yes : Answer::No;
 }
 

@@ -6,6 +6,11 @@
 
 namespace ondelis {
 
+FocusFrame::FocusFrame(QWidget* surroundings) : QFocusFrame{surroundings}
+{
+    hide();
+}
+
 void FocusFrame::paintEvent(QPaintEvent* /*event*/)
 {
     QPainter painter{this}; // the style cuts out the middle, where the widget is

@@ -5,10 +5,10 @@
 namespace ondelis {
 
 /// The mark around the control that has the keyboard: the style marks some kinds of widgets faintly and others not at
-/// all.
+/// all. It is hidden until it is given a control.
 class FocusFrame final : public QFocusFrame {
 public:
-    using QFocusFrame::QFocusFrame;
+    explicit FocusFrame(QWidget* surroundings);
 
 protected:
     void paintEvent(QPaintEvent* event) override;

@@ -153,7 +153,6 @@ void PanelWindow::makeWidgets()
         follow(*control);
 
     focusFrame_ = new FocusFrame{form};
-    focusFrame_->hide(); // until a control has the keyboard: a panel of texts never has one
     connect(qApp, &QApplication::focusChanged, this, [this](QWidget* /*before*/, QWidget* now) { markFocus(now); });
 }
 

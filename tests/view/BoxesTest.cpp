@@ -16,6 +16,15 @@ class BoxesTest final : public QObject {
             0, &program.widget(panel.BtnGo), [&] { QTest::mouseClick(&program.widget(panel.BtnGo), Qt::LeftButton); });
     }
 
+    /// Types into the box that waits.
+    static void type(const std::vector<Qt::Key>& keys)
+    {
+        QWidget& box = *QApplication::activeModalWidget();
+        QTRY_VERIFY(box.isActiveWindow());
+        for (const Qt::Key key : keys)
+            QTest::keyClick(box.focusWidget(), key);
+    }
+
 private slots:
     void aBoxBlocksTheHandler()
     {
@@ -53,6 +62,34 @@ private slots:
         QCOMPARE(answers, (std::vector<Answer>{Answer::Yes, Answer::No}));
         QCOMPARE(reader.seen.at(0).title, QStringLiteral("Filtre"));
         QCOMPARE(reader.seen.at(0).buttons, (QStringList{"Oui", "Non"}));
+    }
+
+    void keysAnswerABox()
+    {
+        Program program;
+        auto& panel = program.open<TestPanel>();
+        std::vector<Answer> answers;
+        panel.onGo = [&] { answers.push_back(panel.MsgBox("Continuer ?", 4, "Filtre")); };
+        for (const auto& keys : {std::vector{Qt::Key_Return}, std::vector{Qt::Key_Space}, std::vector{Qt::Key_Escape},
+                 std::vector{Qt::Key_Tab, Qt::Key_Return}, std::vector{Qt::Key_Right, Qt::Key_Space}}) {
+            Reader reader{{}};
+            reader.meanwhile = [&] { type(keys); };
+            QTest::mouseClick(&program.widget(panel.BtnGo), Qt::LeftButton);
+        }
+        QCOMPARE(answers, (std::vector{Answer::Yes, Answer::Yes, Answer::No, Answer::No, Answer::No}));
+    }
+
+    void keysConfirmABox()
+    {
+        Program program;
+        auto& panel = program.open<TestPanel>();
+        panel.onGo = [&] { panel.MsgBox("Regardez"); };
+        for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Space, Qt::Key_Escape}) {
+            Reader reader{{}};
+            reader.meanwhile = [&] { type({key}); };
+            QTest::mouseClick(&program.widget(panel.BtnGo), Qt::LeftButton);
+            QCOMPARE(reader.seen.size(), std::size_t{1});
+        }
     }
 
     void aBoxShowsWhatTheHandlerHasStoredSoFar()

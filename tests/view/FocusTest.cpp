@@ -9,33 +9,42 @@
 #include "view/Colors.h"
 
 namespace ondelis {
+
 /// Which control has the keyboard can be seen: each kind of control, in light and in dark windows.
 class FocusTest final : public QObject {
     Q_OBJECT
 
-    /// The control and its surroundings on its panel, as they are seen.
-    static QImage picture(const Program& program, const Control& control)
+    /// The widget and its surroundings on the form, as they are seen.
+    static QImage picture(const QWidget& widget, QWidget& form)
     {
         constexpr int around = 3; // pixels: as far as to the next row
-        const QWidget& widget = program.widget(control);
-        QWidget& form = program.window(control.panel()).form();
         const QRect place{widget.mapTo(&form, QPoint{}), widget.size()};
         return form.grab(place.adjusted(-around, -around, around, around)).toImage();
     }
 
-    /// How many pixels the keyboard changes clearly, at least 3 to 1, as a share of the control's outline.
+    static QImage picture(const Program& program, const Control& control)
+    {
+        return picture(program.widget(control), program.window(control.panel()).form());
+    }
+
+    /// How many pixels change clearly, at least 3 to 1, as a share of the widget's outline.
+    static double change(const QImage& without, const QImage& with, const QWidget& widget)
+    {
+        int pixels = 0;
+        for (int y = 0; y < with.height(); ++y)
+            for (int x = 0; x < with.width(); ++x)
+                pixels += contrast(without.pixel(x, y), with.pixel(x, y)) >= 3 ? 1 : 0;
+        return static_cast<double>(pixels) / (2 * (widget.width() + widget.height()));
+    }
+
+    /// What the keyboard changes in the sight of a control.
     static double mark(const Program& program, const Control& control, const Control& other)
     {
         QWidget& widget = program.widget(control);
         program.widget(other).setFocus();
         const QImage without = picture(program, control);
         widget.setFocus(Qt::TabFocusReason);
-        const QImage with = picture(program, control);
-        int pixels = 0;
-        for (int y = 0; y < with.height(); ++y)
-            for (int x = 0; x < with.width(); ++x)
-                pixels += contrast(without.pixel(x, y), with.pixel(x, y)) >= 3 ? 1 : 0;
-        return static_cast<double>(pixels) / (2 * (widget.width() + widget.height()));
+        return change(without, picture(program, control), widget);
     }
 
     static QPalette darkPalette(const QColor& window, const QColor& highlight)
@@ -45,10 +54,7 @@ class FocusTest final : public QObject {
         return palette;
     }
 
-private slots:
-    void cleanup() { QApplication::setPalette(QPalette{}); }
-
-    void theMarkIsSeen_data()
+    static void addPalettes()
     {
         QTest::addColumn<QPalette>("palette");
         QTest::newRow("light") << QPalette{};
@@ -56,6 +62,11 @@ private slots:
         QTest::newRow("dark, dim") << darkPalette({45, 45, 45}, {60, 60, 90});
         QTest::newRow("black") << darkPalette(Qt::black, {0, 0, 0x80});
     }
+
+private slots:
+    void cleanup() { QApplication::setPalette(QPalette{}); }
+
+    void theMarkIsSeen_data() { addPalettes(); }
 
     void theMarkIsSeen()
     {
@@ -83,6 +94,29 @@ private slots:
         const auto& panel = program.desk.get<FormuleDeThomson>();
         for (const OptionButton* option : {&panel.OptF, &panel.OptL})
             QVERIFY(mark(program, *option, panel.TxtSelf) > 1);
+    }
+
+    void theButtonOfABoxIsMarked_data() { addPalettes(); }
+
+    void theButtonOfABoxIsMarked()
+    {
+        QFETCH(QPalette, palette);
+        QApplication::setPalette(palette);
+        Program program;
+        auto& panel = program.open<TestPanel>();
+        panel.onGo = [&] { panel.MsgBox("Continuer ?", 4, "Filtre"); };
+        double seen = 0;
+        QTimer::singleShot(50, &program.view.mainWindow(), [&] {
+            QWidget& box = *QApplication::activeModalWidget();
+            const QWidget& yes = *box.focusWidget();
+            const QImage with = picture(yes, box);
+            QTest::keyClick(&box, Qt::Key_Tab);
+            const QImage without = picture(yes, box);
+            seen = change(without, with, yes);
+            QTest::keyClick(&box, Qt::Key_Escape);
+        });
+        QTest::mouseClick(&program.widget(panel.BtnGo), Qt::LeftButton);
+        QVERIFY2(seen > 0.5, qPrintable(QString::number(seen)));
     }
 
     void theHeadingThatAltLeadsToIsMarked()

@@ -395,6 +395,27 @@ private slots:
             ScreenReader::heardOf(widget), [](const auto& event) { return event.type == QAccessible::ValueChanged; }));
     }
 
+    void aBoxIsRead()
+    {
+        Program program;
+        auto& panel = program.open<TestPanel>();
+        panel.onGo = [&] { panel.MsgBox("Continuer ?", 4, "Filtre"); };
+        QStringList read;
+        Reader reader{{"Non"}};
+        reader.meanwhile = [&] {
+            QAccessibleInterface& box = *QAccessible::queryAccessibleInterface(QApplication::activeModalWidget());
+            QCOMPARE(box.role(), QAccessible::AlertMessage);
+            read.append(box.text(QAccessible::Name));
+            for (QWidget* part : box.object()->findChildren<QWidget*>())
+                if (QAccessibleInterface& told = *QAccessible::queryAccessibleInterface(part);
+                    told.role() == QAccessible::StaticText || told.role() == QAccessible::PushButton)
+                    read.append(told.text(QAccessible::Name));
+        };
+        QTest::mouseClick(&program.widget(panel.BtnGo), Qt::LeftButton);
+        for (const char* part : {"Filtre", "Continuer ?", "Oui", "Non"})
+            QVERIFY2(read.contains(QString::fromUtf8(part)), qPrintable(read.join(QLatin1Char{'|'})));
+    }
+
     void aFieldThatIsLockedIsAnnounced()
     {
         Program program;
