@@ -17,10 +17,10 @@ public:
                                                                                .at = {240, ligne(1) + 30, 3360, 510}}};
     TextBox TxtCoeff {this, "TxtCoeff",  {.at = {3660, ligne(1), 2400, 315}, .label = &Label2}, &HB9CV_VUSHF::TxtCoeff_Change};
 
-    Label   Label3   {this, "Label3",    {.Caption = "Lambda (m)",             .at = {240, ligne(5) + 30, 3360, 255}}};
-    TextBox TxtLambda{this, "TxtLambda", resultField({3660, ligne(5), 2400, 315}, &Label3)};
-    Label   Label4   {this, "Label4",    {.Caption = "Diamètre brins (mm)",    .at = {240, ligne(6) + 30, 3360, 255}}};
-    TextBox TxtDiam  {this, "TxtDiam",   resultField({3660, ligne(6), 2400, 315}, &Label4)};
+    Label   Label3   {this, "Label3",    {.Caption = "Lambda (m)",             .at = {240, ligne(4) + 30, 3360, 255}}};
+    TextBox TxtLambda{this, "TxtLambda", resultField({3660, ligne(4), 2400, 315}, &Label3)};
+    Label   Label4   {this, "Label4",    {.Caption = "Diamètre brins (mm)",    .at = {240, ligne(5) + 30, 3360, 255}}};
+    TextBox TxtDiam  {this, "TxtDiam",   resultField({3660, ligne(5), 2400, 315}, &Label4)};
     Label   Label5   {this, "Label5",    {.Caption = "0.92 Lambda / 2 (m)",    .at = {240, ligne(7) + 30, 3360, 255}}};
     TextBox Txt092   {this, "Txt092",    resultField({3660, ligne(7), 2400, 315}, &Label5)};
     Label   Label6   {this, "Label6",    {.Caption = "Lambda / 16 (m)",        .at = {240, ligne(8) + 30, 3360, 255}}};
