@@ -11,7 +11,7 @@ namespace ondelis {
 
 AntennesHighQLoop::AntennesHighQLoop(Desk& desk)
     : FeuilleCalcul{
-        desk, {.name = "AntennesHighQLoop", .Caption = "Calcul des High Q Loop", .Width = 13950, .Height = 7740}}
+        desk, {.name = "AntennesHighQLoop", .Caption = "Calcul des High Q Loop", .Width = 14220, .Height = 7740}}
 {
 }
 

@@ -10,7 +10,7 @@ AntennesLPDA1::AntennesLPDA1(Desk& desk)
     : FeuilleCalcul{desk,
         {.name = "AntennesLPDA1",
             .Caption = "Eléments de base pour le calcul de la LPDA",
-            .Width = 15240,
+            .Width = 15540,
             .Height = 8145}}
 {
 }

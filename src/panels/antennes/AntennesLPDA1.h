@@ -65,27 +65,27 @@ public:
     CommandButton BtnCalculer3   {this, "BtnCalculer3",    {.Caption = "Calculer", .at = {7860, 6960, 1200, 375}, .Visible = false}, &AntennesLPDA1::BtnCalculer3_Click};
     CommandButton BtnSuite3      {this, "BtnSuite3",       {.Caption = "Suite", .at = {7860, 6960, 1200, 375}}, &AntennesLPDA1::BtnSuite3_Click};
 
-    Frame         Frame1         {this, "Frame1",          {.Caption = "Structure de la LPDA", .at = {9420, 240, 5460, 5040}, .picture = "lpda-structure"}};
-    Label         LblFrameBalun  {this, "LblFrameBalun",   {.Caption = "Balun", .at = {4320, 2895, 780, 255}, .align = Align::Center, .container = &Frame1}};
-    Label         LblFrameZt     {this, "LblFrameZt",      {.Caption = "Stub Zt", .at = {300, 2820, 900, 255}, .align = Align::Center, .container = &Frame1}};
+    Frame         Frame1         {this, "Frame1",          {.Caption = "Structure de la LPDA", .at = {9420, 240, 5760, 5040}, .picture = "lpda-structure"}};
+    Label         LblFrameBalun  {this, "LblFrameBalun",   {.Caption = "Balun", .at = {4470, 2895, 780, 255}, .align = Align::Center, .container = &Frame1}};
+    Label         LblFrameZt     {this, "LblFrameZt",      {.Caption = "Stub Zt", .at = {450, 2820, 900, 255}, .align = Align::Center, .container = &Frame1}};
     TextBox       Text1          {this, "Text1",           {.Text = "Si l'aérien est trop grand :\n\taugmenter FreqMin\n\tou réduire Rho\n\tou réduire Theta\n\nRéduire Rho réduit L boom de façon prépondérante",
-                                                            .at = {9420, 240, 5460, 2700}, .Locked = true, .multiLine = true}};
+                                                            .at = {9420, 240, 5760, 2700}, .Locked = true, .multiLine = true}};
     TextBox       Text2          {this, "Text2",           {.Text = "En HF, court-circuiter l'élément le plus long par une \népingle de 6\" (1,8288m) de longueur non pliée\n\nEn VHF et UHF :  Zt = LambdaMax/8",
-                                                            .at = {9420, 3060, 5460, 2220}, .Locked = true, .multiLine = true}};
+                                                            .at = {9420, 3060, 5760, 2220}, .Locked = true, .multiLine = true}};
 
-    Shape         Cadre4         {this, "Cadre4",          {.at = {9420, 5400, 5460, 2085}}};
+    Shape         Cadre4         {this, "Cadre4",          {.at = {9420, 5400, 5760, 2085}}};
     Label         Label8         {this, "Label8",          {.Caption = "Label8", .at = {9600, 5520, 780, 255}}};
     Label         Label23        {this, "Label23",         {.at = {10500, 5520, 780, 255}}};
     Label         LblDimBrin     {this, "LblDimBrin",      {.Caption = "Longueur des brins ", .at = {9600, 5865, 3420, 255}}};
-    TextBox       TxtLongBrin    {this, "TxtLongBrin",     {.at = {13080, 5835, 1620, 315}, .label = &LblDimBrin}};
+    TextBox       TxtLongBrin    {this, "TxtLongBrin",     {.at = {13080, 5835, 1920, 315}, .label = &LblDimBrin}};
     Label         LblEspacement  {this, "LblEspacement",   {.Caption = "Espacement des brins ", .at = {9600, 6225, 3420, 255}}};
-    TextBox       TxtEspacement  {this, "TxtEspacement",   {.at = {13080, 6195, 1620, 315}, .label = &LblEspacement}};
+    TextBox       TxtEspacement  {this, "TxtEspacement",   {.at = {13080, 6195, 1920, 315}, .label = &LblEspacement}};
     Label         LblDiamètre    {this, "LblDiamètre",     {.Caption = "Diamètre du brin", .at = {9600, 6585, 3420, 255}}};
-    TextBox       TxtDiamètre    {this, "TxtDiamètre",     {.at = {13080, 6555, 1620, 315}, .label = &LblDiamètre}};
+    TextBox       TxtDiamètre    {this, "TxtDiamètre",     {.at = {13080, 6555, 1920, 315}, .label = &LblDiamètre}};
     CommandButton BtnAfficher    {this, "BtnAfficher",     {.Caption = "Afficher", .at = {9600, 6960, 1200, 375}}, &AntennesLPDA1::BtnAfficher_Click};
-    CommandButton BtnPrecedent   {this, "BtnPrecedent",    {.Caption = "Précédent", .at = {10900, 6960, 1200, 375}}, &AntennesLPDA1::BtnPrecedent_Click};
-    CommandButton BtnSuivant     {this, "BtnSuivant",      {.Caption = "Suivant", .at = {12200, 6960, 1200, 375}}, &AntennesLPDA1::BtnSuivant_Click};
-    CommandButton BtnRetour4     {this, "BtnRetour4",      {.Caption = "Retour", .at = {13500, 6960, 1200, 375}}, &AntennesLPDA1::BtnRetour4_Click};
+    CommandButton BtnPrecedent   {this, "BtnPrecedent",    {.Caption = "Précédent", .at = {11000, 6960, 1200, 375}}, &AntennesLPDA1::BtnPrecedent_Click};
+    CommandButton BtnSuivant     {this, "BtnSuivant",      {.Caption = "Suivant", .at = {12400, 6960, 1200, 375}}, &AntennesLPDA1::BtnSuivant_Click};
+    CommandButton BtnRetour4     {this, "BtnRetour4",      {.Caption = "Retour", .at = {13800, 6960, 1200, 375}}, &AntennesLPDA1::BtnRetour4_Click};
     // clang-format on
 
 private:

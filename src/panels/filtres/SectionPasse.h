@@ -29,16 +29,16 @@ public:
           Label1    {this, "Label1",     {.Caption = "L", .at = texts.letterL, .align = Align::Center}},
           Label5    {this, "Label5",     {.Caption = "C", .at = texts.letterC, .align = Align::Center}},
           Label4    {this, "Label4",     {.Caption = "Z", .at = lettre(drawing, 0.934, 0.601), .align = Align::Center}},
-          Label2    {this, "Label2",     {.Caption = texts.formulaL, .at = {240, 2430, 3240, 255}}},
-          Label3    {this, "Label3",     {.Caption = texts.formulaC, .at = {3540, 2430, 2070, 255}}},
-          Label6    {this, "Label6",     {.Caption = "Fréquence de coupure en Hz", .at = {240, 2790, 3240, 255}}},
-          TxtFreq   {this, "TxtFreq",    {.at = {3540, 2760, 1320, 315}, .label = &Label6}, &SectionPasse::TxtFreq_Change},
-          Label7    {this, "Label7",     {.Caption = "Impédance de charge en Ohms", .at = {240, 3150, 3240, 255}}},
-          TxtZCharge{this, "TxtZCharge", {.at = {3540, 3120, 1320, 315}, .label = &Label7}, &SectionPasse::TxtZCharge_Change},
-          Label9    {this, "Label9",     {.Caption = "Self en Henry", .at = {240, 3570, 3240, 255}}},
-          TxtSelf   {this, "TxtSelf",    resultField({3540, 3540, 2040, 315}, &Label9, 0xFFFF80)},
-          Label8    {this, "Label8",     {.Caption = "Capacité en Farad", .at = {240, 3930, 3240, 255}}},
-          TxtCapa   {this, "TxtCapa",    resultField({3540, 3900, 2040, 315}, &Label8, 0xFFFF80)}
+          Label2    {this, "Label2",     {.Caption = texts.formulaL, .at = {240, 2430, 2880, 255}}},
+          Label3    {this, "Label3",     {.Caption = texts.formulaC, .at = {3180, 2430, 2430, 255}}},
+          Label6    {this, "Label6",     {.Caption = "Fréquence de coupure en Hz", .at = {240, 2790, 2880, 255}}},
+          TxtFreq   {this, "TxtFreq",    {.at = {3180, 2760, 1320, 315}, .label = &Label6}, &SectionPasse::TxtFreq_Change},
+          Label7    {this, "Label7",     {.Caption = "Impédance de charge en Ohms", .at = {240, 3150, 2880, 255}}},
+          TxtZCharge{this, "TxtZCharge", {.at = {3180, 3120, 1320, 315}, .label = &Label7}, &SectionPasse::TxtZCharge_Change},
+          Label9    {this, "Label9",     {.Caption = "Self en Henry", .at = {240, 3570, 2880, 255}}},
+          TxtSelf   {this, "TxtSelf",    resultField({3180, 3540, 2400, 315}, &Label9, 0xFFFF80)},
+          Label8    {this, "Label8",     {.Caption = "Capacité en Farad", .at = {240, 3930, 2880, 255}}},
+          TxtCapa   {this, "TxtCapa",    resultField({3180, 3900, 2400, 315}, &Label8, 0xFFFF80)}
     // clang-format on
     {
     }

@@ -7,7 +7,7 @@ namespace ondelis {
 
 PDResitancesParalleles::PDResitancesParalleles(Desk& desk)
     : FeuilleCalcul{desk,
-        {.name = "PDResitancesParalleles", .Caption = "1 Calcul de ponts diviseurs", .Width = 10560, .Height = 4560}}
+        {.name = "PDResitancesParalleles", .Caption = "1 Calcul de ponts diviseurs", .Width = 10920, .Height = 4560}}
 {
 }
 

@@ -6,7 +6,7 @@
 namespace ondelis {
 
 PDShunts::PDShunts(Desk& desk)
-    : FeuilleCalcul{desk, {.name = "PDShunts", .Caption = "Calculs des Shunts", .Width = 9780, .Height = 5820}}
+    : FeuilleCalcul{desk, {.name = "PDShunts", .Caption = "Calculs des Shunts", .Width = 10260, .Height = 5820}}
 {
 }
 

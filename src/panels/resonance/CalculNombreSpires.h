@@ -18,18 +18,18 @@ public:
     Image ImgLongueur  {this, "ImgLongueur",   {.picture = "bobine-longueur",   .at = {7650, 240, 2250, 1800}}};
 
     Label        Label1 {this, "Label1",  {.Caption = "Valeur de self recherchée", .at = {240, ligne(6.5) + 30, 2580, 255}}};
-    TextBox      TxtS   {this, "TxtS",    {.at = {2880, ligne(6.5), 1320, 315}, .label = &Label1}, &CalculNombreSpires::TxtS_Change};
-    OptionButton OptmH  {this, "OptmH",   {.Caption = "mH", .at = {4380, ligne(6.5) + 7, 720, 300}}, &CalculNombreSpires::OptmH_Click};
-    OptionButton OptmmH {this, "OptmmH",  {.Caption = "µH", .at = {5160, ligne(6.5) + 7, 720, 300}}, &CalculNombreSpires::OptmmH_Click};
-    OptionButton OpnH   {this, "OpnH",    {.Caption = "nH", .at = {5940, ligne(6.5) + 7, 720, 300}}, &CalculNombreSpires::OpnH_Click};
-    OptionButton OptpH  {this, "OptpH",   {.Caption = "pH", .at = {6720, ligne(6.5) + 7, 720, 300}}, &CalculNombreSpires::OptpH_Click};
+    TextBox      TxtS   {this, "TxtS",    {.at = {2880, ligne(6.5), 1860, 315}, .label = &Label1}, &CalculNombreSpires::TxtS_Change};
+    OptionButton OptmH  {this, "OptmH",   {.Caption = "mH", .at = {4920, ligne(6.5) + 7, 720, 300}}, &CalculNombreSpires::OptmH_Click};
+    OptionButton OptmmH {this, "OptmmH",  {.Caption = "µH", .at = {5700, ligne(6.5) + 7, 720, 300}}, &CalculNombreSpires::OptmmH_Click};
+    OptionButton OpnH   {this, "OpnH",    {.Caption = "nH", .at = {6480, ligne(6.5) + 7, 720, 300}}, &CalculNombreSpires::OpnH_Click};
+    OptionButton OptpH  {this, "OptpH",   {.Caption = "pH", .at = {7260, ligne(6.5) + 7, 720, 300}}, &CalculNombreSpires::OptpH_Click};
     Label        Label6 {this, "Label6",  {.Caption = "Diamètre intérieur (mm)", .at = {240, ligne(7.5) + 30, 2580, 255}}};
-    TextBox      TxtD   {this, "TxtD",    {.at = {2880, ligne(7.5), 1320, 315}, .label = &Label6}, &CalculNombreSpires::TxtD_Change};
+    TextBox      TxtD   {this, "TxtD",    {.at = {2880, ligne(7.5), 1860, 315}, .label = &Label6}, &CalculNombreSpires::TxtD_Change};
     Label        Label2 {this, "Label2",  {.Caption = "Diamètre du fil (mm)", .at = {240, ligne(8.5) + 30, 2580, 255}}};
-    TextBox      TxtF   {this, "TxtF",    {.at = {2880, ligne(8.5), 1320, 315}, .label = &Label2}, &CalculNombreSpires::TxtF_Change};
+    TextBox      TxtF   {this, "TxtF",    {.at = {2880, ligne(8.5), 1860, 315}, .label = &Label2}, &CalculNombreSpires::TxtF_Change};
     Label        Label10{this, "Label10", {.Caption = "Espacement entre spires", .at = {240, ligne(9.5) + 30, 2580, 255}}};
-    TextBox      TxtE   {this, "TxtE",    resultField({2880, ligne(9.5), 1320, 315}, &Label10)};
-    HScrollBar   HscrlE {this, "HscrlE",  {.Min = 0, .Max = 100, .LargeChange = 10, .at = {240, ligne(10.5) + 30, 3960, 255}, .label = &Label10}, &CalculNombreSpires::HscrlE_Change};
+    TextBox      TxtE   {this, "TxtE",    resultField({2880, ligne(9.5), 1860, 315}, &Label10)};
+    HScrollBar   HscrlE {this, "HscrlE",  {.Min = 0, .Max = 100, .LargeChange = 10, .at = {240, ligne(10.5) + 30, 4500, 255}, .label = &Label10}, &CalculNombreSpires::HscrlE_Change};
     Label        Label5 {this, "Label5",  {.Caption = "Faire varier les valeurs avec les potenciomètres", .at = {240, ligne(11.5) + 30, 5760, 255}}};
 
     Label        Label4 {this, "Label4",  {.Caption = "Nombre de spires", .at = {5400, ligne(8.5) + 30, 1980, 255}}};

@@ -20,9 +20,9 @@ public:
     TextBox       TxtL       {this, "TxtL",        {.at = {4200, ligne(8.5), 1320, 315}, .label = &Label2}, &CalculSelf::TxtL_Change};
     Label         Label8     {this, "Label8",      {.Caption = "3 - Nombre de spires", .at = {240, ligne(9.5) + 30, 3900, 255}}};
     TextBox       TxtN       {this, "TxtN",        {.at = {4200, ligne(9.5), 1320, 315}, .label = &Label8}, &CalculSelf::TxtN_Change};
-    CommandButton BtnCalculer{this, "BtnCalculer", {.Caption = "Calculer", .at = {8055, ligne(7.5), 2160, 375}}, &CalculSelf::BtnCalculer_Click};
-    Label         Label5     {this, "Label5",      {.Caption = "Inductance", .at = {6600, ligne(9.5) + 30, 1395, 255}}};
-    TextBox       TxtS       {this, "TxtS",        resultField({8055, ligne(9.5), 2160, 315}, &Label5)};
+    CommandButton BtnCalculer{this, "BtnCalculer", {.Caption = "Calculer", .at = {7815, ligne(7.5), 2400, 375}}, &CalculSelf::BtnCalculer_Click};
+    Label         Label5     {this, "Label5",      {.Caption = "Inductance", .at = {6360, ligne(9.5) + 30, 1395, 255}}};
+    TextBox       TxtS       {this, "TxtS",        resultField({7815, ligne(9.5), 2400, 315}, &Label5)};
 
     Label         Label3     {this, "Label3",      {.at = {240, ligne(11.25), 9975, 510}}};
     Label         Label7     {this, "Label7",      {.at = {240, ligne(13.25), 9975, 255}}};

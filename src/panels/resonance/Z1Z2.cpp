@@ -5,7 +5,7 @@
 
 namespace ondelis {
 
-Z1Z2::Z1Z2(Desk& desk) : FeuilleCalcul{desk, {.name = "Z1Z2", .Caption = "Z1 vers Z2", .Width = 9390, .Height = 3105}}
+Z1Z2::Z1Z2(Desk& desk) : FeuilleCalcul{desk, {.name = "Z1Z2", .Caption = "Z1 vers Z2", .Width = 9930, .Height = 3105}}
 {
 }
 

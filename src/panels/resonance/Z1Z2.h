@@ -18,9 +18,9 @@ public:
     Label   LblNbSpZ1{this, "LblNbSpZ1", {.Caption = "Nombre de spires pour Z1", .at = {240, ligne(2) + 30, 3000, 255}}};
     TextBox TxtNbSpZ1{this, "TxtNbSpZ1", {.at = {3300, ligne(2), 1320, 315}, .label = &LblNbSpZ1}, &Z1Z2::TxtNbSpZ1_Change};
     Label   LblNbSpZ2{this, "LblNbSpZ2", {.Caption = "Nombre de spires pour Z2", .at = {240, ligne(4) + 30, 3000, 255}}};
-    TextBox TxtNbSpZ2{this, "TxtNbSpZ2", resultField({3300, ligne(4), 1860, 315}, &LblNbSpZ2)};
+    TextBox TxtNbSpZ2{this, "TxtNbSpZ2", resultField({3300, ligne(4), 2400, 315}, &LblNbSpZ2)};
 
-    Image   Image1   {this, "Image1",    {.picture = "autotransformateur", .at = {5400, 180, 3600, 2250}}};
+    Image   Image1   {this, "Image1",    {.picture = "autotransformateur", .at = {5940, 180, 3600, 2250}}};
     // clang-format on
 
 private:
