@@ -28,10 +28,11 @@ SAMPLES = [
 ]
 
 
-def write(name: str, *source: str, image: bytes | None = None) -> None:
+def write(name: str, *source: str, image: bytes | None = None, shaded: bool = False) -> None:
     """Writes a picture with as few colours as do not show."""
     file = TARGET / f"{name}.png"
-    subprocess.run(["convert", *source, "-strip", "+dither", "-colors", "128", f"PNG8:{file}"], input=image, check=True)
+    colors = ["-colors", "256"] if shaded else ["+dither", "-colors", "128"]
+    subprocess.run(["convert", *source, "-strip", *colors, f"PNG8:{file}"], input=image, check=True)
     print(f"{file.stat().st_size // 1024:5} KB  {file}")
 
 
@@ -93,7 +94,8 @@ def grid(gallery: Path) -> Sheet:
 
 def main() -> None:
     gallery = Path(sys.argv[1])
-    write("circuits-oscillants", str(gallery / "CircuitsOscillants-fenetre-96.png"), "-resize", "75%")
+    write("circuits-oscillants", str(gallery / "CircuitsOscillants-fenetre-96.png"), "-resize", "75%", shaded=True)
+    write("high-q-loop", str(gallery / "AntennesHighQLoop-exemple-96.png"))
     write("clair-sombre", str(gallery / "HB9CV_HF-exemple-96.png"), str(gallery / "HB9CV_HF-exemple-sombre-96.png"),
           "-append")
     write("grille", "-", image=rendered(grid(gallery)))
