@@ -106,15 +106,15 @@ private slots:
         auto& panel = program.open<TestPanel>();
         panel.onGo = [&] { panel.MsgBox("Continuer ?", 4, "Filtre"); };
         double seen = 0;
-        QTimer::singleShot(50, &program.view.mainWindow(), [&] {
+        Reader reader{{"Non"}};
+        reader.meanwhile = [&] {
             QWidget& box = *QApplication::activeModalWidget();
+            QTRY_VERIFY(box.isActiveWindow());
             const QWidget& yes = *box.focusWidget();
             const QImage with = picture(yes, box);
             QTest::keyClick(&box, Qt::Key_Tab);
-            const QImage without = picture(yes, box);
-            seen = change(without, with, yes);
-            QTest::keyClick(&box, Qt::Key_Escape);
-        });
+            seen = change(picture(yes, box), with, yes);
+        };
         QTest::mouseClick(&program.widget(panel.BtnGo), Qt::LeftButton);
         QVERIFY2(seen > 0.5, qPrintable(QString::number(seen)));
     }
