@@ -3,8 +3,11 @@
 #include <algorithm>
 #include <fstream>
 
+#include "../view/FormCheck.h"
 #include "Gallery.h"
+#include "forms/Controls.h"
 #include "view/Application.h"
+#include "view/ControlWidget.h"
 
 namespace ondelis::galerie {
 
@@ -30,6 +33,23 @@ class ExamplesTest final : public QObject {
 
     [[nodiscard]] QImage picture(const char* name) const { return QImage{scratch_.filePath(QString::fromUtf8(name))}; }
 
+    static void addExamples()
+    {
+        QTest::addColumn<QString>("panel");
+        for (const auto& file : std::filesystem::directory_iterator{EXAMPLES}) {
+            const std::string panel = file.path().stem();
+            QTest::newRow(panel.c_str()) << QString::fromStdString(panel);
+        }
+    }
+
+    /// The subject of that row.
+    static Subject subject()
+    {
+        QFETCH(const QString, panel);
+        const auto subjects = allSubjects();
+        return *std::ranges::find(subjects, panel.toStdString(), &Subject::panel);
+    }
+
 private slots:
     void aPictureShowsWhatHasBeenTyped()
     {
@@ -44,26 +64,44 @@ private slots:
         QVERIFY(picture("SectionDiametre-exemple-96.png") != picture("SectionDiametre-96.png"));
     }
 
-    void everyExampleOfThePanelsPlays_data()
-    {
-        QTest::addColumn<QString>("panel");
-        for (const auto& file : std::filesystem::directory_iterator{EXAMPLES}) {
-            const std::string panel = file.path().stem();
-            QTest::newRow(panel.c_str()) << QString::fromStdString(panel);
-        }
-    }
+    void everyExampleOfThePanelsPlays_data() { addExamples(); }
 
     void everyExampleOfThePanelsPlays()
     {
-        QFETCH(const QString, panel);
-        const auto subjects = allSubjects();
-        const auto subject = std::ranges::find(subjects, panel.toStdString(), &Subject::panel);
-        QVERIFY(subject != subjects.end());
         try {
-            Gallery{EXAMPLES, scratch_.path().toStdString(), looks.front()}.draw(*subject);
+            Gallery{EXAMPLES, scratch_.path().toStdString(), looks.front()}.draw(subject());
         } catch (const Refused& refused) {
             QFAIL(refused.what());
         }
+    }
+
+    void noExampleCutsAResult_data() { addExamples(); }
+
+    void noExampleCutsAResult()
+    {
+        const Subject shown = subject();
+        Sitting sitting;
+        sitting.play("menu " + shown.entry);
+        const Desk& desk = sitting.frame().desk();
+        Typed typed;
+        QStringList faults;
+        std::ifstream in{std::filesystem::path{EXAMPLES} / (shown.panel + ".txt")};
+        for (std::string line; std::getline(in, line);) {
+            pilote::Words words{line};
+            if (words.atEnd())
+                continue;
+            if (words.next() != "picture") {
+                sitting.play(line);
+                if (const auto* const box = dynamic_cast<const TextBox*>(desk.focused()))
+                    typed[box] = toQString(box->Text.get());
+                continue;
+            }
+            for (const FeuilleCalcul* panel : desk.loadedPanels())
+                if (const PanelWindow* const window = sitting.view().find(*panel))
+                    for (const FormFault& fault : faultsOf(*window, typed))
+                        faults.append(QString::fromStdString(line) + QStringLiteral(": ") + fault.line());
+        }
+        QVERIFY2(faults.isEmpty(), qPrintable(faults.join(QLatin1Char{'\n'})));
     }
 
     void whatIsNoCommandIsNamed()
