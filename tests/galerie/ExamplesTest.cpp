@@ -47,7 +47,10 @@ class ExamplesTest final : public QObject {
     {
         QFETCH(const QString, panel);
         const auto subjects = allSubjects();
-        return *std::ranges::find(subjects, panel.toStdString(), &Subject::panel);
+        const auto found = std::ranges::find(subjects, panel.toStdString(), &Subject::panel);
+        if (found == subjects.end())
+            qFatal("no panel has this name: %s", qPrintable(panel));
+        return *found;
     }
 
 private slots:
