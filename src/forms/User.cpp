@@ -1,5 +1,7 @@
 #include "forms/User.h"
 
+#include <algorithm>
+
 #include "kit/Text.h"
 
 namespace ondelis {
@@ -17,6 +19,32 @@ char32_t codePoint(std::string_view character)
     for (const char byte : character.substr(1))
         code = code << 6U | (static_cast<unsigned char>(byte) & 0x3FU);
     return code;
+}
+
+/// Whether a character starts here, or the text ends.
+bool startsCharacter(std::string_view text, std::size_t at)
+{
+    return at == text.size() || (static_cast<unsigned char>(text[at]) & 0xC0U) != 0x80U;
+}
+
+/// What an edit leaves of a text: what both have at their start and at their end stays, what stands between them is cut
+/// so that no character lands beyond the limit.
+std::string limited(std::string_view before, std::string_view after, int limit)
+{
+    auto start = static_cast<std::size_t>(std::ranges::mismatch(before, after).in1 - before.begin());
+    while (!startsCharacter(before, start) || !startsCharacter(after, start))
+        --start;
+    const std::size_t most = std::min(before.size(), after.size()) - start;
+    std::size_t end = 0;
+    while (end < most && before[before.size() - end - 1] == after[after.size() - end - 1])
+        ++end;
+    while (!startsCharacter(after, after.size() - end))
+        --end;
+    const std::string_view head = after.substr(0, start);
+    const std::string_view put = after.substr(start, after.size() - end - start);
+    const std::string_view tail = after.substr(after.size() - end);
+    const int room = std::max(0, limit - Len(head) - Len(tail));
+    return std::string{head} + Left(put, room) + std::string{tail};
 }
 
 /// The code of a key as `KeyPress` gets it: "?" for a character that 16 bits do not hold.
@@ -70,6 +98,18 @@ User::Refusal User::replace(TextBox& box, std::string_view text)
         takeFocus(box);
         const int limit = box.design().MaxLength;
         box.Text = limit == 0 ? std::string{text} : Left(text, limit);
+    });
+    return {};
+}
+
+User::Refusal User::edit(TextBox& box, std::string_view text)
+{
+    if (auto refusal = unwritable(box))
+        return refusal;
+    desk_.perform([&] {
+        takeFocus(box);
+        const int limit = box.design().MaxLength;
+        box.Text = limit == 0 ? std::string{text} : limited(box.Text.get(), text, limit);
     });
     return {};
 }

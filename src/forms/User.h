@@ -24,9 +24,11 @@ public:
     /// The backspace key at the end of a field: `KeyPress` 8, then, if the handler left the text alone, the
     /// last character goes.
     Refusal backspace(TextBox& box);
-    /// Gives a field another text at once, cut to `MaxLength`: a paste, or an edit in the middle. No
-    /// `KeyPress`.
+    /// Pastes a text over the whole of a field, cut to `MaxLength`. No `KeyPress`.
     Refusal replace(TextBox& box, std::string_view text);
+    /// Gives a field the text that an edit anywhere leaves there. What the edit puts in is cut to the room that
+    /// `MaxLength` leaves; what it leaves alone, a store may have made longer than that. No `KeyPress`.
+    Refusal edit(TextBox& box, std::string_view text);
     /// A key on its way into a field; tells whether the panel rewrote the text meanwhile.
     bool key(TextBox& box, char32_t character);
 

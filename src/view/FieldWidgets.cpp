@@ -93,7 +93,7 @@ void TextBoxWidget::limitLength()
 
 void TextBoxWidget::tellText()
 {
-    act(box_, [&](User& user) { user.replace(box_, toText(text())); });
+    act(box_, [&](User& user) { user.edit(box_, toText(text())); });
 }
 
 bool TextBoxWidget::tellKey(char32_t character)
@@ -167,7 +167,7 @@ void TextAreaWidget::focusInEvent(QFocusEvent* event)
 
 void TextAreaWidget::tellText()
 {
-    act(box_, [&](User& user) { user.replace(box_, toText(toPlainText())); });
+    act(box_, [&](User& user) { user.edit(box_, toText(toPlainText())); });
 }
 
 MaskEdBoxWidget::MaskEdBoxWidget(PanelWindow& window, MaskEdBox& box, QWidget* parent)

@@ -130,6 +130,25 @@ TEST_F(UserTest, MaxLengthCutsAPasteAndNotAStore)
     EXPECT_EQ(panel.TxtCourt.Text, "long text");
 }
 
+TEST_F(UserTest, AnEditTakesCharactersOutOfALongTextAndCutsWhatItPutsIn)
+{
+    panel.TxtCourt.Text = "élongé";
+    user.edit(panel.TxtCourt, "élngé");
+    EXPECT_EQ(panel.TxtCourt.Text, "élngé");
+    user.edit(panel.TxtCourt, "élxgé");
+    EXPECT_EQ(panel.TxtCourt.Text, "élgé");
+    user.edit(panel.TxtCourt, "èé");
+    EXPECT_EQ(panel.TxtCourt.Text, "èé");
+    user.edit(panel.TxtCourt, "èxyzé");
+    EXPECT_EQ(panel.TxtCourt.Text, "èxé");
+    user.edit(panel.TxtCourt, "");
+    EXPECT_EQ(panel.TxtCourt.Text, "");
+    user.edit(panel.TxtCourt, "1234");
+    EXPECT_EQ(panel.TxtCourt.Text, "123");
+    EXPECT_EQ(
+        panel.log, (Log{"court élongé", "court élngé", "court élgé", "court èé", "court èxé", "court ", "court 123"}));
+}
+
 TEST_F(UserTest, APasteIsOneChangeAndNoKey)
 {
     user.replace(panel.TxtA, "14.1");

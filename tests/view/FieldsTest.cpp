@@ -173,6 +173,17 @@ private slots:
         QCOMPARE(field.text(), QStringLiteral("13.979400086"));
         QTest::keyClicks(&field, QStringLiteral("9"));
         QCOMPARE(std::string{panel.TxtC.Text}, std::string{"13.979400086"});
+        QTest::keyClick(&field, Qt::Key_End);
+        QTest::keyClick(&field, Qt::Key_Backspace);
+        QCOMPARE(std::string{panel.TxtC.Text}, std::string{"13.97940008"});
+        QTest::keyClick(&field, Qt::Key_Home);
+        QTest::keyClick(&field, Qt::Key_Delete);
+        QCOMPARE(std::string{panel.TxtC.Text}, std::string{"3.97940008"});
+        QCOMPARE(field.text(), QStringLiteral("3.97940008"));
+        QTest::keyClick(&field, Qt::Key_Right, Qt::ShiftModifier);
+        QTest::keyClicks(&field, QStringLiteral("4"));
+        QCOMPARE(std::string{panel.TxtC.Text}, std::string{".97940008"});
+        QCOMPARE(field.text(), QStringLiteral(".97940008"));
         program.store([&] { panel.TxtC.Text = "1"; });
         QTest::keyClicks(&field, QStringLiteral("2345678"));
         QCOMPARE(std::string{panel.TxtC.Text}.size(), std::size_t{6});
