@@ -138,13 +138,8 @@ std::size_t thousandsLength(std::string_view text)
         for (const std::string_view blank : {std::string_view{" "}, noBreakBlank, narrowNoBreakBlank})
             if (text.starts_with(blank))
                 return blank.size();
-    if (!text.starts_with(separator))
-        return 0;
-    // A point in a region of commas is mostly meant as a decimal one, which is no number there: it separates
-    // thousands only before just three digits.
-    if (separator == "." && countDigits(text.substr(1)) != 3)
-        return 0;
-    return separator.size();
+    // Where commas are decimal, a point is mostly meant as the decimal one of other regions, and no number.
+    return separator != "." && text.starts_with(separator) ? separator.size() : 0;
 }
 
 /// The text of a number of the region with "." as the decimal point and no thousands separators.

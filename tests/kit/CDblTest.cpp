@@ -49,7 +49,7 @@ TEST(CDbl, readsNumbersOfAPointRegion)
         });
 }
 
-TEST(CDbl, readsNumbersOfACommaRegionWithPoints)
+TEST(CDbl, readsNumbersOfACommaRegion)
 {
     expect(test::german,
         {
@@ -58,10 +58,6 @@ TEST(CDbl, readsNumbersOfACommaRegionWithPoints)
             {",5", 0.5},
             {"5,", 5},
             {"-3,25", -3.25},
-            {"1.234", 1234},
-            {"1.234,5", 1234.5},
-            {"1.234.567,25", 1234567.25},
-            {"-1.234", -1234},
         });
 }
 
@@ -112,9 +108,8 @@ TEST(CDbl, ofATextThatIsNoNumberIsATypeMismatch)
 TEST(CDbl, ofAPointInACommaRegionIsATypeMismatch)
 {
     for (const Region& inside : {test::german, test::french, test::olderFrench})
-        expectMismatch(inside, {"12.5", ".5", "5.", "1.5e3", "0.001,5e", "1.23456", "1,5.5", "1,5.555"});
-    expectMismatch(test::french, {"1.234"});
-    expectMismatch(test::german, {".234", "-.234", "1.2345"});
+        expectMismatch(
+            inside, {"12.5", ".5", "5.", "1.5e3", "1.234", "-1.234", "1.234,5", "1.234.567,25", "1,5.5", "1,5.555"});
 }
 
 TEST(CDbl, ofASecondDecimalSeparatorIsATypeMismatch)
