@@ -57,6 +57,7 @@ public:
         Font font = {};
         bool Visible = true;
         Label* label = nullptr; ///< the caption that names it
+        Label* otherLabel = nullptr; ///< the caption that names it while `label` is hidden
         Frame* container = nullptr;
     };
     TextBox(FeuilleCalcul* panel, std::string name, Design design, Handler change = {}, KeyHandler keyPress = {});

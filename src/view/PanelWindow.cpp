@@ -70,7 +70,8 @@ void PanelWindow::follow(const Control& control)
     if (shown == nullptr)
         return;
     shown->follow();
-    if (const auto* const label = dynamic_cast<const Label*>(&control)) // one that is empty now had a caption by design
+    const auto* const label = dynamic_cast<const Label*>(&control);
+    if (label != nullptr && label->Visible) // one that is empty now had a caption by design
         rename(label, label->Caption == "" ? label->design().Caption : label->Caption.get());
 }
 

@@ -40,6 +40,8 @@ void WidgetMaker::visit(TextBox& box)
         made = new TextBoxWidget{window_, box, parentOf(box)};
     take(*made, box);
     window_.nameAfter(box.design().label, made_->widget());
+    if (box.design().otherLabel != nullptr)
+        window_.nameAfter(box.design().otherLabel, made_->widget());
 }
 
 void WidgetMaker::visit(ListBox& list)

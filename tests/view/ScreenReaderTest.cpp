@@ -5,6 +5,7 @@
 #include "ScreenReader.h"
 #include "TestPanel.h"
 #include "forms/Controls.h"
+#include "panels/antennes/HB9CV_HF.h"
 #include "panels/lignes/RVListeCoaxiaux.h"
 #include "panels/resonance/CircuitsOscillants.h"
 #include "panels/timer555/Astable.h"
@@ -39,12 +40,24 @@ private:
     {
         return toQString(label == nullptr ? panel_->Caption.get() : label->Caption.get());
     }
+    /// The caption that stands beside the control.
+    static const Label* labelOf(const TextBox& box)
+    {
+        const TextBox::Design& design = box.design();
+        return design.otherLabel != nullptr && design.otherLabel->Visible ? design.otherLabel : design.label;
+    }
+    template <class Labelled>
+    static const Label* labelOf(const Labelled& control)
+    {
+        return control.design().label;
+    }
+
     template <class Labelled>
     void tell(QAccessible::Role role, Labelled& control)
     {
         panel_ = &control.panel();
         told_.role = role;
-        told_.name = nameOf(control.design().label);
+        told_.name = nameOf(labelOf(control));
     }
 
     void visit(TextBox& box) override
@@ -253,6 +266,22 @@ private slots:
         ScreenReader::forget();
         program.store([&] { panel.LblB.Visible = false; });
         QVERIFY(ScreenReader::heardOf(program.widget(panel.TxtB)).empty());
+    }
+
+    void aNameIsThatOfTheCaptionThatIsShown()
+    {
+        Program program;
+        program.pick("mnuHB9CV_HF");
+        auto& panel = program.desk.get<HB9CV_HF>();
+        const auto name = [&] { return found(program.widget(panel.TxtTmatch)).name; };
+        QCOMPARE(name(), QStringLiteral("0.25 * Lambda / 2 (m)"));
+        const ScreenReader reader;
+        QTest::keyClick(&program.widget(panel.HScroll1), Qt::Key_Right);
+        QTest::mouseClick(&program.widget(panel.Option2), Qt::LeftButton);
+        QCOMPARE(name(), QStringLiteral("0.30 * Lambda / 2 (m)"));
+        QVERIFY(ScreenReader::heard(QAccessible::NameChanged, program.widget(panel.TxtTmatch), name()));
+        QTest::mouseClick(&program.widget(panel.Option1), Qt::LeftButton);
+        QCOMPARE(name(), QStringLiteral("0.25 * Lambda / 2 (m)"));
     }
 
     void whatHasNoLabelIsNamedAfterItsPanel()

@@ -26,7 +26,8 @@ public:
     TextBox      Txt092   {this, "Txt092",    resultField({3120, ligne(6), 1860, 315}, &Lbl092)};
     Label        Lbl025   {this, "Lbl025",    {.Caption = "0.25 * Lambda / 2 (m)",      .at = {240, ligne(7) + 30, 2820, 255}}};
     Label        Lbl030   {this, "Lbl030",    {.Caption = "0.30 * Lambda / 2 (m)",      .at = {240, ligne(7) + 30, 2820, 255}, .Visible = false}};
-    TextBox      TxtTmatch{this, "TxtTmatch", resultField({3120, ligne(7), 1860, 315}, &Lbl025)};
+    TextBox      TxtTmatch{this, "TxtTmatch", {.at = {3120, ligne(7), 1860, 315}, .BackColor = 0xFFFFC0, .Locked = true, .label = &Lbl025,
+                                               .otherLabel = &Lbl030}};
     Label        Lbl200   {this, "Lbl200",    {.Caption = "Lambda / 200 (m)",           .at = {240, ligne(8) + 30, 2820, 255}}};
     TextBox      Txt200   {this, "Txt200",    resultField({3120, ligne(8), 1860, 315}, &Lbl200)};
     Label        Label3   {this, "Label3",    {.Caption = "Lambda / 8 (m)",             .at = {240, ligne(9) + 30, 2820, 255}}};
