@@ -88,6 +88,12 @@ private:
     KeyHandler keyPress_;
 };
 
+/// The design of a field that shows a result, on the background of its role, and can be typed over.
+[[nodiscard]] inline TextBox::Design openResultField(Box at, Label* label, Color background = 0xFFFFC0)
+{
+    return {.at = at, .BackColor = background, .label = label};
+}
+
 /// The design of a field that only shows a result: locked, on the background of its role.
 [[nodiscard]] inline TextBox::Design resultField(Box at, Label* label, Color background = 0xFFFFC0)
 {

@@ -29,9 +29,9 @@ public:
     TextBox       TxtMarquage   {this, "TxtMarquage",    {.at = {4800, 2400, 1980, 315}, .label = &LblMarquage}, &Cms::TxtMarquage_Change};
     CommandButton BtnCmsCalculer{this, "BtnCmsCalculer", {.Caption = "Calculer", .at = {7020, 2370, 1200, 375}}, &Cms::BtnCmsCalculer_Click};
     Label         LblValeur     {this, "LblValeur",      {.Caption = "Valeur (Ohms)", .at = {3240, 3075, 1500, 255}}};
-    TextBox       TxtValeur     {this, "TxtValeur",      {.at = {4800, 3045, 1260, 315}, .BackColor = 0xFFFFC0, .label = &LblValeur}};
+    TextBox       TxtValeur     {this, "TxtValeur",      openResultField({4800, 3045, 1260, 315}, &LblValeur)};
     Label         LblExposant   {this, "LblExposant",    {.Caption = "x 10 puissance", .at = {6165, 3075, 1395, 255}}};
-    TextBox       TxtExposant   {this, "TxtExposant",    {.at = {7620, 3045, 600, 315}, .BackColor = 0xFFFFC0, .label = &LblExposant}};
+    TextBox       TxtExposant   {this, "TxtExposant",    openResultField({7620, 3045, 600, 315}, &LblExposant)};
     // clang-format on
 
 private:

@@ -163,7 +163,8 @@ void FiltrePasseBasEnPi::Calculer()
         return;
     }
     Preparer();
-    // To Pm first, so that the store of the solution below is a change and runs PCompute, which shows the network.
+    // To Pm first, so that the store of the solution below is a change and runs PCompute, which shows the network:
+    // unless the bar has one place for both.
     Pscroll.Value = CInt(Pm * 100 / D);
     Resoudre();
     if (Qc >= Qu) {

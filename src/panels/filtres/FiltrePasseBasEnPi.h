@@ -51,11 +51,11 @@ public:
     Label      LblPc   {this, "LblPc", {.Caption = "P conv", .at = {240, 4170, 900, 255}}};
     TextBox    TxtPc   {this, "TxtPc", resultField({1200, 4140, 2400, 315}, &LblPc)};
     Label      LblQc   {this, "LblQc", {.Caption = "Q conv", .at = {3780, 4170, 900, 255}}};
-    TextBox    TxtQc   {this, "TxtQc", resultField({4740, 4140, 2400, 315}, &LblQc)};
+    TextBox    TxtQc   {this, "TxtQc", openResultField({4740, 4140, 2400, 315}, &LblQc)};
     Label      LblPu   {this, "LblPu", {.Caption = "P unconv", .at = {240, 4530, 900, 255}}};
     TextBox    TxtPu   {this, "TxtPu", resultField({1200, 4500, 2400, 315}, &LblPu)};
     Label      LblQu   {this, "LblQu", {.Caption = "Q unconv", .at = {3780, 4530, 900, 255}}};
-    TextBox    TxtQu   {this, "TxtQu", resultField({4740, 4500, 2400, 315}, &LblQu)};
+    TextBox    TxtQu   {this, "TxtQu", openResultField({4740, 4500, 2400, 315}, &LblQu)};
 
     // The reactances of the Pi and of the T share one place: only one of them is ever shown.
     Label      LblXa   {this, "LblXa", {.Caption = "Xa", .at = {240, 5040, 900, 255}}};

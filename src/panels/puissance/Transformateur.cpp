@@ -55,7 +55,7 @@ TextBox::Design Transformateur::saisie(int i, double left, Label& legende)
 
 TextBox::Design Transformateur::resultat(int i, double left, Label& legende)
 {
-    return resultField({left, ligne(1.5 + i), 1080, 315}, &legende, cyan);
+    return openResultField({left, ligne(1.5 + i), 1080, 315}, &legende, cyan);
 }
 
 Label::Design Transformateur::cote(const char* texte, double x, double y)

@@ -30,23 +30,23 @@ public:
     ControlArray<TextBox> TxtDiamFil{this, "TxtDiamFil", 4, [this](int i) { return resultat(i, 9840, Label25(i)); }};
 
     Label   Label1           {this, "Label1",            {.Caption = "Puissance app totale", .at = {240, 2490, 2280, 255}}};
-    TextBox TxtPuissApp      {this, "TxtPuissApp",       resultField({2580, 2460, 1620, 315}, &Label1, cyan)};
+    TextBox TxtPuissApp      {this, "TxtPuissApp",       openResultField({2580, 2460, 1620, 315}, &Label1, cyan)};
     Label   Label2           {this, "Label2",            {.Caption = "Puissance au primaire", .at = {240, 2850, 2280, 255}}};
-    TextBox TxtPuisPrim      {this, "TxtPuisPrim",       resultField({2580, 2820, 1620, 315}, &Label2, cyan)};
+    TextBox TxtPuisPrim      {this, "TxtPuisPrim",       openResultField({2580, 2820, 1620, 315}, &Label2, cyan)};
     Label   Label3           {this, "Label3",            {.Caption = "Qualité de la tôle", .at = {240, 3270, 2280, 255}}};
     ListBox LstTole          {this, "LstTole",           {.Items = {"Ordinaire", "Faible pertes", "Orientée"}, .at = {2580, 3240, 1620, 780}, .label = &Label3}, &Transformateur::LstTole_Click};
     Label   Label9           {this, "Label9",            {.Caption = "Perte dans les tôles", .at = {240, 4170, 2280, 255}}};
-    TextBox TxtPertes        {this, "TxtPertes",         resultField({2580, 4140, 1620, 315}, &Label9, cyan)};
+    TextBox TxtPertes        {this, "TxtPertes",         openResultField({2580, 4140, 1620, 315}, &Label9, cyan)};
     Label   Label4           {this, "Label4",            {.Caption = "Section brute en cm²", .at = {240, 4530, 2280, 255}}};
-    TextBox TxtSec           {this, "TxtSec",            resultField({2580, 4500, 1620, 315}, &Label4, cyan)};
+    TextBox TxtSec           {this, "TxtSec",            openResultField({2580, 4500, 1620, 315}, &Label4, cyan)};
     Label   Label5           {this, "Label5",            {.Caption = "Section corrigée en cm²", .at = {240, 4890, 2280, 255}}};
-    TextBox TxtSecBrute      {this, "TxtSecBrute",       resultField({2580, 4860, 1620, 315}, &Label5, cyan)};
+    TextBox TxtSecBrute      {this, "TxtSecBrute",       openResultField({2580, 4860, 1620, 315}, &Label5, cyan)};
     Label   TxtCoefficient   {this, "TxtCoefficient",    {.Caption = "a", .at = {240, 5250, 2280, 255}}};
-    TextBox Txta             {this, "Txta",              resultField({2580, 5220, 1620, 315}, &TxtCoefficient, cyan)};
+    TextBox Txta             {this, "Txta",              openResultField({2580, 5220, 1620, 315}, &TxtCoefficient, cyan)};
     Label   Label23          {this, "Label23",           {.Caption = "Spires au primaire", .at = {240, 5670, 2280, 255}}};
-    TextBox TxtSpiresPrimaire{this, "TxtSpiresPrimaire", resultField({2580, 5640, 1620, 315}, &Label23, cyan)};
+    TextBox TxtSpiresPrimaire{this, "TxtSpiresPrimaire", openResultField({2580, 5640, 1620, 315}, &Label23, cyan)};
     Label   Label24          {this, "Label24",           {.Caption = "Diamètre du fill mm", .at = {240, 6030, 2280, 255}}};
-    TextBox TxtDiamFilPrim   {this, "TxtDiamFilPrim",    resultField({2580, 6000, 1620, 315}, &Label24, cyan)};
+    TextBox TxtDiamFilPrim   {this, "TxtDiamFilPrim",    openResultField({2580, 6000, 1620, 315}, &Label24, cyan)};
 
     Image   Schema {this, "Schema",  {.picture = "transformateur", .at = {4470, 2430, 6450, 3480}}};
     Label   Label11{this, "Label11", cote("a", 0.278, 0.147)};
