@@ -12,7 +12,8 @@
 
 namespace ondelis {
 
-/// Owns the panels, runs handlers, and is the one place where a fault or the end of the program is caught.
+/// Owns the panels, runs handlers, and is the one place where a fault or the end of the program ends what
+/// the user's action began.
 class Desk {
 public:
     explicit Desk(Surroundings& surroundings);

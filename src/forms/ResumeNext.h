@@ -5,7 +5,7 @@
 namespace ondelis {
 
 /// Runs one statement of `Form_Load` or `MDIForm_Load`: a fault anywhere inside it, nested handlers included, ends the
-/// statement, and the next one runs. Nothing else passes over a fault.
+/// statement, and the next one runs. No other handler passes over a fault.
 template <class Statement>
 void resumeNext(Statement&& statement)
 {

@@ -54,8 +54,6 @@ void MDIOndelis::start()
 
 void MDIOndelis::click(const MenuEntry& entry)
 {
-    if (entry.steps.empty())
-        return;
     desk_.perform([&] {
         CacherFeuilles();
         for (const MenuStep& step : entry.steps)

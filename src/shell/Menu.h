@@ -14,8 +14,7 @@ class MDIOndelis;
 /// One step of what an entry does once all panels are closed.
 using MenuStep = std::function<void(MDIOndelis& frame)>;
 
-/// An entry of the second level: its control, its caption, and what a click does, step by step. No step at
-/// all stands for a panel that the program does not have.
+/// An entry of the second level: its control, its caption, and what a click does, step by step.
 struct MenuEntry {
     std::string_view control;
     std::string_view caption;

@@ -15,7 +15,7 @@ std::vector<std::string_view> openingEntries()
     std::vector<std::string_view> entries;
     for (const Menu& menu : menuTree())
         for (const MenuEntry& entry : menu.entries)
-            if (!entry.steps.empty() && entry.control != "MenuQuitter")
+            if (entry.control != "MenuQuitter")
                 entries.push_back(entry.control);
     return entries;
 }

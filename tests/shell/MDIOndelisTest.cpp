@@ -48,14 +48,6 @@ TEST_F(MDIOndelisTest, ItsCloseBoxEndsTheProgramAtOnce)
     EXPECT_TRUE(world.boxes.empty());
 }
 
-TEST_F(MDIOndelisTest, AnEntryWithoutPanelLeavesWhatIsOpen)
-{
-    frame.start();
-    click("MenuCircuitOscillant");
-    frame.click({.control = "mnuRien", .caption = "Rien", .steps = {}});
-    EXPECT_NE(panel("CircuitsOscillants"), nullptr);
-}
-
 TEST_F(MDIOndelisTest, AnEntryClosesThePanelThatIsOpen)
 {
     frame.start();

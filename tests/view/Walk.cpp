@@ -38,7 +38,7 @@ QStringList panelEntries()
     QStringList entries;
     for (const Menu& menu : menuTree())
         for (const MenuEntry& entry : menu.entries)
-            if (!entry.steps.empty() && entry.control != "MenuQuitter")
+            if (entry.control != "MenuQuitter")
                 entries.append(toQString(entry.control));
     return entries;
 }
