@@ -1,5 +1,6 @@
 #include "view/ClientArea.h"
 
+#include <QApplication>
 #include <QPaintEvent>
 #include <QPainter>
 #include <QScrollBar>
@@ -36,6 +37,7 @@ ClientArea::ClientArea(QWidget* parent) : QMdiArea{parent}
 
 void ClientArea::bringIntoSight(const QWidget& widget)
 {
+    inSight_ = &widget;
     constexpr int around = 8; // pixels
     const QRect place
         = QRect{widget.mapTo(viewport(), QPoint{}), widget.size()}.adjusted(-around, -around, around, around);
@@ -60,6 +62,13 @@ void ClientArea::paintEvent(QPaintEvent* event)
     target.moveCenter(viewport()->rect().center());
     painter.setRenderHint(QPainter::SmoothPixmapTransform);
     painter.drawImage(target, image);
+}
+
+void ClientArea::resizeEvent(QResizeEvent* event)
+{
+    QMdiArea::resizeEvent(event);
+    if (inSight_ != nullptr && inSight_->hasFocus() && QApplication::mouseButtons() == Qt::NoButton)
+        bringIntoSight(*inSight_);
 }
 
 void ClientArea::scrollContentsBy(int dx, int dy)

@@ -154,13 +154,16 @@ void PanelWindow::makeWidgets()
         follow(*control);
 
     focusFrame_ = new FocusFrame{form};
-    connect(qApp, &QApplication::focusChanged, this, [this](QWidget* /*before*/, QWidget* now) { markFocus(now); });
+    connect(qApp, &QApplication::focusChanged, this, [this] { markFocus(); });
 }
 
-void PanelWindow::markFocus(QWidget* focused)
+void PanelWindow::markFocus()
 {
     if (gone_)
         return;
+    // Not what the signal says: the window hands the keyboard on to a control inside the signal of its own turn, so
+    // that the last signal to come tells of the window.
+    QWidget* const focused = QApplication::focusWidget();
     const bool mine = controlOf(focused) != nullptr;
     focusFrame_->setWidget(mine ? focused : nullptr);
     // Under a mouse button nothing must move away.

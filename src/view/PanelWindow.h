@@ -59,7 +59,7 @@ private:
     void makeWidgets();
     void makeMenu();
     /// Shows which widget has the keyboard, if it is one of this panel.
-    void markFocus(QWidget* focused);
+    void markFocus();
     /// Gives a new name to the widgets that are named after the label, or after the panel.
     void rename(const Label* label, const std::string& name);
     /// Writes the title in the system's font, smaller where a large one does not fit.

@@ -132,6 +132,30 @@ private slots:
         QVERIFY(contrast(without.pixel(2, 2), with.pixel(2, 2)) >= 3);
     }
 
+    void theMarkStaysWithTheKeyboard()
+    {
+        Program program;
+        auto& panel = program.open<TestPanel>();
+        PanelWindow& window = program.window(panel);
+        const auto& mark = *window.form().findChild<QFocusFrame*>();
+        const auto marked = [&] {
+            const QWidget* const focused = QApplication::focusWidget();
+            return focused != nullptr && window.form().isAncestorOf(focused) && mark.isVisible()
+                && mark.widget() == focused;
+        };
+        QVERIFY(marked());
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab, Qt::ShiftModifier); // from the first to the last
+        QVERIFY(marked());
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab); // and back
+        QVERIFY(marked());
+        QTest::mouseClick(&window, Qt::LeftButton, {}, QPoint{window.width() / 2, window.form().y() / 2}); // the title
+        QVERIFY(marked());
+        QTest::mouseClick(&window.form(), Qt::LeftButton, {}, window.form().rect().bottomRight());
+        QVERIFY(marked());
+        QTest::mouseClick(&window.form(), Qt::RightButton, {}, window.form().rect().bottomRight());
+        QVERIFY(marked());
+    }
+
     void nothingIsMarkedOnAPanelOfTexts()
     {
         Program program;

@@ -132,6 +132,19 @@ private slots:
         QCOMPARE(Double{panel.Left}.value(), 24000.0);
     }
 
+    void theKeyboardStaysInSightInASmallWindow()
+    {
+        Program program;
+        MainWindow& window = program.view.mainWindow();
+        window.setGeometry(100, 100, 800, 600);
+        program.pick("MenuThomson"); // its companion, on the right, has the keyboard
+        const auto seenWhole = [&] { return seen(program).contains(onScreen(*QApplication::focusWidget())); };
+        QTRY_VERIFY(program.view.mainWindow().area().verticalScrollBar()->isVisible());
+        QTRY_VERIFY(seenWhole());
+        window.resize(600, 500);
+        QTRY_VERIFY(seenWhole());
+    }
+
     void nothingMovesUnderTheMouse()
     {
         Program program;
