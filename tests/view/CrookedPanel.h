@@ -33,6 +33,9 @@ public:
     TextBox LowField{this, "LowField", {.at = {1800, 600, 900, 195}, .label = &CutLabel}};
     ListBox CutRow{this, "CutRow", {.Items = {"Polyéthylène"}, .at = {2880, 240, 600, 300}, .label = &CutLabel}};
     ListBox ShortList{this, "ShortList", {.Items = {"a", "b", "c"}, .at = {2880, 600, 600, 540}, .label = &CutLabel}};
+    ListBox PartList{this, "PartList", {.Items = {"a", "b"}, .at = {2880, 1140, 600, 480}, .label = &CutLabel}};
+    ListBox BlankList{this, "BlankList", {.Items = {"a", "b"}, .at = {2880, 1740, 600, 780}, .label = &CutLabel}};
+    OptionButton HighOption{this, "HighOption", {.Caption = "Rho", .at = {4200, 1740, 900, 345}}};
     OptionButton CutOption{this, "CutOption", {.Caption = "Rho optimum", .at = {3600, 240, 600, 300}}};
     CommandButton CutButton{this, "CutButton", {.Caption = "Calculer", .at = {3600, 600, 480, 375}}};
     Label NoCaption{this, "NoCaption", {.at = {4200, 1440, 600, 255}}};

@@ -6,6 +6,7 @@
 #include <QListWidget>
 #include <QScrollBar>
 #include <QStyleOptionTitleBar>
+#include <cmath>
 
 #include "TextFit.h"
 #include "forms/Controls.h"
@@ -16,6 +17,11 @@ namespace {
 
 /// A list with as many rows or fewer shows them all.
 constexpr int fewRows = 8;
+
+// In twips.
+constexpr double optionHeight = 300;
+constexpr double listRow = 240;
+constexpr double listBorders = 60;
 
 class Check {
 public:
@@ -32,6 +38,7 @@ public:
             QWidget& widget = window_.find(*control)->widget();
             checkTexts(widget);
             checkRows(widget);
+            checkMeasures();
             checkPlace(widget);
             checkDrawing();
             checkName(widget);
@@ -89,6 +96,23 @@ private:
         const auto* const list = dynamic_cast<const QListWidget*>(&widget);
         if (list != nullptr && list->count() <= fewRows && list->verticalScrollBar()->maximum() > 0)
             fault(QStringLiteral("the list does not show all of its few rows"));
+    }
+
+    /// The measures that docs/look.md gives.
+    void checkMeasures()
+    {
+        const double height = control_->at().Height;
+        if (dynamic_cast<const OptionButton*>(control_) != nullptr && height != optionHeight)
+            fault(QStringLiteral("the option is not as high as all others"));
+        const auto* const list = dynamic_cast<const ListBox*>(control_);
+        if (list == nullptr)
+            return;
+        const double rows = (height - listBorders) / listRow;
+        if (rows != std::floor(rows))
+            fault(QStringLiteral("the list cuts a row"));
+        // What the panel fills itself may be shorter than its list.
+        if (const auto items = static_cast<double>(list->design().Items.size()); items > 0 && rows > items)
+            fault(QStringLiteral("the list is blank below its last row"));
     }
 
     void checkPlace(const QWidget& widget)

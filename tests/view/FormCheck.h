@@ -21,8 +21,8 @@ struct FormFault {
 using Typed = std::map<const Control*, QString>;
 
 /// What is wrong with how a panel looks in its present state: cut texts, controls beyond the client area or on top of
-/// one another, drawings that do not exist, fields without a name. Measured with the fonts that the widgets have. What
-/// a person typed may be longer than its field.
+/// one another, options and lists that are not as high as all others, drawings that do not exist, fields without a
+/// name. Measured with the fonts that the widgets have. What a person typed may be longer than its field.
 [[nodiscard]] std::vector<FormFault> faultsOf(const PanelWindow& window, const Typed& typed = {});
 
 } // namespace ondelis

@@ -25,8 +25,8 @@ public:
     Label         LblBornesTheta {this, "LblBornesTheta",  {.Caption = "0.8 =< Theta =< 0.98", .at = {5520, 1140, 3540, 255}}};
     Label         LblRhoOpt      {this, "LblRhoOpt",       {.Caption = "Rho optimum", .at = {420, 1500, 3600, 255}}};
     TextBox       TxtRhoOpt      {this, "TxtRhoOpt",       resultField({4080, 1470, 1950, 315}, &LblRhoOpt)};
-    OptionButton  OptRho         {this, "OptRho",          {.Caption = "Rho", .at = {6240, 1455, 840, 345}}, &AntennesLPDA1::OptRho_Click};
-    OptionButton  OptRhoOpt      {this, "OptRhoOpt",       {.Caption = "Rho Optimum", .at = {7260, 1455, 1800, 345}}, &AntennesLPDA1::OptRhoOpt_Click};
+    OptionButton  OptRho         {this, "OptRho",          {.Caption = "Rho", .at = {6240, 1485, 840, 300}}, &AntennesLPDA1::OptRho_Click};
+    OptionButton  OptRhoOpt      {this, "OptRhoOpt",       {.Caption = "Rho Optimum", .at = {7260, 1485, 1800, 300}}, &AntennesLPDA1::OptRhoOpt_Click};
     Label         LblRho         {this, "LblRho",          {.Caption = "Définition de Rho", .at = {420, 1860, 3600, 255}}};
     TextBox       TxtRho         {this, "TxtRho",          {.at = {4080, 1830, 1320, 315}, .label = &LblRho}, &AntennesLPDA1::TxtRho_Change};
     Label         LblBornesRho   {this, "LblBornesRho",    {.Caption = "0.05 =< Rho =< Rho Optimum", .at = {5520, 1860, 3540, 255}}};

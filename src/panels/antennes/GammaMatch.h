@@ -14,8 +14,8 @@ public:
     explicit GammaMatch(Desk& desk);
 
     // clang-format off
-    OptionButton  OptMonopole  {this, "OptMonopole",   {.Caption = "Monopôle", .at = {240, 225, 1800, 345}}, &GammaMatch::OptMonopole_Click};
-    OptionButton  OptDipôle    {this, "OptDipôle",     {.Caption = "Dipôle", .at = {2160, 225, 1800, 345}}, &GammaMatch::OptDipôle_Click};
+    OptionButton  OptMonopole  {this, "OptMonopole",   {.Caption = "Monopôle", .at = {240, 240, 1800, 300}}, &GammaMatch::OptMonopole_Click};
+    OptionButton  OptDipôle    {this, "OptDipôle",     {.Caption = "Dipôle", .at = {2160, 240, 1800, 300}}, &GammaMatch::OptDipôle_Click};
 
     Label         LblFreq      {this, "LblFreq",       {.Caption = "Frequence (MHz)", .at = {240, 930, 3150, 255}}};
     TextBox       TxtFreq      {this, "TxtFreq",       {.at = {3420, 900, 1320, 315}, .label = &LblFreq}, &GammaMatch::TxtFreq_Change};

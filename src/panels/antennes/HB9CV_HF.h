@@ -13,8 +13,8 @@ public:
     // clang-format off
     Label        LblFreq  {this, "LblFreq",   {.Caption = "Fréquence centrale (MHz)",   .at = {240, ligne(0) + 30, 2820, 255}}};
     TextBox      TxtFreq  {this, "TxtFreq",   {.at = {3120, ligne(0), 1860, 315}, .label = &LblFreq}, &HB9CV_HF::TxtFreq_Change};
-    OptionButton Option1  {this, "Option1",   {.Caption = "Zc = 150 Ohms", .at = {240, ligne(1) - 15, 2340, 345}}, &HB9CV_HF::Option1_Click};
-    OptionButton Option2  {this, "Option2",   {.Caption = "Zc = 300 Ohms", .at = {2640, ligne(1) - 15, 2340, 345}}, &HB9CV_HF::Option2_Click};
+    OptionButton Option1  {this, "Option1",   {.Caption = "Zc = 150 Ohms", .at = {240, ligne(1) + 15, 2340, 300}}, &HB9CV_HF::Option1_Click};
+    OptionButton Option2  {this, "Option2",   {.Caption = "Zc = 300 Ohms", .at = {2640, ligne(1) + 15, 2340, 300}}, &HB9CV_HF::Option2_Click};
     Label        Label1   {this, "Label1",    {.Caption = "Coefficient  diamètre tube", .at = {240, ligne(2) + 30, 2820, 255}}};
     TextBox      TxtCoeff {this, "TxtCoeff",  resultField({3120, ligne(2), 1860, 315}, &Label1)};
     HScrollBar   HScroll1 {this, "HScroll1",  {.Min = 400, .Max = 700, .Value = 400, .SmallChange = 10, .LargeChange = 100,

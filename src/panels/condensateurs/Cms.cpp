@@ -9,7 +9,7 @@
 
 namespace ondelis {
 
-Cms::Cms(Desk& desk) : FeuilleCalcul{desk, {.name = "Cms", .Caption = "Résistances CMS", .Width = 8760, .Height = 4260}}
+Cms::Cms(Desk& desk) : FeuilleCalcul{desk, {.name = "Cms", .Caption = "Résistances CMS", .Width = 8760, .Height = 4320}}
 {
 }
 

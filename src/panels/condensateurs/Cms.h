@@ -21,17 +21,17 @@ public:
     TextBox       TxtLargeur    {this, "TxtLargeur",     resultField({3660, 1020, 960, 315}, &LblLargeur)};
     Image         Schema        {this, "Schema",         {.picture = "cms", .at = {4920, 300, 3300, 1740}}};
 
-    Shape         Cadre2        {this, "Cadre2", {.at = {240, 2220, 8160, 1320}}};
-    OptionButton  Opt3Digits    {this, "Opt3Digits",     {.Caption = "Marquage sur 3 digits", .at = {420, 2400, 2520, 300}}};
-    OptionButton  Opt4Digits    {this, "Opt4Digits",     {.Caption = "Marquage sur 4 digits", .at = {420, 2730, 2520, 300}}};
-    OptionButton  OptE96        {this, "OptE96",         {.Caption = "Série E96", .at = {420, 3060, 2520, 300}}};
+    Shape         Cadre2        {this, "Cadre2", {.at = {240, 2220, 8160, 1380}}};
+    OptionButton  Opt3Digits    {this, "Opt3Digits",     {.Caption = "Marquage sur 3 digits", .at = {420, 2415, 2520, 300}}};
+    OptionButton  Opt4Digits    {this, "Opt4Digits",     {.Caption = "Marquage sur 4 digits", .at = {420, 2775, 2520, 300}}};
+    OptionButton  OptE96        {this, "OptE96",         {.Caption = "Série E96", .at = {420, 3135, 2520, 300}}};
     Label         LblMarquage   {this, "LblMarquage",    {.Caption = "Marquage", .at = {3240, 2430, 1500, 255}}};
     TextBox       TxtMarquage   {this, "TxtMarquage",    {.at = {4800, 2400, 1980, 315}, .label = &LblMarquage}, &Cms::TxtMarquage_Change};
     CommandButton BtnCmsCalculer{this, "BtnCmsCalculer", {.Caption = "Calculer", .at = {7020, 2370, 1200, 375}}, &Cms::BtnCmsCalculer_Click};
-    Label         LblValeur     {this, "LblValeur",      {.Caption = "Valeur (Ohms)", .at = {3240, 3075, 1500, 255}}};
-    TextBox       TxtValeur     {this, "TxtValeur",      openResultField({4800, 3045, 1260, 315}, &LblValeur)};
-    Label         LblExposant   {this, "LblExposant",    {.Caption = "x 10 puissance", .at = {6165, 3075, 1395, 255}}};
-    TextBox       TxtExposant   {this, "TxtExposant",    openResultField({7620, 3045, 600, 315}, &LblExposant)};
+    Label         LblValeur     {this, "LblValeur",      {.Caption = "Valeur (Ohms)", .at = {3240, 3150, 1500, 255}}};
+    TextBox       TxtValeur     {this, "TxtValeur",      openResultField({4800, 3120, 1260, 315}, &LblValeur)};
+    Label         LblExposant   {this, "LblExposant",    {.Caption = "x 10 puissance", .at = {6165, 3150, 1395, 255}}};
+    TextBox       TxtExposant   {this, "TxtExposant",    openResultField({7620, 3120, 600, 315}, &LblExposant)};
     // clang-format on
 
 private:

@@ -12,25 +12,25 @@ public:
     explicit CondensateurFixe(Desk& desk);
 
     // clang-format off
-    Shape   Cadre1         {this, "Cadre1", {.at = {240, 180, 9450, 3600}}};
-    Label   Lbl_Isolant    {this, "Lbl_Isolant",     {.Caption = "Diélectrique", .at = {420, 300, 1800, 255}}};
+    Shape   Cadre1         {this, "Cadre1", {.at = {240, 240, 9450, 3540}}};
+    Label   Lbl_Isolant    {this, "Lbl_Isolant",     {.Caption = "Diélectrique", .at = {420, 360, 1800, 255}}};
     ListBox LstDielectrique{this, "LstDielectrique", {.Items = {"Air", "Céramique I", "Céramique II", "Electrolytique", "Mica", "Mylar",
                                                                 "Papier", "Polycarbonate", "Polystyrène", "Tantale", "Téflon", "Verre"},
-                                                      .at = {420, 600, 1800, 3000}, .clickOnChosenRow = true, .label = &Lbl_Isolant}, &CondensateurFixe::LstDielectrique_Click};
-    Label   LblCsteDiel    {this, "LblCsteDiel",     {.Caption = "Constante diélectrique", .at = {2460, 300, 2760, 255}}};
-    Label   Label3         {this, "Label3",          {.Caption = "Valeur de calcul", .at = {2460, 630, 2220, 255}}};
-    TextBox TxtCstDiel     {this, "TxtCstDiel",      {.at = {4740, 600, 1560, 315}, .label = &Label3}, &CondensateurFixe::TxtCstDiel_Change};
-    Label   Label1         {this, "Label1",          {.Caption = "Valeur Min", .at = {2460, 990, 2220, 255}}};
-    TextBox TxtCstDielMin  {this, "TxtCstDielMin",   resultField({4740, 960, 1560, 315}, &Label1)};
-    Label   LblCstDielMax  {this, "LblCstDielMax",   {.Caption = "Valeur Max", .at = {2460, 1350, 2220, 255}}};
-    TextBox TxtCstDielMax  {this, "TxtCstDielMax",   resultField({4740, 1320, 1560, 315}, &LblCstDielMax)};
-    Label   LblDomFreq     {this, "LblDomFreq",      {.Caption = "Domaine de Fréquence", .at = {2460, 2010, 2220, 255}}};
-    TextBox TxtDomFreq     {this, "TxtDomFreq",      resultField({4740, 1980, 1560, 315}, &LblDomFreq)};
-    Label   LblPhi         {this, "LblPhi",          {.Caption = "Angle de pertes", .at = {2460, 2370, 2220, 255}}};
-    TextBox TxtPhi         {this, "TxtPhi",          resultField({4740, 2340, 1560, 315}, &LblPhi)};
-    Label   LblUtilisation {this, "LblUtilisation",  {.Caption = "Utilisation", .at = {2460, 2730, 2220, 255}}};
-    TextBox TxtUtil        {this, "TxtUtil",         {.at = {4740, 2700, 4770, 900}, .BackColor = 0xFFFFC0, .Locked = true, .multiLine = true, .label = &LblUtilisation}};
-    Image   Icone          {this, "Icone",           {.picture = "condensateur-plan", .at = {6240, 390, 3450, 2100}}};
+                                                      .at = {420, 660, 1800, 2940}, .clickOnChosenRow = true, .label = &Lbl_Isolant}, &CondensateurFixe::LstDielectrique_Click};
+    Label   LblCsteDiel    {this, "LblCsteDiel",     {.Caption = "Constante diélectrique", .at = {2460, 360, 2760, 255}, .font = {.bold = true}}};
+    Label   Label3         {this, "Label3",          {.Caption = "Valeur de calcul", .at = {2460, 690, 2220, 255}}};
+    TextBox TxtCstDiel     {this, "TxtCstDiel",      {.at = {4740, 660, 1560, 315}, .label = &Label3}, &CondensateurFixe::TxtCstDiel_Change};
+    Label   Label1         {this, "Label1",          {.Caption = "Valeur Min", .at = {2460, 1050, 2220, 255}}};
+    TextBox TxtCstDielMin  {this, "TxtCstDielMin",   resultField({4740, 1020, 1560, 315}, &Label1)};
+    Label   LblCstDielMax  {this, "LblCstDielMax",   {.Caption = "Valeur Max", .at = {2460, 1410, 2220, 255}}};
+    TextBox TxtCstDielMax  {this, "TxtCstDielMax",   resultField({4740, 1380, 1560, 315}, &LblCstDielMax)};
+    Label   LblDomFreq     {this, "LblDomFreq",      {.Caption = "Domaine de Fréquence", .at = {2460, 2070, 2220, 255}}};
+    TextBox TxtDomFreq     {this, "TxtDomFreq",      resultField({4740, 2040, 1560, 315}, &LblDomFreq)};
+    Label   LblPhi         {this, "LblPhi",          {.Caption = "Angle de pertes", .at = {2460, 2430, 2220, 255}}};
+    TextBox TxtPhi         {this, "TxtPhi",          resultField({4740, 2400, 1560, 315}, &LblPhi)};
+    Label   LblUtilisation {this, "LblUtilisation",  {.Caption = "Utilisation", .at = {2460, 2790, 2220, 255}}};
+    TextBox TxtUtil        {this, "TxtUtil",         {.at = {4740, 2760, 4770, 840}, .BackColor = 0xFFFFC0, .Locked = true, .multiLine = true, .label = &LblUtilisation}};
+    Image   Icone          {this, "Icone",           {.picture = "condensateur-plan", .at = {6240, 450, 3450, 2100}}};
 
     Shape   Cadre2         {this, "Cadre2", {.at = {240, 3900, 5460, 1860}}};
     Label   LblSurface     {this, "LblSurface",      {.Caption = "Surface", .at = {420, 4215, 1320, 255}}};

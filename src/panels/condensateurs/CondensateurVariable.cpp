@@ -21,7 +21,7 @@ Line::Design CondensateurVariable::lameMobile(int index)
 Line::Design CondensateurVariable::lameFixe(int index)
 {
     const double x = 5640 + 600 * index;
-    return {.X1 = x, .Y1 = 4740, .X2 = x, .Y2 = 3840, .BorderWidth = 3};
+    return {.X1 = x, .Y1 = 4740, .X2 = x, .Y2 = 3840, .BorderColor = encre, .BorderWidth = 3};
 }
 
 void CondensateurVariable::Form_Load()

@@ -28,27 +28,27 @@ public:
 
     SectionBande(Desk& desk, std::string name, std::string caption, const Texts& texts)
         // clang-format off
-        : FeuilleCalcul{desk, {.name = std::move(name), .Caption = std::move(caption), .Width = 5970, .Height = 6150}},
+        : FeuilleCalcul{desk, {.name = std::move(name), .Caption = std::move(caption), .Width = 5970, .Height = 6255}},
           Schema    {this, "Schema",     {.picture = texts.picture, .at = drawing}},
           Label1    {this, "Label1",     {.Caption = "L1", .at = texts.letterL1, .align = Align::Center}},
           Label5    {this, "Label5",     {.Caption = "C1", .at = texts.letterC1, .align = Align::Center}},
           Label10   {this, "Label10",    {.Caption = "L2", .at = texts.letterL2, .align = Align::Center}},
           Label11   {this, "Label11",    {.Caption = "C2", .at = texts.letterC2, .align = Align::Center}},
           Label4    {this, "Label4",     {.Caption = "Z",  .at = texts.letterZ,  .align = Align::Center}},
-          Label6    {this, "Label6",     {.Caption = texts.captionF1, .at = {240, 2910, 2880, 255}}},
-          TxtFreq1  {this, "TxtFreq1",   {.at = {3180, 2880, 1320, 315}, .label = &Label6}, &SectionBande::TxtFreq1_Change},
-          Label2    {this, "Label2",     {.Caption = texts.captionF2, .at = {240, 3270, 2880, 255}}},
-          TxtFreq2  {this, "TxtFreq2",   {.at = {3180, 3240, 1320, 315}, .label = &Label2}, &SectionBande::TxtFreq2_Change},
-          Label7    {this, "Label7",     {.Caption = "Impédance de charge", .at = {240, 3630, 2880, 255}}},
-          TxtZCharge{this, "TxtZCharge", {.at = {3180, 3600, 1320, 315}, .label = &Label7}, &SectionBande::TxtZCharge_Change},
-          Label9    {this, "Label9",     {.Caption = "Self1 en Henry", .at = {240, 4110, 2880, 255}}},
-          TxtSelf1  {this, "TxtSelf1",   resultField({3180, 4080, 2400, 315}, &Label9, 0xFFFF80)},
-          Label8    {this, "Label8",     {.Caption = "Capacité1 en Farad", .at = {240, 4470, 2880, 255}}},
-          TxtCapa1  {this, "TxtCapa1",   resultField({3180, 4440, 2400, 315}, &Label8, 0xFFFF80)},
-          Label15   {this, "Label15",    {.Caption = "Self2 en Henry", .at = {240, 4830, 2880, 255}}},
-          TxtSelf2  {this, "TxtSelf2",   resultField({3180, 4800, 2400, 315}, &Label15, 0xFFFF80)},
-          Label14   {this, "Label14",    {.Caption = "Capacité2 en Farad", .at = {240, 5190, 2880, 255}}},
-          TxtCapa2  {this, "TxtCapa2",   resultField({3180, 5160, 2400, 315}, &Label14, 0xFFFF80)}
+          Label6    {this, "Label6",     {.Caption = texts.captionF1, .at = {240, ligne(7.5) + 30, 2880, 255}}},
+          TxtFreq1  {this, "TxtFreq1",   {.at = {3180, ligne(7.5), 1320, 315}, .label = &Label6}, &SectionBande::TxtFreq1_Change},
+          Label2    {this, "Label2",     {.Caption = texts.captionF2, .at = {240, ligne(8.5) + 30, 2880, 255}}},
+          TxtFreq2  {this, "TxtFreq2",   {.at = {3180, ligne(8.5), 1320, 315}, .label = &Label2}, &SectionBande::TxtFreq2_Change},
+          Label7    {this, "Label7",     {.Caption = "Impédance de charge", .at = {240, ligne(9.5) + 30, 2880, 255}}},
+          TxtZCharge{this, "TxtZCharge", {.at = {3180, ligne(9.5), 1320, 315}, .label = &Label7}, &SectionBande::TxtZCharge_Change},
+          Label9    {this, "Label9",     {.Caption = "Self1 en Henry", .at = {240, ligne(11) + 30, 2880, 255}}},
+          TxtSelf1  {this, "TxtSelf1",   resultField({3180, ligne(11), 2400, 315}, &Label9, 0xFFFF80)},
+          Label8    {this, "Label8",     {.Caption = "Capacité1 en Farad", .at = {240, ligne(12) + 30, 2880, 255}}},
+          TxtCapa1  {this, "TxtCapa1",   resultField({3180, ligne(12), 2400, 315}, &Label8, 0xFFFF80)},
+          Label15   {this, "Label15",    {.Caption = "Self2 en Henry", .at = {240, ligne(13) + 30, 2880, 255}}},
+          TxtSelf2  {this, "TxtSelf2",   resultField({3180, ligne(13), 2400, 315}, &Label15, 0xFFFF80)},
+          Label14   {this, "Label14",    {.Caption = "Capacité2 en Farad", .at = {240, ligne(14) + 30, 2880, 255}}},
+          TxtCapa2  {this, "TxtCapa2",   resultField({3180, ligne(14), 2400, 315}, &Label14, 0xFFFF80)}
     // clang-format on
     {
     }

@@ -12,8 +12,8 @@ public:
     explicit EchelleGrenouille(Desk& desk);
 
     // clang-format off
-    OptionButton OptZ        {this, "OptZ",         {.Caption = "Calcul de l'impédance", .at = {240, 225, 2760, 345}}, &EchelleGrenouille::OptZ_Click};
-    OptionButton OptD        {this, "OptD",         {.Caption = "Calcul de l'écartement", .at = {240, 585, 2760, 345}}, &EchelleGrenouille::OptD_Click};
+    OptionButton OptZ        {this, "OptZ",         {.Caption = "Calcul de l'impédance", .at = {240, 240, 2760, 300}}, &EchelleGrenouille::OptZ_Click};
+    OptionButton OptD        {this, "OptD",         {.Caption = "Calcul de l'écartement", .at = {240, 600, 2760, 300}}, &EchelleGrenouille::OptD_Click};
 
     Label        Label1      {this, "Label1",       {.Caption = "d (mm)", .at = {240, 1170, 2580, 255}}};
     TextBox      TxtDiamBrin {this, "TxtDiamBrin",  {.at = {2880, 1140, 2400, 315}, .label = &Label1}, &EchelleGrenouille::TxtDiamBrin_Change};

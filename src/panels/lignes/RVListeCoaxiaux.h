@@ -16,12 +16,12 @@ public:
     explicit RVListeCoaxiaux(Desk& desk);
 
     // clang-format off
-    OptionButton OptZ      {this, "OptZ",       {.Caption = "Recherche sur l'impédance", .at = {240, 225, 3240, 345}}, &RVListeCoaxiaux::OptZ_Click};
-    OptionButton OptVF     {this, "OptVF",      {.Caption = "Recherche sur le coeff de vélocité", .at = {3540, 225, 3540, 345}}, &RVListeCoaxiaux::OptVF_Click};
-    OptionButton OptpF     {this, "OptpF",      {.Caption = "Recherche sur la capa linéaire", .at = {240, 585, 3240, 345}}, &RVListeCoaxiaux::OptpF_Click};
-    OptionButton OptDiam   {this, "OptDiam",    {.Caption = "Recherche sur le diamètre", .at = {3540, 585, 3540, 345}}, &RVListeCoaxiaux::OptDiam_Click};
-    OptionButton OptIsolant{this, "OptIsolant", {.Caption = "Recherche sur le diélectrique", .at = {240, 945, 3240, 345}}, &RVListeCoaxiaux::OptIsolant_Click};
-    OptionButton OptVmax   {this, "OptVmax",    {.Caption = "Recherche sur l'isolement", .at = {3540, 945, 3540, 345}}, &RVListeCoaxiaux::OptVmax_Click};
+    OptionButton OptZ      {this, "OptZ",       {.Caption = "Recherche sur l'impédance", .at = {240, 240, 3240, 300}}, &RVListeCoaxiaux::OptZ_Click};
+    OptionButton OptVF     {this, "OptVF",      {.Caption = "Recherche sur le coeff de vélocité", .at = {3540, 240, 3540, 300}}, &RVListeCoaxiaux::OptVF_Click};
+    OptionButton OptpF     {this, "OptpF",      {.Caption = "Recherche sur la capa linéaire", .at = {240, 600, 3240, 300}}, &RVListeCoaxiaux::OptpF_Click};
+    OptionButton OptDiam   {this, "OptDiam",    {.Caption = "Recherche sur le diamètre", .at = {3540, 600, 3540, 300}}, &RVListeCoaxiaux::OptDiam_Click};
+    OptionButton OptIsolant{this, "OptIsolant", {.Caption = "Recherche sur le diélectrique", .at = {240, 960, 3240, 300}}, &RVListeCoaxiaux::OptIsolant_Click};
+    OptionButton OptVmax   {this, "OptVmax",    {.Caption = "Recherche sur l'isolement", .at = {3540, 960, 3540, 300}}, &RVListeCoaxiaux::OptVmax_Click};
     PictureBox   Picture1  {this, "Picture1",   {.picture = "coaxial-icone", .at = {7200, 240, 960, 960}}};
 
     Label   LblResultat{this, "LblResultat", {.Caption = "Références coaxiaux", .at = {2640, 1500, 2160, 255}}};

@@ -25,9 +25,9 @@ public:
 
     // The circuit carries its wiper, its currents and its voltage where they are.
     Image      Schema    {this, "Schema",     {.picture = "pont-potentiometre", .at = {4080, 330, 4800, 3540}}};
-    VScrollBar VScrollPot{this, "VScrollPot", {.Min = 100, .Max = 0, .Value = 50, .LargeChange = 10, .at = {5295, 870, 255, 1950}, .label = &LblPot}, &PDResitancesParalleles::VScrollPot_Change};
-    TextBox    TxtPPot   {this, "TxtPPot",    {.at = {5145, 2880, 555, 315}, .BackColor = 0xE0E0E0, .ForeColor = 0x0000FF, .label = &Label1}};
-    Label      Label1    {this, "Label1",     {.Caption = "%", .at = {5730, 2910, 240, 255}}};
+    VScrollBar VScrollPot{this, "VScrollPot", {.Min = 100, .Max = 0, .Value = 50, .LargeChange = 10, .at = {5295, 870, 255, 1590}, .label = &LblPot}, &PDResitancesParalleles::VScrollPot_Change};
+    TextBox    TxtPPot   {this, "TxtPPot",    {.at = {5145, 2520, 555, 315}, .BackColor = 0xE0E0E0, .ForeColor = 0x0000FF, .label = &Label1}};
+    Label      Label1    {this, "Label1",     {.Caption = "%", .at = {5730, 2550, 240, 255}}};
     MaskEdBox  MebIp     {this, "MebIp",      {.at = {5940, ligne(0), 1260, 315}, .BackColor = 0xFFFFC0, .label = &LblA}};
     Label      LblA      {this, "LblA",       {.Caption = "Ampères", .at = {7260, ligne(0) + 30, 900, 255}}};
     MaskEdBox  MebIc     {this, "MebIc",      {.at = {7920, 1680, 1260, 315}, .BackColor = 0xFFFFC0, .label = &Lbl2A}};

@@ -20,7 +20,7 @@ public:
     TextBox      TxtDevTot       {this, "TxtDevTot",        {.at = {8280, 810, 1440, 315}, .label = &LblDevTot}, &PDShunts::TxtDevTot_Change};
 
     Shape        Cadre2          {this, "Cadre2", {.at = {240, 1440, 9660, 1980}}};
-    OptionButton OptCourant      {this, "OptCourant",       {.Caption = "Calcul Résitance Parallèle", .at = {420, 1560, 2940, 300}}, &PDShunts::OptCourant_Click};
+    OptionButton OptCourant      {this, "OptCourant",       {.Caption = "Calcul Résitance Parallèle", .at = {420, 1545, 2940, 300}}, &PDShunts::OptCourant_Click};
     Label        LblImax         {this, "LblImax",          {.Caption = "Courant max à mesurer (A)", .at = {420, 2190, 2640, 255}}};
     TextBox      TxtImax         {this, "TxtImax",          {.at = {3120, 2160, 1440, 315}, .label = &LblImax}, &PDShunts::TxtImax_Change};
     Label        LblIShunt       {this, "LblIShunt",        {.Caption = "Valeur du shunt", .at = {420, 2550, 2640, 255}}};
@@ -30,7 +30,7 @@ public:
     Label        LblACourant     {this, "LblACourant",      {.Caption = "A", .at = lettre(SchemaCourant.at(), 0.500, 0.250, 240), .align = Align::Center}};
 
     Shape        Cadre3          {this, "Cadre3", {.at = {240, 3540, 9660, 1560}}};
-    OptionButton OptTension      {this, "OptTension",       {.Caption = "Calcul  Résitance Série", .at = {420, 3660, 2940, 300}}, &PDShunts::OptTension_Click};
+    OptionButton OptTension      {this, "OptTension",       {.Caption = "Calcul  Résitance Série", .at = {420, 3645, 2940, 300}}, &PDShunts::OptTension_Click};
     Label        LblTensionMax   {this, "LblTensionMax",    {.Caption = "Tension max à mesurer (V)", .at = {420, 4230, 2640, 255}}};
     TextBox      TxtUmax         {this, "TxtUmax",          {.at = {3120, 4200, 1440, 315}, .label = &LblTensionMax}, &PDShunts::TxtUmax_Change};
     Label        LblVShunt       {this, "LblVShunt",        {.Caption = "Valeur du shunt", .at = {420, 4590, 2640, 255}}};

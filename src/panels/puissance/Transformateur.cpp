@@ -38,7 +38,7 @@ std::string tronque(Double x, int parts)
 
 Transformateur::Transformateur(Desk& desk)
     : FeuilleCalcul{
-        desk, {.name = "Transformateur", .Caption = "Calcul de transformateur à 50Hz", .Width = 11280, .Height = 7020}}
+        desk, {.name = "Transformateur", .Caption = "Calcul de transformateur à 50Hz", .Width = 11280, .Height = 7140}}
 {
     tabAlongRows(Label17, TxtUSec, Label18, TxtIsec, Label19, TxtPap, Label7, TxtSpires, Label25, TxtDiamFil);
 }

@@ -43,10 +43,10 @@ public:
     TextBox TxtSecBrute      {this, "TxtSecBrute",       openResultField({2580, 4860, 1620, 315}, &Label5, cyan)};
     Label   TxtCoefficient   {this, "TxtCoefficient",    {.Caption = "a", .at = {240, 5250, 2280, 255}}};
     TextBox Txta             {this, "Txta",              openResultField({2580, 5220, 1620, 315}, &TxtCoefficient, cyan)};
-    Label   Label23          {this, "Label23",           {.Caption = "Spires au primaire", .at = {240, 5670, 2280, 255}}};
-    TextBox TxtSpiresPrimaire{this, "TxtSpiresPrimaire", openResultField({2580, 5640, 1620, 315}, &Label23, cyan)};
-    Label   Label24          {this, "Label24",           {.Caption = "Diamètre du fill mm", .at = {240, 6030, 2280, 255}}};
-    TextBox TxtDiamFilPrim   {this, "TxtDiamFilPrim",    openResultField({2580, 6000, 1620, 315}, &Label24, cyan)};
+    Label   Label23          {this, "Label23",           {.Caption = "Spires au primaire", .at = {240, 5790, 2280, 255}}};
+    TextBox TxtSpiresPrimaire{this, "TxtSpiresPrimaire", openResultField({2580, 5760, 1620, 315}, &Label23, cyan)};
+    Label   Label24          {this, "Label24",           {.Caption = "Diamètre du fill mm", .at = {240, 6150, 2280, 255}}};
+    TextBox TxtDiamFilPrim   {this, "TxtDiamFilPrim",    openResultField({2580, 6120, 1620, 315}, &Label24, cyan)};
 
     Image   Schema {this, "Schema",  {.picture = "transformateur", .at = {4470, 2430, 6450, 3480}}};
     Label   Label11{this, "Label11", cote("a", 0.278, 0.147)};
@@ -56,7 +56,7 @@ public:
     Label   Label21{this, "Label21", cote("6a", 0.512, 0.836)};
     Label   Label14{this, "Label14", cote("2a", 0.874, 0.668)};
     Label   Label20{this, "Label20", cote("2a", 0.972, 0.487)};
-    Label   Label22{this, "Label22", {.Caption = "Beta est fixé à 1 Tesla", .at = {6570, 6030, 2400, 255}, .ForeColor = 0x0000FF, .align = Align::Center}};
+    Label   Label22{this, "Label22", {.Caption = "Beta est fixé à 1 Tesla", .at = {6570, 6150, 2400, 255}, .ForeColor = 0x0000FF, .align = Align::Center}};
     CommandButton BtnReset{this, "BtnReset", {.Caption = "Reset", .at = {9720, 210, 1200, 375}}, &Transformateur::BtnReset_Click};
     // clang-format on
 

@@ -19,10 +19,10 @@ public:
 
     Label        Label1 {this, "Label1",  {.Caption = "Valeur de self recherchée", .at = {240, ligne(6.5) + 30, 2580, 255}}};
     TextBox      TxtS   {this, "TxtS",    {.at = {2880, ligne(6.5), 1860, 315}, .label = &Label1}, &CalculNombreSpires::TxtS_Change};
-    OptionButton OptmH  {this, "OptmH",   {.Caption = "mH", .at = {4920, ligne(6.5) + 7, 720, 300}}, &CalculNombreSpires::OptmH_Click};
-    OptionButton OptmmH {this, "OptmmH",  {.Caption = "µH", .at = {5700, ligne(6.5) + 7, 720, 300}}, &CalculNombreSpires::OptmmH_Click};
-    OptionButton OpnH   {this, "OpnH",    {.Caption = "nH", .at = {6480, ligne(6.5) + 7, 720, 300}}, &CalculNombreSpires::OpnH_Click};
-    OptionButton OptpH  {this, "OptpH",   {.Caption = "pH", .at = {7260, ligne(6.5) + 7, 720, 300}}, &CalculNombreSpires::OptpH_Click};
+    OptionButton OptmH  {this, "OptmH",   {.Caption = "mH", .at = {4920, ligne(6.5) + 15, 720, 300}}, &CalculNombreSpires::OptmH_Click};
+    OptionButton OptmmH {this, "OptmmH",  {.Caption = "µH", .at = {5700, ligne(6.5) + 15, 720, 300}}, &CalculNombreSpires::OptmmH_Click};
+    OptionButton OpnH   {this, "OpnH",    {.Caption = "nH", .at = {6480, ligne(6.5) + 15, 720, 300}}, &CalculNombreSpires::OpnH_Click};
+    OptionButton OptpH  {this, "OptpH",   {.Caption = "pH", .at = {7260, ligne(6.5) + 15, 720, 300}}, &CalculNombreSpires::OptpH_Click};
     Label        Label6 {this, "Label6",  {.Caption = "Diamètre intérieur (mm)", .at = {240, ligne(7.5) + 30, 2580, 255}}};
     TextBox      TxtD   {this, "TxtD",    {.at = {2880, ligne(7.5), 1860, 315}, .label = &Label6}, &CalculNombreSpires::TxtD_Change};
     Label        Label2 {this, "Label2",  {.Caption = "Diamètre du fil (mm)", .at = {240, ligne(8.5) + 30, 2580, 255}}};

@@ -2,6 +2,7 @@
 
 #include "forms/Controls.h"
 #include "forms/FeuilleCalcul.h"
+#include "panels/resonance/CouleursDiagramme.h"
 
 namespace ondelis {
 
@@ -45,32 +46,26 @@ public:
     // The diagram. Lines may lie on one another: the later ones are the thinner.
     Label      LblIc     {this, "LblIc",      {.Caption = "Ic en avance sur U", .at = {4260, 3000, 3705, 255}}};
     Shape      Cadre     {this, "Cadre",      {.at = {4260, 3300, 3705, 3420}}};
-    Line       Line1     {this, "Line1",      {.X1 = 4560, .Y1 = 5010, .X2 = 7845, .Y2 = 5010, .BorderColor = axe}};
+    Line       Line1     {this, "Line1",      {.X1 = 4560, .Y1 = 5010, .X2 = 7845, .Y2 = 5010, .BorderColor = diagramme::axe}};
     Label      LblU      {this, "LblU",       {.Caption = "U", .at = {7605, 5055, 285, 255}}};
-    Line       LXl       {this, "LXl",        {.BorderColor = bleu, .BorderWidth = 7, .within = &Cadre}};
-    Line       LR        {this, "LR",         {.BorderColor = ocre, .BorderWidth = 5, .within = &Cadre}};
-    Line       LXc       {this, "LXc",        {.BorderColor = vert, .BorderWidth = 4, .within = &Cadre}};
-    Line       LRes      {this, "LRes",       {.BorderColor = rouge, .BorderWidth = 2, .within = &Cadre}};
+    Line       LXl       {this, "LXl",        {.BorderColor = diagramme::bleu, .BorderWidth = 7, .within = &Cadre}};
+    Line       LR        {this, "LR",         {.BorderColor = diagramme::ocre, .BorderWidth = 5, .within = &Cadre}};
+    Line       LXc       {this, "LXc",        {.BorderColor = diagramme::vert, .BorderWidth = 4, .within = &Cadre}};
+    Line       LRes      {this, "LRes",       {.BorderColor = diagramme::rouge, .BorderWidth = 2, .within = &Cadre}};
     Label      LblIz     {this, "LblIz",      {.Caption = "Iz en retard sur U", .at = {4260, 6765, 1875, 255}}};
     Label      LblZlr    {this, "LblZlr",     {.Caption = "Zlr=sqr(R² + Xl²)", .at = {6195, 6765, 1770, 255}, .align = Align::Right}};
 
-    Line       LegendeXl    {this, "LegendeXl",     {.X1 = 240, .Y1 = 6083, .X2 = 540, .Y2 = 6083, .BorderColor = bleu, .BorderWidth = 7}};
+    Line       LegendeXl    {this, "LegendeXl",     {.X1 = 240, .Y1 = 6083, .X2 = 540, .Y2 = 6083, .BorderColor = diagramme::bleu, .BorderWidth = 7}};
     Label      LblLegendeXl {this, "LblLegendeXl",  {.Caption = "Xl / Zlr", .at = {660, 5955, 1500, 255}}};
-    Line       LegendeR     {this, "LegendeR",      {.X1 = 240, .Y1 = 6353, .X2 = 540, .Y2 = 6353, .BorderColor = ocre, .BorderWidth = 5}};
+    Line       LegendeR     {this, "LegendeR",      {.X1 = 240, .Y1 = 6353, .X2 = 540, .Y2 = 6353, .BorderColor = diagramme::ocre, .BorderWidth = 5}};
     Label      LblLegendeR  {this, "LblLegendeR",   {.Caption = "R / Z", .at = {660, 6225, 1500, 255}}};
-    Line       LegendeXc    {this, "LegendeXc",     {.X1 = 240, .Y1 = 6623, .X2 = 540, .Y2 = 6623, .BorderColor = vert, .BorderWidth = 4}};
+    Line       LegendeXc    {this, "LegendeXc",     {.X1 = 240, .Y1 = 6623, .X2 = 540, .Y2 = 6623, .BorderColor = diagramme::vert, .BorderWidth = 4}};
     Label      LblLegendeXc {this, "LblLegendeXc",  {.Caption = "Xc", .at = {660, 6495, 1500, 255}}};
-    Line       LegendeRes   {this, "LegendeRes",    {.X1 = 240, .Y1 = 6893, .X2 = 540, .Y2 = 6893, .BorderColor = rouge, .BorderWidth = 2}};
+    Line       LegendeRes   {this, "LegendeRes",    {.X1 = 240, .Y1 = 6893, .X2 = 540, .Y2 = 6893, .BorderColor = diagramme::rouge, .BorderWidth = 2}};
     Label      LblLegendeRes{this, "LblLegendeRes", {.Caption = "Résultante", .at = {660, 6765, 1500, 255}}};
     // clang-format on
 
 private:
-    static constexpr Color axe = 0x8A8A8A;
-    static constexpr Color bleu = 0xD08C4A;
-    static constexpr Color ocre = 0x1B61B8;
-    static constexpr Color vert = 0x3F6B12;
-    static constexpr Color rouge = 0x281CD0;
-
     void Form_Load() override;
     void TxtR_Change();
     void TxtL_Change();

@@ -2,6 +2,7 @@
 
 #include "forms/Controls.h"
 #include "forms/FeuilleCalcul.h"
+#include "panels/resonance/CouleursDiagramme.h"
 
 namespace ondelis {
 
@@ -47,29 +48,23 @@ public:
     // The diagram: its longest side takes a fifth of the width of the panel, up or down from the origin, or to its
     // right. Lines may lie on one another: the later ones are the thinner.
     Shape      Cadre      {this, "Cadre",       {.at = {5190, 2940, 3765, 3900}}};
-    Line       Line3      {this, "Line3",       {.X1 = 5655, .Y1 = 4890, .X2 = 8655, .Y2 = 4890, .BorderColor = axe}};
-    Line       LXl        {this, "LXl",         {.BorderColor = bleu, .BorderWidth = 7, .within = &Cadre}};
-    Line       LR         {this, "LR",          {.BorderColor = ocre, .BorderWidth = 5, .within = &Cadre}};
-    Line       LXc        {this, "LXc",         {.BorderColor = vert, .BorderWidth = 4, .within = &Cadre}};
-    Line       LResultante{this, "LResultante", {.BorderColor = rouge, .BorderWidth = 2, .within = &Cadre}};
+    Line       Line3      {this, "Line3",       {.X1 = 5655, .Y1 = 4890, .X2 = 8655, .Y2 = 4890, .BorderColor = diagramme::axe}};
+    Line       LXl        {this, "LXl",         {.BorderColor = diagramme::bleu, .BorderWidth = 7, .within = &Cadre}};
+    Line       LR         {this, "LR",          {.BorderColor = diagramme::ocre, .BorderWidth = 5, .within = &Cadre}};
+    Line       LXc        {this, "LXc",         {.BorderColor = diagramme::vert, .BorderWidth = 4, .within = &Cadre}};
+    Line       LResultante{this, "LResultante", {.BorderColor = diagramme::rouge, .BorderWidth = 2, .within = &Cadre}};
 
-    Line       LegendeR         {this, "LegendeR",          {.X1 = 7860, .Y1 = 3187, .X2 = 8160, .Y2 = 3187, .BorderColor = ocre, .BorderWidth = 5}};
+    Line       LegendeR         {this, "LegendeR",          {.X1 = 7860, .Y1 = 3187, .X2 = 8160, .Y2 = 3187, .BorderColor = diagramme::ocre, .BorderWidth = 5}};
     Label      LblLegendeR      {this, "LblLegendeR",       {.Caption = "R", .at = {8250, 3060, 600, 255}}};
-    Line       LegendeXl        {this, "LegendeXl",         {.X1 = 7860, .Y1 = 3457, .X2 = 8160, .Y2 = 3457, .BorderColor = bleu, .BorderWidth = 7}};
+    Line       LegendeXl        {this, "LegendeXl",         {.X1 = 7860, .Y1 = 3457, .X2 = 8160, .Y2 = 3457, .BorderColor = diagramme::bleu, .BorderWidth = 7}};
     Label      LblLegendeXl     {this, "LblLegendeXl",      {.Caption = "Xl", .at = {8250, 3330, 600, 255}}};
-    Line       LegendeXc        {this, "LegendeXc",         {.X1 = 7860, .Y1 = 3727, .X2 = 8160, .Y2 = 3727, .BorderColor = vert, .BorderWidth = 4}};
+    Line       LegendeXc        {this, "LegendeXc",         {.X1 = 7860, .Y1 = 3727, .X2 = 8160, .Y2 = 3727, .BorderColor = diagramme::vert, .BorderWidth = 4}};
     Label      LblLegendeXc     {this, "LblLegendeXc",      {.Caption = "Xc", .at = {8250, 3600, 600, 255}}};
-    Line       LegendeResultante{this, "LegendeResultante", {.X1 = 7860, .Y1 = 3997, .X2 = 8160, .Y2 = 3997, .BorderColor = rouge, .BorderWidth = 2}};
+    Line       LegendeResultante{this, "LegendeResultante", {.X1 = 7860, .Y1 = 3997, .X2 = 8160, .Y2 = 3997, .BorderColor = diagramme::rouge, .BorderWidth = 2}};
     Label      LblLegendeZ      {this, "LblLegendeZ",       {.Caption = "Z", .at = {8250, 3870, 600, 255}}};
     // clang-format on
 
 private:
-    static constexpr Color axe = 0x8A8A8A;
-    static constexpr Color bleu = 0xD08C4A;
-    static constexpr Color ocre = 0x1B61B8;
-    static constexpr Color vert = 0x3F6B12;
-    static constexpr Color rouge = 0x281CD0;
-
     void Form_Load() override;
     void TxtR_Change();
     void TxtL_Change();
