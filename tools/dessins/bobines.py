@@ -8,7 +8,7 @@ from symbols import inductor, junction, terminal
 CORE = "#8a98a6"  # iron powder and ferrite
 
 
-def helix(s: Sheet, x: float, axis: float, radius: float, pitch: float, turns: int, wire: float = 4.2) -> float:
+def helix(s: Sheet, x: float, axis: float, radius: float, pitch: float, turns: int) -> float:
     """An air coil from the side, its first wire low at x; gives the x of its last wire, low as well.
 
     Each turn climbs behind, paler, and comes down in front.
@@ -22,9 +22,9 @@ def helix(s: Sheet, x: float, axis: float, radius: float, pitch: float, turns: i
         near.append(f"M{number(left + half)} {number(top)} C{number(left + half + bow)} {number(top)}"
                     f" {number(left + pitch + bow)} {number(bottom)} {number(left + pitch)} {number(bottom)}")
     for d in far:
-        s.path(d, stroke=COPPER_PALE, width=wire)
+        s.path(d, stroke=COPPER_PALE, width=4.2)
     for d in near:
-        s.path(d, stroke=COPPER, width=wire)
+        s.path(d, stroke=COPPER, width=4.2)
     return x + turns * pitch
 
 
