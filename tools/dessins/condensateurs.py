@@ -10,15 +10,15 @@ from symbols import block, capacitor, current_source, junction, lamp, switch
 @picture("condensateur-plan", 230, 140, "Condensateur plan")
 def condensateur_plan(s: Sheet) -> None:
     """Two plates with a dielectric between them; the leads leave them at their far corner."""
-    x, y, width, depth, plate, thickness = 82.0, 48.0, 92.0, 44.0, 8.0, 46.0
+    x, y, width, depth, plate, thickness = 80.0, 48.0, 92.0, 44.0, 8.0, 46.0
     block(s, x, y + plate + thickness, width, plate, depth, COPPER_PALE, COPPER)
     block(s, x, y + plate, width, thickness, depth, DIELECTRIC)
     block(s, x, y, width, plate, depth, COPPER_PALE, COPPER)
     corner = (x + width + 0.8 * depth, y - 0.45 * depth + plate / 2)
     for below in (0, plate + thickness):
-        s.wire((corner[0], corner[1] + below), (corner[0] + 16, corner[1] + below), stroke=COPPER, width=2.2)
+        s.wire((corner[0], corner[1] + below), (corner[0] + 14, corner[1] + below), stroke=COPPER, width=2.2)
     s.text(x + (width + 0.8 * depth) / 2, y - 0.225 * depth, "Surface", WORD)
-    s.dimension((x, y + plate + thickness), (x, y + plate), "Epaisseur", 42)
+    s.dimension((x, y + plate + thickness), (x, y + plate), "Epaisseur", 40)
 
 
 @picture("cms", 220, 116, "Résistance à monter en surface")
