@@ -2,8 +2,8 @@
 
 from __future__ import annotations
 
-from sheet import (COPPER, COPPER_PALE, DIELECTRIC, DIM, METAL, PAPER, THIN, WORD, Point, Sheet, number, picture,
-                   polar)
+from sheet import (COPPER, COPPER_PALE, DIELECTRIC, DIM, HEAVY, INK, MARKING, METAL, PAPER, THIN, WORD, Point, Sheet,
+                   number, picture, polar)
 from symbols import block, capacitor, current_source, junction, lamp, switch
 
 
@@ -16,7 +16,7 @@ def condensateur_plan(s: Sheet) -> None:
     block(s, x, y, width, plate, depth, COPPER_PALE, COPPER)
     corner = (x + width + 0.8 * depth, y - 0.45 * depth + plate / 2)
     for below in (0, plate + thickness):
-        s.wire((corner[0], corner[1] + below), (corner[0] + 14, corner[1] + below), stroke=COPPER, width=2.2)
+        s.wire((corner[0], corner[1] + below), (corner[0] + 14, corner[1] + below), stroke=COPPER, width=HEAVY)
     s.text(x + (width + 0.8 * depth) / 2, y - 0.225 * depth, "Surface", WORD)
     s.dimension((x, y + plate + thickness), (x, y + plate), "Epaisseur", 40)
 
@@ -26,8 +26,8 @@ def cms(s: Sheet) -> None:
     """A chip resistor from above, with its marking, its length and its width."""
     x, y, length, width, end = 22.0, 14.0, 116.0, 64.0, 20.0
     s.rect(x, y, length, width, fill=METAL)
-    s.rect(x + end, y, length - 2 * end, width, fill="#2b3846")
-    s.text(x + length / 2, y + width / 2, "103", 22, colour="#ffffff")
+    s.rect(x + end, y, length - 2 * end, width, fill=INK)
+    s.text(x + length / 2, y + width / 2, "103", MARKING, colour=PAPER)
     s.dimension((x, y + width), (x + length, y + width), "Longueur", -24)
     s.dimension((x + length, y + width), (x + length, y), "Largeur", -40)
 

@@ -9,7 +9,8 @@ from __future__ import annotations
 
 import math
 
-from sheet import COPPER, COPPER_PALE, INK, LETTER, PALE, PAPER, WORD, Point, Sheet, along, number, text_width, towards
+from sheet import (BROAD, COPPER, COPPER_PALE, HEAVY, INK, LETTER, PALE, PAPER, TUBE, WORD, Point, Sheet, along,
+                   line_data, number, text_width, towards)
 
 RESISTOR = (34.0, 12.0)
 PLATES = (20.0, 6.0)  # length of the plates, distance between them
@@ -75,9 +76,9 @@ def capacitor(s: Sheet, a: Point, b: Point, text: str = "", side: int = 1, label
     u, m = towards(a, b), middle(a, b)
     leads(s, a, b, gap)
     for t in (-gap / 2, gap / 2):
-        s.wire(along(m, u, t, plate / 2), along(m, u, t, -plate / 2), width=2.2, cap="butt")
+        s.wire(along(m, u, t, plate / 2), along(m, u, t, -plate / 2), width=HEAVY, cap="butt")
     if variable:
-        s.arrow(along(m, u, -12, -12), along(m, u, 12, 12), width=1.2)
+        s.arrow(along(m, u, -12, -12), along(m, u, 12, 12))
     letter(s, a, b, text, plate / 2, side, label)
 
 
@@ -129,7 +130,7 @@ def battery(s: Sheet, a: Point, b: Point, text: str = "", side: int = 1) -> None
     u, m = towards(a, b), middle(a, b)
     leads(s, a, b, 6)
     s.wire(along(m, u, -3, 12), along(m, u, -3, -12), cap="butt")
-    s.wire(along(m, u, 3, 6), along(m, u, 3, -6), width=3.2, cap="butt")
+    s.wire(along(m, u, 3, 6), along(m, u, 3, -6), width=TUBE, cap="butt")
     letter(s, a, b, text, 12, side)
 
 
@@ -170,7 +171,7 @@ def switch(s: Sheet, a: Point, b: Point) -> None:
     u, m = towards(a, b), middle(a, b)
     leads(s, a, b, 24)
     s.wire(along(m, u, 12), along(m, u, -11, 11))
-    s.circle(along(m, u, -12), 2.2, width=1.2, fill=PAPER)
+    s.circle(along(m, u, -12), 2.2, fill=PAPER)
 
 
 def ground(s: Sheet, at: Point) -> None:
@@ -190,7 +191,7 @@ def junction(s: Sheet, *points: Point) -> None:
 def terminal(s: Sheet, *points: Point) -> None:
     """Open ends that something outside is joined to."""
     for point in points:
-        s.circle(point, 3, fill=PAPER, width=1.4)
+        s.circle(point, 3, fill=PAPER)
 
 
 def pin(s: Sheet, edge: Point, outward: Point, text: str) -> None:
@@ -205,17 +206,16 @@ def pin(s: Sheet, edge: Point, outward: Point, text: str) -> None:
 def block(s: Sheet, x: float, y: float, width: float, height: float, depth: float, fill: str, edge: str = INK) -> None:
     """A box in oblique view: its front with the upper left corner at (x, y), its depth up to the right."""
     dx, dy = 0.8 * depth, -0.45 * depth
-    s.rect(x, y, width, height, stroke=edge, width=1.3, fill=fill)
-    s.polygon((x, y), (x + dx, y + dy), (x + width + dx, y + dy), (x + width, y), stroke=edge, width=1.3,
+    s.rect(x, y, width, height, stroke=edge, fill=fill)
+    s.polygon((x, y), (x + dx, y + dy), (x + width + dx, y + dy), (x + width, y), stroke=edge,
               fill=fill)
     s.polygon((x + width, y), (x + width + dx, y + dy), (x + width + dx, y + height + dy), (x + width, y + height),
-              stroke=edge, width=1.3, fill=fill)
+              stroke=edge, fill=fill)
 
 
 def cable(s: Sheet, *points: Point) -> None:
     """A coaxial cable as a double line."""
-    s.wire(*points, width=5, cap="butt")
-    s.wire(*points, stroke=PAPER, width=2, cap="butt")
+    s.hollow(line_data(list(points)), BROAD, cap="butt")
 
 
 def bar(s: Sheet, a: Point, b: Point, diameter: float) -> None:
@@ -223,4 +223,4 @@ def bar(s: Sheet, a: Point, b: Point, diameter: float) -> None:
     u = towards(a, b)
     half = diameter / 2
     s.polygon(along(a, u, 0, half), along(b, u, 0, half), along(b, u, 0, -half), along(a, u, 0, -half),
-              stroke=COPPER, width=1.3, fill=COPPER_PALE)
+              stroke=COPPER, fill=COPPER_PALE)
