@@ -4,8 +4,8 @@ from __future__ import annotations
 
 import math
 
-from sheet import (COPPER, COPPER_PALE, DIELECTRIC, DIM, INK, JACKET, METAL, PALE, THIN, TUBE, WORD, Point, Sheet,
-                   along, number, picture, polar, towards)
+from sheet import (BROAD, COPPER, COPPER_PALE, DARK, DIELECTRIC, DIM, GUIDE, HEAVY, INK, METAL, PALE, THIN, TUBE, WORD,
+                   Point, Sheet, along, line_data, number, picture, polar, towards)
 from symbols import bar, cable, capacitor, junction
 
 
@@ -23,12 +23,12 @@ def lpda_structure(s: Sheet) -> None:
     slope = (long - short) / (last - first)
     for side in (-1, 1):
         s.wire((first - 10, axis + side * (long + 10 * slope)), (last + 14, axis + side * (short - 14 * slope)),
-               stroke=DIM, width=THIN, dash="5 4")
-        s.rect(first - 16, axis + side * boom - 3.5, last - first + 32, 7, width=1.3, fill=METAL)
+               stroke=DIM, width=THIN, dash=GUIDE)
+        s.rect(first - 16, axis + side * boom - 3.5, last - first + 32, 7, fill=METAL)
     # Each half element stands on its boom in an insulator and reaches to the feed.
     for x, tip in places:
         for side in (-1, 1):
-            s.rect(x - 5.5, axis + side * boom - 6.5, 11, 13, width=1.2, fill=DIELECTRIC)
+            s.rect(x - 5.5, axis + side * boom - 6.5, 11, 13, fill=DIELECTRIC)
             s.wire((x, axis + side * feed), (x, axis + side * tip), stroke=COPPER, width=TUBE, cap="butt")
     for (xa, _), (xb, _) in zip(places, places[1:]):
         middle, reach = (xa + xb) / 2, 0.3 * (xb - xa)
@@ -58,7 +58,7 @@ def high_q_loop(s: Sheet) -> None:
     corners = [polar(centre, radius, 67.5 - 45 * i) for i in range(8)]
     (right, top), left = corners[0], corners[-1][0]
     middle = (left + right) / 2
-    s.wire((middle + 14, top), *corners, (middle - 14, top), stroke=COPPER, width=5, cap="butt")
+    s.wire((middle + 14, top), *corners, (middle - 14, top), stroke=COPPER, width=BROAD, cap="butt")
     capacitor(s, (middle - 15, top), (middle + 15, top), "C", variable=True)
     s.circle(centre, 1.8, stroke=None, fill=DIM)
     s.dimension(centre, corners[1], "Rayon")
@@ -81,7 +81,7 @@ def gamma_section(s: Sheet, element: Point, rod: Point) -> None:
     u = towards(rod, element)
     reach = math.dist(rod, element)
     s.polygon(along(rod, u, -16, 6), along(rod, u, reach, 6), along(rod, u, reach, -6), along(rod, u, -16, -6),
-              width=1.3, fill=METAL)
+              fill=METAL)
     s.circle(element, 28, stroke=COPPER, fill=COPPER_PALE)
     s.circle(rod, 9, stroke=COPPER, fill=COPPER_PALE)
     for centre, radius in ((element, 28), (rod, 9)):
@@ -103,7 +103,7 @@ def gamma_monopole(s: Sheet) -> None:
     mast, rod, top, strap, foot, cap = 236.0, 156.0, 20.0, 120.0, 290.0, 262.0
     bar(s, (mast, foot), (mast, top), 16)
     bar(s, (rod, cap - 14), (rod, strap - 5), 7)
-    s.rect(rod - 8, strap - 5, mast - rod + 18, 10, width=1.3, fill=METAL)
+    s.rect(rod - 8, strap - 5, mast - rod + 18, 10, fill=METAL)
     capacitor(s, (rod, cap - 14), (rod, foot), "C", side=-1)
     earth_line(s, foot, 70, 324)
     cable(s, (rod, foot + 2), (rod, 326))
@@ -123,8 +123,8 @@ def gamma_dipole(s: Sheet) -> None:
     axis, rod, left, right, middle, strap = 76.0, 156.0, 18.0, 402.0, 210.0, 340.0
     bar(s, (left, axis), (right, axis), 16)
     bar(s, (middle + 44, rod), (strap + 5, rod), 7)
-    s.rect(strap - 5, axis - 10, 10, rod - axis + 18, width=1.3, fill=METAL)
-    s.rect(middle - 7, axis - 12, 14, 24, width=1.3, fill=METAL)
+    s.rect(strap - 5, axis - 10, 10, rod - axis + 18, fill=METAL)
+    s.rect(middle - 7, axis - 12, 14, 24, fill=METAL)
     capacitor(s, (middle, rod), (middle + 44, rod), "C", side=1)
     # The braid to the middle of the element, the inner conductor to C.
     s.wire((middle, axis + 12), (middle, rod - 18), (middle - 22, rod - 18), (middle - 22, rod - 2.5))
@@ -143,22 +143,20 @@ def gamma_dipole(s: Sheet) -> None:
 @picture("trappe-coaxiale", 368, 237, "Trappe en coaxial")
 def trappe_coaxiale(s: Sheet) -> None:
     """Coax wound on a former: the inner conductor of one end is joined to the braid of the other."""
-    x, top, bottom, pitch, turns = 126.0, 88.0, 160.0, 16.0, 8
+    x, top, bottom, pitch, coax, turns = 126.0, 88.0, 160.0, 16.0, 15.5, 8
     s.rect(x - 26, top, turns * pitch + 52, bottom - top, fill=DIELECTRIC)
     for i in range(turns):
         a, b = (x + (i + 0.5) * pitch - 3, top - 5), (x + (i + 0.5) * pitch + 3, bottom + 5)
-        s.wire(a, b, width=15.5)
-        s.wire(a, b, stroke=JACKET, width=12.9)
+        s.hollow(line_data([a, b]), coax, fill=DARK)
     first, last = x + 5, x + turns * pitch - 11
     for end, inner in ((first, 34.0), (last, 46.0)):
-        s.wire((end, top - 6), (end, 74), width=15.5)
-        s.wire((end, top - 6), (end, 74), stroke=JACKET, width=12.9)
-        s.rect(end - 4.5, 55, 9, 13, width=1.2, fill=METAL)
-        s.wire((end, 55), (end, inner), stroke=COPPER, width=2.2)
+        s.hollow(line_data([(end, top - 6), (end, 74)]), coax, fill=DARK)
+        s.rect(end - 4.5, 55, 9, 13, fill=METAL)
+        s.wire((end, 55), (end, inner), stroke=COPPER, width=HEAVY)
     # Inner of the first end to the braid of the last one; the other two carry the wires of the antenna.
-    s.wire((first, 34), (last - 18, 34), (last - 18, 61), (last - 4.5, 61), stroke=COPPER, width=2.2)
-    s.wire((12, 61), (first - 4.5, 61), stroke=COPPER, width=2.2)
-    s.wire((last, 46), (356, 46), stroke=COPPER, width=2.2)
+    s.wire((first, 34), (last - 18, 34), (last - 18, 61), (last - 4.5, 61), stroke=COPPER, width=HEAVY)
+    s.wire((12, 61), (first - 4.5, 61), stroke=COPPER, width=HEAVY)
+    s.wire((last, 46), (356, 46), stroke=COPPER, width=HEAVY)
     s.dimension((x - 26, bottom), (x - 26, top), "Ø mandrin", 42)
     s.dimension((x, bottom + 13), (x + turns * pitch, bottom + 13), "Longueur", -44)
     s.dimension((x + 6 * pitch, bottom + 13), (x + 7 * pitch, bottom + 13), "Ø coaxial", -18)
@@ -166,14 +164,14 @@ def trappe_coaxiale(s: Sheet) -> None:
 
 def insulator(s: Sheet, x: float, y: float) -> None:
     """A strain insulator in a wire."""
-    s.ellipse((x, y), 7, 4.5, width=1.3, fill=DIELECTRIC)
+    s.ellipse((x, y), 7, 4.5, fill=DIELECTRIC)
 
 
 def coil(s: Sheet, x: float, y: float, stroke: str) -> None:
     """A coil on a former, in a wire that lies."""
-    s.rect(x - 15, y - 9, 30, 18, width=1.3, fill=DIELECTRIC)
+    s.rect(x - 15, y - 9, 30, 18, fill=DIELECTRIC)
     for i in range(5):
-        s.wire((x - 11 + 5 * i, y - 9), (x - 9 + 5 * i, y + 9), stroke=stroke, width=2)
+        s.wire((x - 11 + 5 * i, y - 9), (x - 9 + 5 * i, y + 9), stroke=stroke, width=HEAVY)
 
 
 @picture("trappe-antenne", 512, 106, "Dipôle à trappes")
@@ -182,7 +180,7 @@ def trappe_antenne(s: Sheet) -> None:
     axis, middle, trap, end = 42.0, 256.0, 118.0, 236.0
     insulator(s, middle, axis)
     for side in (-1, 1):
-        s.wire((middle + 7 * side, axis), (middle + end * side, axis), stroke=COPPER, width=2.4)
+        s.wire((middle + 7 * side, axis), (middle + end * side, axis), stroke=COPPER, width=HEAVY)
         s.wire((middle + 8 * side, axis), (middle + 2 * side, axis + 20))
         insulator(s, middle + (end + 6) * side, axis)
         coil(s, middle + trap * side, axis, INK)
@@ -196,13 +194,13 @@ def trappe_antenne(s: Sheet) -> None:
 def hb9cv_hf(s: Sheet) -> None:
     """The crossed line feeds both elements through symmetric T matches; the balun is at the front one."""
     middle, back, front, half, gap = 222.0, 84.0, 184.0, 164.0, 14.0
-    s.rect(middle - 5, back - 12, 10, front - back + 24, width=1.3, fill=METAL)
+    s.rect(middle - 5, back - 12, 10, front - back + 24, fill=METAL)
     elements = ((back, half, back - gap), (front, 0.92 * half, front + gap))
     for y, reach, rod in elements:
         bar(s, (middle - reach, y), (middle + reach, y), 7)
         for side in (-1, 1):
             s.wire((middle + 10 * side, rod), (middle + 74 * side, rod), stroke=COPPER, width=TUBE, cap="butt")
-            s.rect(middle + 74 * side - 3, min(y, rod) - 5, 6, gap + 10, width=1.2, fill=METAL)
+            s.rect(middle + 74 * side - 3, min(y, rod) - 5, 6, gap + 10, fill=METAL)
     for side in (-1, 1):
         s.wire((middle + 10 * side, back - gap), (middle + 10 * side, 122), (middle - 10 * side, 146),
                (middle - 10 * side, front + 30))
@@ -223,12 +221,12 @@ def hb9cv_hf(s: Sheet) -> None:
 def hb9cv_vushf(s: Sheet) -> None:
     """The elements stand on the boom; one line feeds their gammas, which lie on opposite sides of it."""
     middle, back, front, half, gap, feed = 222.0, 76.0, 202.0, 164.0, 14.0, 156.0
-    s.rect(middle - 5, back - 12, 10, front - back + 24, width=1.3, fill=METAL)
+    s.rect(middle - 5, back - 12, 10, front - back + 24, fill=METAL)
     bar(s, (middle - half, back), (middle + half, back), 7)
     bar(s, (middle - 0.92 * half, front), (middle + 0.92 * half, front), 7)
     for side, y, rod in ((-1, back, back + gap), (1, front, front - gap)):
         s.wire((middle + 14 * side, rod), (middle + 78 * side, rod), stroke=COPPER, width=TUBE, cap="butt")
-        s.rect(middle + 78 * side - 3, min(y, rod) - 5, 6, gap + 10, width=1.2, fill=METAL)
+        s.rect(middle + 78 * side - 3, min(y, rod) - 5, 6, gap + 10, fill=METAL)
     s.wire((middle - 14, back + gap), (middle - 14, 96), (middle + 14, 116), (middle + 14, front - gap))
     # The inner conductor through C to the gamma of the front element, the braid to the boom.
     capacitor(s, (middle + 14, feed), (middle + 78, feed), "C", variable=True)
@@ -249,7 +247,7 @@ def double_quad(s: Sheet) -> None:
     x, y, quarter = 150.0, 72.0, 40.0
     width, height = 4.5 * quarter, 3 * quarter
     left, top = x - width / 2, y - height / 2
-    s.rect(left, top, width, height, width=1.3, fill=METAL)
+    s.rect(left, top, width, height, fill=METAL)
     half = quarter * 0.5 ** 0.5
     for side in (-1, 1):
         s.wire((x + 2 * side, y - 4), (x + half * side, y - half), (x + 2 * half * side, y),
@@ -263,7 +261,7 @@ def double_quad(s: Sheet) -> None:
     s.text(x + 1.5 * half + 22, y - half / 2 - 18, "λ/4", WORD, colour=DIM)
     # From the side: the panel, the squares before it, the cable behind.
     panel, front = 330.0, 330.0 - 0.136 * 4 * quarter
-    s.rect(panel, top, 5, height, width=1.3, fill=METAL)
+    s.rect(panel, top, 5, height, fill=METAL)
     s.wire((front, y - half), (front, y + half), stroke=COPPER, width=TUBE, cap="butt")
     cable(s, (front, y), (386, y))
     s.dimension((front, top + height), (panel, top + height), "0.136 λ", -26)
@@ -274,7 +272,7 @@ def dipole_raccourci(s: Sheet) -> None:
     """A is the whole length, B the distance from the middle to a coil."""
     axis, middle, place, end = 66.0, 174.0, 88.0, 164.0
     for side in (-1, 1):
-        s.wire((middle + 7 * side, axis), (middle + end * side, axis), stroke=COPPER, width=2.4)
+        s.wire((middle + 7 * side, axis), (middle + end * side, axis), stroke=COPPER, width=HEAVY)
         coil(s, middle + place * side, axis, COPPER)
         s.wire((middle + 8 * side, axis), (middle + 2 * side, axis + 20))
     insulator(s, middle, axis)

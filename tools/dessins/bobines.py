@@ -2,13 +2,12 @@
 
 from __future__ import annotations
 
-from sheet import AXIS, COPPER, COPPER_PALE, DIELECTRIC, DIM, THIN, Sheet, number, picture, polar
+from sheet import (AXIS, BROAD, COPPER, COPPER_PALE, DARK, DIELECTRIC, DIM, THIN, TUBE, WORD, Sheet, ellipse_data,
+                   line_data, number, picture, polar)
 from symbols import inductor, junction, terminal
 
-CORE = "#8a98a6"  # iron powder and ferrite
 
-
-def helix(s: Sheet, x: float, axis: float, radius: float, pitch: float, turns: int, wire: float = 4.2) -> float:
+def helix(s: Sheet, x: float, axis: float, radius: float, pitch: float, turns: int) -> float:
     """An air coil from the side, its first wire low at x; gives the x of its last wire, low as well.
 
     Each turn climbs behind, paler, and comes down in front.
@@ -22,17 +21,17 @@ def helix(s: Sheet, x: float, axis: float, radius: float, pitch: float, turns: i
         near.append(f"M{number(left + half)} {number(top)} C{number(left + half + bow)} {number(top)}"
                     f" {number(left + pitch + bow)} {number(bottom)} {number(left + pitch)} {number(bottom)}")
     for d in far:
-        s.path(d, stroke=COPPER_PALE, width=wire)
+        s.path(d, stroke=COPPER_PALE, width=BROAD)
     for d in near:
-        s.path(d, stroke=COPPER, width=wire)
+        s.path(d, stroke=COPPER, width=BROAD)
     return x + turns * pitch
 
 
 def section(s: Sheet, x: float, top: float, bottom: float, wire: float, pitch: float, turns: int) -> None:
     """A winding cut along its axis: two rows of round wires, the lower row half a pitch on."""
     for i in range(turns):
-        s.circle((x + i * pitch, top), wire / 2, stroke=COPPER, width=1.4, fill=COPPER_PALE)
-        s.circle((x + (i + 0.5) * pitch, bottom), wire / 2, stroke=COPPER, width=1.4, fill=COPPER_PALE)
+        s.circle((x + i * pitch, top), wire / 2, stroke=COPPER, fill=COPPER_PALE)
+        s.circle((x + (i + 0.5) * pitch, bottom), wire / 2, stroke=COPPER, fill=COPPER_PALE)
 
 
 # Four pictures of one size, which stand in a row.
@@ -43,15 +42,14 @@ def bobine_vue(s: Sheet) -> None:
     """The coil as it looks, with its two leads."""
     end = helix(s, 30, 60, 38, 18, 5)
     for foot, outer in ((30, 10), (end, end + 20)):
-        s.wire((foot, 98), (outer, 98), stroke=COPPER, width=4.2)
+        s.wire((foot, 98), (outer, 98), stroke=COPPER, width=BROAD)
 
 
 @picture("bobine-diametre", 150, 120, "Diamètre intérieur et diamètre moyen")
 def bobine_diametre(s: Sheet) -> None:
     """The coil end on: D inside the wire, D + e as the mean diameter."""
     x, y, radius = 52.0, 60.0, 41.0
-    s.circle((x, y), radius, stroke=COPPER, width=10)
-    s.circle((x, y), radius, stroke=COPPER_PALE, width=7.4)
+    s.hollow(ellipse_data((x, y), radius, radius), 10, stroke=COPPER, fill=COPPER_PALE)
     s.circle((x, y), radius, stroke=DIM, width=THIN, dash=AXIS)
     s.dimension((x - radius + 5, y), (x + radius - 5, y), "D")
     s.dimension((x, y + radius), (x, y - radius), "D + e", -71)
@@ -88,14 +86,14 @@ def self_vue(s: Sheet) -> None:
     top, bottom, left, right = 36.0, 128.0, 24.0, 274.0
     half = (bottom - top) / 2
     s.path(f"M{number(left)} {number(top)} H{number(right)} A14 {number(half)} 0 0 1 {number(right)} {number(bottom)}"
-           f" H{number(left)}", width=1.3, fill=DIELECTRIC)
-    s.ellipse((left, top + half), 14, half, width=1.3, fill=DIELECTRIC)
+           f" H{number(left)}", fill=DIELECTRIC)
+    s.ellipse((left, top + half), 14, half, fill=DIELECTRIC)
     for i in range(9):
         x = 66 + 19 * i
         s.path(f"M{x} {number(top - 2)} C{x + 16} {number(top - 2)} {x + 22} {number(bottom + 2)} {x + 10}"
-               f" {number(bottom + 2)}", stroke=COPPER, width=5)
-    s.wire((66, top - 2), (66, 14), stroke=COPPER, width=5)
-    s.wire((228, bottom + 2), (228, 150), stroke=COPPER, width=5)
+               f" {number(bottom + 2)}", stroke=COPPER, width=BROAD)
+    s.wire((66, top - 2), (66, 14), stroke=COPPER, width=BROAD)
+    s.wire((228, bottom + 2), (228, 150), stroke=COPPER, width=BROAD)
 
 
 @picture("self-cotes", 340, 164, "Cotes de la bobine : 1, 2 et 3")
@@ -111,23 +109,23 @@ def self_cotes(s: Sheet) -> None:
         s.wire((x + i * pitch, top - 11), (x + i * pitch, top - 18), stroke=DIM, width=THIN)
     s.wire((x, top - 18), (x + (turns - 1) * pitch, top - 18), stroke=DIM, width=THIN)
     s.wire((x + 4 * pitch, top - 18), (x + 4 * pitch, top - 25), stroke=DIM, width=THIN)
-    s.text(x + 4 * pitch, top - 34, "3", 11, colour=DIM)
+    s.text(x + 4 * pitch, top - 34, "3", WORD, colour=DIM)
 
 
 @picture("tore", 270, 190, "Bobine sur un tore")
 def tore(s: Sheet) -> None:
     """The wound core seen from above, and its thickness seen from the side."""
     centre, outer, inside = (92.0, 82.0), 64.0, 34.0
-    s.path("M28 82 a64 64 0 1 1 128 0 a64 64 0 1 1 -128 0 Z M58 82 a34 34 0 1 0 68 0 a34 34 0 1 0 -68 0 Z", fill=CORE)
+    s.path("M28 82 a64 64 0 1 1 128 0 a64 64 0 1 1 -128 0 Z M58 82 a34 34 0 1 0 68 0 a34 34 0 1 0 -68 0 Z", fill=DARK)
     for i in range(19):
         angle = -60 + 16.7 * i
         a, b = polar(centre, inside + 1, angle + 3), polar(centre, outer + 3, angle - 3)
-        s.wire(a, b, stroke=COPPER, width=3.6)
+        s.wire(a, b, stroke=COPPER, width=TUBE)
     left, width = 196.0, 30.0
-    s.rect(left, centre[1] - outer, width, 2 * outer, fill=CORE)
+    s.rect(left, centre[1] - outer, width, 2 * outer, fill=DARK)
     for i in range(9):
         y = centre[1] - outer + 8 + 14 * i
-        s.wire((left - 3, y), (left + width + 3, y + 3), stroke=COPPER, width=3.6)
+        s.wire((left - 3, y), (left + width + 3, y + 3), stroke=COPPER, width=TUBE)
     foot = centre[1] + outer  # the extension lines start below the turns
     s.dimension((centre[0] - inside, centre[1]), (centre[0] + inside, centre[1]), "Ø int")
     s.dimension((centre[0] - outer, foot), (centre[0] + outer, foot), "Ø ext", -26)
@@ -138,10 +136,10 @@ def tore(s: Sheet) -> None:
 def epingle(s: Sheet) -> None:
     """A wire bent into a long U."""
     left, right, top, bottom = 86.0, 258.0, 32.0, 88.0
-    for width, colour in ((9, COPPER), (6.4, COPPER_PALE)):
-        s.wire((left, top), (right, top), (right, bottom), (left, bottom), stroke=colour, width=width, cap="butt")
+    s.hollow(line_data([(left, top), (right, top), (right, bottom), (left, bottom)]), 9, stroke=COPPER,
+             fill=COPPER_PALE, cap="butt")
     for y in (top, bottom):
-        s.wire((left, y - 4.5), (left, y + 4.5), stroke=COPPER, width=1.3)
+        s.wire((left, y - 4.5), (left, y + 4.5), stroke=COPPER)
     s.dimension((left, bottom), (left, top), "Hauteur", 40)
     s.dimension((left, bottom + 4), (right, bottom + 4), "Longueur", -32)
     s.dimension((right - 40, top - 4.5), (right - 40, top + 4.5), "Ø", extend=False)

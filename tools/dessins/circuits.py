@@ -112,7 +112,7 @@ def sweep_parallele(s: Sheet) -> None:
 @picture("circuit-lc", 200, 130, "Circuit oscillant")
 def lc(s: Sheet) -> None:
     """A coil and a capacitor, closed on each other."""
-    inductor(s, (60, 25), (60, 105), "L", side=-1, turns=5)
+    inductor(s, (60, 25), (60, 105), "L", side=-1)
     capacitor(s, (140, 25), (140, 105), "C")
     for y in (25, 105):
         s.wire((60, y), (140, y))

@@ -2,23 +2,23 @@
 
 from __future__ import annotations
 
-from sheet import (COPPER, COPPER_PALE, DIELECTRIC, DIM, METAL, PAPER, THIN, WORD, Point, Sheet, number, picture,
-                   polar)
+from sheet import (COPPER, COPPER_PALE, DIELECTRIC, DIM, HEAVY, INK, MARKING, METAL, PAPER, THIN, WORD, Point, Sheet,
+                   number, picture, polar)
 from symbols import block, capacitor, current_source, junction, lamp, switch
 
 
 @picture("condensateur-plan", 230, 140, "Condensateur plan")
 def condensateur_plan(s: Sheet) -> None:
     """Two plates with a dielectric between them; the leads leave them at their far corner."""
-    x, y, width, depth, plate, thickness = 82.0, 48.0, 92.0, 44.0, 8.0, 46.0
+    x, y, width, depth, plate, thickness = 80.0, 48.0, 92.0, 44.0, 8.0, 46.0
     block(s, x, y + plate + thickness, width, plate, depth, COPPER_PALE, COPPER)
     block(s, x, y + plate, width, thickness, depth, DIELECTRIC)
     block(s, x, y, width, plate, depth, COPPER_PALE, COPPER)
     corner = (x + width + 0.8 * depth, y - 0.45 * depth + plate / 2)
     for below in (0, plate + thickness):
-        s.wire((corner[0], corner[1] + below), (corner[0] + 16, corner[1] + below), stroke=COPPER, width=2.2)
+        s.wire((corner[0], corner[1] + below), (corner[0] + 14, corner[1] + below), stroke=COPPER, width=HEAVY)
     s.text(x + (width + 0.8 * depth) / 2, y - 0.225 * depth, "Surface", WORD)
-    s.dimension((x, y + plate + thickness), (x, y + plate), "Epaisseur", 42)
+    s.dimension((x, y + plate + thickness), (x, y + plate), "Epaisseur", 40)
 
 
 @picture("cms", 220, 116, "Résistance à monter en surface")
@@ -26,8 +26,8 @@ def cms(s: Sheet) -> None:
     """A chip resistor from above, with its marking, its length and its width."""
     x, y, length, width, end = 22.0, 14.0, 116.0, 64.0, 20.0
     s.rect(x, y, length, width, fill=METAL)
-    s.rect(x + end, y, length - 2 * end, width, fill="#2b3846")
-    s.text(x + length / 2, y + width / 2, "103", 22, colour="#ffffff")
+    s.rect(x + end, y, length - 2 * end, width, fill=INK)
+    s.text(x + length / 2, y + width / 2, "103", MARKING, colour=PAPER)
     s.dimension((x, y + width), (x + length, y + width), "Longueur", -24)
     s.dimension((x + length, y + width), (x + length, y), "Largeur", -40)
 

@@ -93,7 +93,7 @@ def load(s: Sheet) -> None:
 
 @picture("passe-bas", 300, 148, "Filtre passe-bas")
 def passe_bas(s: Sheet) -> None:
-    inductor(s, (IN, HIGH), (SHUNT, HIGH), "L", label="Label1", turns=5)
+    inductor(s, (IN, HIGH), (SHUNT, HIGH), "L", label="Label1")
     s.wire((SHUNT, HIGH), (OUT, HIGH))
     capacitor(s, (SHUNT, HIGH), (SHUNT, LOW), "C", label="Label5")
     junction(s, (SHUNT, HIGH), (SHUNT, LOW))

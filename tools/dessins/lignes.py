@@ -2,7 +2,7 @@
 
 from __future__ import annotations
 
-from sheet import COPPER, COPPER_PALE, DIELECTRIC, DIM, INK, JACKET, METAL, WORD, Sheet, number, picture
+from sheet import COPPER, COPPER_PALE, DARK, DIELECTRIC, DIM, INK, METAL, THIN, WORD, Sheet, number, picture
 from symbols import bar, block
 
 
@@ -10,16 +10,16 @@ from symbols import bar, block
 def coaxial_icone(s: Sheet) -> None:
     """A cable stripped in steps: jacket, braid, insulator, inner conductor."""
     axis = 32.0
-    layers = ((9, 27, 17, "#5d7085", JACKET, INK), (27, 39, 13, METAL, METAL, INK),
-              (39, 48, 9.5, DIELECTRIC, DIELECTRIC, INK), (48, 58, 3.2, COPPER_PALE, COPPER_PALE, COPPER))
-    for start, end, radius, fill, face, edge in layers:
+    layers = ((9, 27, 17, DARK, INK), (27, 39, 13, METAL, INK), (39, 48, 9.5, DIELECTRIC, INK),
+              (48, 58, 4, COPPER_PALE, COPPER))
+    for start, end, radius, fill, edge in layers:
         flat = radius * 0.34
         s.path(f"M{start} {axis - radius} H{end} V{axis + radius} H{start} A{number(flat)} {radius} 0 0 1"
-               f" {start} {axis - radius} Z", stroke=edge, width=1.4, fill=fill)
-        s.ellipse((end, axis), flat, radius, stroke=edge, width=1.4, fill=face)
+               f" {start} {axis - radius} Z", stroke=edge, fill=fill)
+        s.ellipse((end, axis), flat, radius, stroke=edge, fill=fill)
         if fill == METAL:
-            for x in (28, 32, 36):  # the braid
-                s.wire((x, axis - 12), (x - 5, axis - 1), (x - 1, axis + 12), width=0.8)
+            for x in (30, 35):  # the braid
+                s.wire((x, axis - 12), (x - 5, axis - 1), (x - 1, axis + 12), width=THIN)
 
 
 @picture("coaxial-rond", 184, 172, "Ligne coaxiale ronde, en coupe")
@@ -59,7 +59,7 @@ def echelle_grenouille(s: Sheet) -> None:
     for y in (top, bottom):
         bar(s, (left, y), (right, y), 8)
     for x in (86, 152, 218):
-        s.rect(x - 5, top - 10, 10, bottom - top + 20, width=1.3, fill=DIELECTRIC)
+        s.rect(x - 5, top - 10, 10, bottom - top + 20, fill=DIELECTRIC)
     s.dimension((left, bottom), (left, top), "D", 26)
     s.dimension((right, top + 4), (right, top - 4), "d", -16)
 
@@ -70,7 +70,7 @@ def ruban(s: Sheet) -> None:
     x, y, width, height, depth, strip = 78.0, 12.0, 128.0, 100.0, 24.0, 36.0
     block(s, x, y, width, height, depth, DIELECTRIC)
     left, right, foot = x + (width - strip) / 2, x + width, y + height
-    s.rect(left, y, strip, height, stroke=COPPER, width=1.3, fill=COPPER_PALE)
+    s.rect(left, y, strip, height, stroke=COPPER, fill=COPPER_PALE)
     s.dimension((left, foot), (left + strip, foot), "Largeur", -25)
     s.dimension((x, foot), (x, y), "Hauteur", 38)
     across, up = 0.8 * depth, 0.45 * depth

@@ -2,7 +2,7 @@
 
 from __future__ import annotations
 
-from sheet import METAL, Sheet, picture
+from sheet import HEAVY, METAL, THIN, Sheet, picture
 from symbols import battery, ground, impedance, inductor, junction, meter, potentiometer, resistor, terminal
 
 
@@ -22,7 +22,7 @@ def windings(s: Sheet) -> None:
         s.wire((14, y), (primary, y))
         terminal(s, (14, y))
     for x in (55, 61):
-        s.wire((x, top - 6), (x, bottom + 6), width=2.2, cap="butt")
+        s.wire((x, top - 6), (x, bottom + 6), width=HEAVY, cap="butt")
     for i in range(4):
         y = top + 48 * i
         inductor(s, (secondary, y), (secondary, y + 38), turns=3, side=-1)
@@ -47,9 +47,9 @@ def lamination(s: Sheet, x: float, y: float, a: float) -> None:
 
 def core(s: Sheet, x: float, y: float, a: float) -> None:
     """The middle leg in section, a square of stacked sheets."""
-    for i in range(1, 11):
-        s.wire((x + i * 2 * a / 11, y), (x + i * 2 * a / 11, y + 2 * a), width=0.6, cap="butt")
-    s.rect(x, y, 2 * a, 2 * a)
+    s.rect(x, y, 2 * a, 2 * a, fill=METAL)
+    for i in range(1, 13):
+        s.wire((x + i * 2 * a / 13, y), (x + i * 2 * a / 13, y + 2 * a), width=THIN, cap="butt")
     s.dimension((x, y + 2 * a), (x + 2 * a, y + 2 * a), "2a", -16, label="Label14")
     s.dimension((x + 2 * a, y + 2 * a), (x + 2 * a, y), "2a", -16, label="Label20")
 

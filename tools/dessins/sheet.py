@@ -24,17 +24,21 @@ PAPER = "#ffffff"  # fill: what must hide the lines under it
 PALE = "#edf2f7"  # fill: the inside of a symbol
 DIELECTRIC = "#f6ecd0"  # fill: insulators
 COPPER_PALE = "#e9c9ad"  # fill: copper seen in section
-JACKET = "#8597a9"  # fill: the outside of a cable
+DARK = "#8597a9"  # fill: what is dark itself, the outside of a cable and the iron of a core
 
 # Strokes, in pixels at nominal size.
-MAIN = 1.6
-THIN = 1.0
-TUBE = 3.4
+THIN = 1.0  # dimension lines, hatching
+MAIN = 1.6  # circuits and outlines
+HEAVY = 2.2  # plates, iron cores, wires and small coils that are drawn as they look
+TUBE = 3.4  # tubes and rods, the turns on a core, the short plate of a battery
+BROAD = 5.0  # tubes and turns seen closer, a cable
+GUIDE = "5 4"  # dashes of a line that only shows how ends lie
 AXIS = "9 3 2 3"  # dashes of axes and cuts
 
 # Lettering, in pixels at nominal size.
 LETTER = 13
 WORD = 11
+MARKING = 22  # what is printed on a part seen large
 
 # Arrow heads: length and half width.
 ARROW = (7.0, 2.5)
@@ -120,6 +124,13 @@ def line_data(points: list[Point]) -> str:
     return "M" + " L".join(" ".join(place(point)) for point in points)
 
 
+def ellipse_data(centre: Point, rx: float, ry: float) -> str:
+    """The data of a path along an ellipse with upright axes."""
+    x, y = centre
+    return (f"M{number(x - rx)} {number(y)} a{number(rx)} {number(ry)} 0 1 1 {number(2 * rx)} 0"
+            f" a{number(rx)} {number(ry)} 0 1 1 {number(-2 * rx)} 0 Z")
+
+
 def join(lines: list[list[Point]]) -> None:
     """Makes one line of two that alone end at one point; the later one is left empty.
 
@@ -168,6 +179,11 @@ class Sheet:
             attributes.append(f'stroke-linecap="{cap}"')
         self.items.append(f"<path {' '.join(attributes)}/>")
 
+    def hollow(self, d: str, across: float, stroke: str = INK, fill: str = PAPER, cap: str | None = None) -> None:
+        """A path of something that is `across` wide itself, such as a cable: one stroke within another."""
+        self.path(d, stroke=stroke, width=across, cap=cap)
+        self.path(d, stroke=fill, width=across - 2 * MAIN, cap=cap)
+
     def wire(self, *points: Point, **look) -> None:
         """A line through the points; plain ones that meet two by two become one."""
         if look:
@@ -185,9 +201,7 @@ class Sheet:
 
     def ellipse(self, centre: Point, rx: float, ry: float, **look) -> None:
         """An ellipse with upright axes."""
-        x, y = centre
-        self.path(f"M{number(x - rx)} {number(y)} a{number(rx)} {number(ry)} 0 1 1 {number(2 * rx)} 0"
-                  f" a{number(rx)} {number(ry)} 0 1 1 {number(-2 * rx)} 0 Z", **look)
+        self.path(ellipse_data(centre, rx, ry), **look)
 
     def circle(self, centre: Point, radius: float, **look) -> None:
         """A circle."""

@@ -9,7 +9,8 @@ from __future__ import annotations
 
 import math
 
-from sheet import COPPER, COPPER_PALE, INK, LETTER, PALE, PAPER, WORD, Point, Sheet, along, number, text_width, towards
+from sheet import (BROAD, COPPER, COPPER_PALE, HEAVY, INK, LETTER, PALE, PAPER, TUBE, WORD, Point, Sheet, along,
+                   line_data, number, text_width, towards)
 
 RESISTOR = (34.0, 12.0)
 PLATES = (20.0, 6.0)  # length of the plates, distance between them
@@ -48,14 +49,14 @@ def leads(s: Sheet, a: Point, b: Point, body: float) -> None:
         s.wire(along(b, u, body / 2 - half), b)
 
 
-def resistor(s: Sheet, a: Point, b: Point, text: str = "", side: int = 1, label: str | None = None) -> None:
+def resistor(s: Sheet, a: Point, b: Point, text: str = "", side: int = 1) -> None:
     """A resistor."""
     length, width = RESISTOR
     u, m = towards(a, b), middle(a, b)
     leads(s, a, b, length)
     s.polygon(along(m, u, -length / 2, width / 2), along(m, u, length / 2, width / 2),
               along(m, u, length / 2, -width / 2), along(m, u, -length / 2, -width / 2), fill=PALE)
-    letter(s, a, b, text, width / 2, side, label)
+    letter(s, a, b, text, width / 2, side)
 
 
 def impedance(s: Sheet, a: Point, b: Point, text: str = "Z", side: int = 1, label: str | None = None) -> None:
@@ -75,15 +76,15 @@ def capacitor(s: Sheet, a: Point, b: Point, text: str = "", side: int = 1, label
     u, m = towards(a, b), middle(a, b)
     leads(s, a, b, gap)
     for t in (-gap / 2, gap / 2):
-        s.wire(along(m, u, t, plate / 2), along(m, u, t, -plate / 2), width=2.2, cap="butt")
+        s.wire(along(m, u, t, plate / 2), along(m, u, t, -plate / 2), width=HEAVY, cap="butt")
     if variable:
-        s.arrow(along(m, u, -12, -12), along(m, u, 12, 12), width=1.2)
+        s.arrow(along(m, u, -12, -12), along(m, u, 12, 12))
     letter(s, a, b, text, plate / 2, side, label)
 
 
-def inductor(s: Sheet, a: Point, b: Point, text: str = "", side: int = 1, label: str | None = None, turns: int = 4,
-             core: bool = False) -> None:
-    """A winding of half circles that bulge towards its letter; `core` adds the iron."""
+def inductor(s: Sheet, a: Point, b: Point, text: str = "", side: int = 1, label: str | None = None,
+             turns: int = 4) -> None:
+    """A winding of half circles that bulge towards its letter."""
     length = 2 * TURN * turns
     u, m = towards(a, b), middle(a, b)
     leads(s, a, b, length)
@@ -93,31 +94,26 @@ def inductor(s: Sheet, a: Point, b: Point, text: str = "", side: int = 1, label:
         x, y = along(m, u, -length / 2 + 2 * TURN * i)
         d += f" A{number(TURN)} {number(TURN)} 0 0 {1 if side > 0 else 0} {number(x)} {number(y)}"
     s.path(d)
-    clear = TURN
-    if core:
-        clear = TURN + 5
-        s.wire(along(m, u, -length / 2, side * clear), along(m, u, length / 2, side * clear), width=2.2)
-    letter(s, a, b, text, clear, side, label)
+    letter(s, a, b, text, TURN, side, label)
 
 
-def diode(s: Sheet, a: Point, b: Point, text: str = "", side: int = 1) -> None:
+def diode(s: Sheet, a: Point, b: Point, text: str = "") -> None:
     """A diode that conducts from a to b."""
     half = 5.5
     u, m = towards(a, b), middle(a, b)
     leads(s, a, b, 2 * half)
     s.polygon(along(m, u, -half, half), along(m, u, -half, -half), along(m, u, half), fill=PALE)
     s.wire(along(m, u, half, half), along(m, u, half, -half))
-    letter(s, a, b, text, half, side)
+    letter(s, a, b, text, half)
 
 
-def generator(s: Sheet, a: Point, b: Point, text: str = "", side: int = 1) -> None:
+def generator(s: Sheet, a: Point, b: Point) -> None:
     """A source of alternating voltage."""
     radius = 13.0
     x, y = middle(a, b)
     leads(s, a, b, 2 * radius)
     s.circle((x, y), radius, fill=PALE)
     s.path(f"M{number(x - 7)} {number(y)} q3.5 -8 7 0 t7 0")
-    letter(s, a, b, text, radius, side)
 
 
 def meter(s: Sheet, a: Point, b: Point, text: str) -> None:
@@ -134,7 +130,7 @@ def battery(s: Sheet, a: Point, b: Point, text: str = "", side: int = 1) -> None
     u, m = towards(a, b), middle(a, b)
     leads(s, a, b, 6)
     s.wire(along(m, u, -3, 12), along(m, u, -3, -12), cap="butt")
-    s.wire(along(m, u, 3, 6), along(m, u, 3, -6), width=3.2, cap="butt")
+    s.wire(along(m, u, 3, 6), along(m, u, 3, -6), width=TUBE, cap="butt")
     letter(s, a, b, text, 12, side)
 
 
@@ -148,7 +144,7 @@ def potentiometer(s: Sheet, a: Point, b: Point, wiper: Point, text: str = "", si
     s.arrow(wiper, foot)
 
 
-def lamp(s: Sheet, a: Point, b: Point, text: str = "", side: int = 1) -> None:
+def lamp(s: Sheet, a: Point, b: Point) -> None:
     """A lamp."""
     radius = 13.0
     x, y = middle(a, b)
@@ -157,7 +153,6 @@ def lamp(s: Sheet, a: Point, b: Point, text: str = "", side: int = 1) -> None:
     reach = radius * math.sqrt(0.5)
     s.wire((x - reach, y - reach), (x + reach, y + reach))
     s.wire((x - reach, y + reach), (x + reach, y - reach))
-    letter(s, a, b, text, radius, side)
 
 
 def current_source(s: Sheet, a: Point, b: Point, text: str = "", side: int = 1) -> None:
@@ -176,7 +171,7 @@ def switch(s: Sheet, a: Point, b: Point) -> None:
     u, m = towards(a, b), middle(a, b)
     leads(s, a, b, 24)
     s.wire(along(m, u, 12), along(m, u, -11, 11))
-    s.circle(along(m, u, -12), 2.2, width=1.2, fill=PAPER)
+    s.circle(along(m, u, -12), 2.2, fill=PAPER)
 
 
 def ground(s: Sheet, at: Point) -> None:
@@ -196,7 +191,7 @@ def junction(s: Sheet, *points: Point) -> None:
 def terminal(s: Sheet, *points: Point) -> None:
     """Open ends that something outside is joined to."""
     for point in points:
-        s.circle(point, 3, fill=PAPER, width=1.4)
+        s.circle(point, 3, fill=PAPER)
 
 
 def pin(s: Sheet, edge: Point, outward: Point, text: str) -> None:
@@ -208,21 +203,19 @@ def pin(s: Sheet, edge: Point, outward: Point, text: str) -> None:
         s.text(x + 7, y, text, WORD)
 
 
-def block(s: Sheet, x: float, y: float, width: float, height: float, depth: float, fill: str, edge: str = INK,
-          top: str | None = None, side: str | None = None) -> None:
+def block(s: Sheet, x: float, y: float, width: float, height: float, depth: float, fill: str, edge: str = INK) -> None:
     """A box in oblique view: its front with the upper left corner at (x, y), its depth up to the right."""
     dx, dy = 0.8 * depth, -0.45 * depth
-    s.rect(x, y, width, height, stroke=edge, width=1.3, fill=fill)
-    s.polygon((x, y), (x + dx, y + dy), (x + width + dx, y + dy), (x + width, y), stroke=edge, width=1.3,
-              fill=top or fill)
+    s.rect(x, y, width, height, stroke=edge, fill=fill)
+    s.polygon((x, y), (x + dx, y + dy), (x + width + dx, y + dy), (x + width, y), stroke=edge,
+              fill=fill)
     s.polygon((x + width, y), (x + width + dx, y + dy), (x + width + dx, y + height + dy), (x + width, y + height),
-              stroke=edge, width=1.3, fill=side or fill)
+              stroke=edge, fill=fill)
 
 
 def cable(s: Sheet, *points: Point) -> None:
     """A coaxial cable as a double line."""
-    s.wire(*points, width=5, cap="butt")
-    s.wire(*points, stroke=PAPER, width=2, cap="butt")
+    s.hollow(line_data(list(points)), BROAD, cap="butt")
 
 
 def bar(s: Sheet, a: Point, b: Point, diameter: float) -> None:
@@ -230,4 +223,4 @@ def bar(s: Sheet, a: Point, b: Point, diameter: float) -> None:
     u = towards(a, b)
     half = diameter / 2
     s.polygon(along(a, u, 0, half), along(b, u, 0, half), along(b, u, 0, -half), along(a, u, 0, -half),
-              stroke=COPPER, width=1.3, fill=COPPER_PALE)
+              stroke=COPPER, fill=COPPER_PALE)
