@@ -65,11 +65,13 @@ void CalculNombreSpires::TxtS_Change()
 
 void CalculNombreSpires::TxtD_Change()
 {
+    D = Val(TxtD.Text); // read anew too; but a fault comes before the count of turns starts anew
     Calculer();
 }
 
 void CalculNombreSpires::TxtF_Change()
 {
+    F = Val(TxtF.Text);
     Calculer();
 }
 
@@ -85,8 +87,8 @@ void CalculNombreSpires::Calculer()
     Double N = 1;
     TxtN.Text = "1";
     S = Val(TxtS.Text); // in µH, whatever the option
-    Double D = Val(TxtD.Text);
-    Double F = Val(TxtF.Text);
+    D = Val(TxtD.Text);
+    F = Val(TxtF.Text);
     Double E = HscrlE.Value / 10;
     TxtE.Text = CStr(E);
     if (S == 0 || D == 0 || F == 0 || E == 0)

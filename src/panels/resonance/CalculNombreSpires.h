@@ -55,6 +55,8 @@ private:
 
     Double UniteSelf; ///< factor of the chosen unit toward µH
     Double S; ///< wanted inductance, in µH
+    Double D; ///< diameter of the former in mm, of the winding in inches once computed
+    Double F; ///< diameter of the wire in mm, in inches once computed
 };
 
 } // namespace ondelis
