@@ -101,7 +101,7 @@ std::optional<Double> wholly(std::string_view text)
     const bool hasDigits = !text.empty() && (isDigit(text.back()) || text.back() == '.'); // a sign alone has none
     if (!rest.empty() || !hasDigits)
         return {};
-    return Double::checked(number);
+    return Term::checked(number);
 }
 
 /// The whole number of the digits, in a base of 8 or 16, that start a text.
@@ -220,7 +220,7 @@ Double Val(std::string_view text)
         return wholeNumber(rest, 16);
     if (takes(rest, "&O") || takes(rest, "&o"))
         return wholeNumber(rest, 8);
-    return Double::checked(takeNumber(rest));
+    return Term::checked(takeNumber(rest));
 }
 
 Double CDbl(std::string_view text)

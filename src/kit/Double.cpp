@@ -1,17 +1,10 @@
 #include "kit/Double.h"
 
-#include "kit/Fault.h"
-
 namespace ondelis {
 
-void Double::overflow()
+void Term::raise() const
 {
-    throw Fault{FaultKind::Overflow};
-}
-
-void Double::dividedByZero(Double dividend)
-{
-    throw Fault{dividend == 0 ? FaultKind::Overflow : FaultKind::DivisionByZero};
+    throw Fault{static_cast<FaultKind>(std::bit_cast<std::uint64_t>(value_) & 0xFFU)};
 }
 
 } // namespace ondelis

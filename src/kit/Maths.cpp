@@ -8,12 +8,6 @@
 namespace ondelis {
 namespace {
 
-void require(bool sound)
-{
-    if (!sound) [[unlikely]]
-        throw Fault{FaultKind::InvalidArgument};
-}
-
 template <class Repr>
 Whole<Repr> nearest(Double x)
 {
@@ -27,14 +21,14 @@ Whole<Repr> nearest(Double x)
 
 } // namespace
 
-Double Fix(Double x)
+Term Fix(Term x)
 {
-    return std::trunc(x.value());
+    return x.faulty() ? x : Term{std::trunc(x.value())};
 }
 
-Double Int(Double x)
+Term Int(Term x)
 {
-    return std::floor(x.value());
+    return x.faulty() ? x : Term{std::floor(x.value())};
 }
 
 Integer CInt(Double x)
@@ -47,9 +41,9 @@ Long CLng(Double x)
     return nearest<std::int32_t>(x);
 }
 
-Double Abs(Double x)
+Term Abs(Term x)
 {
-    return std::fabs(x.value());
+    return x.faulty() ? x : Term{std::fabs(x.value())};
 }
 
 Integer Sgn(Double x)
@@ -57,50 +51,54 @@ Integer Sgn(Double x)
     return x > 0 ? 1 : x < 0 ? -1 : 0;
 }
 
-Double Sqr(Double x)
+Term Sqr(Term x)
 {
-    require(x >= 0);
-    return std::sqrt(x.value());
+    if (x.faulty())
+        return x;
+    return x < 0 ? Term{FaultKind::InvalidArgument} : Term{std::sqrt(x.value())};
 }
 
-Double Log(Double x)
+Term Log(Term x)
 {
-    require(x > 0);
-    return std::log(x.value());
+    if (x.faulty())
+        return x;
+    return x <= 0 ? Term{FaultKind::InvalidArgument} : Term{std::log(x.value())};
 }
 
-Double Log10(Double x)
+Term Log10(Term x)
 {
     return Log(x) / Log(10);
 }
 
-Double Pow(Double x, Double y)
+Term Pow(Term x, Term y)
 {
-    require(x >= 0 || y == Fix(y));
-    require(x != 0 || y >= 0);
+    if (x.faulty() || y.faulty())
+        return x.faulty() ? x : y;
+    if ((x < 0 && y != Fix(y)) || (x == 0 && y < 0))
+        return Term{FaultKind::InvalidArgument};
     // A pointer that the compiler has to read each time: were it to see the call, it could make products of squares,
     // and of powers of ten calls of exp10, which is wrong in the last digit very often.
     // NOLINTNEXTLINE(cppcoreguidelines-avoid-non-const-global-variables): it is const, and volatile
     static double (*const volatile libraryPow)(double, double) = std::pow;
-    return Double::checked(libraryPow(x.value(), y.value()));
+    return Term::checked(libraryPow(x.value(), y.value()));
 }
 
-Double Atn(Double x)
+Term Atn(Term x)
 {
-    return std::atan(x.value());
+    return x.faulty() ? x : Term{std::atan(x.value())};
 }
 
-Double Sin(Double x)
+Term Sin(Term x)
 {
-    return std::sin(x.value());
+    return x.faulty() ? x : Term{std::sin(x.value())};
 }
 
-Double Cos(Double x)
+Term Cos(Term x)
 {
-    return std::cos(x.value());
+    return x.faulty() ? x : Term{std::cos(x.value())};
 }
 
-Double Pi()
+Term Pi()
 {
     return Atn(1) * 4;
 }

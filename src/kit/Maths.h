@@ -6,10 +6,10 @@
 namespace ondelis {
 
 /// Toward zero: `Fix(-2.7)` is -2.
-[[nodiscard]] Double Fix(Double x);
+[[nodiscard]] Term Fix(Term x);
 
 /// Toward minus infinity: `Int(-2.7)` is -3.
-[[nodiscard]] Double Int(Double x);
+[[nodiscard]] Term Int(Term x);
 
 /// To the nearest whole number, a tie to the even one. Throws an overflow outside 16 bits.
 [[nodiscard]] Integer CInt(Double x);
@@ -17,31 +17,31 @@ namespace ondelis {
 /// As `CInt`, in 32 bits.
 [[nodiscard]] Long CLng(Double x);
 
-[[nodiscard]] Double Abs(Double x);
+[[nodiscard]] Term Abs(Term x);
 
 /// -1, 0 or 1.
 [[nodiscard]] Integer Sgn(Double x);
 
 /// Throws an invalid argument below zero.
-[[nodiscard]] Double Sqr(Double x);
+[[nodiscard]] Term Sqr(Term x);
 
 /// Natural logarithm. Throws an invalid argument at zero and below.
-[[nodiscard]] Double Log(Double x);
+[[nodiscard]] Term Log(Term x);
 
 /// `Log(x) / Log(10)`, divided in `Double`.
-[[nodiscard]] Double Log10(Double x);
+[[nodiscard]] Term Log10(Term x);
 
 /// The power x ^ y by the C library's `pow`, squares too, so that last digits do not depend on the build.
 /// Throws an invalid argument for a negative number to a fractional power and for 0 to a negative one, an
 /// overflow out of range.
-[[nodiscard]] Double Pow(Double x, Double y);
+[[nodiscard]] Term Pow(Term x, Term y);
 
 /// In radians, as all angles.
-[[nodiscard]] Double Atn(Double x);
-[[nodiscard]] Double Sin(Double x);
-[[nodiscard]] Double Cos(Double x);
+[[nodiscard]] Term Atn(Term x);
+[[nodiscard]] Term Sin(Term x);
+[[nodiscard]] Term Cos(Term x);
 
 /// `Atn(1) * 4`, computed at each call.
-[[nodiscard]] Double Pi();
+[[nodiscard]] Term Pi();
 
 } // namespace ondelis

@@ -17,7 +17,7 @@ public:
     {
     }
     template <class Literal>
-    requires std::same_as<Literal, int> || std::same_as<Literal, double>
+    requires std::same_as<Literal, int> || std::same_as<Literal, double> || std::same_as<Literal, Term>
     constexpr Single(Literal value) // NOLINT(google-explicit-constructor)
         : Single{Double{value}}
     {

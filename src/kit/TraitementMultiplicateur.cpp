@@ -46,7 +46,7 @@ std::string TraitementMultiplicateur(Double v)
     const Double s = Sgn(x);
     const Double f = (A - I) * s;
     const bool below = x < 0;
-    const Double E = below ? (I + 1) * s : I;
+    const Double E = below ? (I + 1) * s : Term{I};
     const Double mantissa = below ? Pow(10, f) * 10 : Pow(10, f);
     const auto [word, p] = multiplierOf(E);
     const Double m = Pow(10, p) * mantissa;

@@ -27,8 +27,8 @@ public:
     friend constexpr Whole operator+(Whole a, Whole b) { return wide(std::int64_t{a.value_} + b.value_); }
     friend constexpr Whole operator-(Whole a, Whole b) { return wide(std::int64_t{a.value_} - b.value_); }
     friend constexpr Whole operator*(Whole a, Whole b) { return wide(std::int64_t{a.value_} * b.value_); }
-    /// Always a `Double`, between whole numbers too.
-    friend constexpr Double operator/(Whole a, Whole b) { return Double{a.value()} / Double{b.value()}; }
+    /// Always with a fraction, between whole numbers too.
+    friend constexpr Term operator/(Whole a, Whole b) { return Term{a.value()} / Term{b.value()}; }
 
     friend constexpr bool operator==(Whole, Whole) = default;
     friend constexpr auto operator<=>(Whole, Whole) = default; // NOLINT(modernize-use-nullptr): a false alarm

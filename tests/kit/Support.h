@@ -39,7 +39,10 @@ template <class Action>
 std::optional<FaultKind> faultOf(Action action)
 {
     try {
-        static_cast<void>(action());
+        if constexpr (std::same_as<decltype(action()), Term>)
+            static_cast<void>(action().value()); // where a formula ends
+        else
+            static_cast<void>(action());
     } catch (const Fault& fault) {
         return fault.kind();
     }

@@ -50,7 +50,7 @@ TEST(Whole, divisionGivesADouble)
 
 TEST(Whole, withADoubleItComputesAsADouble)
 {
-    static_assert(std::is_same_v<decltype(Integer{1} * Double{2}), Double>);
+    static_assert(std::is_same_v<decltype(Integer{1} * Double{2}), Term>);
     EXPECT_EQ(Integer{32767} * Double{2}, Double{65534});
     EXPECT_EQ(Double{1} / Integer{8}, Double{0.125});
 }

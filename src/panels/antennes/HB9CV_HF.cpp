@@ -26,7 +26,7 @@ void HB9CV_HF::TxtFreq_Change()
 {
     FreqHb = Val(TxtFreq.Text);
     // The angular frequency is shown nowhere, but a frequency for which it is out of range ends the program.
-    static_cast<void>(2 * Pi() * FreqHb);
+    static_cast<void>(Double{2 * Pi() * FreqHb});
     LambdaHb = 300 / FreqHb;
     Calculer();
 }

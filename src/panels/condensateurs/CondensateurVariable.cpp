@@ -109,7 +109,7 @@ void CondensateurVariable::TxtMobiles_Change()
 void CondensateurVariable::DessinerLames(Double n, ControlArray<Line>& lames)
 {
     // Above five the count wraps: the sketch only suggests the number.
-    const Double K = n < 6 ? n : (n - 5 * Fix(n / 5)) + 1;
+    const Double K = n < 6 ? Term{n} : (n - 5 * Fix(n / 5)) + 1;
     for (int i = 0; i <= K - 1; ++i)
         lames(i).Visible = true;
     if (K < 5)
