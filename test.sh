@@ -10,7 +10,7 @@ jobs=$(nproc)
 code=(src tests tools bench)
 
 check_scripts() {
-    shellcheck -x ./*.sh tools/*.sh packaging/*.sh .ci/run
+    shellcheck -x ./*.sh tools/*.sh tools/*/*.sh packaging/*.sh .ci/run
 }
 
 check_format() {

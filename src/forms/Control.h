@@ -70,7 +70,6 @@ protected:
     void raise(const Handler& handler);
 
 private:
-    // NOLINTNEXTLINE(cppcoreguidelines-avoid-const-or-ref-data-members): a control never leaves its panel
     FeuilleCalcul& panel_;
     std::string name_;
     Box at_;

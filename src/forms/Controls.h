@@ -136,7 +136,6 @@ public:
         friend bool operator==(const ChosenText& chosen, std::string_view text) { return std::string{chosen} == text; }
 
     private:
-        // NOLINTNEXTLINE(cppcoreguidelines-avoid-const-or-ref-data-members): part of its list
         const ListBox& list_;
     };
     const ChosenText Text{*this};

@@ -57,7 +57,7 @@ public:
             action();
         } catch (const Fault& fault) {
             fail(fault);
-        } catch (const Unwinding&) { // NOLINT(bugprone-empty-catch): it has done its work by coming here
+        } catch (const Unwinding&) { // it has done its work by coming here
         }
         actionBegin_ = outerBegin;
     }

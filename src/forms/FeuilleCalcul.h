@@ -80,8 +80,6 @@ private:
 
     void load(bool hidden = false);
     void unload();
-
-    // NOLINTNEXTLINE(cppcoreguidelines-avoid-const-or-ref-data-members): a panel never leaves its desk
     Desk& desk_;
     Design design_;
     std::vector<Control*> controls_;

@@ -90,8 +90,6 @@ protected:
         value_ = std::forward<Value>(value);
         return true;
     }
-
-    // NOLINTNEXTLINE(cppcoreguidelines-avoid-const-or-ref-data-members): a property never leaves its owner
     Element& owner_;
 
 private:

@@ -11,7 +11,7 @@ void resumeNext(Statement&& statement)
 {
     try {
         statement();
-    } catch (const Fault&) { // NOLINT(bugprone-empty-catch): passing over it is the rule
+    } catch (const Fault&) { // passing over it is the rule
     }
 }
 

@@ -45,8 +45,6 @@ private:
     [[nodiscard]] Refusal unreachable(const Control& control) const;
     [[nodiscard]] Refusal unwritable(const TextBox& box) const;
     void takeFocus(Control& control);
-
-    // NOLINTNEXTLINE(cppcoreguidelines-avoid-const-or-ref-data-members): a user sits at one desk
     Desk& desk_;
 };
 

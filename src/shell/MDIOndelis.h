@@ -36,8 +36,6 @@ private:
     void MDIForm_Load();
     /// Closes all panels, whatever was typed into them.
     void CacherFeuilles();
-
-    // NOLINTNEXTLINE(cppcoreguidelines-avoid-const-or-ref-data-members): one frame, one desk
     Desk& desk_;
 };
 

@@ -229,6 +229,19 @@ const std::vector<Menu>& menuTree()
     return tree;
 }
 
+const std::vector<const MenuEntry*>& panelEntries()
+{
+    static const auto entries = [] {
+        std::vector<const MenuEntry*> openings;
+        for (const Menu& menu : menuTree())
+            for (const MenuEntry& entry : menu.entries)
+                if (entry.control != "MenuQuitter")
+                    openings.push_back(&entry);
+        return openings;
+    }();
+    return entries;
+}
+
 const MenuEntry* findMenuEntry(std::string_view control)
 {
     for (const Menu& menu : menuTree())

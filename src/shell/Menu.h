@@ -31,6 +31,9 @@ struct Menu {
 /// The whole tree, in display order.
 [[nodiscard]] const std::vector<Menu>& menuTree();
 
+/// The entries that open panels, in display order: all but the one that ends the program.
+[[nodiscard]] const std::vector<const MenuEntry*>& panelEntries();
+
 /// The entry of that control; null where there is none.
 [[nodiscard]] const MenuEntry* findMenuEntry(std::string_view control);
 

@@ -9,17 +9,6 @@
 namespace ondelis::fuzz {
 namespace {
 
-/// The entries that open something.
-std::vector<std::string_view> openingEntries()
-{
-    std::vector<std::string_view> entries;
-    for (const Menu& menu : menuTree())
-        for (const MenuEntry& entry : menu.entries)
-            if (entry.control != "MenuQuitter")
-                entries.push_back(entry.control);
-    return entries;
-}
-
 } // namespace
 
 std::string RandomUser::region()
@@ -43,10 +32,9 @@ std::string RandomUser::next(const Desk& desk)
 
 std::string RandomUser::menuEntry()
 {
-    static const std::vector<std::string_view> entries = openingEntries();
     if (dice_.percent(1))
         return dice_.percent(50) ? "menu MenuQuitter" : "close MDIOndelis";
-    return "menu " + std::string{dice_.one(entries)};
+    return "menu " + std::string{dice_.one(panelEntries())->control};
 }
 
 std::string RandomUser::onPanel(const FeuilleCalcul& panel)

@@ -105,7 +105,6 @@ public:
     }
 
 private:
-    // NOLINTNEXTLINE(cppcoreguidelines-avoid-const-or-ref-data-members): one session, one log
     Log& log_;
     pilote::Pilote pilote_;
 };
@@ -131,7 +130,7 @@ std::string watch(pid_t child, const Log& log)
     if (hangs && WIFSIGNALED(status))
         return "hang";
     if (WIFSIGNALED(status))
-        return std::string{"crash: "} + strsignal(WTERMSIG(status)); // NOLINT(concurrency-mt-unsafe)
+        return std::string{"crash: "} + strsignal(WTERMSIG(status));
     // The sanitizers, which have written their report, end a process with a status.
     return WEXITSTATUS(status) == 0 ? "" : "the process ended with status " + std::to_string(WEXITSTATUS(status));
 }
@@ -146,7 +145,7 @@ Outcome play(const std::function<void(Session&)>& what)
     if (child == 0) {
         Session session{log};
         what(session);
-        std::exit(0); // NOLINT(concurrency-mt-unsafe): leaks are looked for on the way out
+        std::exit(0); // leaks are looked for on the way out
     }
     Outcome outcome{.commands = {}, .subject = {}, .fault = {}, .trouble = watch(child, log)};
     outcome.subject = log.subject.data();

@@ -8,11 +8,9 @@ protected:
     /// Does what every entry does, without closing anything before.
     void openAll()
     {
-        for (const Menu& menu : menuTree())
-            for (const MenuEntry& entry : menu.entries)
-                if (entry.control != "MenuQuitter")
-                    for (const MenuStep& step : entry.steps)
-                        step(frame);
+        for (const MenuEntry* entry : panelEntries())
+            for (const MenuStep& step : entry->steps)
+                step(frame);
     }
 };
 

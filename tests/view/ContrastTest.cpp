@@ -193,8 +193,8 @@ private slots:
         const ScopedLook look = palette(dark);
         QStringList faults;
         Walk walk;
-        for (const QString& entry : panelEntries()) {
-            walk.open(entry);
+        for (const MenuEntry* entry : panelEntries()) {
+            walk.open(*entry);
             walk.choose([&](PanelWindow& window) { faults += contrastFaultsOf(window); });
         }
         faults.removeDuplicates();

@@ -70,8 +70,8 @@ private slots:
         QCOMPARE(QFontInfo{QApplication::font()}.family(), family);
         std::set<QString> faults;
         Walk walk;
-        for (const QString& entry : panelEntries()) {
-            walk.open(entry);
+        for (const MenuEntry* entry : panelEntries()) {
+            walk.open(*entry);
             walk.choose([&](PanelWindow& window) {
                 QCOMPARE(QFontInfo{window.form().font()}.family(), family);
                 for (const FormFault& fault : faultsOf(window))

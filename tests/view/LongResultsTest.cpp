@@ -87,15 +87,15 @@ private slots:
     void panels_data()
     {
         QTest::addColumn<QString>("entry");
-        for (const QString& entry : panelEntries())
-            QTest::newRow(qPrintable(entry)) << entry;
+        for (const MenuEntry* entry : panelEntries())
+            QTest::newRow(std::string{entry->control}.c_str()) << toQString(entry->control);
     }
 
     void panels()
     {
         QFETCH(QString, entry);
         Walk walk;
-        walk.open(entry);
+        walk.open(*findMenuEntry(entry.toStdString()));
         const QStringList faults = faultsDuring(walk, 40);
         QVERIFY2(faults.isEmpty(), qPrintable(faults.join(QLatin1Char{'\n'})));
     }

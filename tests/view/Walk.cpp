@@ -33,19 +33,9 @@ std::vector<Choice> choicesOn(const Program& program)
 
 } // namespace
 
-QStringList panelEntries()
+void Walk::open(const MenuEntry& entry)
 {
-    QStringList entries;
-    for (const Menu& menu : menuTree())
-        for (const MenuEntry& entry : menu.entries)
-            if (entry.control != "MenuQuitter")
-                entries.append(toQString(entry.control));
-    return entries;
-}
-
-void Walk::open(const QString& entry)
-{
-    open([entry](Program& program) { program.pick(entry.toUtf8().constData()); });
+    open([name = std::string{entry.control}](Program& program) { program.pick(name.c_str()); });
 }
 
 void Walk::open(std::function<void(Program&)> opening)

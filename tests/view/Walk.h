@@ -8,16 +8,13 @@
 
 namespace ondelis {
 
-/// The entries of the menu that open panels.
-[[nodiscard]] QStringList panelEntries();
-
 /// A person's walk through the panels. After a fault that a panel has, and that ends the program, it goes on in another
 /// program.
 class Walk {
 public:
     [[nodiscard]] Program& program() const { return *program_; }
     /// Opens the panels of an entry of the menu.
-    void open(const QString& entry);
+    void open(const MenuEntry& entry);
     /// Opens other panels: what this does is done again after a fault.
     void open(std::function<void(Program&)> opening);
     /// A person does something. False where it has ended the program: then the panels are open anew.

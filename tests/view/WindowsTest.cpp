@@ -168,16 +168,6 @@ private slots:
         QVERIFY(!panel.loaded());
     }
 
-    void keysOpenTheMenu()
-    {
-        const Program program;
-        MainWindow& window = program.view.mainWindow();
-        QTest::keyClick(&window, Qt::Key_F10);
-        QVERIFY(window.menuBar()->activeAction() != nullptr);
-        QTRY_VERIFY(QApplication::activePopupWidget() != nullptr);
-        QApplication::activePopupWidget()->close();
-    }
-
     void aHiddenPanelKeepsItsControls()
     {
         Program program;
@@ -214,6 +204,21 @@ private slots:
         settle();
         QCOMPARE(QApplication::allWidgets().size(), before);
         QVERIFY(program.view.mainWindow().area().subWindowList().isEmpty());
+    }
+
+    void openingAllPanelsLeavesNoWidgetBehind()
+    {
+        const Patient patient;
+        Program program;
+        const auto openAll = [&] {
+            for (const MenuEntry* entry : panelEntries())
+                program.pick(std::string{entry->control}.c_str());
+            settle();
+            return QApplication::allWidgets().size();
+        };
+        const auto before = openAll();
+        for (int round = 0; round < 5; ++round)
+            QCOMPARE(openAll(), before);
     }
 
     void labelsArePlainText()

@@ -53,8 +53,6 @@ private:
     /// Runs `act` on the control if it is of that class.
     template <class ControlClass, class Act>
     Refusal with(const Target& target, Act&& act) const;
-
-    // NOLINTNEXTLINE(cppcoreguidelines-avoid-const-or-ref-data-members): gestures are made on one program
     MDIOndelis& frame_;
 };
 

@@ -29,7 +29,6 @@ public:
     [[nodiscard]] Double Cf() const;
 
 private:
-    // NOLINTNEXTLINE(cppcoreguidelines-avoid-const-or-ref-data-members): lives no longer than one computation
     const AntennesHighQLoop& loop_;
     Double F_;
     Double D_;
