@@ -25,6 +25,15 @@ check_tidy() {
         sed -E '/^[0-9]+ warnings? generated\.$/d'
 }
 
+# The stored drawings are those that their scripts draw.
+check_drawings() (
+    copy=$(mktemp -d)
+    trap 'rm -rf "$copy"' EXIT
+    mkdir "$copy/tools" && cp -r tools/dessins "$copy/tools" && cp -r resources "$copy" &&
+        python3 -B "$copy/tools/dessins/dessiner.py" &&
+        diff -r resources "$copy/resources" && diff tools/dessins/README.md "$copy/tools/dessins/README.md"
+)
+
 run_tests() {
     ctest --preset "$1" -j"$jobs"
 }
@@ -36,6 +45,7 @@ make_package() (
 step "Packages" tools/install-packages.sh
 step "Scripts (shellcheck)" check_scripts
 step "Layout (clang-format)" check_format
+step "Drawings" check_drawings
 step "Release build, warnings as errors" build release
 step "Lint (clang-tidy)" check_tidy
 step "Tests (release)" run_tests release
