@@ -94,7 +94,7 @@ double takeNumber(std::string_view& text)
 }
 
 /// The number that the whole of a text is; nothing where a part is left over, or no number is there.
-std::optional<Double> wholly(std::string_view text)
+std::optional<Term> wholly(std::string_view text)
 {
     std::string_view rest = text;
     const double number = takeNumber(rest);
@@ -105,9 +105,9 @@ std::optional<Double> wholly(std::string_view text)
 }
 
 /// The whole number of the digits, in a base of 8 or 16, that start a text.
-Double wholeNumber(std::string_view text, int base)
+Term wholeNumber(std::string_view text, int base)
 {
-    Double number = 0;
+    Term number = 0;
     for (const char& c : text) {
         int digit = 0;
         if (std::from_chars(&c, &c + 1, digit, base).ec != std::errc{})
@@ -142,7 +142,8 @@ std::size_t thousandsLength(std::string_view text)
     return separator != "." && text.starts_with(separator) ? separator.size() : 0;
 }
 
-/// The text of a number of the region with "." as the decimal point and no thousands separators.
+/// The text of a number of the region with "." as the decimal point and no thousands separators; "" where it has the
+/// decimal point of other regions.
 std::string plain(std::string_view text)
 {
     const std::string& decimal = region().decimal;
@@ -157,8 +158,8 @@ std::string plain(std::string_view text)
     }
     if (rest().starts_with(decimal))
         number.replace(at, decimal.size(), 1, '.');
-    else if (rest().starts_with('.')) // the decimal point of other regions
-        throw Fault{FaultKind::TypeMismatch};
+    else if (rest().starts_with('.'))
+        return {};
     return number;
 }
 
@@ -208,7 +209,7 @@ std::string digits(Double x, std::size_t blanks)
 
 } // namespace
 
-Double Val(std::string_view text)
+Term Val(std::string_view text)
 {
     // Most texts are a number as they stand, or as `Str` writes it.
     if (const auto number = wholly(trimmed(text)))
@@ -223,7 +224,7 @@ Double Val(std::string_view text)
     return Term::checked(takeNumber(rest));
 }
 
-Double CDbl(std::string_view text)
+Term CDbl(std::string_view text)
 {
     text = trimmed(text);
     if (region().decimal == ".")
@@ -231,7 +232,7 @@ Double CDbl(std::string_view text)
             return *number;
     if (const auto number = wholly(plain(text)))
         return *number;
-    throw Fault{FaultKind::TypeMismatch};
+    return Term{FaultKind::TypeMismatch};
 }
 
 Integer CInt(std::string_view text)

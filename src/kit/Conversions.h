@@ -11,11 +11,11 @@ namespace ondelis {
 /// The number that a text starts with, 0 where it starts with none. Blanks, tabs and line feeds count
 /// nowhere; the decimal point is "." in every region; an exponent is marked by E, e, D or d; &H and &O begin
 /// a hexadecimal or octal whole number. Throws an overflow beyond the range of a `Double`, and nothing else.
-[[nodiscard]] Double Val(std::string_view text);
+[[nodiscard]] Term Val(std::string_view text);
 
 /// The number that a text is, by the separators of the region. Throws a type mismatch where the whole text,
 /// but for blanks around it, is not a number, and an overflow beyond the range of a `Double`.
-[[nodiscard]] Double CDbl(std::string_view text);
+[[nodiscard]] Term CDbl(std::string_view text);
 
 /// `CDbl`, then `CInt` of the number.
 [[nodiscard]] Integer CInt(std::string_view text);
