@@ -152,14 +152,16 @@ std::string plain(std::string_view text)
     const auto rest = [&] { return std::string_view{number}.substr(at); };
     while (const std::size_t digits = countDigits(rest())) {
         at += digits;
-        if (rest().starts_with(decimal))
+        if (at == number.size() || rest().starts_with(decimal))
             break;
         number.erase(at, thousandsLength(rest()));
     }
-    if (rest().starts_with(decimal))
-        number.replace(at, decimal.size(), 1, '.');
-    else if (rest().starts_with('.'))
-        return {};
+    if (rest().starts_with(decimal)) {
+        number.erase(at + 1, decimal.size() - 1);
+        number[at] = '.';
+    } else if (rest().starts_with('.')) {
+        number.clear();
+    }
     return number;
 }
 
