@@ -69,7 +69,10 @@ void PanelWindow::follow(const Control& control)
     ControlWidget* const shown = find(control);
     if (shown == nullptr)
         return;
+    const int y = shown->widget().y();
     shown->follow();
+    if (focusFrame_ != nullptr && shown->widget().y() != y) // all widgets are there, and one has moved
+        orderTabs();
     const auto* const label = dynamic_cast<const Label*>(&control);
     if (label != nullptr && label->Visible) // one that is empty now had a caption by design
         rename(label, label->Caption == "" ? label->design().Caption : label->Caption.get());
@@ -169,6 +172,29 @@ void PanelWindow::markFocus()
     // Under a mouse button nothing must move away.
     if (mine && QApplication::mouseButtons() == Qt::NoButton)
         view_.mainWindow().area().bringIntoSight(*focused);
+}
+
+void PanelWindow::orderTabs()
+{
+    std::vector<QWidget*> stops;
+    std::vector<QWidget*> moved;
+    std::vector<std::size_t> turns;
+    for (Control* control : panel_.controls()) {
+        ControlWidget* const shown = find(*control);
+        if (shown == nullptr || shown->widget().focusPolicy() == Qt::NoFocus)
+            continue;
+        stops.push_back(&shown->widget());
+        const auto* const box = dynamic_cast<const TextBox*>(control);
+        if (box == nullptr || box->Top == box->design().at.Top)
+            continue;
+        moved.push_back(stops.back());
+        turns.push_back(stops.size() - 1);
+    }
+    std::ranges::stable_sort(moved, {}, &QWidget::y);
+    for (std::size_t i = 0; i < moved.size(); ++i)
+        stops[turns[i]] = moved[i];
+    for (std::size_t i = 1; i < stops.size(); ++i)
+        QWidget::setTabOrder(stops[i - 1], stops[i]);
 }
 
 void PanelWindow::makeMenu()

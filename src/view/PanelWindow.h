@@ -58,6 +58,8 @@ protected:
 private:
     void makeWidgets();
     void makeMenu();
+    /// Lets the Tab key follow the eye where code has moved fields: they take their turns from top to bottom.
+    void orderTabs();
     /// Shows which widget has the keyboard, if it is one of this panel.
     void markFocus();
     /// Gives a new name to the widgets that are named after the label, or after the panel.

@@ -9,6 +9,7 @@
 #include "Program.h"
 #include "TestPanel.h"
 #include "panels/filtres/FiltrePasseHaut.h"
+#include "panels/lignes/CoaxSectCarree.h"
 #include "panels/resonance/CalculNombreSpires.h"
 #include "panels/resonance/FormuleDeThomson.h"
 #include "shell/Menu.h"
@@ -99,6 +100,27 @@ private slots:
             }
             QCOMPARE(walked, stops);
         }
+    }
+
+    void tabFollowsFieldsThatCodeMoves()
+    {
+        Program program;
+        program.pick("mnuCoaxiauxSectionCarree");
+        const auto& panel = program.desk.get<CoaxSectCarree>();
+        const auto walked = [&] {
+            QStringList stops;
+            for (int i = 0; i < 4; ++i) {
+                stops.append(focused());
+                press(program, Qt::Key_Tab);
+            }
+            return stops;
+        };
+        program.widget(panel.OptZ).setFocus();
+        QCOMPARE(walked(), (QStringList{"OptZ", "TxtCote", "TxtDiamAme", "TxtZ"}));
+        press(program, Qt::Key_Down); // the other option
+        QCOMPARE(walked(), (QStringList{"OptD", "TxtZ", "TxtDiamAme", "TxtCote"}));
+        press(program, Qt::Key_Up);
+        QCOMPARE(walked(), (QStringList{"OptZ", "TxtCote", "TxtDiamAme", "TxtZ"}));
     }
 
     void tabEntersTheOptionsAtTheChosenOne()

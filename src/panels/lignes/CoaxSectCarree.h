@@ -16,12 +16,12 @@ public:
     OptionButton OptD      {this, "OptD",       {.Caption = "Calcul de D", .at = {240, 600, 2400, 300}}, &CoaxSectCarree::OptD_Click};
 
     // As it opens, D stands above d and the impedance under it.
-    Label        Label2    {this, "Label2",     {.Caption = "D (mm)", .at = {240, 4200, 2700, 225}, .font = {.size = 8}}};
-    TextBox      TxtCote   {this, "TxtCote",    resultField({240, 4440, 2400, 315}, &Label2), &CoaxSectCarree::TxtCote_Change};
+    Label        Label2    {this, "Label2",     {.Caption = "D (mm)", .at = {240, 2640, 2700, 225}, .font = {.size = 8}}};
+    TextBox      TxtCote   {this, "TxtCote",    resultField({240, 2880, 2400, 315}, &Label2), &CoaxSectCarree::TxtCote_Change};
     Label        Label1    {this, "Label1",     {.Caption = "d  (mm)", .at = {240, 3420, 2700, 225}, .font = {.size = 8}}};
     TextBox      TxtDiamAme{this, "TxtDiamAme", {.at = {240, 3660, 2400, 315}, .label = &Label1}, &CoaxSectCarree::TxtDiamAme_Change};
-    Label        Label4    {this, "Label4",     {.Caption = "Impédance carecteristique", .at = {240, 2640, 2700, 225}, .font = {.size = 8}}};
-    TextBox      TxtZ      {this, "TxtZ",       {.at = {240, 2880, 2400, 315}, .label = &Label4}, &CoaxSectCarree::TxtZ_Change};
+    Label        Label4    {this, "Label4",     {.Caption = "Impédance carecteristique", .at = {240, 4200, 2700, 225}, .font = {.size = 8}}};
+    TextBox      TxtZ      {this, "TxtZ",       {.at = {240, 4440, 2400, 315}, .label = &Label4}, &CoaxSectCarree::TxtZ_Change};
 
     Image        Image1    {this, "Image1",     {.picture = "coaxial-carre", .at = {3240, 240, 4800, 4875}}};
     // clang-format on
