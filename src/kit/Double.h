@@ -46,9 +46,8 @@ private:
 /// right operand first.
 class [[nodiscard]] Term {
 public:
-    template <class Number>
-    requires std::convertible_to<const Number&, Double> &&(!std::same_as<Number, Term>)constexpr Term(
-        const Number& number) // NOLINT(google-explicit-constructor): all numbers stand in formulas
+    template <std::convertible_to<Double> Number>
+    constexpr Term(const Number& number) // NOLINT(google-explicit-constructor): all numbers stand in formulas
         : value_{static_cast<Double>(number).value()}
     {
     }
