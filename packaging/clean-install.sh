@@ -54,7 +54,7 @@ cat >"$system/tmp/ondelis" <<END
 exec chroot "$system" /usr/bin/env HOME=/root LC_ALL=C.UTF-8 XDG_RUNTIME_DIR=/run/user/0 ondelis
 END
 chmod +x "$system/tmp/ondelis"
-"$here/../tools/demonstration.sh" "$system/tmp/ondelis" "$PWD/build/clean-install.png"
+"$here/../tools/demonstration.sh" "$system/tmp/ondelis" "${package%.deb}-installed.png"
 rm "$system/tmp/ondelis"
 
 echo "Its removal"
