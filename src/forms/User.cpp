@@ -92,24 +92,22 @@ User::Refusal User::backspace(TextBox& box)
 
 User::Refusal User::replace(TextBox& box, std::string_view text)
 {
-    if (auto refusal = unwritable(box))
-        return refusal;
-    desk_.perform([&] {
-        takeFocus(box);
-        const int limit = box.design().MaxLength;
-        box.Text = limit == 0 ? std::string{text} : Left(text, limit);
-    });
-    return {};
+    return put(box, text, [&](int limit) { return Left(text, limit); });
 }
 
 User::Refusal User::edit(TextBox& box, std::string_view text)
+{
+    return put(box, text, [&](int limit) { return limited(box.Text.get(), text, limit); });
+}
+
+User::Refusal User::put(TextBox& box, std::string_view text, const std::function<std::string(int limit)>& cut)
 {
     if (auto refusal = unwritable(box))
         return refusal;
     desk_.perform([&] {
         takeFocus(box);
         const int limit = box.design().MaxLength;
-        box.Text = limit == 0 ? std::string{text} : limited(box.Text.get(), text, limit);
+        box.Text = limit == 0 ? std::string{text} : cut(limit);
     });
     return {};
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -45,6 +46,9 @@ private:
     [[nodiscard]] Refusal unreachable(const Control& control) const;
     [[nodiscard]] Refusal unwritable(const TextBox& box) const;
     void takeFocus(Control& control);
+    /// Gives a field another text; where the field has a `MaxLength`, what `cut` makes of the text for it.
+    Refusal put(TextBox& box, std::string_view text, const std::function<std::string(int limit)>& cut);
+
     Desk& desk_;
 };
 

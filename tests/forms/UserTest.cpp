@@ -132,21 +132,18 @@ TEST_F(UserTest, MaxLengthCutsAPasteAndNotAStore)
 
 TEST_F(UserTest, AnEditTakesCharactersOutOfALongTextAndCutsWhatItPutsIn)
 {
+    struct Edit {
+        const char* leaves;
+        const char* stands;
+    };
     panel.TxtCourt.Text = "élongé";
-    user.edit(panel.TxtCourt, "élngé");
-    EXPECT_EQ(panel.TxtCourt.Text, "élngé");
-    user.edit(panel.TxtCourt, "élxgé");
-    EXPECT_EQ(panel.TxtCourt.Text, "élgé");
-    user.edit(panel.TxtCourt, "èé");
-    EXPECT_EQ(panel.TxtCourt.Text, "èé");
-    user.edit(panel.TxtCourt, "èxyzé");
-    EXPECT_EQ(panel.TxtCourt.Text, "èxé");
-    user.edit(panel.TxtCourt, "");
-    EXPECT_EQ(panel.TxtCourt.Text, "");
-    user.edit(panel.TxtCourt, "1234");
-    EXPECT_EQ(panel.TxtCourt.Text, "123");
-    EXPECT_EQ(
-        panel.log, (Log{"court élongé", "court élngé", "court élgé", "court èé", "court èxé", "court ", "court 123"}));
+    for (const Edit& edit : std::initializer_list<Edit>{
+             {"élngé", "élngé"}, {"élxgé", "élgé"}, {"èé", "èé"}, {"èxyzé", "èxé"}, {"", ""}, {"1234", "123"}}) {
+        panel.log.clear();
+        user.edit(panel.TxtCourt, edit.leaves);
+        EXPECT_EQ(panel.TxtCourt.Text, edit.stands);
+        EXPECT_EQ(panel.log, (Log{std::string{"court "} + edit.stands}));
+    }
 }
 
 TEST_F(UserTest, APasteIsOneChangeAndNoKey)
