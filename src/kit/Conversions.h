@@ -8,6 +8,8 @@
 
 namespace ondelis {
 
+// What gives a `Term` throws where the formula ends.
+
 /// The number that a text starts with, 0 where it starts with none. Blanks, tabs and line feeds count
 /// nowhere; the decimal point is "." in every region; an exponent is marked by E, e, D or d; &H and &O begin
 /// a hexadecimal or octal whole number. Throws an overflow beyond the range of a `Double`, and nothing else.

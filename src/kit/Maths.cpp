@@ -19,16 +19,22 @@ Whole<Repr> nearest(Double x)
     return static_cast<int>(whole);
 }
 
+/// A function that has a value for every number.
+Term everywhere(double (*function)(double), Term x)
+{
+    return x.faulty() ? x : Term{function(x.value())};
+}
+
 } // namespace
 
 Term Fix(Term x)
 {
-    return x.faulty() ? x : Term{std::trunc(x.value())};
+    return everywhere(std::trunc, x);
 }
 
 Term Int(Term x)
 {
-    return x.faulty() ? x : Term{std::floor(x.value())};
+    return everywhere(std::floor, x);
 }
 
 Integer CInt(Double x)
@@ -43,7 +49,7 @@ Long CLng(Double x)
 
 Term Abs(Term x)
 {
-    return x.faulty() ? x : Term{std::fabs(x.value())};
+    return everywhere(std::fabs, x);
 }
 
 Integer Sgn(Double x)
@@ -85,17 +91,17 @@ Term Pow(Term x, Term y)
 
 Term Atn(Term x)
 {
-    return x.faulty() ? x : Term{std::atan(x.value())};
+    return everywhere(std::atan, x);
 }
 
 Term Sin(Term x)
 {
-    return x.faulty() ? x : Term{std::sin(x.value())};
+    return everywhere(std::sin, x);
 }
 
 Term Cos(Term x)
 {
-    return x.faulty() ? x : Term{std::cos(x.value())};
+    return everywhere(std::cos, x);
 }
 
 Term Pi()

@@ -5,6 +5,8 @@
 
 namespace ondelis {
 
+// What gives a `Term` throws where the formula ends, and passes on a fault that its argument met before.
+
 /// Toward zero: `Fix(-2.7)` is -2.
 [[nodiscard]] Term Fix(Term x);
 
