@@ -15,13 +15,13 @@ CondensateurVariable::CondensateurVariable(Desk& desk)
 Line::Design CondensateurVariable::lameMobile(int index)
 {
     const double x = 5940 + 600 * index;
-    return {.X1 = x, .Y1 = 3660, .X2 = x, .Y2 = 4560, .BorderColor = cuivre, .BorderWidth = 3};
+    return {.X1 = x, .Y1 = 3660, .X2 = x, .Y2 = 4560, .BorderColor = dessin::cuivre, .BorderWidth = 3};
 }
 
 Line::Design CondensateurVariable::lameFixe(int index)
 {
     const double x = 5640 + 600 * index;
-    return {.X1 = x, .Y1 = 4740, .X2 = x, .Y2 = 3840, .BorderColor = encre, .BorderWidth = 3};
+    return {.X1 = x, .Y1 = 4740, .X2 = x, .Y2 = 3840, .BorderColor = dessin::encre, .BorderWidth = 3};
 }
 
 void CondensateurVariable::Form_Load()

@@ -5,6 +5,7 @@
 #include "forms/ControlArray.h"
 #include "forms/Controls.h"
 #include "forms/FeuilleCalcul.h"
+#include "panels/CouleursDessins.h"
 
 namespace ondelis {
 
@@ -40,17 +41,13 @@ public:
 
     Image        Schema       {this, "Schema",        {.picture = "condensateur-variable", .at = {5160, 60, 3600, 3300}}};
     // The blades from the side: two combs that reach into one another.
-    Line         LM           {this, "LM", {.X1 = 5340, .Y1 = 3660, .X2 = 8580, .Y2 = 3660, .BorderColor = cuivre, .BorderWidth = 3}};
-    Line         LF           {this, "LF", {.X1 = 5340, .Y1 = 4740, .X2 = 8580, .Y2 = 4740, .BorderColor = encre, .BorderWidth = 3}};
+    Line         LM           {this, "LM", {.X1 = 5340, .Y1 = 3660, .X2 = 8580, .Y2 = 3660, .BorderColor = dessin::cuivre, .BorderWidth = 3}};
+    Line         LF           {this, "LF", {.X1 = 5340, .Y1 = 4740, .X2 = 8580, .Y2 = 4740, .BorderColor = dessin::encre, .BorderWidth = 3}};
     ControlArray<Line> LM1    {this, "LM1", 5, &CondensateurVariable::lameMobile};
     ControlArray<Line> LF1    {this, "LF1", 5, &CondensateurVariable::lameFixe};
     // clang-format on
 
 private:
-    // The colours of the drawing above.
-    static constexpr Color cuivre = 0x1F56A8;
-    static constexpr Color encre = 0x3D2D1F;
-
     static Line::Design lameMobile(int index);
     static Line::Design lameFixe(int index);
 

@@ -2,6 +2,7 @@
 
 #include "kit/Conversions.h"
 #include "kit/Maths.h"
+#include "panels/CouleursDessins.h"
 
 namespace ondelis {
 namespace {
@@ -62,7 +63,7 @@ Label::Design Transformateur::cote(const char* texte, double x, double y)
 {
     return {.Caption = texte,
         .at = lettre({4470, 2430, 6450, 3480}, x, y),
-        .ForeColor = 0x784A2A, // of the dimension lines
+        .ForeColor = dessin::cote,
         .align = Align::Center,
         .font = {.size = 8}};
 }

@@ -2,6 +2,7 @@
 
 #include "forms/Controls.h"
 #include "forms/FeuilleCalcul.h"
+#include "panels/CouleursDessins.h"
 #include "panels/timer555/Reglages.h"
 
 namespace ondelis {
@@ -33,11 +34,11 @@ public:
     Label      Label6              {this, "Label6",               {.Caption = "99%", .at = {3240, 5955, 480, 255}}};
 
     // The wave, as at 50 percent.
-    Line       Line1               {this, "Line1", {.X1 = 3960, .Y1 = 6240, .X2 = 3960, .Y2 = 5640, .BorderColor = encre, .BorderWidth = 2}};
-    Line       Line2               {this, "Line2", {.X1 = 3960, .Y1 = 6240, .X2 = 4940, .Y2 = 6240, .BorderColor = encre, .BorderWidth = 2}};
-    Line       Line3               {this, "Line3", {.X1 = 4940, .Y1 = 6240, .X2 = 4940, .Y2 = 5640, .BorderColor = encre, .BorderWidth = 2}};
-    Line       Line4               {this, "Line4", {.X1 = 4940, .Y1 = 5640, .X2 = 5960, .Y2 = 5640, .BorderColor = encre, .BorderWidth = 2}};
-    Line       Line5               {this, "Line5", {.X1 = 5960, .Y1 = 5640, .X2 = 5960, .Y2 = 6240, .BorderColor = encre, .BorderWidth = 2}};
+    Line       Line1               {this, "Line1", {.X1 = 3960, .Y1 = 6240, .X2 = 3960, .Y2 = 5640, .BorderColor = dessin::encre, .BorderWidth = 2}};
+    Line       Line2               {this, "Line2", {.X1 = 3960, .Y1 = 6240, .X2 = 4940, .Y2 = 6240, .BorderColor = dessin::encre, .BorderWidth = 2}};
+    Line       Line3               {this, "Line3", {.X1 = 4940, .Y1 = 6240, .X2 = 4940, .Y2 = 5640, .BorderColor = dessin::encre, .BorderWidth = 2}};
+    Line       Line4               {this, "Line4", {.X1 = 4940, .Y1 = 5640, .X2 = 5960, .Y2 = 5640, .BorderColor = dessin::encre, .BorderWidth = 2}};
+    Line       Line5               {this, "Line5", {.X1 = 5960, .Y1 = 5640, .X2 = 5960, .Y2 = 6240, .BorderColor = dessin::encre, .BorderWidth = 2}};
 
     // The longest results take two lines.
     Shape      Cadre1              {this, "Cadre1",   {.at = {240, 6345, 5955, 1140}}};
@@ -48,8 +49,6 @@ public:
     // clang-format on
 
 private:
-    static constexpr Color encre = 0x3D2D1F; ///< of the drawing above
-
     void Form_Load() override;
     void LstFreq_Click();
     void HScrlFreq_Change();
