@@ -70,7 +70,8 @@ icons() {
 # The metainfo says how large the pictures are that it names.
 screenshots() {
     local metainfo=$here/org.example.ondelis.metainfo.xml width height name
-    sed -n 's|.*<image .*width="\(.*\)" height="\(.*\)">.*/pictures/\(.*\)</image>|\1 \2 \3|p' "$metainfo" >"$scratch/pictures"
+    sed -n 's|.*<image .*width="\(.*\)" height="\(.*\)">.*/pictures/\(.*\)</image>|\1 \2 \3|p' \
+        "$metainfo" >"$scratch/pictures"
     [[ $(wc -l <"$scratch/pictures") -eq $(grep -c '<image' "$metainfo") ]]
     while read -r width height name; do
         diff <(echo "$width $height") <(identify -format '%w %h\n' "$here/../docs/pictures/$name")

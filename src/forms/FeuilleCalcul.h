@@ -80,6 +80,7 @@ private:
 
     void load(bool hidden = false);
     void unload();
+
     Desk& desk_;
     Design design_;
     std::vector<Control*> controls_;

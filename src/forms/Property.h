@@ -90,6 +90,7 @@ protected:
         value_ = std::forward<Value>(value);
         return true;
     }
+
     Element& owner_;
 
 private:

@@ -36,6 +36,7 @@ private:
     void MDIForm_Load();
     /// Closes all panels, whatever was typed into them.
     void CacherFeuilles();
+
     Desk& desk_;
 };
 

@@ -53,6 +53,7 @@ private:
     /// Runs `act` on the control if it is of that class.
     template <class ControlClass, class Act>
     Refusal with(const Target& target, Act&& act) const;
+
     MDIOndelis& frame_;
 };
 
