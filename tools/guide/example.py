@@ -17,8 +17,8 @@ def play(program, entry, lines, decimal):
     with Session(program, decimal) as session:
         menu, caption = menu_path(session.state(), entry)
         told.append(("do", f"Ouvrez « {caption} » dans le menu « {menu} »."))
-        unexpected = news(session.say("menu " + entry))
-        panels = {} if unexpected else session.state()["panels"]
+        answer = session.say("menu " + entry)
+        panels, unexpected = shown(session, answer), news(answer)
         for line in lines:
             if line.startswith("#"):
                 told.append(("say", line.lstrip("# ")))
@@ -33,13 +33,18 @@ def play(program, entry, lines, decimal):
             else:
                 if unexpected:
                     break
-                panels = session.state()["panels"]
                 sentence = tell(words(line), panels)
-                unexpected = news(session.say(line))
+                answer = session.say(line)
+                panels, unexpected = shown(session, answer), news(answer)
             told.append(sentence)
     if unexpected:
         raise Refused("not expected: " + " and ".join(unexpected))
     return [sentence for sentence in told if sentence is not None]
+
+
+def shown(session, answer):
+    """The panels after a command; none once the program has ended."""
+    return {} if answer["ended"] else session.state()["panels"]
 
 
 def news(answer):
