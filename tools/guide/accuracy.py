@@ -34,7 +34,7 @@ class Case:
     right: typing.Union[float, typing.Callable]
     factor: float
     scale: float = 1.0
-    tolerance: float = 0.005
+    tolerance: float = 0.01
 
 
 @dataclasses.dataclass
