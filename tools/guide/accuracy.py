@@ -107,6 +107,6 @@ def table(outcomes):
     rows = ["| Cas | Le panneau | Calcul indépendant | Panneau ÷ calcul |", "|:---|---:|---:|---:|"]
     for outcome in outcomes:
         unit = f"\u00a0{outcome.case.unit}" if outcome.case.unit else ""
-        factor = f"{outcome.factor:.2f}".replace(".", ",")
+        factor = f"{outcome.factor:.2f}".replace(".", ",") if outcome.factor < 100 else figure(outcome.factor)
         rows.append(f"| {outcome.case.name} | {figure(outcome.panel)}{unit} | {figure(outcome.right)}{unit} | {factor} |")
     return "\n".join(rows)
