@@ -6,6 +6,7 @@
 import dataclasses
 import importlib.util
 import re
+import sys
 import typing
 from math import floor, log10
 
@@ -66,7 +67,9 @@ def number(text):
 
 
 def cases(script):
-    """The cases of a script."""
+    """The cases of a script, which may import what stands beside it."""
+    if str(script.parent) not in sys.path:
+        sys.path.append(str(script.parent))
     loader = importlib.util.spec_from_file_location("exactitude_" + script.stem, script)
     module = importlib.util.module_from_spec(loader)
     loader.loader.exec_module(module)

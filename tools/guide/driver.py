@@ -52,7 +52,7 @@ class Session:
 
 def words(line):
     """The words of a line, without quotes."""
-    return shlex.split(line, comments=True)
+    return [word.replace("\\n", "\n").replace("\\t", "\t") for word in shlex.split(line, comments=True)]
 
 
 def localized(line, decimal):
