@@ -15,6 +15,7 @@ import sys
 
 import accuracy
 import example
+import formulas
 from driver import Refused, Session, caption_of, menu_path
 from page import Block, Field, Malformed, Page, rows
 
@@ -102,11 +103,12 @@ class Guide:
 
     def _render(self, name, markdown):
         title = next(line[2:] for line in markdown.splitlines() if line.startswith("# "))
-        subprocess.run(
+        rendered = subprocess.run(
             ["pandoc", "--from=markdown-smart", "--to=html5", "--mathml", "--standalone", "--section-divs", "--wrap=none",
              f"--template={TEMPLATE}", "--variable=version:" + self.version, "--metadata=lang:fr",
-             "--metadata=pagetitle:" + title, f"--output={self.out / name}.html"],
-            input=markdown, encoding="utf-8", check=True)
+             "--metadata=pagetitle:" + title],
+            input=markdown, encoding="utf-8", stdout=subprocess.PIPE, check=True).stdout
+        (self.out / f"{name}.html").write_text(formulas.readable(rendered), encoding="utf-8")
 
 
 def first_of(controls, name):

@@ -1,6 +1,7 @@
 """Trappes coaxiales.
 
-Source: the cylindrical current sheet of bobine.py beside this script. The capacitance is that of the length of cable, and both make the resonance.
+Source: the cylindrical current sheet of bobine.py beside this script. The capacitance is that of the length of cable, and
+both make the resonance.
 """
 
 from math import pi, sqrt

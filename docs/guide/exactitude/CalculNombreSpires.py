@@ -1,6 +1,7 @@
 """Nombre de spires.
 
-Source: the cylindrical current sheet of bobine.py beside this script. The turns that are right are found by bisection, at the mean diameter.
+Source: the cylindrical current sheet of bobine.py beside this script. The turns that are right are found by bisection, at
+the mean diameter.
 """
 
 from accuracy import Case
