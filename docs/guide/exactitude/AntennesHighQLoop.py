@@ -1,11 +1,12 @@
 """High Q loop.
 
-Source: the inductance of a ring of round conductor with its current on the surface, mu0 R (ln(8R/a) - 2); the radiation
-resistance of a small loop, 20 (2 pi / lambda)^4 S² ohms (any text on antennas); and for the voltage the definition of Q
-without load, which for a matched loop is twice that of its bandwidth.
+Source: for the inductance Neumann's integral along the eight sides of the loop, with the current on the surface of a round
+conductor, as for an antenna; the radiation resistance of a small loop, 20 (2 pi / lambda)^4 S² ohms (any text on antennas);
+and for the voltage the definition of Q without load, which for a matched loop is twice that of its bandwidth.
 """
 
-from math import log, pi, sqrt
+from cmath import exp
+from math import asinh, pi, sin, sqrt
 
 from accuracy import Case
 
@@ -19,15 +20,31 @@ def steps(low, high, fraction):
             f"select {PANEL}.LstNbreCotes 3", f"select {PANEL}.LstLambdaSur {fraction - 1}", f"click {PANEL}.BtnCalculer"]
 
 
-def ring(value):
-    """Inductance of a ring as long as the loop's eight sides, in microhenrys."""
-    radius = 8 * value(f"{PANEL}.TxtLongueurCote.Text") / 100 / (2 * pi)
-    return 4e-7 * pi * radius * (log(8 * radius / (TUBE / 2)) - 2) * 1e6
+def neumann(sides, perimeter, radius, parts=100):
+    """Inductance of a regular polygon of round conductor in henrys; metres. A side by itself in closed form, and its mutual
+    inductance with the others by midpoints."""
+    side, corners = perimeter / sides, perimeter / sides / (2 * sin(pi / sides))
+    points = [corners * exp(2j * pi * number / sides) for number in range(sides + 1)]
+    steps = [(number + 0.5) / parts for number in range(parts)]
+    ratio = side / radius
+    total = 2e-7 * side * (asinh(ratio) - sqrt(1 + 1 / ratio ** 2) + 1 / ratio)
+    along = points[1] - points[0]
+    for other in range(1, sides):
+        away = points[other + 1] - points[other]
+        sums = sum(1 / sqrt(abs(points[0] + u * along - points[other] - v * away) ** 2 + radius ** 2)
+                   for u in steps for v in steps)
+        total += 1e-7 * (along * away.conjugate()).real * sums / parts ** 2
+    return sides * total
+
+
+def octagon(value):
+    """Inductance of the panel's eight sides in tube, in microhenrys."""
+    return neumann(8, 8 * value(f"{PANEL}.TxtLongueurCote.Text") / 100, TUBE / 2) * 1e6
 
 
 def capacitor(megahertz):
-    """What tunes that ring, in picofarads."""
-    return lambda value: 1e18 / ((2 * pi * megahertz * 1e6) ** 2 * ring(value))
+    """What tunes it, in picofarads."""
+    return lambda value: 1e18 / ((2 * pi * megahertz * 1e6) ** 2 * octagon(value))
 
 
 def radiation(megahertz):
@@ -41,12 +58,12 @@ def peak(value):
 
 
 CASES = [
-    Case("Inductance, 7 à 7,2 MHz, λ/10", steps("7", "7,2", 10), read=f"{PANEL}.TxtInductance.Text", unit="µH", right=ring,
-         factor=0.54),
+    Case("Inductance, 7 à 7,2 MHz, λ/10", steps("7", "7,2", 10), read=f"{PANEL}.TxtInductance.Text", unit="µH", right=octagon,
+         factor=0.55),
     Case("Condensateur à 7 MHz, λ/10", steps("7", "7,2", 10), read=f"{PANEL}.TxtCf_FreqMin.Text", unit="pF", scale=1e12,
-         right=capacitor(7), factor=1.86),
+         right=capacitor(7), factor=1.81),
     Case("Condensateur à 14 MHz, λ/10", steps("14", "14,35", 10), read=f"{PANEL}.TxtCf_FreqMin.Text", unit="pF", scale=1e12,
-         right=capacitor(14), factor=0.78),
+         right=capacitor(14), factor=0.76),
     Case("Résistance de rayonnement à 7 MHz", steps("7", "7,2", 10), read=f"{PANEL}.TxtRR_FreqMin.Text", unit="mΩ",
          scale=1e3, right=radiation(7), factor=1),
     Case("Tension de crête à 7 MHz, 100 W", steps("7", "7,2", 10), read=f"{PANEL}.TxtVC_FreqMin.Text", unit="V",
