@@ -52,6 +52,12 @@ class Hardships(DesktopCase):
         self.person.pick("Fin de travail", "Quitter")
         self.ends(0)
 
+    def test_little_memory(self) -> None:
+        self.start()
+        until(lambda: self.desktop.color(960, 540) != DUSK, "the picture of the client area")
+        passing = self.program.memory("VmHWM") - self.program.memory("VmRSS")
+        self.assertLess(passing, 1500)  # decoded, the whole picture takes 4700
+
     def test_small_screen(self) -> None:
         self.start(size="800x600")  # the frame reaches beyond it on all sides
         self.open_section()
