@@ -18,7 +18,7 @@ packages=(
     # A display where there is none, and a person's keys, clipboard and eyes on it
     xvfb xdotool xclip imagemagick
     # A desktop around the program in its tests, and the eyes of a screen reader
-    openbox x11-xserver-utils dbus-daemon at-spi2-core gir1.2-atspi-2.0 python3-gi
+    openbox xfwm4 x11-xserver-utils dbus-daemon at-spi2-core gir1.2-atspi-2.0 python3-gi
     # The drawings, made anew by tools/dessins
     python3
     # A region with a decimal comma, for tests

@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QIcon>
+#include <QLayout>
 #include <QMenuBar>
 #include <QScreen>
 #include <QShortcut>
@@ -23,6 +24,8 @@ MainWindow::MainWindow(View& view, MDIOndelis& frame) : view_{view}, frame_{fram
 {
     setObjectName(QStringLiteral("MDIOndelis"));
     setCentralWidget(area_);
+    // The size is the frame's and the user's business: margins, which move with the window, must not make it larger.
+    layout()->setSizeConstraint(QLayout::SetNoConstraint);
     makeMenu();
     makeShortcuts();
 }
@@ -127,16 +130,19 @@ void MainWindow::keepInSight()
 {
     const QRect screens = screen()->availableVirtualGeometry();
     const QRect inner = geometry();
-    QMargins hidden;
+    QRect seen = inner;
     if (inner.width() > screens.width()) {
-        hidden.setLeft(std::max(0, screens.left() - inner.left()));
-        hidden.setRight(std::max(0, inner.right() - screens.right()));
+        seen.setLeft(std::max(inner.left(), screens.left()));
+        seen.setRight(std::min(inner.right(), screens.right()));
     }
     if (inner.height() > screens.height()) {
-        hidden.setTop(std::max(0, screens.top() - inner.top()));
-        hidden.setBottom(std::max(0, inner.bottom() - screens.bottom()));
+        seen.setTop(std::max(inner.top(), screens.top()));
+        seen.setBottom(std::min(inner.bottom(), screens.bottom()));
     }
-    setContentsMargins(hidden);
+    if (!seen.isValid()) // nothing can be seen, wherever it is
+        return;
+    setContentsMargins(seen.left() - inner.left(), seen.top() - inner.top(), inner.right() - seen.right(),
+        inner.bottom() - seen.bottom());
 }
 
 } // namespace ondelis
