@@ -4,10 +4,12 @@
 #include <QCloseEvent>
 #include <QIcon>
 #include <QLayout>
+#include <QMenu>
 #include <QMenuBar>
 #include <QScreen>
 #include <QShortcut>
 #include <QTimer>
+#include <QWindow>
 #include <algorithm>
 #include <utility>
 
@@ -34,6 +36,22 @@ void MainWindow::follow()
 {
     setWindowTitle(toQString(frame_.Caption.get()));
     takePlace();
+}
+
+bool MainWindow::eventFilter(QObject* watched, QEvent* event)
+{
+    auto* const dropDown = qobject_cast<QMenu*>(watched);
+    const bool key = event->type() == QEvent::KeyPress || event->type() == QEvent::KeyRelease;
+    if (dropDown != nullptr && event->type() == QEvent::Close) {
+        dropDown->hide();
+        event->ignore(); // a window that is closed is destroyed, and with it the keys that the system still sends it
+        return true;
+    }
+    if (dropDown != nullptr && key && dropDown->isHidden() && QApplication::activePopupWidget() == nullptr) {
+        QCoreApplication::sendEvent(windowHandle(), event);
+        return true;
+    }
+    return QMainWindow::eventFilter(watched, event);
 }
 
 void MainWindow::closeEvent(QCloseEvent* event)
@@ -74,6 +92,7 @@ void MainWindow::makeMenu()
     for (const Menu& menu : menuTree()) {
         QMenu* const dropDown = menuBar()->addMenu(withoutShortcut(menu.caption));
         dropDown->setObjectName(toQString(menu.control));
+        dropDown->installEventFilter(this);
         for (const MenuEntry& entry : menu.entries) {
             QAction* const action = dropDown->addAction(
                 withoutShortcut(entry.caption), [this, &entry] { view_.act([&](User&) { frame_.click(entry); }); });
@@ -84,7 +103,9 @@ void MainWindow::makeMenu()
 
 void MainWindow::makeShortcuts()
 {
-    connect(new QShortcut{Qt::CTRL | Qt::Key_F4, this}, &QShortcut::activated, area_, &QMdiArea::closeActiveSubWindow);
+    findChild<QAction*>(QStringLiteral("MenuQuitter"))->setShortcut(Qt::CTRL | Qt::Key_Q);
+    for (const Qt::Key key : {Qt::Key_F4, Qt::Key_W})
+        connect(new QShortcut{Qt::CTRL | key, this}, &QShortcut::activated, area_, &QMdiArea::closeActiveSubWindow);
     connect(new QShortcut{Qt::Key_F10, this}, &QShortcut::activated, menuBar(),
         [this] { menuBar()->setActiveAction(menuBar()->actions().front()); });
 }
