@@ -1,10 +1,10 @@
 #pragma once
 
-#include <QImage>
 #include <QList>
 #include <QMdiArea>
 #include <QRect>
-#include <QTimer>
+
+#include "view/Background.h"
 
 namespace ondelis {
 
@@ -27,9 +27,6 @@ protected:
     void scrollContentsBy(int dx, int dy) override;
 
 private:
-    /// The picture, decoded where it is not at hand; null where the toolkit cannot read it.
-    const QImage& picture();
-
     void followResize();
     /// Where the widget is while nothing is scrolled.
     [[nodiscard]] QRect placeOf(const QWidget& widget) const;
@@ -38,11 +35,9 @@ private:
     /// Scrolls until the places can be seen where so much is seen; of those that have no room together, the later ones.
     void reveal(const QList<QRect>& places, const QSize& seen);
 
-    QImage picture_;
     bool resized_ = false; ///< and what is in use may be out of sight since
-    QTimer idle_; ///< lets the picture go when nothing has been painted for a while: decoded, it is large
+    Background background_;
     bool onScreen_ = false;
-    bool readable_ = true; ///< as far as it has been tried
 };
 
 } // namespace ondelis

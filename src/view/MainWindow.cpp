@@ -22,6 +22,18 @@
 
 namespace ondelis {
 
+namespace {
+
+QIcon icon()
+{
+    QIcon icon;
+    for (const char* file : {":/icon/16.png", ":/icon/32.png", ":/icon/64.png", ":/icon/128.png"})
+        icon.addFile(QString::fromLatin1(file));
+    return icon;
+}
+
+} // namespace
+
 MainWindow::MainWindow(View& view, MDIOndelis& frame) : view_{view}, frame_{frame}, area_{new ClientArea{this}}
 {
     setObjectName(QStringLiteral("MDIOndelis"));
@@ -63,8 +75,8 @@ void MainWindow::closeEvent(QCloseEvent* event)
 void MainWindow::paintEvent(QPaintEvent* event)
 {
     QMainWindow::paintEvent(event);
-    if (!std::exchange(painted_, true)) // the icon is a drawing: it must not hold up the first sight of the window
-        QTimer::singleShot(0, this, [] { QApplication::setWindowIcon(QIcon{QStringLiteral(":/ondelis.svg")}); });
+    if (!std::exchange(painted_, true)) // the icon must not hold up the first sight of the window
+        QTimer::singleShot(0, this, [] { QApplication::setWindowIcon(icon()); });
 }
 
 void MainWindow::showEvent(QShowEvent* event)
