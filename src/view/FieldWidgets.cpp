@@ -49,7 +49,7 @@ bool copyWhole(const QKeyEvent& event, bool selected, const QString& text)
 } // namespace
 
 TextBoxWidget::TextBoxWidget(PanelWindow& window, TextBox& box, QWidget* parent)
-    : QLineEdit{parent}, ControlWidget{window}, box_{box}
+    : LineField{parent}, ControlWidget{window}, box_{box}
 {
     setFont(fontOf(box.design().font, *parent));
     setAlignment(horizontal(box.design().align));
@@ -111,7 +111,7 @@ void TextBoxWidget::keyPressEvent(QKeyEvent* event)
         return;
     const char32_t character = enteredBy(*event);
     if (character == 0 || tellKey(character))
-        QLineEdit::keyPressEvent(event);
+        LineField::keyPressEvent(event);
 }
 
 void TextBoxWidget::inputMethodEvent(QInputMethodEvent* event)
@@ -119,12 +119,12 @@ void TextBoxWidget::inputMethodEvent(QInputMethodEvent* event)
     for (const char32_t character : event->commitString().toUcs4())
         tellKey(character);
     if (!gone())
-        QLineEdit::inputMethodEvent(event);
+        LineField::inputMethodEvent(event);
 }
 
 void TextBoxWidget::focusInEvent(QFocusEvent* event)
 {
-    QLineEdit::focusInEvent(event);
+    LineField::focusInEvent(event);
     act(box_, [&](User& user) { user.focus(box_); });
 }
 
@@ -171,7 +171,7 @@ void TextAreaWidget::tellText()
 }
 
 MaskEdBoxWidget::MaskEdBoxWidget(PanelWindow& window, MaskEdBox& box, QWidget* parent)
-    : QLineEdit{parent}, ControlWidget{window}, box_{box}
+    : LineField{parent}, ControlWidget{window}, box_{box}
 {
     setReadOnly(true);
 }
@@ -187,18 +187,18 @@ void MaskEdBoxWidget::follow()
 void MaskEdBoxWidget::keyPressEvent(QKeyEvent* event)
 {
     if (!copyWhole(*event, hasSelectedText(), text()))
-        QLineEdit::keyPressEvent(event);
+        LineField::keyPressEvent(event);
 }
 
 void MaskEdBoxWidget::focusInEvent(QFocusEvent* event)
 {
-    QLineEdit::focusInEvent(event);
+    LineField::focusInEvent(event);
     act(box_, [&](User& user) { user.focus(box_); });
 }
 
 void MaskEdBoxWidget::focusOutEvent(QFocusEvent* event)
 {
-    QLineEdit::focusOutEvent(event);
+    LineField::focusOutEvent(event);
     if (!gone())
         follow();
 }

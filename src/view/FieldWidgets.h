@@ -1,16 +1,16 @@
 #pragma once
 
-#include <QLineEdit>
 #include <QPlainTextEdit>
 
 #include "forms/Controls.h"
 #include "view/Colors.h"
 #include "view/ControlWidget.h"
+#include "view/LineField.h"
 
 namespace ondelis {
 
 /// A field of one line.
-class TextBoxWidget final : public QLineEdit, public ControlWidget {
+class TextBoxWidget final : public LineField, public ControlWidget {
 public:
     TextBoxWidget(PanelWindow& window, TextBox& box, QWidget* parent);
 
@@ -57,7 +57,7 @@ private:
 };
 
 /// A display that shows its number in exponent form, and its text while it has the keyboard.
-class MaskEdBoxWidget final : public QLineEdit, public ControlWidget {
+class MaskEdBoxWidget final : public LineField, public ControlWidget {
 public:
     MaskEdBoxWidget(PanelWindow& window, MaskEdBox& box, QWidget* parent);
 

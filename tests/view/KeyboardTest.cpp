@@ -284,6 +284,48 @@ private slots:
         QVERIFY(program.desk.loadedPanels().empty());
     }
 
+    void otherKeysCloseAPanelAndTheProgram()
+    {
+        Program program;
+        const auto& panel = program.open<TestPanel>();
+        press(program, Qt::Key_W, Qt::ControlModifier);
+        QVERIFY(!panel.loaded());
+        program.open<TestPanel>();
+        press(program, Qt::Key_Q, Qt::ControlModifier);
+        QVERIFY(program.desk.ended());
+    }
+
+    void keysThatReachADropDownTooLateAreNotLost()
+    {
+        Program program;
+        program.open<TestPanel>();
+        press(program, Qt::Key_F10);
+        press(program, Qt::Key_Left); // round to the last menu, then to the last but one
+        QTRY_VERIFY(QApplication::activePopupWidget() != nullptr);
+        pressInMenu(program, Qt::Key_Left);
+        QTRY_VERIFY(QApplication::activePopupWidget() != nullptr);
+        QWidget& dropDown = *QApplication::activePopupWidget();
+        pressInMenu(program, Qt::Key_Down);
+        pressInMenu(program, Qt::Key_Return);
+        QTRY_COMPARE(focused(), QStringLiteral("TxtS"));
+        QVERIFY(dropDown.isHidden());
+        QVERIFY(dropDown.windowHandle()->handle() != nullptr); // the system's window for what it still sends there
+        QTest::keyClick(dropDown.windowHandle(), Qt::Key_2);
+        QCOMPARE(program.view.mainWindow().findChild<QLineEdit*>(QStringLiteral("TxtS"))->text(), QStringLiteral("2"));
+    }
+
+    void aPanelThatIsOnlyWrittenToLeavesTheKeyboard()
+    {
+        Program program;
+        auto& panel = program.open<TestPanel>();
+        panel.onA = [&] { program.desk.get<CalculNombreSpires>().TxtS.Text = panel.TxtA.Text.get(); };
+        press(program, Qt::Key_1);
+        QVERIFY(program.desk.get<CalculNombreSpires>().visible());
+        press(program, Qt::Key_2);
+        QCOMPARE(focused(), QStringLiteral("TxtA"));
+        QCOMPARE(std::string{program.desk.get<CalculNombreSpires>().TxtS.Text}, std::string{"12"});
+    }
+
     void spaceAndEnterPressAButton()
     {
         Program program;
