@@ -4,8 +4,8 @@
 
 namespace ondelis {
 
-/// The widgets' look: Fusion, with what the system's colours leave illegible mended. Only what needs it changes, and
-/// only as far as it needs.
+/// The widgets' look: Fusion, with what the system's colours leave illegible mended, and edges of our own that stand at
+/// any scale of the screen. Only what needs it changes, and only as far as it needs.
 class Style final : public QProxyStyle {
 public:
     Style() : QProxyStyle{QStringLiteral("fusion")} { }
@@ -24,11 +24,6 @@ public:
         const QWidget* widget) const override;
     void drawPrimitive(
         PrimitiveElement element, const QStyleOption* option, QPainter* painter, const QWidget* widget) const override;
-
-private:
-    /// Fusion shades the edge of a titled frame with black, which a dark window swallows: there it is shaded with
-    /// white.
-    void drawLightFrame(const QStyleOption& option, QPainter& painter, const QWidget* widget) const;
 };
 
 } // namespace ondelis
