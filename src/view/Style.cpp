@@ -65,6 +65,25 @@ void drawFieldEdge(QPainter& painter, const QStyleOption& option)
         Corners::Cut);
 }
 
+/// Fills the rim of a title bar, where Fusion makes the corners round with lines that fall between pixels.
+void fillRim(QPainter& painter, const QRectF& bar, const QBrush& ground)
+{
+    constexpr double across = 3;
+    constexpr double down = 2;
+    painter.fillRect(QRectF{bar.left(), bar.top(), bar.width(), down}, ground);
+    const QRectF side{bar.left(), bar.top(), across, bar.height() - down};
+    painter.fillRect(side, ground);
+    painter.fillRect(side.translated(bar.width() - across, 0), ground);
+}
+
+/// The ground of a title bar, as Fusion shades it.
+QBrush titleGround(const QRectF& bar, const QColor& color)
+{
+    QLinearGradient shades{bar.topLeft(), bar.bottomLeft()};
+    shades.setStops({{0, color.lighter(114)}, {0.5, color.lighter(102)}, {0.51, color.darker(104)}, {1, color}});
+    return shades;
+}
+
 /// Whether a bar belongs to a list or a text, whose own edge stands around it.
 bool isInner(const QWidget* bar)
 {
@@ -86,6 +105,16 @@ void Style::polish(QPalette& palette)
 int Style::pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const
 {
     return metric == PM_MenuBarItemSpacing ? 0 : QProxyStyle::pixelMetric(metric, option, widget);
+}
+
+int Style::styleHint(
+    StyleHint hint, const QStyleOption* option, const QWidget* widget, QStyleHintReturn* returned) const
+{
+    auto* const mask = qstyleoption_cast<QStyleHintReturnMask*>(returned);
+    if (hint != SH_WindowFrame_Mask || option == nullptr || mask == nullptr)
+        return QProxyStyle::styleHint(hint, option, widget, returned);
+    mask->region = option->rect;
+    return 1;
 }
 
 void Style::drawControl(
@@ -113,6 +142,8 @@ void Style::drawComplexControl(
     const auto* const title = qstyleoption_cast<const QStyleOptionTitleBar*>(option);
     if (control != CC_TitleBar || title == nullptr || (title->titleBarState & State_Active) == 0) {
         QProxyStyle::drawComplexControl(control, option, painter, widget);
+        if (control == CC_TitleBar)
+            fillRim(*painter, option->rect, titleGround(option->rect, option->palette.color(QPalette::Window)));
         return;
     }
     // Fusion writes an active title in white, on a shadow of the text's colour.
@@ -121,6 +152,7 @@ void Style::drawComplexControl(
         QPalette::Highlight, readable(title->palette.color(QPalette::Highlight), Qt::white, titleContrast));
     mended.palette.setColor(QPalette::Text, Qt::black);
     QProxyStyle::drawComplexControl(control, &mended, painter, widget);
+    fillRim(*painter, title->rect, titleGround(title->rect, mended.palette.color(QPalette::Highlight)));
 }
 
 void Style::drawPrimitive(

@@ -17,6 +17,10 @@ public:
     /// Leaves the headings of the menu no more than their own margins, so that all of them fit with a large font.
     int pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const override;
 
+    /// Cuts no corners off the windows of panels: their edges meet there.
+    int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+        QStyleHintReturn* returned) const override;
+
     /// Marks the heading of the menu that the keyboard is on, even while its menu is not open.
     void drawControl(
         ControlElement element, const QStyleOption* option, QPainter* painter, const QWidget* widget) const override;
