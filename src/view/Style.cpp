@@ -135,8 +135,10 @@ void Style::drawComplexControl(
 {
     if (control == CC_ScrollBar) {
         QProxyStyle::drawComplexControl(control, option, painter, widget);
-        if (!isInner(widget))
-            drawEdge(*painter, option->rect, edgeColor(option->palette, lineContrast));
+        // Of an inner bar three sides fall on the edge around it, and are clipped.
+        const bool across = (option->state & State_Horizontal) != 0;
+        const QMargins beyond = isInner(widget) ? QMargins{across ? 2 : 0, across ? 0 : 2, 2, 2} : QMargins{};
+        drawEdge(*painter, option->rect + beyond, edgeColor(option->palette, lineContrast));
         return;
     }
     const auto* const title = qstyleoption_cast<const QStyleOptionTitleBar*>(option);
