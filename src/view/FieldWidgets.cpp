@@ -1,13 +1,14 @@
 #include "view/FieldWidgets.h"
 
-#include <QClipboard>
-#include <QGuiApplication>
+#include <QContextMenuEvent>
 #include <QInputMethodEvent>
 #include <QKeyEvent>
 #include <QSignalBlocker>
+#include <QWheelEvent>
 #include <algorithm>
 
 #include "forms/Desk.h"
+#include "view/Copying.h"
 #include "view/Fonts.h"
 
 namespace ondelis {
@@ -34,16 +35,6 @@ char32_t enteredBy(const QKeyEvent& event)
     // Ctrl and Alt together are the AltGr of some keyboards.
     const bool command = commands != Qt::NoModifier && commands != (Qt::ControlModifier | Qt::AltModifier);
     return command ? 0 : characters.front();
-}
-
-/// Where nothing is selected the copy key copies the whole field: a click into a result is enough to take it away.
-/// True where it has done so.
-bool copyWhole(const QKeyEvent& event, bool selected, const QString& text)
-{
-    if (!event.matches(QKeySequence::Copy) || selected || text.isEmpty())
-        return false;
-    QGuiApplication::clipboard()->setText(text);
-    return true;
 }
 
 } // namespace
@@ -93,7 +84,12 @@ void TextBoxWidget::limitLength()
 
 void TextBoxWidget::tellText()
 {
-    act(box_, [&](User& user) { user.edit(box_, toText(text())); });
+    const QString told = text();
+    const QString after = told.mid(cursorPosition());
+    act(box_, [&](User& user) { user.edit(box_, toText(told.left(cursorPosition())), toText(after)); });
+    // What was put in may have been cut: typing goes on behind it.
+    if (!gone() && text() != told && text().endsWith(after))
+        setCursorPosition(static_cast<int>(text().size() - after.size()));
 }
 
 bool TextBoxWidget::tellKey(char32_t character)
@@ -120,6 +116,11 @@ void TextBoxWidget::inputMethodEvent(QInputMethodEvent* event)
         tellKey(character);
     if (!gone())
         LineField::inputMethodEvent(event);
+}
+
+void TextBoxWidget::contextMenuEvent(QContextMenuEvent* event)
+{
+    popUp(createStandardContextMenu(), event->globalPos(), hasSelectedText(), text());
 }
 
 void TextBoxWidget::focusInEvent(QFocusEvent* event)
@@ -159,6 +160,20 @@ void TextAreaWidget::keyPressEvent(QKeyEvent* event)
         QPlainTextEdit::keyPressEvent(event);
 }
 
+void TextAreaWidget::contextMenuEvent(QContextMenuEvent* event)
+{
+    popUp(createStandardContextMenu(), event->globalPos(), textCursor().hasSelection(), toPlainText());
+}
+
+void TextAreaWidget::wheelEvent(QWheelEvent* event)
+{
+    // The base class would change the size of a locked text.
+    if ((event->modifiers() & Qt::ControlModifier) != 0)
+        event->ignore();
+    else
+        QPlainTextEdit::wheelEvent(event);
+}
+
 void TextAreaWidget::focusInEvent(QFocusEvent* event)
 {
     QPlainTextEdit::focusInEvent(event);
@@ -167,7 +182,9 @@ void TextAreaWidget::focusInEvent(QFocusEvent* event)
 
 void TextAreaWidget::tellText()
 {
-    act(box_, [&](User& user) { user.edit(box_, toText(toPlainText())); });
+    const QString told = toPlainText();
+    const int caret = textCursor().position();
+    act(box_, [&](User& user) { user.edit(box_, toText(told.left(caret)), toText(told.mid(caret))); });
 }
 
 MaskEdBoxWidget::MaskEdBoxWidget(PanelWindow& window, MaskEdBox& box, QWidget* parent)
@@ -188,6 +205,11 @@ void MaskEdBoxWidget::keyPressEvent(QKeyEvent* event)
 {
     if (!copyWhole(*event, hasSelectedText(), text()))
         LineField::keyPressEvent(event);
+}
+
+void MaskEdBoxWidget::contextMenuEvent(QContextMenuEvent* event)
+{
+    popUp(createStandardContextMenu(), event->globalPos(), hasSelectedText(), text());
 }
 
 void MaskEdBoxWidget::focusInEvent(QFocusEvent* event)
