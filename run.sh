@@ -7,16 +7,23 @@ set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")"
 source tools/steps.sh
 
-program=build/release/src/ondelis
+program=build/program/src/ondelis
 
+# A display of another machine is taken at its word.
 has_display() {
     [[ -S ${XDG_RUNTIME_DIR:-}/${WAYLAND_DISPLAY:-} ]] && return
-    [[ -n ${DISPLAY:-} ]] && xdotool getdisplaygeometry >/dev/null 2>&1
+    local display=${DISPLAY:-}
+    case $display in
+        "") false ;;
+        :*) display=${display#:} && [[ -S /tmp/.X11-unix/X${display%.*} ]] ;;
+    esac
 }
 
 run() {
-    step "Packages" tools/install-packages.sh
-    step "Release build" build release ondelis
+    local packages=(program)
+    has_display || packages+=(screen)
+    step "Packages" tools/install-packages.sh "${packages[@]}"
+    step "The program" build program
     if has_display; then
         echo
         exec "$program"
@@ -26,7 +33,7 @@ run() {
 }
 
 gallery() {
-    step "Packages" tools/install-packages.sh
+    step "Packages" tools/install-packages.sh program checks
     step "Release build" build release galerie
     step "Gallery" build/release/tools/galerie/galerie gallery
     echo "All pictures: gallery/index.html"

@@ -42,7 +42,7 @@ make_package() (
     cd build/release && cpack -G DEB
 )
 
-step "Packages" tools/install-packages.sh
+step "Packages" tools/install-packages.sh program screen checks
 step "Scripts (shellcheck)" check_scripts
 step "Layout (clang-format)" check_format
 step "Drawings" check_drawings

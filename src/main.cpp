@@ -1,3 +1,6 @@
+#include <cstdio>
+#include <cstdlib>
+
 #include "forms/Desk.h"
 #include "kit/Region.h"
 #include "shell/MDIOndelis.h"
@@ -10,6 +13,10 @@ int main(int argc, char** argv)
 
     setRegion(Region::ofUser());
     const Application application{argc, argv};
+    if (QGuiApplication::primaryScreen() == nullptr) {
+        std::fputs("Ondelis ne trouve pas d'écran : lancez-le dans une session graphique.\n", stderr);
+        return EXIT_FAILURE;
+    }
     View view;
     Desk desk{view};
     MDIOndelis frame{desk};

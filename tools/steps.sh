@@ -24,9 +24,13 @@ report() {
     printf 'in all %6d s\n' "$SECONDS"
 }
 
-# build PRESET [TARGET...]
+# build PRESET [TARGET...]. A folder that could not be configured holds what it found of the compiler: it goes.
 build() {
     local preset=$1
     shift
-    cmake --preset "$preset" --log-level=WARNING && cmake --build --preset "$preset" ${1:+--target "$@"}
+    if ! cmake --preset "$preset" --log-level=WARNING; then
+        [[ -e build/$preset/build.ninja ]] || rm -rf "build/$preset"
+        return 1
+    fi
+    cmake --build --preset "$preset" ${1:+--target "$@"}
 }

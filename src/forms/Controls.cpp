@@ -1,13 +1,11 @@
 #include "forms/Controls.h"
 
 #include <algorithm>
-#include <array>
-#include <charconv>
 #include <utility>
 
 #include "forms/Desk.h"
 #include "kit/Conversions.h"
-#include "kit/Region.h"
+#include "kit/ExponentForm.h"
 
 namespace ondelis {
 
@@ -340,19 +338,11 @@ MaskEdBox::MaskEdBox(FeuilleCalcul* panel, std::string name, Design design)
 std::string MaskEdBox::display() const
 {
     std::string text = Text;
-    double number = 0;
     try {
-        number = CDbl(text).value();
+        return exponentForm(CDbl(text));
     } catch (const Fault&) { // an empty text, or one that is no number, shows as it is
         return text;
     }
-    std::array<char, 32> form{};
-    char* const end
-        = std::to_chars(form.data(), form.data() + form.size(), number, std::chars_format::scientific, 3).ptr;
-    std::replace(form.data(), end, 'e', 'E');
-    std::string shown{form.data(), end};
-    shown.replace(shown.find('.'), 1, region().decimal);
-    return shown;
 }
 
 void MaskEdBox::accept(ControlVisitor& visitor)

@@ -132,12 +132,16 @@ std::size_t thousandsLength(std::string_view text)
 {
     constexpr std::string_view noBreakBlank = "\u00a0";
     constexpr std::string_view narrowNoBreakBlank = "\u202f";
+    constexpr std::string_view typographicApostrophe = "\u2019";
     const std::string_view separator = region().thousands;
     // No keyboard types the no-break blanks, and systems differ in which one they use: all blanks are one.
     if (separator == noBreakBlank || separator == narrowNoBreakBlank)
         for (const std::string_view blank : {std::string_view{" "}, noBreakBlank, narrowNoBreakBlank})
             if (text.starts_with(blank))
                 return blank.size();
+    // Nor does a key type this one.
+    if (separator == typographicApostrophe && text.starts_with('\''))
+        return 1;
     // Where commas are decimal, a point is mostly meant as the decimal one of other regions, and no number.
     return separator != "." && text.starts_with(separator) ? separator.size() : 0;
 }

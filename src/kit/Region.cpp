@@ -1,8 +1,12 @@
 #include "kit/Region.h"
 
+#include <iconv.h>
 #include <langinfo.h>
 #include <locale.h> // NOLINT(modernize-deprecated-headers): newlocale is POSIX, not C++
 
+#include <algorithm>
+#include <cstdlib>
+#include <optional>
 #include <utility>
 
 namespace ondelis {
@@ -14,15 +18,54 @@ Region& setting()
     return region;
 }
 
+/// The name of the locale in which the user writes numbers.
+const char* nameOfUser()
+{
+    for (const char* variable : {"LC_ALL", "LC_NUMERIC", "LANG"})
+        if (const char* name = std::getenv(variable); name != nullptr && *name != '\0')
+            return name;
+    return "C";
+}
+
+bool isAscii(char c)
+{
+    return static_cast<unsigned char>(c) < 0x80;
+}
+
+/// A separator of a locale as UTF-8; nothing where it is not text of the encoding, or nobody knows that.
+std::optional<std::string> toUtf8(std::string text, const char* encoding)
+{
+    if (std::ranges::all_of(text, isAscii)) // it is so in all encodings of locales
+        return text;
+    iconv_t conversion = iconv_open("UTF-8", encoding);
+    if (conversion == iconv_t(-1)) // NOLINT(performance-no-int-to-ptr): POSIX tells a failure so
+        return {};
+    constexpr std::size_t longest = 6; // bytes for one of the encoding; a few make pairs of characters of some
+    std::string utf8(longest * text.size(), ' ');
+    char* from = text.data();
+    char* to = utf8.data();
+    std::size_t unread = text.size();
+    std::size_t room = utf8.size();
+    constexpr auto failed = static_cast<std::size_t>(-1);
+    const bool whole = iconv(conversion, &from, &unread, &to, &room) != failed
+        && iconv(conversion, nullptr, nullptr, &to, &room) != failed; // what waits for a mark behind it
+    iconv_close(conversion);
+    utf8.resize(utf8.size() - room);
+    return whole ? std::optional{utf8} : std::nullopt;
+}
+
 } // namespace
 
 Region Region::ofUser()
 {
-    const locale_t numeric = newlocale(LC_NUMERIC_MASK, "", nullptr);
-    if (numeric == nullptr)
+    // The encoding of a locale is a matter of LC_CTYPE: that of the same locale, whatever LC_CTYPE the user has.
+    const locale_t locale = newlocale(LC_NUMERIC_MASK | LC_CTYPE_MASK, nameOfUser(), nullptr);
+    if (locale == nullptr)
         return {.decimal = ".", .thousands = ""};
-    Region user{.decimal = nl_langinfo_l(RADIXCHAR, numeric), .thousands = nl_langinfo_l(THOUSEP, numeric)};
-    freelocale(numeric);
+    const char* const encoding = nl_langinfo_l(CODESET, locale);
+    Region user{.decimal = toUtf8(nl_langinfo_l(RADIXCHAR, locale), encoding).value_or("."),
+        .thousands = toUtf8(nl_langinfo_l(THOUSEP, locale), encoding).value_or("")};
+    freelocale(locale);
     return user;
 }
 

@@ -10,8 +10,8 @@ struct Region {
     std::string decimal = ".";
     std::string thousands = ",";
 
-    /// The separators of the system's user (LC_ALL, LC_NUMERIC, LANG); "." and no thousands separator where
-    /// the system does not know the locale that they name.
+    /// The separators of the system's user (LC_ALL, LC_NUMERIC, LANG), whatever the encoding of the locale that they
+    /// name; "." and no thousands separator where the system does not know it, or cannot convert one of them.
     static Region ofUser();
 };
 

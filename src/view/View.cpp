@@ -109,6 +109,7 @@ void View::runPendingEvents()
 
 Extent View::screen() const
 {
+    // Where there was a screen at the start, the toolkit keeps one, or something in its place, to the end.
     const QScreen& screen = *QGuiApplication::primaryScreen();
     const Scale scale{qRound(screen.logicalDotsPerInchY())};
     return {scale.twips(screen.size().width()), scale.twips(screen.size().height())};

@@ -103,10 +103,11 @@ def without_plugins(folder: Path, *kinds: str) -> Path:
     return Path(shutil.copy(os.environ["ONDELIS"], folder))
 
 
-def french_settings(folder: Path) -> dict[str, str]:
+def french_settings(folder: Path, encoding: str = "UTF-8") -> dict[str, str]:
     """The environment of a person in France, made in that folder: few test machines have it."""
-    subprocess.run(["localedef", "--no-archive", "-i", "fr_FR", "-f", "UTF-8", str(folder / "fr_FR.UTF-8")], check=True)
-    return {"LOCPATH": str(folder), "LC_ALL": "fr_FR.UTF-8"}
+    name = f"fr_FR.{encoding}"
+    subprocess.run(["localedef", "--no-archive", "-i", "fr_FR", "-f", encoding, str(folder / name)], check=True)
+    return {"LOCPATH": str(folder), "LC_ALL": name}
 
 
 class Program:

@@ -2,13 +2,15 @@
 
 from __future__ import annotations
 
+import os
 import signal
+import subprocess
 import tempfile
 import unittest
 from pathlib import Path
 
 from case import DesktopCase
-from desktop import until, without_plugins
+from desktop import PATIENCE, french_settings, until, without_plugins
 from person import Atspi, Role
 
 DUSK = "3D4A5D"  # the colour that stands for the picture of the client area
@@ -30,6 +32,13 @@ class Hardships(DesktopCase):
         self.start(LC_ALL="xx_YY.UTF-8")
         self.open_section()
         self.assertEqual(self.person.reads("Diametre du fil"), "1.12")
+
+    def test_locale_in_an_older_encoding(self) -> None:
+        folder = Path(self.enterContext(tempfile.TemporaryDirectory()))
+        self.start(**french_settings(folder, "ISO-8859-1"))
+        self.person.pick_by_key("Ponts diviseurs", "Pont de résistances avec charge")
+        self.person.write("Valeur R1", "1 0")  # the blank is what separates thousands there
+        until(lambda: self.person.reads("Résitance vue de l'alimentation") == "19,9", "a whole of 19.9 ohms")
 
     def test_no_plugin_for_any_picture(self) -> None:
         folder = Path(self.enterContext(tempfile.TemporaryDirectory()))
@@ -78,6 +87,17 @@ class Ends(DesktopCase):
         self.person.pick("Rubiques en vrac", "Section vers diamètre")
         self.person.write("Section du fil", "-1")
         self.person.box("Ondelis")
+
+    def test_no_screen(self) -> None:
+        folder = Path(self.enterContext(tempfile.TemporaryDirectory()))
+        (folder / "none.json").write_text('{"screens": []}')
+        for platform in ["linuxfb:fb=/dev/null", f"offscreen:configfile={folder}/none.json"]:
+            with self.subTest(platform):
+                program = subprocess.run([os.environ["ONDELIS"]], env={**os.environ, "QT_QPA_PLATFORM": platform},
+                                         capture_output=True, text=True, timeout=PATIENCE, check=False)
+                self.assertEqual(program.returncode, 1)
+                self.assertIn("Ondelis ne trouve pas d'écran : lancez-le dans une session graphique.\n",
+                              program.stderr)
 
     def test_display_dies(self) -> None:
         for meanwhile in [lambda: None, lambda: self.person.press("F10", "Down"), self.open_box, self.open_fault,

@@ -31,6 +31,7 @@ TEST_F(MaskEdBoxTest, ShowsANumberInExponentFormWithThreeDecimals)
     EXPECT_EQ(panel.shown("-12345.67"), "-1.235E+04");
     EXPECT_EQ(panel.shown("0"), "0.000E+00");
     EXPECT_EQ(panel.shown("1E+120"), "1.000E+120");
+    EXPECT_EQ(panel.shown("1234.5"), "1.235E+03");
 }
 
 TEST_F(MaskEdBoxTest, KeepsItsTextAsItIs)
@@ -43,7 +44,7 @@ TEST_F(MaskEdBoxTest, FollowsTheRegion)
 {
     const ScopedRegion comma{{.decimal = ",", .thousands = "."}};
     EXPECT_EQ(panel.shown("0,12"), "1,200E-01");
-    EXPECT_EQ(panel.shown("1240,5"), "1,240E+03");
+    EXPECT_EQ(panel.shown("1240,5"), "1,241E+03");
 }
 
 TEST_F(MaskEdBoxTest, ShowsWhatIsNoNumberAsItIs)

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <fstream>
 
-#include "../view/FormCheck.h"
+#include "FormCheck.h"
 #include "Gallery.h"
 #include "forms/Controls.h"
 #include "view/Application.h"

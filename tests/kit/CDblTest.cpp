@@ -78,10 +78,28 @@ TEST(CDbl, readsNumbersOfACommaRegionWithBlanks)
             });
 }
 
+TEST(CDbl, readsNumbersOfARegionWithApostrophes)
+{
+    expect(test::swiss,
+        {
+            {"12.5", 12.5},
+            {"1\u2019234.5", 1234.5},
+            {"1'234.5", 1234.5},
+            {"-1'234\u2019567", -1234567},
+        });
+    expectMismatch(test::swiss, {"'5", "\u20195", "1.5'5", "1''2", "1 234", "1,234", "1\u2018234"});
+    const Region typed{.decimal = ".", .thousands = "'"};
+    expect(typed, {{"1'234.5", 1234.5}});
+    expectMismatch(typed, {"1\u2019234"});
+    for (const Region& inside : {test::english, test::german, test::french})
+        expectMismatch(inside, {"1'234", "1\u2019234"});
+}
+
 TEST(CDbl, readsAThousandsSeparatorAsItIsTyped)
 {
     expect(test::english, {{"1,", 1}, {"1,2", 12}, {"1,23", 123}, {"1,234", 1234}, {"1,2345", 12345}});
     expect(test::french, {{"1 ", 1}, {"1 2", 12}, {"1 23", 123}, {"1 234", 1234}});
+    expect(test::swiss, {{"1'", 1}, {"1'2", 12}, {"1'23", 123}, {"1'234", 1234}});
 }
 
 TEST(CDbl, readsAnExponentMarkedByEOrD)

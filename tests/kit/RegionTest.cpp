@@ -43,7 +43,7 @@ struct RegionOfUser : testing::Test {
 
     void SetUp() override
     {
-        for (const char* name : {"LC_ALL", "LC_NUMERIC", "LANG"})
+        for (const char* name : {"LC_ALL", "LC_CTYPE", "LC_NUMERIC", "LANG"})
             unsetenv(name);
     }
     void TearDown() override { SetUp(); }
@@ -92,6 +92,47 @@ TEST_F(RegionOfUser, followsAllBeforeNumeric)
     setenv("LC_NUMERIC", "fr_FR.UTF-8", 1);
     setenv("LC_ALL", "en_US.UTF-8", 1);
     expect(".", ",");
+}
+
+TEST_F(RegionOfUser, takesAnEmptyNameForNone)
+{
+    setenv("LC_ALL", "", 1);
+    setenv("LC_NUMERIC", "de_DE.UTF-8", 1);
+    expect(",", ".");
+}
+
+TEST_F(RegionOfUser, isUtf8WhateverTheEncodingOfTheLocale)
+{
+    setenv("LC_ALL", "fr_FR.ISO-8859-1", 1);
+    expect(",", "\u00a0");
+    setenv("LC_ALL", "ru_RU.KOI8-R", 1);
+    expect(",", "\u00a0");
+    setenv("LC_ALL", "de_CH.UTF-8", 1);
+    expect(".", "\u2019");
+}
+
+TEST_F(RegionOfUser, hasTheEncodingOfItsOwnLocale)
+{
+    setenv("LC_NUMERIC", "fr_FR.ISO-8859-1", 1);
+    setenv("LC_CTYPE", "ru_RU.KOI8-R", 1);
+    expect(",", "\u00a0");
+    setenv("LC_CTYPE", "fr_FR.UTF-8", 1);
+    expect(",", "\u00a0");
+    unsetenv("LC_CTYPE");
+    expect(",", "\u00a0");
+}
+
+TEST_F(RegionOfUser, readsATypedBlankInAnyEncoding)
+{
+    setenv("LC_ALL", "fr_FR.ISO-8859-1", 1);
+    const ScopedRegion scope{Region::ofUser()};
+    EXPECT_EQ(CDbl("1 0"), 10);
+}
+
+TEST_F(RegionOfUser, hasNoThousandsSeparatorOfAnEncodingThatNobodyKnows)
+{
+    setenv("LC_ALL", "fr_FR.UNKNOWN", 1);
+    expect(",", "");
 }
 
 } // namespace

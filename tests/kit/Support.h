@@ -52,6 +52,7 @@ std::optional<FaultKind> faultOf(Action action)
 inline const Region english{.decimal = ".", .thousands = ","};
 inline const Region german{.decimal = ",", .thousands = "."};
 inline const Region french{.decimal = ",", .thousands = "\u202f"};
+inline const Region swiss{.decimal = ".", .thousands = "\u2019"};
 inline const Region olderFrench{.decimal = ",", .thousands = "\u00a0"};
 
 } // namespace ondelis::test
