@@ -2,7 +2,6 @@
 
 #include <QApplication>
 #include <QCloseEvent>
-#include <QIcon>
 #include <QMenuBar>
 #include <QScreen>
 #include <QShortcut>
@@ -14,6 +13,7 @@
 #include "shell/Menu.h"
 #include "view/ClientArea.h"
 #include "view/ControlWidget.h"
+#include "view/Icon.h"
 #include "view/Scale.h"
 #include "view/View.h"
 
@@ -43,7 +43,7 @@ void MainWindow::paintEvent(QPaintEvent* event)
 {
     QMainWindow::paintEvent(event);
     if (!std::exchange(painted_, true)) // the icon is a drawing: it must not hold up the first sight of the window
-        QTimer::singleShot(0, this, [] { QApplication::setWindowIcon(QIcon{QStringLiteral(":/ondelis.svg")}); });
+        QTimer::singleShot(0, this, [] { QApplication::setWindowIcon(programIcon()); });
 }
 
 void MainWindow::showEvent(QShowEvent* event)

@@ -14,6 +14,7 @@ from desktop import PATIENCE, french_settings, until, without_plugins
 from person import Atspi, Role
 
 DUSK = "3D4A5D"  # the colour that stands for the picture of the client area
+WAVE = "FFD166"  # the colour of the wave in the icon
 
 
 class Hardships(DesktopCase):
@@ -47,6 +48,7 @@ class Hardships(DesktopCase):
         panel = self.person.find(Role.FRAME, "HB9CV pour bandes HF")
         place = Atspi.Component.get_extents(panel, Atspi.CoordType.SCREEN)
         self.assertNotEqual(self.desktop.color(place.x + 20, place.y + 40), DUSK)
+        self.assertIn(WAVE, [self.desktop.color(place.x + 13, place.y + y) for y in range(4, 12)])  # in the title bar
         self.open_section()
         until(lambda: self.desktop.color(place.x + 20, place.y + 40) == DUSK, "a plain area where the panel was")
         self.person.pick("Fin de travail", "Quitter")
