@@ -2,9 +2,9 @@
 
 namespace ondelis {
 
-void Term::raise() const
+void Term::raise(FaultKind kind)
 {
-    throw Fault{static_cast<FaultKind>(std::bit_cast<std::uint64_t>(value_) & 0xFFU)};
+    throw Fault{kind};
 }
 
 } // namespace ondelis

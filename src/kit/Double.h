@@ -51,9 +51,7 @@ public:
         : value_{static_cast<Double>(number).value()}
     {
     }
-    explicit constexpr Term(FaultKind kind) : value_{std::bit_cast<double>(quietNan | static_cast<std::uint64_t>(kind))}
-    {
-    }
+    explicit constexpr Term(FaultKind kind) : fault_{kind} { }
 
     /// The number, or an overflow for an infinity or a not-a-number.
     static constexpr Term checked(double value) { return finite(value) ? Term{value} : Term{FaultKind::Overflow}; }
@@ -63,21 +61,21 @@ public:
     [[nodiscard]] constexpr double value() const
     {
         if (faulty()) [[unlikely]]
-            raise();
+            raise(fault_);
         return value_;
     }
 
     /// Whether a fault was met; a function gives it on as it is.
-    [[nodiscard]] constexpr bool faulty() const { return !finite(value_); }
+    [[nodiscard]] constexpr bool faulty() const { return fault_ != none; }
 
     friend constexpr Term operator+(Term a, Term b) { return result(a, b, a.value_ + b.value_); }
     friend constexpr Term operator-(Term a, Term b) { return result(a, b, a.value_ - b.value_); }
     friend constexpr Term operator*(Term a, Term b) { return result(a, b, a.value_ * b.value_); }
     friend constexpr Term operator/(Term a, Term b)
     {
-        if (b.value_ == 0 && !a.faulty()) [[unlikely]]
-            return Term{a.value_ == 0 ? FaultKind::Overflow : FaultKind::DivisionByZero};
-        return result(a, b, a.value_ / b.value_);
+        if (b.value_ != 0) [[likely]]
+            return result(a, b, a.value_ / b.value_);
+        return result(a, b, Term{a.value_ == 0 ? FaultKind::Overflow : FaultKind::DivisionByZero});
     }
     friend constexpr Term operator-(Term a) { return a.faulty() ? a : Term{-a.value_}; }
 
@@ -94,23 +92,30 @@ public:
     }
 
 private:
-    static constexpr double largest = 1.7976931348623157e308;
-    /// A fault is kept in the lowest bits of a not-a-number.
-    static constexpr std::uint64_t quietNan = 0x7FF8'0000'0000'0000;
+    static constexpr FaultKind none{-1}; ///< no kind of fault
 
-    static constexpr bool finite(double value) { return value <= largest && value >= -largest; }
-
-    /// The value of an operation, unless one of its operands is a fault already: the left one counts first.
-    static constexpr Term result(Term a, Term b, double value)
+    /// By the exponent, which all ones make an infinity or a not-a-number. No comparison: of `x * 10 > largest` GCC 13
+    /// and 14 conclude, wrongly, that x is infinite too, and bend what else is computed with x.
+    static constexpr bool finite(double value)
     {
-        if (finite(value)) [[likely]]
-            return value;
-        return a.faulty() ? a : b.faulty() ? b : Term{FaultKind::Overflow};
+        constexpr std::uint64_t exponent = 0x7FF0'0000'0000'0000;
+        return (std::bit_cast<std::uint64_t>(value) & exponent) != exponent;
     }
 
-    [[noreturn]] void raise() const;
+    /// What an operation gives, unless one of its operands is a fault already: the left one counts first.
+    static constexpr Term result(Term a, Term b, Term given) { return a.faulty() ? a : b.faulty() ? b : given; }
+    /// The same, with one branch where all is well.
+    static constexpr Term result(Term a, Term b, double given)
+    {
+        if (!a.faulty() && !b.faulty() && finite(given)) [[likely]]
+            return given;
+        return result(a, b, Term{FaultKind::Overflow});
+    }
 
-    double value_;
+    [[noreturn]] static void raise(FaultKind kind);
+
+    double value_ = 0;
+    FaultKind fault_ = none;
 };
 
 } // namespace ondelis

@@ -24,7 +24,14 @@ namespace ondelis::fuzz {
 namespace {
 
 constexpr int stepsOfAUser = 250;
-constexpr double longestStep = 2; ///< seconds of the session's own processor time
+
+/// What a session is played for.
+struct Aim {
+    double longestStep; ///< seconds of the session's own processor time
+    bool digests;
+};
+constexpr Aim findings{.longestStep = 2, .digests = false};
+constexpr Aim comparison{.longestStep = 60, .digests = true};
 
 /// What the session's process tells of itself. It begins as zeros.
 struct Log { // NOLINT(cppcoreguidelines-pro-type-member-init): the memory that it is made in is all zeros
@@ -34,6 +41,7 @@ struct Log { // NOLINT(cppcoreguidelines-pro-type-member-init): the memory that 
     std::atomic<double> stepBegan; ///< seconds of processor time
     std::array<char, 64> subject;
     std::array<char, 64> fault;
+    std::uint64_t digest;
     std::array<char, capacity> lines;
 };
 
@@ -80,10 +88,17 @@ std::string_view subjectOf(std::string_view command)
     return target.substr(0, target.find_first_of(". "));
 }
 
+/// Takes a text into a digest: FNV-1a, which is the same everywhere.
+void digest(std::uint64_t& sum, std::string_view text)
+{
+    for (const char byte : text)
+        sum = (sum ^ static_cast<unsigned char>(byte)) * 0x100000001B3;
+}
+
 /// The program in the session's process.
 class Session {
 public:
-    explicit Session(Log& log) : log_{log} { }
+    Session(Log& log, bool digests) : log_{log}, digests_{digests} { }
 
     [[nodiscard]] const Desk& desk() const { return pilote_.desk(); }
     [[nodiscard]] bool over() const { return desk().ended() || log_.length + 2048 > Log::capacity; }
@@ -102,16 +117,25 @@ public:
             log_.length = before;
         else if (reply["fault"].is_string())
             keep(log_.fault, reply["fault"].get<std::string>());
+        if (digests_)
+            for (const std::string& seen : {command, text(reply), text(pilote_.answer("state"))})
+                digest(log_.digest, seen);
     }
 
 private:
+    static std::string text(const pilote::Json& json)
+    {
+        return json.dump(-1, ' ', false, pilote::Json::error_handler_t::replace);
+    }
+
     Log& log_;
+    bool digests_;
     pilote::Pilote pilote_;
 };
 
 /// Waits for the end of the session's process, and ends it where a step takes too long. Says what was wrong
 /// with its end, "" for nothing.
-std::string watch(pid_t child, const Log& log)
+std::string watch(pid_t child, const Log& log, double longestStep)
 {
     sigset_t ends;
     sigemptyset(&ends);
@@ -135,7 +159,7 @@ std::string watch(pid_t child, const Log& log)
     return WEXITSTATUS(status) == 0 ? "" : "the process ended with status " + std::to_string(WEXITSTATUS(status));
 }
 
-Outcome play(const std::function<void(Session&)>& what)
+Outcome play(const Aim& aim, const std::function<void(Session&)>& what)
 {
     SharedLog shared;
     Log& log = *shared;
@@ -143,13 +167,14 @@ Outcome play(const std::function<void(Session&)>& what)
     if (child == -1)
         throw std::runtime_error{"no process for a session"};
     if (child == 0) {
-        Session session{log};
+        Session session{log, aim.digests};
         what(session);
         std::exit(0); // leaks are looked for on the way out
     }
-    Outcome outcome{.commands = {}, .subject = {}, .fault = {}, .trouble = watch(child, log)};
+    Outcome outcome{.commands = {}, .subject = {}, .fault = {}, .trouble = watch(child, log, aim.longestStep)};
     outcome.subject = log.subject.data();
     outcome.fault = log.fault.data();
+    outcome.digest = log.digest;
     std::string_view lines{log.lines.data(), log.length};
     while (!lines.empty()) {
         outcome.commands.emplace_back(lines.substr(0, lines.find('\n')));
@@ -158,11 +183,9 @@ Outcome play(const std::function<void(Session&)>& what)
     return outcome;
 }
 
-} // namespace
-
-Outcome playUser(std::uint64_t seed)
+Outcome playUser(const Aim& aim, std::uint64_t seed)
 {
-    return play([seed](Session& session) {
+    return play(aim, [seed](Session& session) {
         RandomUser user{seed};
         session.carryOut(user.region());
         session.carryOut("start");
@@ -171,9 +194,21 @@ Outcome playUser(std::uint64_t seed)
     });
 }
 
+} // namespace
+
+Outcome playUser(std::uint64_t seed)
+{
+    return playUser(findings, seed);
+}
+
+Outcome watchUser(std::uint64_t seed)
+{
+    return playUser(comparison, seed);
+}
+
 Outcome playAgain(const std::vector<std::string>& commands)
 {
-    return play([&commands](Session& session) {
+    return play(findings, [&commands](Session& session) {
         [[maybe_unused]] const std::FILE* const silence
             = std::freopen("/dev/null", "w", stderr); // the sanitizers have reported it already
         for (const std::string& command : commands)

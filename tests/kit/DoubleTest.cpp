@@ -5,7 +5,6 @@
 #include <limits>
 
 #include "Support.h"
-#include "kit/Maths.h"
 
 namespace ondelis {
 namespace {
@@ -88,37 +87,6 @@ TEST(Double, aResultTooSmallBecomesZeroOrSubnormalInSilence)
     EXPECT_EQ(Double{1e-200} * 1e-200, 0);
     EXPECT_EQ(Double{tiniest} / 2, 0);
     EXPECT_EQ(Double{1e-300} * 1e-20, 1e-320);
-}
-
-TEST(Term, ofTwoFaultsTheLeftOneEndsTheFormula)
-{
-    const Double zero;
-    const Double big = largest;
-    EXPECT_EQ(faultOf([&] { return 1 / zero + big * 2; }), FaultKind::DivisionByZero);
-    EXPECT_EQ(faultOf([&] { return big * 2 + 1 / zero; }), FaultKind::Overflow);
-    EXPECT_EQ(faultOf([&] { return Log(-1) / zero; }), FaultKind::InvalidArgument);
-    EXPECT_EQ(faultOf([&] { return (1 / zero) * Sqr(-1); }), FaultKind::DivisionByZero);
-    EXPECT_EQ(faultOf([&] { return Sqr(-1) * (1 / zero); }), FaultKind::InvalidArgument);
-    EXPECT_EQ(faultOf([&] { return Pow(1 / zero, Log(-1)); }), FaultKind::DivisionByZero);
-    EXPECT_EQ(faultOf([&] { return 1 / zero < Log(-1); }), FaultKind::DivisionByZero);
-    EXPECT_EQ(faultOf([&] { return Log(-1) == 1 / zero; }), FaultKind::InvalidArgument);
-}
-
-TEST(Term, givesAFaultOnThroughOperationsAndFunctions)
-{
-    const Term fault{FaultKind::InvalidPropertyValue};
-    for (const Term& term :
-        {fault + 1, 1 - fault, fault * 0, 0 / fault, fault / 0, -fault, Fix(fault), Int(fault), Abs(fault), Sqr(fault),
-            Log(fault), Log10(fault), Pow(fault, 0), Pow(2, fault), Atn(fault), Sin(fault), Cos(fault)})
-        EXPECT_EQ(faultOf([&] { return term; }), FaultKind::InvalidPropertyValue);
-}
-
-TEST(Term, throwsItsFaultWhereItBecomesADouble)
-{
-    const Term pending = 1 / Double{};
-    EXPECT_TRUE(pending.faulty());
-    EXPECT_EQ(faultOf([&] { return Double{pending}; }), FaultKind::DivisionByZero);
-    EXPECT_EQ(faultOf([&] { return Sgn(pending); }), FaultKind::DivisionByZero);
 }
 
 } // namespace
