@@ -36,14 +36,14 @@ Process::~Process()
     waitpid(id_, nullptr, 0);
 }
 
-long Process::residentKilobytes() const
+double Process::megabytes(std::string_view name) const
 {
     std::ifstream status{"/proc/" + std::to_string(id_) + "/status"};
     for (std::string word; status >> word;)
-        if (word == "VmRSS:") {
-            long kilobytes = 0;
+        if (word == name) {
+            double kilobytes = 0;
             status >> kilobytes;
-            return kilobytes;
+            return kilobytes / 1024;
         }
     throw std::runtime_error{"the program has ended"};
 }

@@ -3,6 +3,7 @@
 #include <sys/types.h>
 
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace ondelis::bench {
@@ -17,10 +18,14 @@ public:
     Process(const Process&) = delete;
     Process& operator=(const Process&) = delete;
 
-    /// Kilobytes of memory that it holds now.
-    [[nodiscard]] long residentKilobytes() const;
+    /// Megabytes of memory that it holds now, and the most that it has held.
+    [[nodiscard]] double residentMegabytes() const { return megabytes("VmRSS:"); }
+    [[nodiscard]] double peakMegabytes() const { return megabytes("VmHWM:"); }
 
 private:
+    /// A figure of its status, by its name in proc(5).
+    [[nodiscard]] double megabytes(std::string_view name) const;
+
     pid_t id_ = 0;
 };
 

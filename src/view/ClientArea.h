@@ -1,9 +1,9 @@
 #pragma once
 
-#include <QImage>
 #include <QMdiArea>
 #include <QPointer>
-#include <QTimer>
+
+#include "view/Background.h"
 
 namespace ondelis {
 
@@ -22,14 +22,9 @@ protected:
     void scrollContentsBy(int dx, int dy) override;
 
 private:
-    /// The picture, decoded where it is not at hand; null where the toolkit cannot read it.
-    const QImage& picture();
-
     QPointer<const QWidget> inSight_; ///< what was brought into sight last
-    QImage picture_;
-    QTimer idle_; ///< lets the picture go when nothing has been painted for a while: decoded, it is large
+    Background background_;
     bool onScreen_ = false;
-    bool readable_ = true; ///< as far as it has been tried
 };
 
 } // namespace ondelis

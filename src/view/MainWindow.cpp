@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QCloseEvent>
+#include <QIcon>
 #include <QMenuBar>
 #include <QScreen>
 #include <QShortcut>
@@ -13,11 +14,22 @@
 #include "shell/Menu.h"
 #include "view/ClientArea.h"
 #include "view/ControlWidget.h"
-#include "view/Icon.h"
 #include "view/Scale.h"
 #include "view/View.h"
 
 namespace ondelis {
+
+namespace {
+
+QIcon icon()
+{
+    QIcon icon;
+    for (const char* file : {":/icon/16.png", ":/icon/32.png", ":/icon/64.png", ":/icon/128.png"})
+        icon.addFile(QString::fromLatin1(file));
+    return icon;
+}
+
+} // namespace
 
 MainWindow::MainWindow(View& view, MDIOndelis& frame) : view_{view}, frame_{frame}, area_{new ClientArea{this}}
 {
@@ -42,8 +54,8 @@ void MainWindow::closeEvent(QCloseEvent* event)
 void MainWindow::paintEvent(QPaintEvent* event)
 {
     QMainWindow::paintEvent(event);
-    if (!std::exchange(painted_, true)) // the icon is a drawing: it must not hold up the first sight of the window
-        QTimer::singleShot(0, this, [] { QApplication::setWindowIcon(programIcon()); });
+    if (!std::exchange(painted_, true)) // the icon must not hold up the first sight of the window
+        QTimer::singleShot(0, this, [] { QApplication::setWindowIcon(icon()); });
 }
 
 void MainWindow::showEvent(QShowEvent* event)

@@ -124,6 +124,11 @@ class Program:
     def runs(self) -> bool:
         return self._process.poll() is None
 
+    def memory(self, figure: str) -> int:
+        """Kilobytes of memory: VmRSS for what it holds now, VmHWM for the most that it has held."""
+        status = Path(f"/proc/{self.id}/status").read_text()
+        return next(int(line.split()[1]) for line in status.splitlines() if line.startswith(figure))
+
     def exit_status(self) -> int:
         """Waits for the end. A signal that ended the program is a negative status."""
         return self._process.wait(PATIENCE)

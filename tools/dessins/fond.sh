@@ -5,4 +5,4 @@ set -eu
 cd "$(dirname "$0")/../../resources"
 rsvg-convert -w 1280 -h 942 fond.svg |
     convert png:- -alpha off -seed 7 -attenuate 0.12 +noise Gaussian \
-        -strip -sampling-factor 4:2:0 -interlace JPEG -quality 88 fond.jpg
+        -strip -sampling-factor 4:2:0 -quality 88 fond.jpg
