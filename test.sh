@@ -10,7 +10,7 @@ jobs=$(nproc)
 code=(src tests tools bench)
 
 check_scripts() {
-    shellcheck -x ./*.sh tools/*.sh tools/*/*.sh packaging/*.sh .ci/run
+    shellcheck -x ./*.sh tools/*.sh tools/*/*.sh packaging/*.sh debian/tests/panel .ci/run
 }
 
 check_format() {
@@ -34,19 +34,25 @@ check_drawings() (
         diff -r resources "$copy/resources" && diff tools/dessins/README.md "$copy/tools/dessins/README.md"
 )
 
+build_release() {
+    local flags
+    mapfile -t flags < <(debian/rules flags) && build release "${flags[@]}"
+}
+
 run_tests() {
     ctest --preset "$1" -j"$jobs"
 }
 
-make_package() (
-    cd build/release && cpack -G DEB
-)
+# Of the build that was tested, beside it.
+make_package() {
+    dh_clean && BUILT=build/release debian/rules binary
+}
 
 step "Packages" tools/install-packages.sh program screen checks
 step "Scripts (shellcheck)" check_scripts
 step "Layout (clang-format)" check_format
 step "Drawings" check_drawings
-step "Release build, warnings as errors" build release
+step "Release build, as for a package, warnings as errors" build_release
 step "Lint (clang-tidy)" check_tidy
 step "Tests (release)" run_tests release
 step "Debian package" make_package

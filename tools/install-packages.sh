@@ -31,7 +31,7 @@ for group; do
             # A region with a decimal comma, for tests
             packages+=(locales)
             # The package and what people install
-            packages+=(dpkg-dev lintian desktop-file-utils appstream man-db)
+            packages+=(debhelper lintian desktop-file-utils appstream man-db)
             ;;
         *)
             sed -n '2,8s/^# \?//p' "${BASH_SOURCE[0]}" >&2

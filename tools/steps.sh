@@ -24,11 +24,16 @@ report() {
     printf 'in all %6d s\n' "$SECONDS"
 }
 
-# build PRESET [TARGET...]. A folder that could not be configured holds what it found of the compiler: it goes.
+# build PRESET [-DSETTING...] [TARGET...]. A folder that could not be configured holds what it found of the compiler: it
+# goes.
 build() {
-    local preset=$1
+    local preset=$1 settings=()
     shift
-    if ! cmake --preset "$preset" --log-level=WARNING; then
+    while [[ ${1-} == -D* ]]; do
+        settings+=("$1")
+        shift
+    done
+    if ! cmake --preset "$preset" --log-level=WARNING "${settings[@]}"; then
         [[ -e build/$preset/build.ninja ]] || rm -rf "build/$preset"
         return 1
     fi
