@@ -36,6 +36,7 @@ public:
     ListBox PartList{this, "PartList", {.Items = {"a", "b"}, .at = {2880, 1140, 600, 480}, .label = &CutLabel}};
     ListBox BlankList{this, "BlankList", {.Items = {"a", "b"}, .at = {2880, 1740, 600, 780}, .label = &CutLabel}};
     OptionButton HighOption{this, "HighOption", {.Caption = "Rho", .at = {4200, 1740, 900, 345}}};
+    Label LowTitle{this, "LowTitle", {.Caption = "Rho", .at = {4200, 2160, 900, 255}, .font = {.bold = true}}};
     OptionButton CutOption{this, "CutOption", {.Caption = "Rho optimum", .at = {3600, 240, 600, 300}}};
     CommandButton CutButton{this, "CutButton", {.Caption = "Calculer", .at = {3600, 600, 480, 375}}};
     Label NoCaption{this, "NoCaption", {.at = {4200, 1440, 600, 255}}};

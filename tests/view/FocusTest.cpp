@@ -109,7 +109,7 @@ private slots:
         Reader reader{{"Non"}};
         reader.meanwhile = [&] {
             QWidget& box = *QApplication::activeModalWidget();
-            QTRY_VERIFY(box.isActiveWindow());
+            QVERIFY(QTest::qWaitFor([&] { return box.isActiveWindow(); }));
             const QWidget& yes = *box.focusWidget();
             const QImage with = picture(yes, box);
             QTest::keyClick(&box, Qt::Key_Tab);

@@ -20,6 +20,7 @@ constexpr int fewRows = 8;
 
 // In twips.
 constexpr double optionHeight = 300;
+constexpr double boldHeight = 315;
 constexpr double listRow = 240;
 constexpr double listBorders = 60;
 
@@ -104,6 +105,10 @@ private:
         const double height = control_->at().Height;
         if (dynamic_cast<const OptionButton*>(control_) != nullptr && height != optionHeight)
             fault(QStringLiteral("the option is not as high as all others"));
+        // In some fonts bold capitals with accents are higher than a plain caption.
+        if (const auto* const label = dynamic_cast<const Label*>(control_);
+            label != nullptr && label->design().font.bold && height < boldHeight)
+            fault(QStringLiteral("the bold caption is lower than a field"));
         const auto* const list = dynamic_cast<const ListBox*>(control_);
         if (list == nullptr)
             return;

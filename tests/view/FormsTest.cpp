@@ -38,6 +38,7 @@ private slots:
             QStringLiteral("PartList: the list cuts a row"),
             QStringLiteral("BlankList: the list is blank below its last row"),
             QStringLiteral("HighOption: the option is not as high as all others"),
+            QStringLiteral("LowTitle: the bold caption is lower than a field"),
             QStringLiteral("CutOption: the text \"Rho optimum\" is cut"),
             QStringLiteral("CutButton: the text \"Calculer\" is cut"),
             QStringLiteral("NamelessOption: it has no name for a screen reader"),

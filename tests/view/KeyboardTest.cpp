@@ -229,7 +229,7 @@ private slots:
         Program program;
         program.open<TestPanel>();
         press(program, Qt::Key_F10);
-        QTRY_VERIFY(QApplication::activePopupWidget() != nullptr);
+        QVERIFY(QTest::qWaitFor([] { return QApplication::activePopupWidget() != nullptr; }));
         pressInMenu(program, Qt::Key_Escape);
         pressInMenu(program, Qt::Key_Escape);
         QCOMPARE(focused(), QStringLiteral("TxtA"));
@@ -243,13 +243,14 @@ private slots:
         press(program, Qt::Key_Left); // round to the last menu, then to the last but one
         press(program, Qt::Key_Left);
         press(program, Qt::Key_Down);
-        QTRY_VERIFY(QApplication::activePopupWidget() != nullptr);
+        QVERIFY(QTest::qWaitFor([] { return QApplication::activePopupWidget() != nullptr; }));
         pressInMenu(program, Qt::Key_Down);
         pressInMenu(program, Qt::Key_Return);
-        QTRY_COMPARE(program.desk.loadedPanels().size(), std::size_t{2}); // the test's own panel stays
+        // The test's own panel stays.
+        QVERIFY(QTest::qWaitFor([&] { return program.desk.loadedPanels().size() == 2; }));
         QCOMPARE(program.desk.loadedPanels().back()->design().name, std::string{"SectionDiametre"});
         QCOMPARE(menuBar(program).activeAction(), nullptr);
-        QTRY_COMPARE(focused(), QStringLiteral("TxtS"));
+        QVERIFY(QTest::qWaitFor([] { return focused() == QStringLiteral("TxtS"); }));
         QTest::keyClicks(QApplication::focusWidget(), QStringLiteral("2"));
         QCOMPARE(program.desk.focused()->name(), std::string{"TxtS"});
     }
@@ -270,7 +271,7 @@ private slots:
         QCOMPARE(focused(), QStringLiteral("TxtZCharge")); // where it was
         press(program, Qt::Key_F4, Qt::ControlModifier);
         QVERIFY(!filter.loaded());
-        QTRY_COMPARE(focused(), QStringLiteral("TxtS"));
+        QVERIFY(QTest::qWaitFor([] { return focused() == QStringLiteral("TxtS"); }));
         press(program, Qt::Key_F4, Qt::ControlModifier);
         QVERIFY(!companion.loaded());
     }

@@ -11,7 +11,7 @@ public:
     explicit CalculSurTores(Desk& desk);
 
     // clang-format off
-    Label      Label1              {this, "Label1",               {.Caption = "Tores à fer pulvérisé",    .at = {240, ligne(0) + 30, 3900, 255}, .font = {.bold = true}}};
+    Label      Label1              {this, "Label1",               {.Caption = "Tores à fer pulvérisé",    .at = {240, ligne(0), 3900, 315}, .font = {.bold = true}}};
     Label      Label3              {this, "Label3",               {.Caption = "AL (µH par 100 tours)",    .at = {240, ligne(1) + 30, 2520, 255}}};
     TextBox    TxtAlFerPulverise   {this, "TxtAlFerPulverise",    {.at = {2820, ligne(1), 1320, 315}, .label = &Label3}, &CalculSurTores::TxtAlFerPulverise_Change};
     Label      Label4              {this, "Label4",               {.Caption = "Diamètre intérieur en mm", .at = {240, ligne(2) + 30, 2520, 255}}};
@@ -28,7 +28,7 @@ public:
 
     Line       Line1               {this, "Line1",                {.X1 = 5190, .Y1 = 240, .X2 = 5190, .Y2 = ligne(7.75) + 315, .BorderColor = 0x808080}};
 
-    Label      Label2              {this, "Label2",               {.Caption = "Tores en ferrites",        .at = {5520, ligne(0) + 30, 3900, 255}, .font = {.bold = true}}};
+    Label      Label2              {this, "Label2",               {.Caption = "Tores en ferrites",        .at = {5520, ligne(0), 3900, 315}, .font = {.bold = true}}};
     Label      Label9              {this, "Label9",               {.Caption = "AL (mH par 1000 tours)",   .at = {5520, ligne(1) + 30, 2520, 255}}};
     TextBox    TxtAlFerrite        {this, "TxtAlFerrite",         {.at = {8100, ligne(1), 1320, 315}, .label = &Label9}, &CalculSurTores::TxtAlFerrite_Change};
     Label      Label10             {this, "Label10",              {.Caption = "Diamètre intérieur en mm", .at = {5520, ligne(2) + 30, 2520, 255}}};
