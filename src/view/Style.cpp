@@ -1,6 +1,5 @@
 #include "view/Style.h"
 
-#include <QAbstractScrollArea>
 #include <QPainter>
 #include <QStyleOption>
 
@@ -80,14 +79,17 @@ void Style::drawComplexControl(
     ComplexControl control, const QStyleOptionComplex* option, QPainter* painter, const QWidget* widget) const
 {
     const auto* const title = qstyleoption_cast<const QStyleOptionTitleBar*>(option);
-    if (control != CC_TitleBar || title == nullptr || (title->titleBarState & State_Active) == 0) {
+    const bool active = title != nullptr && (title->titleBarState & State_Active) != 0;
+    if (control != CC_TitleBar || title == nullptr || !(active || isDark(title->palette))) {
         QProxyStyle::drawComplexControl(control, option, painter, widget);
         return;
     }
-    // Fusion writes an active title in white, on a shadow of the text's colour.
+    // Fusion writes an active title in white, on a shadow of the text's colour. Of an inactive one it crosses the
+    // close box in black: on a dark window that one is an active title too, on the window's colour.
     QStyleOptionTitleBar mended{*title};
-    mended.palette.setColor(
-        QPalette::Highlight, readable(title->palette.color(QPalette::Highlight), Qt::white, titleContrast));
+    const QColor ground = title->palette.color(active ? QPalette::Highlight : QPalette::Window);
+    mended.titleBarState |= State_Active;
+    mended.palette.setColor(QPalette::Highlight, readable(ground, Qt::white, titleContrast));
     mended.palette.setColor(QPalette::Text, Qt::black);
     QProxyStyle::drawComplexControl(control, &mended, painter, widget);
 }
@@ -103,12 +105,13 @@ void Style::drawPrimitive(
     }
     if (const auto* const frame = qstyleoption_cast<const QStyleOptionFrame*>(option);
         frame != nullptr && (element == PE_FrameLineEdit || element == PE_Frame)) {
-        // A list has the edge of a field, so that it shows the keyboard too; drawings have a quiet one.
-        const bool drawing = element == PE_Frame && qobject_cast<const QAbstractScrollArea*>(widget) == nullptr;
-        const QStyleOptionFrame mended = seen(*frame, drawing ? quietContrast : lineContrast);
-        QProxyStyle::drawPrimitive(drawing ? PE_Frame : PE_FrameLineEdit, &mended, painter, widget);
+        // A list has the edge of a field, so that it shows the keyboard too.
+        const QStyleOptionFrame mended = seen(*frame, lineContrast);
+        QProxyStyle::drawPrimitive(PE_FrameLineEdit, &mended, painter, widget);
         return;
     }
+    if (element == PE_FrameFocusRect)
+        return; // the focus frame marks the control with the keyboard, and one mark is enough
     if (element == PE_FrameGroupBox && isDark(option->palette)) {
         drawLightFrame(*option, *painter, widget);
         return;

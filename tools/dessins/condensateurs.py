@@ -2,8 +2,8 @@
 
 from __future__ import annotations
 
-from sheet import (COPPER, COPPER_PALE, DIELECTRIC, DIM, HEAVY, INK, MARKING, METAL, PAPER, THIN, WORD, Point, Sheet,
-                   number, picture, polar)
+from sheet import (BLACK_PART, COPPER, COPPER_PALE, DIELECTRIC, DIM, HEAVY, MARK, MARKING, METAL, PAPER, THIN, WORD,
+                   Point, Sheet, number, picture, polar)
 from symbols import block, capacitor, current_source, junction, lamp, switch
 
 
@@ -26,8 +26,8 @@ def cms(s: Sheet) -> None:
     """A chip resistor from above, with its marking, its length and its width."""
     x, y, length, width, end = 22.0, 14.0, 116.0, 64.0, 20.0
     s.rect(x, y, length, width, fill=METAL)
-    s.rect(x + end, y, length - 2 * end, width, fill=INK)
-    s.text(x + length / 2, y + width / 2, "103", MARKING, colour=PAPER)
+    s.rect(x + end, y, length - 2 * end, width, fill=BLACK_PART)
+    s.text(x + length / 2, y + width / 2, "103", MARKING, colour=MARK)
     s.dimension((x, y + width), (x + length, y + width), "Longueur", -24)
     s.dimension((x + length, y + width), (x + length, y), "Largeur", -40)
 
