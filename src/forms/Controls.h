@@ -303,7 +303,7 @@ private:
     Design design_;
 };
 
-/// A drawing. `PictureBox` has a border, `Image` has none.
+/// A drawing. Its two kinds differ in name only.
 class Picture : public Control {
 public:
     struct Design {

@@ -1,6 +1,7 @@
 #include "view/Style.h"
 
 #include <QAbstractScrollArea>
+#include <QPainter>
 #include <QStyleOption>
 
 #include "view/Colors.h"
@@ -142,16 +143,19 @@ void Style::drawComplexControl(
         return;
     }
     const auto* const title = qstyleoption_cast<const QStyleOptionTitleBar*>(option);
-    if (control != CC_TitleBar || title == nullptr || (title->titleBarState & State_Active) == 0) {
+    const bool active = title != nullptr && (title->titleBarState & State_Active) != 0;
+    if (control != CC_TitleBar || title == nullptr || !(active || isDark(title->palette))) {
         QProxyStyle::drawComplexControl(control, option, painter, widget);
         if (control == CC_TitleBar)
             fillRim(*painter, option->rect, titleGround(option->rect, option->palette.color(QPalette::Window)));
         return;
     }
-    // Fusion writes an active title in white, on a shadow of the text's colour.
+    // Fusion writes an active title in white, on a shadow of the text's colour. Of an inactive one it crosses the
+    // close box in black: on a dark window that one is an active title too, on the window's colour.
     QStyleOptionTitleBar mended{*title};
-    mended.palette.setColor(
-        QPalette::Highlight, readable(title->palette.color(QPalette::Highlight), Qt::white, titleContrast));
+    const QColor ground = title->palette.color(active ? QPalette::Highlight : QPalette::Window);
+    mended.titleBarState |= State_Active;
+    mended.palette.setColor(QPalette::Highlight, readable(ground, Qt::white, titleContrast));
     mended.palette.setColor(QPalette::Text, Qt::black);
     QProxyStyle::drawComplexControl(control, &mended, painter, widget);
     fillRim(*painter, title->rect, titleGround(title->rect, mended.palette.color(QPalette::Highlight)));
@@ -174,14 +178,11 @@ void Style::drawPrimitive(
     case PE_FrameLineEdit:
         drawFieldEdge(*painter, *option);
         return;
-    case PE_Frame:
-        // A list has the edge of a field, so that it shows the keyboard too; drawings have a quiet one.
-        if (qobject_cast<const QAbstractScrollArea*>(widget) != nullptr) {
-            fillInside(*painter, option->rect, option->palette.color(QPalette::Base));
-            drawFieldEdge(*painter, *option);
-        } else {
-            drawEdge(*painter, option->rect, edgeColor(option->palette, quietContrast));
-        }
+    case PE_Frame: // a list has the edge of a field, so that it shows the keyboard too
+        fillInside(*painter, option->rect, option->palette.color(QPalette::Base));
+        drawFieldEdge(*painter, *option);
+        return;
+    case PE_FrameFocusRect: // the focus frame marks the control with the keyboard, and one mark is enough
         return;
     case PE_FrameGroupBox:
         drawEdge(*painter, option->rect, edgeColor(option->palette, quietContrast), Corners::Cut);

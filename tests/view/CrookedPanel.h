@@ -45,6 +45,9 @@ public:
     Label Under{this, "Under", {.Caption = "R", .at = {240, 1320, 900, 255}}};
     TextBox Over{this, "Over", {.at = {900, 1320, 900, 315}, .label = &Under}};
     Image Missing{this, "Missing", {.picture = "aucun", .at = {240, 1800, 900, 900}}};
+    Image Stretched{this, "Stretched", {.picture = "section-diametre", .at = {1200, 1800, 600, 735}}};
+    Label Small{this, "Small", {.Caption = "C", .at = {1200, 2400, 600, 255}, .font = {.size = 8}}};
+    Label Covered{this, "Covered", {.Caption = "R", .at = {360, 4380, 600, 255}}}; // by CutArea: on purpose
     Label Hidden{this, "Hidden", {.Caption = "Cachée, mais trop longue", .at = {240, 240, 60, 60}, .Visible = false}};
     Frame CutFrame{this, "CutFrame", {.Caption = "Caractéristiques", .at = {240, 2880, 900, 1200}}};
     Frame Frame1{this, "Frame1", {.Caption = "Cadre", .at = {1800, 2880, 1800, 1200}}};

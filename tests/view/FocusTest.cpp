@@ -87,6 +87,19 @@ private slots:
         }
     }
 
+    void theFrameIsTheOnlyMark()
+    {
+        Program program;
+        auto& panel = program.open<TestPanel>();
+        program.store([&] { panel.OptX.Value = true; });
+        QWidget& option = program.widget(panel.OptX);
+        program.widget(panel.TxtC).setFocus();
+        const QImage before = option.grab().toImage();
+        option.setFocus(Qt::TabFocusReason);
+        QVERIFY(option.hasFocus());
+        QCOMPARE(option.grab().toImage(), before);
+    }
+
     void theMarkIsSeenAroundAnOptionWithoutCaption()
     {
         Program program;

@@ -44,6 +44,8 @@ private slots:
             QStringLiteral("NamelessOption: it has no name for a screen reader"),
             QStringLiteral("Beyond: it reaches beyond its panel or frame"),
             QStringLiteral("Missing: there is no drawing aucun"),
+            QStringLiteral("Stretched: the drawing is not shown in its size"),
+            QStringLiteral("Small: its text is not of the size of all others"),
             QStringLiteral("CutFrame: the text \"Caractéristiques\" is cut"),
             QStringLiteral("OnTitle: it covers the title of its frame"),
             QStringLiteral("Under: it overlaps Over"),
