@@ -25,7 +25,7 @@ for group; do
             # The code's shape
             packages+=(clang-format clang-tidy shellcheck)
             # A desktop around the program in its tests, and the eyes of a screen reader
-            packages+=(openbox x11-xserver-utils dbus-daemon at-spi2-core gir1.2-atspi-2.0 python3-gi)
+            packages+=(openbox xfwm4 x11-xserver-utils dbus-daemon at-spi2-core gir1.2-atspi-2.0 python3-gi)
             # The drawings, made anew by tools/dessins
             packages+=(python3)
             # The guide, and what finds fault with its pages
@@ -33,7 +33,7 @@ for group; do
             # A region with a decimal comma, for tests
             packages+=(locales)
             # The package and what people install
-            packages+=(dpkg-dev lintian desktop-file-utils appstream man-db)
+            packages+=(debhelper lintian desktop-file-utils appstream man-db)
             ;;
         *)
             sed -n '2,8s/^# \?//p' "${BASH_SOURCE[0]}" >&2
