@@ -18,8 +18,8 @@ public:
     int pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const override;
 
     /// Cuts no corners off the windows of panels: their edges meet there.
-    int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
-        QStyleHintReturn* returned) const override;
+    int styleHint(
+        StyleHint hint, const QStyleOption* option, const QWidget* widget, QStyleHintReturn* returned) const override;
 
     /// Marks the heading of the menu that the keyboard is on, even while its menu is not open.
     void drawControl(
