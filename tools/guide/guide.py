@@ -102,6 +102,7 @@ class Guide:
         return "\n".join(text)
 
     def _render(self, name, markdown):
+        markdown = markdown.replace("« ", "«\u00a0").replace(" »", "\u00a0»")  # marks stay with their words
         title = next(line[2:] for line in markdown.splitlines() if line.startswith("# "))
         rendered = subprocess.run(
             ["pandoc", "--from=markdown-smart", "--to=html5", "--mathml", "--standalone", "--section-divs", "--wrap=none",
