@@ -49,7 +49,7 @@ unpack() {
 }
 
 # files FOLDER OTHER...: the folder holds what belongs to the program on any system, the others under share, and nothing
-# else; nothing in it is closed to other users.
+# else but the guide; nothing in it is closed to other users.
 files() {
     local folder=$1
     shift
@@ -59,7 +59,8 @@ files() {
             share/icons/hicolor/scalable/apps/ondelis.svg
         printf "share/%s\n" "$@"
     } | LC_ALL=C sort >"$scratch/expected"
-    (cd "$folder" && find . ! -type d -printf '%P\n') | LC_ALL=C sort | diff "$scratch/expected" -
+    (cd "$folder" && find . -path ./share/doc/ondelis/guide -prune -o ! -type d -printf '%P\n') | LC_ALL=C sort |
+        diff "$scratch/expected" -
     silent find "$folder" ! -perm -o=r
 }
 
