@@ -17,7 +17,8 @@ void copyOn(QAction& action, const QString& text)
 /// and the key stands behind it.
 bool copies(const QAction* entry)
 {
-    const auto plain = [](const QString& words) { return words.section(QLatin1Char{'\t'}, 0, 0).remove(QLatin1Char{'&'}); };
+    const auto plain
+        = [](const QString& words) { return words.section(QLatin1Char{'\t'}, 0, 0).remove(QLatin1Char{'&'}); };
     return plain(entry->text()) == plain(QLineEdit::tr("&Copy"));
 }
 

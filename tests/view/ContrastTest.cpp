@@ -174,7 +174,7 @@ private slots:
         const ScopedLook look = palette(true);
         Program program;
         auto& panel = program.open<TestPanel>();
-        for (const Color ground : {0xFFFFC0, 0xFFFF80, 0xFFFF00, 0xC0FFC0, 0xC0E0FF, 0xE0E0E0}) {
+        for (const Color ground : {0xFFFFC0U, 0xFFFF80U, 0xFFFF00U, 0xC0FFC0U, 0xC0E0FFU, 0xE0E0E0U}) {
             program.store([&] { panel.TxtB.BackColor = ground; });
             const QPalette shown = program.widget(panel.TxtB).palette();
             QCOMPARE(shown.color(QPalette::Text), QColor{Qt::white});
