@@ -25,7 +25,7 @@ for group; do
             # The code's shape
             packages+=(clang-format clang-tidy shellcheck)
             # A desktop around the program in its tests, and the eyes of a screen reader
-            packages+=(openbox x11-xserver-utils dbus-daemon at-spi2-core gir1.2-atspi-2.0 python3-gi)
+            packages+=(openbox xfwm4 x11-xserver-utils dbus-daemon at-spi2-core gir1.2-atspi-2.0 python3-gi)
             # The drawings, made anew by tools/dessins
             packages+=(python3)
             # A region with a decimal comma, for tests

@@ -132,4 +132,5 @@ int main()
         measure(subject);
     for (const Sweep& sweep : sweeps())
         measure(sweep);
+    return 0;
 }

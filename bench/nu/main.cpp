@@ -43,7 +43,7 @@ std::array<DropDown, 12> dropDowns()
 
 } // namespace
 
-int main(int argc, char* argv[])
+int main(int argc, char** argv)
 {
     const QApplication application{argc, argv};
     QMainWindow window;

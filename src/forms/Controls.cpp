@@ -19,8 +19,16 @@ void Label::accept(ControlVisitor& visitor)
     visitor.visit(*this);
 }
 
+void Label::storeCaption(std::string caption)
+{
+    written_ = true;
+    if (Caption.keep(std::move(caption)))
+        changed();
+}
+
 void Label::reset()
 {
+    written_ = false;
     Caption.reset(design_.Caption);
     Visible.reset(design_.Visible);
     Top.reset(Double{design_.at.Top});

@@ -14,6 +14,8 @@ namespace ondelis {
 
 /// A fixed caption, or a result written as one.
 class Label final : public Control {
+    void storeCaption(std::string caption);
+
 public:
     struct Design {
         std::string Caption = {};
@@ -26,9 +28,12 @@ public:
     };
     Label(FeuilleCalcul* panel, std::string name, Design design);
 
-    Property<std::string> Caption{*this};
+    ActiveProperty<Label, std::string, &Label::storeCaption> Caption{*this};
     Property<bool> Visible{*this};
     Property<Single> Top{*this};
+
+    /// Whether its caption is one that code has stored since the panel was loaded, be it the one of its design.
+    [[nodiscard]] bool written() const { return written_; }
 
     [[nodiscard]] const Design& design() const { return design_; }
     void accept(ControlVisitor& visitor) override;
@@ -38,6 +43,7 @@ private:
     [[nodiscard]] bool ownVisible() const override { return Visible; }
 
     Design design_;
+    bool written_ = false;
 };
 
 /// A field. Raises `Change` after its text has changed, and `KeyPress` before a key enters it.
@@ -297,7 +303,7 @@ private:
     Design design_;
 };
 
-/// A drawing. `PictureBox` has a border, `Image` has none.
+/// A drawing. Its two kinds differ in name only.
 class Picture : public Control {
 public:
     struct Design {

@@ -1,6 +1,7 @@
 #include "forms/User.h"
 
 #include <algorithm>
+#include <limits>
 
 #include "kit/Text.h"
 
@@ -27,24 +28,32 @@ bool startsCharacter(std::string_view text, std::size_t at)
     return at == text.size() || (static_cast<unsigned char>(text[at]) & 0xC0U) != 0x80U;
 }
 
-/// What an edit leaves of a text: what both have at their start and at their end stays, what stands between them is cut
-/// so that no character lands beyond the limit.
-std::string limited(std::string_view before, std::string_view after, int limit)
+/// Where the first line break of a text stands; its end where there is none.
+std::size_t lineEnd(std::string_view text)
 {
-    auto start = static_cast<std::size_t>(std::ranges::mismatch(before, after).in1 - before.begin());
-    while (!startsCharacter(before, start) || !startsCharacter(after, start))
+    return std::min(text.find_first_of("\r\n"), text.size());
+}
+
+/// What a person may put into a field where there is room for so many characters: a field of one line takes the first
+/// line of it.
+std::string accepted(const TextBox& box, std::string_view put, int room)
+{
+    if (!box.design().multiLine)
+        put = put.substr(0, lineEnd(put));
+    return Left(put, std::max(0, room));
+}
+
+/// What an edit leaves of a text, with the caret behind what it has put in: what stood before and after that stays, and
+/// what was put in as far as the field accepts it.
+std::string edited(const TextBox& box, std::string_view toCaret, std::string_view tail, int limit)
+{
+    const std::string_view before = box.Text.get();
+    auto start = static_cast<std::size_t>(std::ranges::mismatch(before, toCaret).in1 - before.begin());
+    start = std::min(start, before.size() - std::min(before.size(), tail.size())); // the rest is the tail's
+    while (!startsCharacter(before, start) || !startsCharacter(toCaret, start))
         --start;
-    const std::size_t most = std::min(before.size(), after.size()) - start;
-    std::size_t end = 0;
-    while (end < most && before[before.size() - end - 1] == after[after.size() - end - 1])
-        ++end;
-    while (!startsCharacter(after, after.size() - end))
-        --end;
-    const std::string_view head = after.substr(0, start);
-    const std::string_view put = after.substr(start, after.size() - end - start);
-    const std::string_view tail = after.substr(after.size() - end);
-    const int room = std::max(0, limit - Len(head) - Len(tail));
-    return std::string{head} + Left(put, room) + std::string{tail};
+    const std::string_view head = toCaret.substr(0, start);
+    return std::string{head} + accepted(box, toCaret.substr(start), limit - Len(head) - Len(tail)) + std::string{tail};
 }
 
 /// The code of a key as `KeyPress` gets it: "?" for a character that 16 bits do not hold.
@@ -62,6 +71,8 @@ User::Refusal User::type(TextBox& box, std::string_view text)
     while (!text.empty()) {
         const std::string character = Left(text, 1);
         text.remove_prefix(character.size());
+        if (lineEnd(character) == 0 && !box.design().multiLine) // the Enter key puts nothing there
+            continue;
         desk_.perform([&] {
             takeFocus(box);
             box.keyPress(keyCode(codePoint(character)));
@@ -92,22 +103,22 @@ User::Refusal User::backspace(TextBox& box)
 
 User::Refusal User::replace(TextBox& box, std::string_view text)
 {
-    return put(box, text, [&](int limit) { return Left(text, limit); });
+    return put(box, [&](int limit) { return accepted(box, text, limit); });
 }
 
-User::Refusal User::edit(TextBox& box, std::string_view text)
+User::Refusal User::edit(TextBox& box, std::string_view toCaret, std::string_view tail)
 {
-    return put(box, text, [&](int limit) { return limited(box.Text.get(), text, limit); });
+    return put(box, [&](int limit) { return edited(box, toCaret, tail, limit); });
 }
 
-User::Refusal User::put(TextBox& box, std::string_view text, const std::function<std::string(int limit)>& cut)
+User::Refusal User::put(TextBox& box, const std::function<std::string(int limit)>& text)
 {
     if (auto refusal = unwritable(box))
         return refusal;
     desk_.perform([&] {
         takeFocus(box);
         const int limit = box.design().MaxLength;
-        box.Text = limit == 0 ? std::string{text} : cut(limit);
+        box.Text = text(limit == 0 ? std::numeric_limits<int>::max() : limit);
     });
     return {};
 }

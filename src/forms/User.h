@@ -20,16 +20,18 @@ public:
     explicit User(Desk& desk) : desk_{desk} { }
 
     /// Types a text key by key at the end of a field: `KeyPress`, then the character lands, unless
-    /// `MaxLength` is reached, and `Change` is raised.
+    /// `MaxLength` is reached, and `Change` is raised. In a field of one line a line break is no such key.
     Refusal type(TextBox& box, std::string_view text);
     /// The backspace key at the end of a field: `KeyPress` 8, then, if the handler left the text alone, the
     /// last character goes.
     Refusal backspace(TextBox& box);
-    /// Pastes a text over the whole of a field, cut to `MaxLength`. No `KeyPress`.
+    /// Pastes a text over the whole of a field, cut to `MaxLength`; into a field of one line, up to its first carriage
+    /// return or line feed. No `KeyPress`.
     Refusal replace(TextBox& box, std::string_view text);
-    /// Gives a field the text that an edit anywhere leaves there. What the edit puts in is cut to the room that
-    /// `MaxLength` leaves; what it leaves alone, a store may have made longer than that. No `KeyPress`.
-    Refusal edit(TextBox& box, std::string_view text);
+    /// Gives a field the text that an edit anywhere leaves there: that up to the caret, which stands behind what was
+    /// put in, and its tail. What the edit puts in is cut as a paste, to the room that `MaxLength` leaves; what it
+    /// leaves alone, a store may have made longer than that. No `KeyPress`.
+    Refusal edit(TextBox& box, std::string_view toCaret, std::string_view tail);
     /// A key on its way into a field; tells whether the panel rewrote the text meanwhile.
     bool key(TextBox& box, char32_t character);
 
@@ -46,8 +48,8 @@ private:
     [[nodiscard]] Refusal unreachable(const Control& control) const;
     [[nodiscard]] Refusal unwritable(const TextBox& box) const;
     void takeFocus(Control& control);
-    /// Gives a field another text; where the field has a `MaxLength`, what `cut` makes of the text for it.
-    Refusal put(TextBox& box, std::string_view text, const std::function<std::string(int limit)>& cut);
+    /// Gives a field another text, made for so many characters as it takes.
+    Refusal put(TextBox& box, const std::function<std::string(int limit)>& text);
 
     Desk& desk_;
 };

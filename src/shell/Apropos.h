@@ -12,7 +12,7 @@ public:
 
     // clang-format off
     Frame Frame1{this, "Frame1", {.Caption = "Pourquoi ce logiciel et remerciements", .at = {180, 120, 7800, 3240}}};
-    Label Label5{this, "Label5", {.Caption = "Ce logiciel a été développé par Kervane", .at = {240, 390, 7320, 255}, .font = {.bold = true}, .container = &Frame1}};
+    Label Label5{this, "Label5", {.Caption = "Ce logiciel a été développé par Kervane", .at = {240, 360, 7320, 315}, .font = {.bold = true}, .container = &Frame1}};
     Label Label2{this, "Label2", {.at = {240, 840, 7320, 510}, .container = &Frame1}};
     Label Label3{this, "Label3", {.at = {240, 1440, 7320, 255}, .container = &Frame1}};
     Label Label6{this, "Label6", {.at = {240, 1890, 7320, 1275}, .container = &Frame1}};

@@ -3,8 +3,19 @@
 #include <QLibraryInfo>
 #include <QTranslator>
 #include <clocale>
+#include <cmath>
 
 namespace ondelis {
+
+ChosenStyle::ChosenStyle()
+{
+    QApplication::setStyle(new Style);
+    // The toolkit takes any number; with some of them no window has a size.
+    bool number = false;
+    const double scale = qEnvironmentVariable("QT_SCALE_FACTOR").toDouble(&number);
+    if (number && !(scale > 0 && std::isfinite(scale)))
+        qunsetenv("QT_SCALE_FACTOR");
+}
 
 Application::Application(int& argc, char** argv) : QApplication{argc, argv}
 {

@@ -6,9 +6,10 @@
 
 namespace ondelis {
 
-/// Chooses the widgets' style before the application is made, so that no other one is made first.
+/// What must be settled before the application is made: the widgets' style, so that no other one is made first, and
+/// that the user's settings ask for no scale which is none.
 struct ChosenStyle {
-    ChosenStyle() { QApplication::setStyle(new Style); }
+    ChosenStyle();
 };
 
 /// The application as the toolkit sees it: its style, its name, its words.

@@ -1,6 +1,7 @@
 #include "view/ClientArea.h"
 
 #include <QApplication>
+#include <QMdiSubWindow>
 #include <QPaintEvent>
 #include <QPainter>
 #include <QScrollBar>
@@ -11,17 +12,31 @@
 namespace ondelis {
 namespace {
 
-/// Scrolls until what reaches from `first` to `last` lies in the length that is seen, or at least begins there.
-void reveal(QScrollBar& bar, int first, int last, int seen)
+/// Where a length that is seen must begin so that what reaches from `first` to `last` lies in it, or at least begins
+/// there: as near as possible to where it begins now.
+int revealed(int begin, int first, int last, int seen)
 {
-    const int beyond = std::max(0, last - seen + 1);
-    bar.setValue(bar.value() + std::min(first, beyond));
+    const int beyond = std::max(0, last + 1 - seen - begin);
+    return begin + std::min(first - begin, beyond);
 }
+
+/// A scroll bar that takes no room while nothing is out of sight, wherever the area is scrolled to.
+class AreaScrollBar final : public QScrollBar {
+public:
+    AreaScrollBar(Qt::Orientation orientation, const ClientArea& area) : QScrollBar{orientation}, area_{area} { }
+
+    [[nodiscard]] QSize sizeHint() const override { return area_.showsAll() ? QSize{} : QScrollBar::sizeHint(); }
+
+private:
+    const ClientArea& area_;
+};
 
 } // namespace
 
 ClientArea::ClientArea(QWidget* parent) : QMdiArea{parent}
 {
+    setHorizontalScrollBar(new AreaScrollBar{Qt::Horizontal, *this});
+    setVerticalScrollBar(new AreaScrollBar{Qt::Vertical, *this});
     setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
     setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
     setOption(QMdiArea::DontMaximizeSubWindowOnActivation);
@@ -29,12 +44,29 @@ ClientArea::ClientArea(QWidget* parent) : QMdiArea{parent}
 
 void ClientArea::bringIntoSight(const QWidget& widget)
 {
-    inSight_ = &widget;
-    constexpr int around = 8; // pixels
-    const QRect place
-        = QRect{widget.mapTo(viewport(), QPoint{}), widget.size()}.adjusted(-around, -around, around, around);
-    reveal(*horizontalScrollBar(), place.left(), place.right(), viewport()->width());
-    reveal(*verticalScrollBar(), place.top(), place.bottom(), viewport()->height());
+    reveal({surroundingsOf(widget)}, viewport()->size());
+}
+
+void ClientArea::bringPanelsIntoSight()
+{
+    QRect all;
+    for (const QMdiSubWindow* panel : subWindowList())
+        if (!panel->isHidden())
+            all |= placeOf(*panel);
+    const QSize room = contentsRect().size();
+    const bool roomForAll = all.size().boundedTo(room) == all.size();
+    QList<QRect> places{all};
+    if (const QMdiSubWindow* const active = activeSubWindow())
+        places.append(placeOf(*active));
+    const QWidget* const focused = QApplication::focusWidget();
+    if (viewport()->isAncestorOf(focused))
+        places.append(surroundingsOf(*focused) & places.last());
+    reveal(places, roomForAll ? room : viewport()->size());
+}
+
+bool ClientArea::showsAll() const
+{
+    return QRect{{}, contentsRect().size()}.contains(viewport()->childrenRect());
 }
 
 void ClientArea::paintEvent(QPaintEvent* event)
@@ -52,14 +84,47 @@ void ClientArea::paintEvent(QPaintEvent* event)
 void ClientArea::resizeEvent(QResizeEvent* event)
 {
     QMdiArea::resizeEvent(event);
-    if (inSight_ != nullptr && inSight_->hasFocus() && QApplication::mouseButtons() == Qt::NoButton)
-        bringIntoSight(*inSight_);
+    // Not at once: the base class may be placing its scroll bars, and would place them by what it scrolled from.
+    if (!std::exchange(resized_, true))
+        QMetaObject::invokeMethod(
+            this, [this] { followResize(); }, Qt::QueuedConnection);
 }
 
 void ClientArea::scrollContentsBy(int dx, int dy)
 {
     QMdiArea::scrollContentsBy(dx, dy);
+    QCoreApplication::postEvent(this, new QEvent{QEvent::LayoutRequest}); // with scroll bars, or without
     viewport()->update(); // the panels have moved over the picture, which has not
+}
+
+void ClientArea::followResize()
+{
+    resized_ = false;
+    if (QApplication::mouseButtons() == Qt::NoButton) // under a mouse button nothing must move away
+        bringPanelsIntoSight();
+}
+
+QRect ClientArea::placeOf(const QWidget& widget) const
+{
+    const QPoint scrolled{horizontalScrollBar()->value(), verticalScrollBar()->value()};
+    return {widget.mapTo(viewport(), QPoint{}) + scrolled, widget.size()};
+}
+
+QRect ClientArea::surroundingsOf(const QWidget& widget) const
+{
+    constexpr int around = 8; // pixels
+    return placeOf(widget).adjusted(-around, -around, around, around);
+}
+
+void ClientArea::reveal(const QList<QRect>& places, const QSize& seen)
+{
+    QPoint begin{horizontalScrollBar()->value(), verticalScrollBar()->value()};
+    for (const QRect& place : places) {
+        begin.setX(revealed(begin.x(), place.left(), place.right(), seen.width()));
+        begin.setY(revealed(begin.y(), place.top(), place.bottom(), seen.height()));
+    }
+    horizontalScrollBar()->setValue(begin.x());
+    verticalScrollBar()->setValue(begin.y());
 }
 
 } // namespace ondelis

@@ -1,7 +1,8 @@
 #pragma once
 
+#include <QList>
 #include <QMdiArea>
-#include <QPointer>
+#include <QRect>
 
 #include "view/Background.h"
 
@@ -12,9 +13,13 @@ class ClientArea final : public QMdiArea {
 public:
     explicit ClientArea(QWidget* parent);
 
-    /// Scrolls until the widget, which is on a panel, can be seen; also when the area becomes smaller, as long as the
-    /// widget has the keyboard.
+    /// Scrolls until the widget, which is on a panel, can be seen.
     void bringIntoSight(const QWidget& widget);
+    /// Scrolls until all panels can be seen; where there is no room for that, the active one, or at least where it
+    /// begins; and in any case what has the keyboard.
+    void bringPanelsIntoSight();
+    /// Whether no part of a panel is out of sight.
+    [[nodiscard]] bool showsAll() const;
 
 protected:
     void paintEvent(QPaintEvent* event) override;
@@ -22,7 +27,15 @@ protected:
     void scrollContentsBy(int dx, int dy) override;
 
 private:
-    QPointer<const QWidget> inSight_; ///< what was brought into sight last
+    void followResize();
+    /// Where the widget is while nothing is scrolled.
+    [[nodiscard]] QRect placeOf(const QWidget& widget) const;
+    /// Its place with a little room around it.
+    [[nodiscard]] QRect surroundingsOf(const QWidget& widget) const;
+    /// Scrolls until the places can be seen where so much is seen; of those that have no room together, the later ones.
+    void reveal(const QList<QRect>& places, const QSize& seen);
+
+    bool resized_ = false; ///< and what is in use may be out of sight since
     Background background_;
     bool onScreen_ = false;
 };

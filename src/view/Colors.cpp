@@ -21,6 +21,12 @@ QColor blackOrWhite(const QColor& background)
     return contrast(Qt::black, background) >= contrast(Qt::white, background) ? Qt::black : Qt::white;
 }
 
+int colorfulness(const QColor& color)
+{
+    const auto [least, most] = std::minmax({color.red(), color.green(), color.blue()});
+    return most - least;
+}
+
 } // namespace
 
 QColor toQColor(Color color)
@@ -54,24 +60,31 @@ QColor readable(const QColor& color, const QColor& background, double enough)
     return mixed;
 }
 
-QRgb turned(QRgb pixel, const QColor& ground)
+QColor turned(const QColor& color, const QColor& ground)
 {
-    const int alpha = qAlpha(pixel); // the white of the channels
-    const int luma = (54 * qRed(pixel) + 183 * qGreen(pixel) + 19 * qBlue(pixel)) / 256; // after ITU-R BT.709
-    const int shift = alpha - 2 * luma;
+    constexpr int white = 255;
+    const int luma = (54 * color.red() + 183 * color.green() + 19 * color.blue()) / 256; // after ITU-R BT.709
     const auto turn = [&](int channel, int dark) {
-        const int light = std::clamp(channel + shift, 0, alpha);
-        return light + dark * (alpha - light) / 255;
+        const int light = std::clamp(channel + white - 2 * luma, 0, white);
+        return light + dark * (white - light) / white;
     };
-    return qRgba(
-        turn(qRed(pixel), ground.red()), turn(qGreen(pixel), ground.green()), turn(qBlue(pixel), ground.blue()), alpha);
+    return {turn(color.red(), ground.red()), turn(color.green(), ground.green()), turn(color.blue(), ground.blue())};
 }
 
 QColor shown(Color color, QPalette::ColorRole white)
 {
     const QPalette palette = QApplication::palette();
     const QColor plain = toQColor(color);
-    return isDark(palette) ? QColor{turned(plain.rgb(), palette.color(white))} : plain;
+    return isDark(palette) ? turned(plain, palette.color(white)) : plain;
+}
+
+QColor shownText(Color color, const QColor& ground)
+{
+    const QColor plain = readable(toQColor(color), ground);
+    if (!isDark(QApplication::palette()))
+        return plain;
+    const QColor turnedRound = readable(turned(toQColor(color), ground), ground);
+    return colorfulness(plain) > colorfulness(turnedRound) ? plain : turnedRound;
 }
 
 void Colors::applyToField(QWidget& widget, Color background, Color text)
@@ -81,14 +94,16 @@ void Colors::applyToField(QWidget& widget, Color background, Color text)
     QPalette palette;
     const bool ownBackground = !isSystemColor(background);
     const bool ownText = !isSystemColor(text);
-    const QColor base
-        = ownBackground ? shown(background, QPalette::Base) : QApplication::palette().color(QPalette::Base);
+    const bool dark = isDark(QApplication::palette());
+    QColor base = QApplication::palette().color(QPalette::Base);
+    if (ownBackground)
+        base = dark ? readable(shown(background, QPalette::Base), Qt::white) : shown(background, QPalette::Base);
     if (ownBackground)
         palette.setColor(QPalette::Base, base);
     if (ownText)
-        palette.setColor(QPalette::Text, readable(shown(text, QPalette::Base), base));
+        palette.setColor(QPalette::Text, shownText(text, base));
     else if (ownBackground)
-        palette.setColor(QPalette::Text, blackOrWhite(base));
+        palette.setColor(QPalette::Text, dark ? Qt::white : blackOrWhite(base));
     widget.setPalette(palette);
 }
 
@@ -98,8 +113,7 @@ void Colors::applyToText(QWidget& widget, Color text)
         return;
     QPalette palette;
     if (!isSystemColor(text))
-        palette.setColor(QPalette::WindowText,
-            readable(shown(text, QPalette::Window), QApplication::palette().color(QPalette::Window)));
+        palette.setColor(QPalette::WindowText, shownText(text, QApplication::palette().color(QPalette::Window)));
     widget.setPalette(palette);
 }
 

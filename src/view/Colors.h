@@ -24,12 +24,16 @@ inline constexpr double quietContrast = 1.6; ///< what holds a group together wi
 /// The colour, mixed with black or white as far as it must be to have that contrast with the background.
 [[nodiscard]] QColor readable(const QColor& color, const QColor& background, double enough = textContrast);
 
-/// A pixel of a dark window, its channels multiplied by alpha, from one that is meant for light windows: the luma is
-/// turned round, the hue stays, and white becomes the dark ground.
-[[nodiscard]] QRgb turned(QRgb pixel, const QColor& ground);
+/// A colour for dark windows, from one that is meant for light ones: the luma is turned round, the hue stays, and white
+/// becomes the dark ground.
+[[nodiscard]] QColor turned(const QColor& color, const QColor& ground);
 
 /// The colour of a control as it is shown: itself on light palettes, turned on dark ones, where that role is white.
 [[nodiscard]] QColor shown(Color color, QPalette::ColorRole white);
+
+/// The colour of a text as it is shown on that ground. On dark palettes it is turned too, unless that would leave less
+/// of its hue than making it readable as it is: a pure blue, turned, can hardly be told from white.
+[[nodiscard]] QColor shownText(Color color, const QColor& ground);
 
 /// The colours of one widget: those that its control asks for, and the system's elsewhere.
 class Colors {

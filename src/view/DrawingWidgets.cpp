@@ -1,26 +1,13 @@
 #include "view/DrawingWidgets.h"
 
+#include <QFile>
 #include <QPainter>
 #include <QStyleOptionGroupBox>
 #include <QSvgRenderer>
-#include <algorithm>
 
 #include "view/Colors.h"
 
 namespace ondelis {
-namespace {
-
-void turnLightness(QImage& image, const QColor& ground)
-{
-    for (int y = 0; y < image.height(); ++y) {
-        // NOLINTNEXTLINE(cppcoreguidelines-pro-type-reinterpret-cast): a row of 32-bit pixels, given as bytes
-        auto* const line = reinterpret_cast<QRgb*>(image.scanLine(y));
-        std::transform(line, line + image.width(), line, [&](QRgb pixel) { return turned(pixel, ground); });
-    }
-}
-
-} // namespace
-
 Drawing::Drawing(std::string_view name)
     : file_{name.empty() ? QString{} : QStringLiteral(":/dessins/%1.svg").arg(toQString(name))}
 {
@@ -34,33 +21,48 @@ void Drawing::paint(QWidget& widget, const QRect& into)
     const QSize pixels = into.size() * ratio;
     const QPalette& palette = widget.palette();
     const QColor ground = isDark(palette) ? palette.color(QPalette::Window) : QColor{};
-    if (rendered_.size() != pixels || darkGround_ != ground) {
-        rendered_ = render(pixels, ground);
-        rendered_.setDevicePixelRatio(ratio);
+    const QString family = widget.font().family();
+    if (rendered_.size() != pixels || darkGround_ != ground || family_ != family) {
         darkGround_ = ground;
+        family_ = family;
+        rendered_ = render(pixels);
+        rendered_.setDevicePixelRatio(ratio);
     }
     QPainter{&widget}.drawPixmap(into.topLeft(), rendered_);
 }
 
-QPixmap Drawing::render(const QSize& pixels, const QColor& darkGround) const
+QByteArray Drawing::darkened(const QByteArray& svg, const QColor& ground)
 {
-    QSvgRenderer renderer{file_};
+    constexpr int length = 7; // of a colour as it is written, "#1f2d3d"
+    QByteArray dark = svg;
+    for (qsizetype at = dark.indexOf("\"#"); at >= 0; at = dark.indexOf("\"#", at + length)) {
+        const QColor light{QString::fromLatin1(dark.mid(at + 1, length))};
+        dark.replace(at + 1, length, turned(light, ground).name().toLatin1());
+    }
+    return dark;
+}
+
+QPixmap Drawing::render(const QSize& pixels) const
+{
+    QFile file{file_};
+    if (!file.open(QIODevice::ReadOnly))
+        return {};
+    const QByteArray svg = file.readAll();
+    QSvgRenderer renderer{darkGround_.isValid() ? darkened(svg, darkGround_) : svg};
     renderer.setAspectRatioMode(Qt::KeepAspectRatio);
-    QImage image{pixels, QImage::Format_ARGB32_Premultiplied};
-    image.fill(Qt::transparent);
-    QPainter painter{&image};
-    painter.setRenderHint(QPainter::Antialiasing);
+    QPixmap pixmap{pixels};
+    pixmap.fill(Qt::transparent);
+    QPainter painter{&pixmap};
+    painter.setFont(QFont{family_}); // the drawings name no face of their own
     renderer.render(&painter);
-    painter.end();
-    if (darkGround.isValid())
-        turnLightness(image, darkGround);
-    return QPixmap::fromImage(std::move(image));
+    return pixmap;
 }
 
 FrameWidget::FrameWidget(PanelWindow& window, Frame& frame, QWidget* parent)
     : QGroupBox{withoutShortcut(frame.design().Caption), parent},
       ControlWidget{window}, frame_{frame}, drawing_{frame.design().picture}
 {
+    setAutoFillBackground(true);
 }
 
 void FrameWidget::follow()
@@ -77,11 +79,9 @@ void FrameWidget::paintEvent(QPaintEvent* event)
     drawing_.paint(*this, style()->subControlRect(QStyle::CC_GroupBox, &option, QStyle::SC_GroupBoxContents, this));
 }
 
-PictureWidget::PictureWidget(PanelWindow& window, Picture& picture, Border border, QWidget* parent)
-    : QFrame{parent}, ControlWidget{window}, picture_{picture}, drawing_{picture.design().picture}
+PictureWidget::PictureWidget(PanelWindow& window, Picture& picture, QWidget* parent)
+    : QWidget{parent}, ControlWidget{window}, picture_{picture}, drawing_{picture.design().picture}
 {
-    if (border == Border::Yes)
-        setFrameStyle(QFrame::StyledPanel | QFrame::Sunken);
 }
 
 void PictureWidget::follow()
@@ -90,10 +90,9 @@ void PictureWidget::follow()
     setVisible(picture_.Visible);
 }
 
-void PictureWidget::paintEvent(QPaintEvent* event)
+void PictureWidget::paintEvent(QPaintEvent* /*event*/)
 {
-    QFrame::paintEvent(event);
-    drawing_.paint(*this, contentsRect());
+    drawing_.paint(*this, rect());
 }
 
 } // namespace ondelis

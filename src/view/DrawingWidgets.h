@@ -1,33 +1,38 @@
 #pragma once
 
-#include <QFrame>
 #include <QGroupBox>
 #include <QPixmap>
+#include <QWidget>
 
 #include "forms/Controls.h"
 #include "view/ControlWidget.h"
 
 namespace ondelis {
 
-/// A vector drawing of resources/dessins, read and rendered when it is first painted, and again when its size or the
-/// system's colours change. The drawings are made for light windows; on dark ones light and dark change places, hues
-/// stay, and white is the ground of the window.
+/// A vector drawing of resources/dessins, read and rendered when it is first painted, and again when its size, its font
+/// or the system's colours change. Its lettering is of the widget's font. The drawings are made for light windows; on
+/// dark ones light and dark change places, hues stay, and white is the ground of the window.
 class Drawing {
 public:
     explicit Drawing(std::string_view name);
+
+    /// A drawing for dark windows, from its source for light ones. Colours that it writes as rgb(...) are those of
+    /// things that look the same at night, and stay.
+    [[nodiscard]] static QByteArray darkened(const QByteArray& svg, const QColor& ground);
 
     /// Paints the drawing as large as it fits, in the middle of a part of the widget.
     void paint(QWidget& widget, const QRect& into);
 
 private:
-    [[nodiscard]] QPixmap render(const QSize& pixels, const QColor& darkGround) const;
+    [[nodiscard]] QPixmap render(const QSize& pixels) const;
 
     QString file_;
     QPixmap rendered_;
+    QString family_; ///< of the lettering
     QColor darkGround_; ///< none on light windows
 };
 
-/// A titled group of controls, or a titled drawing.
+/// A titled group of controls, or a titled drawing. Captions and drawings of the panel that lie under it are not seen.
 class FrameWidget final : public QGroupBox, public ControlWidget {
 public:
     FrameWidget(PanelWindow& window, Frame& frame, QWidget* parent);
@@ -43,11 +48,10 @@ private:
     Drawing drawing_;
 };
 
-/// A drawing, with a border or without one.
-class PictureWidget final : public QFrame, public ControlWidget {
+/// A drawing.
+class PictureWidget final : public QWidget, public ControlWidget {
 public:
-    enum class Border { No, Yes };
-    PictureWidget(PanelWindow& window, Picture& picture, Border border, QWidget* parent);
+    PictureWidget(PanelWindow& window, Picture& picture, QWidget* parent);
 
     QWidget& widget() override { return *this; }
     void follow() override;

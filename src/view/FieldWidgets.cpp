@@ -1,13 +1,14 @@
 #include "view/FieldWidgets.h"
 
-#include <QClipboard>
-#include <QGuiApplication>
+#include <QContextMenuEvent>
 #include <QInputMethodEvent>
 #include <QKeyEvent>
 #include <QSignalBlocker>
+#include <QWheelEvent>
 #include <algorithm>
 
 #include "forms/Desk.h"
+#include "view/Copying.h"
 #include "view/Fonts.h"
 
 namespace ondelis {
@@ -36,20 +37,10 @@ char32_t enteredBy(const QKeyEvent& event)
     return command ? 0 : characters.front();
 }
 
-/// Where nothing is selected the copy key copies the whole field: a click into a result is enough to take it away.
-/// True where it has done so.
-bool copyWhole(const QKeyEvent& event, bool selected, const QString& text)
-{
-    if (!event.matches(QKeySequence::Copy) || selected || text.isEmpty())
-        return false;
-    QGuiApplication::clipboard()->setText(text);
-    return true;
-}
-
 } // namespace
 
 TextBoxWidget::TextBoxWidget(PanelWindow& window, TextBox& box, QWidget* parent)
-    : QLineEdit{parent}, ControlWidget{window}, box_{box}
+    : LineField{parent}, ControlWidget{window}, box_{box}
 {
     setFont(fontOf(box.design().font, *parent));
     setAlignment(horizontal(box.design().align));
@@ -93,7 +84,12 @@ void TextBoxWidget::limitLength()
 
 void TextBoxWidget::tellText()
 {
-    act(box_, [&](User& user) { user.edit(box_, toText(text())); });
+    const QString told = text();
+    const QString after = told.mid(cursorPosition());
+    act(box_, [&](User& user) { user.edit(box_, toText(told.left(cursorPosition())), toText(after)); });
+    // What was put in may have been cut: typing goes on behind it.
+    if (!gone() && text() != told && text().endsWith(after))
+        setCursorPosition(static_cast<int>(text().size() - after.size()));
 }
 
 bool TextBoxWidget::tellKey(char32_t character)
@@ -111,7 +107,7 @@ void TextBoxWidget::keyPressEvent(QKeyEvent* event)
         return;
     const char32_t character = enteredBy(*event);
     if (character == 0 || tellKey(character))
-        QLineEdit::keyPressEvent(event);
+        LineField::keyPressEvent(event);
 }
 
 void TextBoxWidget::inputMethodEvent(QInputMethodEvent* event)
@@ -119,12 +115,17 @@ void TextBoxWidget::inputMethodEvent(QInputMethodEvent* event)
     for (const char32_t character : event->commitString().toUcs4())
         tellKey(character);
     if (!gone())
-        QLineEdit::inputMethodEvent(event);
+        LineField::inputMethodEvent(event);
+}
+
+void TextBoxWidget::contextMenuEvent(QContextMenuEvent* event)
+{
+    popUp(createStandardContextMenu(), event->globalPos(), hasSelectedText(), text());
 }
 
 void TextBoxWidget::focusInEvent(QFocusEvent* event)
 {
-    QLineEdit::focusInEvent(event);
+    LineField::focusInEvent(event);
     act(box_, [&](User& user) { user.focus(box_); });
 }
 
@@ -159,6 +160,20 @@ void TextAreaWidget::keyPressEvent(QKeyEvent* event)
         QPlainTextEdit::keyPressEvent(event);
 }
 
+void TextAreaWidget::contextMenuEvent(QContextMenuEvent* event)
+{
+    popUp(createStandardContextMenu(), event->globalPos(), textCursor().hasSelection(), toPlainText());
+}
+
+void TextAreaWidget::wheelEvent(QWheelEvent* event)
+{
+    // The base class would change the size of a locked text.
+    if ((event->modifiers() & Qt::ControlModifier) != 0)
+        event->ignore();
+    else
+        QPlainTextEdit::wheelEvent(event);
+}
+
 void TextAreaWidget::focusInEvent(QFocusEvent* event)
 {
     QPlainTextEdit::focusInEvent(event);
@@ -167,11 +182,13 @@ void TextAreaWidget::focusInEvent(QFocusEvent* event)
 
 void TextAreaWidget::tellText()
 {
-    act(box_, [&](User& user) { user.edit(box_, toText(toPlainText())); });
+    const QString told = toPlainText();
+    const int caret = textCursor().position();
+    act(box_, [&](User& user) { user.edit(box_, toText(told.left(caret)), toText(told.mid(caret))); });
 }
 
 MaskEdBoxWidget::MaskEdBoxWidget(PanelWindow& window, MaskEdBox& box, QWidget* parent)
-    : QLineEdit{parent}, ControlWidget{window}, box_{box}
+    : LineField{parent}, ControlWidget{window}, box_{box}
 {
     setReadOnly(true);
 }
@@ -187,18 +204,23 @@ void MaskEdBoxWidget::follow()
 void MaskEdBoxWidget::keyPressEvent(QKeyEvent* event)
 {
     if (!copyWhole(*event, hasSelectedText(), text()))
-        QLineEdit::keyPressEvent(event);
+        LineField::keyPressEvent(event);
+}
+
+void MaskEdBoxWidget::contextMenuEvent(QContextMenuEvent* event)
+{
+    popUp(createStandardContextMenu(), event->globalPos(), hasSelectedText(), text());
 }
 
 void MaskEdBoxWidget::focusInEvent(QFocusEvent* event)
 {
-    QLineEdit::focusInEvent(event);
+    LineField::focusInEvent(event);
     act(box_, [&](User& user) { user.focus(box_); });
 }
 
 void MaskEdBoxWidget::focusOutEvent(QFocusEvent* event)
 {
-    QLineEdit::focusOutEvent(event);
+    LineField::focusOutEvent(event);
     if (!gone())
         follow();
 }

@@ -1,16 +1,16 @@
 #pragma once
 
-#include <QLineEdit>
 #include <QPlainTextEdit>
 
 #include "forms/Controls.h"
 #include "view/Colors.h"
 #include "view/ControlWidget.h"
+#include "view/LineField.h"
 
 namespace ondelis {
 
 /// A field of one line.
-class TextBoxWidget final : public QLineEdit, public ControlWidget {
+class TextBoxWidget final : public LineField, public ControlWidget {
 public:
     TextBoxWidget(PanelWindow& window, TextBox& box, QWidget* parent);
 
@@ -21,6 +21,7 @@ public:
 protected:
     void keyPressEvent(QKeyEvent* event) override;
     void inputMethodEvent(QInputMethodEvent* event) override;
+    void contextMenuEvent(QContextMenuEvent* event) override;
     void focusInEvent(QFocusEvent* event) override;
 
 private:
@@ -47,6 +48,8 @@ public:
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;
+    void contextMenuEvent(QContextMenuEvent* event) override;
+    void wheelEvent(QWheelEvent* event) override;
     void focusInEvent(QFocusEvent* event) override;
 
 private:
@@ -57,7 +60,7 @@ private:
 };
 
 /// A display that shows its number in exponent form, and its text while it has the keyboard.
-class MaskEdBoxWidget final : public QLineEdit, public ControlWidget {
+class MaskEdBoxWidget final : public LineField, public ControlWidget {
 public:
     MaskEdBoxWidget(PanelWindow& window, MaskEdBox& box, QWidget* parent);
 
@@ -67,6 +70,7 @@ public:
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;
+    void contextMenuEvent(QContextMenuEvent* event) override;
     void focusInEvent(QFocusEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;
 

@@ -1,5 +1,8 @@
 #include "view/LabelWidget.h"
 
+#include <QContextMenuEvent>
+
+#include "view/Copying.h"
 #include "view/Fonts.h"
 
 namespace ondelis {
@@ -23,6 +26,14 @@ void LabelWidget::follow()
         setText(caption);
     colors_.applyToText(*this, label_.design().ForeColor);
     setVisible(label_.Visible);
+}
+
+void LabelWidget::contextMenuEvent(QContextMenuEvent* event)
+{
+    if (!gone() && label_.written() && !text().isEmpty())
+        popUpCopy(*this, event->globalPos(), text());
+    else
+        event->ignore();
 }
 
 } // namespace ondelis

@@ -8,7 +8,8 @@
 
 namespace ondelis {
 
-/// A caption: plain text, over several lines where its box has room for them.
+/// A caption: plain text, over several lines where its box has room for them. One that code has written, a result, can
+/// be copied by its context menu.
 class LabelWidget final : public QLabel, public ControlWidget {
 public:
     LabelWidget(PanelWindow& window, Label& label, QWidget* parent);
@@ -16,6 +17,9 @@ public:
     QWidget& widget() override { return *this; }
     void follow() override;
     void forgetColors() override { colors_.forget(); }
+
+protected:
+    void contextMenuEvent(QContextMenuEvent* event) override;
 
 private:
     Label& label_;

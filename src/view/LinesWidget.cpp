@@ -5,6 +5,7 @@
 #include <optional>
 
 #include "view/Colors.h"
+#include "view/Edges.h"
 
 namespace ondelis {
 namespace {
@@ -86,21 +87,24 @@ void LinesWidget::paintEvent(QPaintEvent* /*event*/)
     QPainter painter{this};
     const QColor text = palette().color(QPalette::WindowText);
     const QColor window = palette().color(QPalette::Window);
-    painter.setPen(readable(palette().color(QPalette::Mid), window, quietContrast));
+    const QColor edge = readable(palette().color(QPalette::Mid), window, quietContrast);
     for (const QRect& rectangle : rectangles_)
-        painter.drawRect(rectangle.adjusted(0, 0, -1, -1));
+        drawEdge(painter, rectangle, edge);
     for (const Stroke& stroke : strokes_) {
         if (stroke.area.isNull())
             painter.setClipping(false);
         else
             painter.setClipRect(stroke.area);
-        const bool straight = stroke.line.dx() == 0 || stroke.line.dy() == 0;
-        painter.setRenderHint(QPainter::Antialiasing, !straight);
         const QColor color = isSystemColor(stroke.color)
             ? text
             : readable(shown(stroke.color, QPalette::Window), window, lineContrast);
-        painter.setPen(QPen{color, stroke.width, Qt::SolidLine, Qt::FlatCap});
-        painter.drawLine(stroke.line);
+        if (stroke.line.dx() == 0 || stroke.line.dy() == 0) {
+            drawStraight(painter, stroke.line, stroke.width, color);
+        } else {
+            painter.setRenderHint(QPainter::Antialiasing);
+            painter.setPen(QPen{color, stroke.width, Qt::SolidLine, Qt::FlatCap});
+            painter.drawLine(stroke.line);
+        }
     }
 }
 

@@ -61,9 +61,11 @@ bool ListBoxWidget::viewportEvent(QEvent* event)
 
 void ListBoxWidget::mousePressEvent(QMouseEvent* event)
 {
+    if (event->button() != Qt::LeftButton) // the base class would choose by any button
+        return;
     QListWidget::mousePressEvent(event);
     // A click on the row that is chosen already is told too: some lists listen to it.
-    chosen_ = chosen_ || (event->button() == Qt::LeftButton && itemAt(event->pos()) != nullptr);
+    chosen_ = chosen_ || itemAt(event->pos()) != nullptr;
 }
 
 void ListBoxWidget::focusInEvent(QFocusEvent* event)

@@ -8,7 +8,7 @@
 
 namespace ondelis {
 
-/// A list of texts.
+/// A list of texts. Of the mouse only the left button chooses.
 class ListBoxWidget final : public QListWidget, public ControlWidget {
 public:
     ListBoxWidget(PanelWindow& window, ListBox& list, QWidget* parent);

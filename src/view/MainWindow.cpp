@@ -3,10 +3,13 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QIcon>
+#include <QLayout>
+#include <QMenu>
 #include <QMenuBar>
 #include <QScreen>
 #include <QShortcut>
 #include <QTimer>
+#include <QWindow>
 #include <algorithm>
 #include <utility>
 
@@ -35,6 +38,8 @@ MainWindow::MainWindow(View& view, MDIOndelis& frame) : view_{view}, frame_{fram
 {
     setObjectName(QStringLiteral("MDIOndelis"));
     setCentralWidget(area_);
+    // The size is the frame's and the user's business: margins, which move with the window, must not make it larger.
+    layout()->setSizeConstraint(QLayout::SetNoConstraint);
     makeMenu();
     makeShortcuts();
 }
@@ -43,6 +48,22 @@ void MainWindow::follow()
 {
     setWindowTitle(toQString(frame_.Caption.get()));
     takePlace();
+}
+
+bool MainWindow::eventFilter(QObject* watched, QEvent* event)
+{
+    auto* const dropDown = qobject_cast<QMenu*>(watched);
+    const bool key = event->type() == QEvent::KeyPress || event->type() == QEvent::KeyRelease;
+    if (dropDown != nullptr && event->type() == QEvent::Close) {
+        dropDown->hide();
+        event->ignore(); // a window that is closed is destroyed, and with it the keys that the system still sends it
+        return true;
+    }
+    if (dropDown != nullptr && key && dropDown->isHidden() && QApplication::activePopupWidget() == nullptr) {
+        QCoreApplication::sendEvent(windowHandle(), event);
+        return true;
+    }
+    return QMainWindow::eventFilter(watched, event);
 }
 
 void MainWindow::closeEvent(QCloseEvent* event)
@@ -83,6 +104,7 @@ void MainWindow::makeMenu()
     for (const Menu& menu : menuTree()) {
         QMenu* const dropDown = menuBar()->addMenu(withoutShortcut(menu.caption));
         dropDown->setObjectName(toQString(menu.control));
+        dropDown->installEventFilter(this);
         for (const MenuEntry& entry : menu.entries) {
             QAction* const action = dropDown->addAction(
                 withoutShortcut(entry.caption), [this, &entry] { view_.act([&](User&) { frame_.click(entry); }); });
@@ -93,7 +115,9 @@ void MainWindow::makeMenu()
 
 void MainWindow::makeShortcuts()
 {
-    connect(new QShortcut{Qt::CTRL | Qt::Key_F4, this}, &QShortcut::activated, area_, &QMdiArea::closeActiveSubWindow);
+    findChild<QAction*>(QStringLiteral("MenuQuitter"))->setShortcut(Qt::CTRL | Qt::Key_Q);
+    for (const Qt::Key key : {Qt::Key_F4, Qt::Key_W})
+        connect(new QShortcut{Qt::CTRL | key, this}, &QShortcut::activated, area_, &QMdiArea::closeActiveSubWindow);
     connect(new QShortcut{Qt::Key_F10, this}, &QShortcut::activated, menuBar(),
         [this] { menuBar()->setActiveAction(menuBar()->actions().front()); });
 }
@@ -139,16 +163,19 @@ void MainWindow::keepInSight()
 {
     const QRect screens = screen()->availableVirtualGeometry();
     const QRect inner = geometry();
-    QMargins hidden;
+    QRect seen = inner;
     if (inner.width() > screens.width()) {
-        hidden.setLeft(std::max(0, screens.left() - inner.left()));
-        hidden.setRight(std::max(0, inner.right() - screens.right()));
+        seen.setLeft(std::max(inner.left(), screens.left()));
+        seen.setRight(std::min(inner.right(), screens.right()));
     }
     if (inner.height() > screens.height()) {
-        hidden.setTop(std::max(0, screens.top() - inner.top()));
-        hidden.setBottom(std::max(0, inner.bottom() - screens.bottom()));
+        seen.setTop(std::max(inner.top(), screens.top()));
+        seen.setBottom(std::min(inner.bottom(), screens.bottom()));
     }
-    setContentsMargins(hidden);
+    if (!seen.isValid()) // nothing can be seen, wherever it is
+        return;
+    setContentsMargins(seen.left() - inner.left(), seen.top() - inner.top(), inner.right() - seen.right(),
+        inner.bottom() - seen.bottom());
 }
 
 } // namespace ondelis

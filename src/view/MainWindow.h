@@ -19,6 +19,8 @@ public:
     void follow();
 
 protected:
+    /// Hands on the keys that reach a drop-down which has been left already: to fast typing the system is slow.
+    bool eventFilter(QObject* watched, QEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void showEvent(QShowEvent* event) override;

@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QCloseEvent>
+#include <QLineEdit>
 #include <QMdiArea>
 #include <QMenu>
 #include <QScopedValueRollback>
@@ -87,8 +88,11 @@ void PanelWindow::activate()
     if (first == panel_.controls().end())
         return;
     QWidget& widget = find(**first)->widget();
-    widget.clearFocus(); // it may have it already, but not as by the Tab key, which selects its text
     widget.setFocus(Qt::TabFocusReason);
+    // It may have had the keyboard already, or get it only when the main window does, which the drop-down that has been
+    // left may still hold up: then its text is not selected as by the Tab key.
+    if (auto* const field = qobject_cast<QLineEdit*>(&widget))
+        field->selectAll();
 }
 
 void PanelWindow::act(const std::function<void(User&)>& action, Control* control)

@@ -3,7 +3,9 @@
 #include <QAccessible>
 #include <QAccessibleWidget>
 #include <QKeyEvent>
+#include <QMouseEvent>
 #include <QSignalBlocker>
+#include <QWheelEvent>
 #include <algorithm>
 
 namespace ondelis {
@@ -68,6 +70,23 @@ void ScrollBarWidget::follow()
         QAccessible::updateAccessibility(&event);
     }
     setVisible(bar_.Visible);
+}
+
+void ScrollBarWidget::mousePressEvent(QMouseEvent* event)
+{
+    if (event->button() == Qt::LeftButton) // the middle one would move the slider under the pointer
+        QScrollBar::mousePressEvent(event);
+}
+
+void ScrollBarWidget::wheelEvent(QWheelEvent* event)
+{
+    // Without the keyboard it is a thing that the wheel passes over on its way through the client area.
+    if (!hasFocus()) {
+        event->ignore();
+        return;
+    }
+    QScrollBar::wheelEvent(event);
+    event->accept(); // at its limit too: the area must not set off under the hand
 }
 
 void ScrollBarWidget::keyPressEvent(QKeyEvent* event)

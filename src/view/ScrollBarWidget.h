@@ -8,7 +8,7 @@
 namespace ondelis {
 
 /// A bar. `Min` stands at its left or upper end, be it the smaller limit or the larger: the widget counts positions
-/// from that end.
+/// from that end. Only the left button, the keys and, while it has the keyboard, the wheel change it.
 class ScrollBarWidget final : public QScrollBar, public ControlWidget {
 public:
     ScrollBarWidget(PanelWindow& window, ScrollBar& bar, Qt::Orientation orientation, QWidget* parent);
@@ -23,6 +23,8 @@ public:
     void setShownValue(int value) { setValue(positionOf(value)); }
 
 protected:
+    void mousePressEvent(QMouseEvent* event) override;
+    void wheelEvent(QWheelEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void focusInEvent(QFocusEvent* event) override;
 

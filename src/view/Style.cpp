@@ -5,6 +5,7 @@
 #include <QStyleOption>
 
 #include "view/Colors.h"
+#include "view/Edges.h"
 
 namespace ondelis {
 namespace {
@@ -35,18 +36,62 @@ void mend(QPalette& palette, QPalette::ColorGroup group)
         readable(color(QPalette::Highlight), color(QPalette::HighlightedText), rowContrast));
 }
 
-/// The option of an edge, with colours from which Fusion makes one that is seen.
-template <class Option>
-Option seen(const Option& option, double enough)
+/// The colour of an edge on a window, and that of the edge of what has the keyboard.
+QColor edgeColor(const QPalette& palette, double enough)
 {
-    Option mended{option};
-    const QColor window = option.palette.color(QPalette::Window);
-    const QColor edge = readable(window.darker(edgeDarkness), window, enough);
-    const QColor focus
-        = readable(option.palette.color(QPalette::Highlight).darker(focusDarkness), window, lineContrast);
-    mended.palette.setColor(QPalette::Window, edge.lighter(edgeDarkness));
-    mended.palette.setColor(QPalette::Highlight, focus.lighter(focusDarkness));
+    const QColor window = palette.color(QPalette::Window);
+    return readable(window.darker(edgeDarkness), window, enough);
+}
+
+QColor focusColor(const QPalette& palette)
+{
+    return readable(
+        palette.color(QPalette::Highlight).darker(focusDarkness), palette.color(QPalette::Window), lineContrast);
+}
+
+/// The option of a round edge, with colours from which Fusion makes one that is seen.
+QStyleOptionButton seen(const QStyleOptionButton& option)
+{
+    QStyleOptionButton mended{option};
+    mended.palette.setColor(QPalette::Window, edgeColor(option.palette, lineContrast).lighter(edgeDarkness));
+    mended.palette.setColor(QPalette::Highlight, focusColor(option.palette).lighter(focusDarkness));
     return mended;
+}
+
+/// The edge of a field or a list, which tells whether it has the keyboard.
+void drawFieldEdge(QPainter& painter, const QStyleOption& option)
+{
+    const bool keyboard = (option.state & QStyle::State_HasFocus) != 0;
+    drawEdge(painter, option.rect, keyboard ? focusColor(option.palette) : edgeColor(option.palette, lineContrast),
+        Corners::Cut);
+}
+
+/// Fills the rim of a title bar, where Fusion makes the corners round with lines that fall between pixels.
+void fillRim(QPainter& painter, const QRectF& bar, const QBrush& ground)
+{
+    constexpr double across = 3;
+    constexpr double down = 2;
+    painter.fillRect(QRectF{bar.left(), bar.top(), bar.width(), down}, ground);
+    const QRectF side{bar.left(), bar.top(), across, bar.height() - down};
+    painter.fillRect(side, ground);
+    painter.fillRect(side.translated(bar.width() - across, 0), ground);
+}
+
+/// The ground of a title bar, as Fusion shades it.
+QBrush titleGround(const QRectF& bar, const QColor& color)
+{
+    QLinearGradient shades{bar.topLeft(), bar.bottomLeft()};
+    shades.setStops({{0, color.lighter(114)}, {0.5, color.lighter(102)}, {0.51, color.darker(104)}, {1, color}});
+    return shades;
+}
+
+/// Whether a bar belongs to a list or a text, whose own edge stands around it.
+bool isInner(const QWidget* bar)
+{
+    const QWidget* const holder = bar == nullptr ? nullptr : bar->parentWidget();
+    const auto* const area
+        = qobject_cast<const QAbstractScrollArea*>(holder == nullptr ? nullptr : holder->parentWidget());
+    return area != nullptr && area->frameWidth() > 0;
 }
 
 } // namespace
@@ -61,6 +106,16 @@ void Style::polish(QPalette& palette)
 int Style::pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const
 {
     return metric == PM_MenuBarItemSpacing ? 0 : QProxyStyle::pixelMetric(metric, option, widget);
+}
+
+int Style::styleHint(
+    StyleHint hint, const QStyleOption* option, const QWidget* widget, QStyleHintReturn* returned) const
+{
+    auto* const mask = qstyleoption_cast<QStyleHintReturnMask*>(returned);
+    if (hint != SH_WindowFrame_Mask || option == nullptr || mask == nullptr)
+        return QProxyStyle::styleHint(hint, option, widget, returned);
+    mask->region = option->rect;
+    return 1;
 }
 
 void Style::drawControl(
@@ -79,56 +134,68 @@ void Style::drawControl(
 void Style::drawComplexControl(
     ComplexControl control, const QStyleOptionComplex* option, QPainter* painter, const QWidget* widget) const
 {
-    const auto* const title = qstyleoption_cast<const QStyleOptionTitleBar*>(option);
-    if (control != CC_TitleBar || title == nullptr || (title->titleBarState & State_Active) == 0) {
+    if (control == CC_ScrollBar) {
         QProxyStyle::drawComplexControl(control, option, painter, widget);
+        // Of an inner bar three sides fall on the edge around it, and are clipped.
+        const bool across = (option->state & State_Horizontal) != 0;
+        const QMargins beyond = isInner(widget) ? QMargins{across ? 2 : 0, across ? 0 : 2, 2, 2} : QMargins{};
+        drawEdge(*painter, option->rect + beyond, edgeColor(option->palette, lineContrast));
         return;
     }
-    // Fusion writes an active title in white, on a shadow of the text's colour.
+    const auto* const title = qstyleoption_cast<const QStyleOptionTitleBar*>(option);
+    const bool active = title != nullptr && (title->titleBarState & State_Active) != 0;
+    if (control != CC_TitleBar || title == nullptr || !(active || isDark(title->palette))) {
+        QProxyStyle::drawComplexControl(control, option, painter, widget);
+        if (control == CC_TitleBar)
+            fillRim(*painter, option->rect, titleGround(option->rect, option->palette.color(QPalette::Window)));
+        return;
+    }
+    // Fusion writes an active title in white, on a shadow of the text's colour. Of an inactive one it crosses the
+    // close box in black: on a dark window that one is an active title too, on the window's colour.
     QStyleOptionTitleBar mended{*title};
-    mended.palette.setColor(
-        QPalette::Highlight, readable(title->palette.color(QPalette::Highlight), Qt::white, titleContrast));
+    const QColor ground = title->palette.color(active ? QPalette::Highlight : QPalette::Window);
+    mended.titleBarState |= State_Active;
+    mended.palette.setColor(QPalette::Highlight, readable(ground, Qt::white, titleContrast));
     mended.palette.setColor(QPalette::Text, Qt::black);
     QProxyStyle::drawComplexControl(control, &mended, painter, widget);
+    fillRim(*painter, title->rect, titleGround(title->rect, mended.palette.color(QPalette::Highlight)));
 }
 
 void Style::drawPrimitive(
     PrimitiveElement element, const QStyleOption* option, QPainter* painter, const QWidget* widget) const
 {
-    if (const auto* const button = qstyleoption_cast<const QStyleOptionButton*>(option);
-        button != nullptr && element == PE_IndicatorRadioButton) {
-        const QStyleOptionButton mended = seen(*button, lineContrast);
-        QProxyStyle::drawPrimitive(element, &mended, painter, widget);
+    switch (element) {
+    case PE_IndicatorRadioButton:
+        if (const auto* const button = qstyleoption_cast<const QStyleOptionButton*>(option)) {
+            const QStyleOptionButton mended = seen(*button);
+            QProxyStyle::drawPrimitive(element, &mended, painter, widget);
+        }
         return;
-    }
-    if (const auto* const frame = qstyleoption_cast<const QStyleOptionFrame*>(option);
-        frame != nullptr && (element == PE_FrameLineEdit || element == PE_Frame)) {
-        // A list has the edge of a field, so that it shows the keyboard too; drawings have a quiet one.
-        const bool drawing = element == PE_Frame && qobject_cast<const QAbstractScrollArea*>(widget) == nullptr;
-        const QStyleOptionFrame mended = seen(*frame, drawing ? quietContrast : lineContrast);
-        QProxyStyle::drawPrimitive(drawing ? PE_Frame : PE_FrameLineEdit, &mended, painter, widget);
+    case PE_PanelLineEdit:
+        fillInside(*painter, option->rect, option->palette.color(QPalette::Base));
+        drawFieldEdge(*painter, *option);
         return;
-    }
-    if (element == PE_FrameGroupBox && isDark(option->palette)) {
-        drawLightFrame(*option, *painter, widget);
+    case PE_FrameLineEdit:
+        drawFieldEdge(*painter, *option);
         return;
+    case PE_Frame: // a list has the edge of a field, so that it shows the keyboard too
+        fillInside(*painter, option->rect, option->palette.color(QPalette::Base));
+        drawFieldEdge(*painter, *option);
+        return;
+    case PE_FrameFocusRect: // the focus frame marks the control with the keyboard, and one mark is enough
+        return;
+    case PE_FrameGroupBox:
+        drawEdge(*painter, option->rect, edgeColor(option->palette, quietContrast), Corners::Cut);
+        return;
+    case PE_FrameWindow:
+        painter->save();
+        painter->setClipping(false); // the edge goes around the title bar too
+        drawEdge(*painter, option->rect, edgeColor(option->palette, lineContrast));
+        painter->restore();
+        return;
+    default:
+        QProxyStyle::drawPrimitive(element, option, painter, widget);
     }
-    QProxyStyle::drawPrimitive(element, option, painter, widget);
-}
-
-void Style::drawLightFrame(const QStyleOption& option, QPainter& painter, const QWidget* widget) const
-{
-    const double ratio = painter.device()->devicePixelRatioF();
-    QImage image{option.rect.size() * ratio, QImage::Format_ARGB32_Premultiplied};
-    image.setDevicePixelRatio(ratio);
-    image.fill(Qt::transparent);
-    QPainter shade{&image};
-    shade.translate(-option.rect.topLeft());
-    QProxyStyle::drawPrimitive(PE_FrameGroupBox, &option, &shade, widget);
-    shade.end();
-    image.convertTo(QImage::Format_ARGB32);
-    image.invertPixels(QImage::InvertRgb);
-    painter.drawImage(option.rect.topLeft(), image);
 }
 
 } // namespace ondelis

@@ -4,8 +4,8 @@
 
 namespace ondelis {
 
-/// The widgets' look: Fusion, with what the system's colours leave illegible mended. Only what needs it changes, and
-/// only as far as it needs.
+/// The widgets' look: Fusion, with what the system's colours leave illegible mended, and edges of our own that stand at
+/// any scale of the screen. Only what needs it changes, and only as far as it needs.
 class Style final : public QProxyStyle {
 public:
     Style() : QProxyStyle{QStringLiteral("fusion")} { }
@@ -17,6 +17,10 @@ public:
     /// Leaves the headings of the menu no more than their own margins, so that all of them fit with a large font.
     int pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const override;
 
+    /// Cuts no corners off the windows of panels: their edges meet there.
+    int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+        QStyleHintReturn* returned) const override;
+
     /// Marks the heading of the menu that the keyboard is on, even while its menu is not open.
     void drawControl(
         ControlElement element, const QStyleOption* option, QPainter* painter, const QWidget* widget) const override;
@@ -24,11 +28,6 @@ public:
         const QWidget* widget) const override;
     void drawPrimitive(
         PrimitiveElement element, const QStyleOption* option, QPainter* painter, const QWidget* widget) const override;
-
-private:
-    /// Fusion shades the edge of a titled frame with black, which a dark window swallows: there it is shaded with
-    /// white.
-    void drawLightFrame(const QStyleOption& option, QPainter& painter, const QWidget* widget) const;
 };
 
 } // namespace ondelis

@@ -1,7 +1,7 @@
 #include "view/View.h"
 
 #include <QApplication>
-#include <QMdiArea>
+#include <QMdiSubWindow>
 #include <QScopedValueRollback>
 #include <QScreen>
 #include <algorithm>
@@ -133,7 +133,8 @@ void View::panelChanged(FeuilleCalcul& panel)
 void View::panelRaised(FeuilleCalcul& panel)
 {
     note(notedPanels_, panel);
-    raised_ = &panel;
+    if (raised_ == nullptr) // the first one is what the person asked for, the others are its company
+        raised_ = &panel;
 }
 
 void View::panelUnloaded(FeuilleCalcul& panel)
@@ -185,23 +186,32 @@ void View::showWindows()
 {
     if (std::exchange(frameNoted_, false))
         mainWindow_->follow();
+    ClientArea& area = mainWindow_->area();
     for (PanelWindow* window : closedWindows_)
         if (window->mdiArea() != nullptr)
-            mainWindow_->area().removeSubWindow(window);
-    for (FeuilleCalcul* panel : std::exchange(notedPanels_, {})) {
-        if (!panel->loaded())
-            continue;
-        PanelWindow* window = find(*panel);
-        if (window == nullptr && panel->visible()) {
-            window = new PanelWindow{*this, *panel};
-            windows_.emplace(panel, window);
-            mainWindow_->area().addSubWindow(window);
-        }
-        if (window == nullptr)
-            continue;
-        window->follow();
-        window->setVisible(panel->visible());
+            area.removeSubWindow(window);
+    QMdiSubWindow* const active = area.activeSubWindow();
+    for (FeuilleCalcul* panel : std::exchange(notedPanels_, {}))
+        if (panel->loaded())
+            showWindow(*panel);
+    // The area activates what comes on screen, also a panel that has only been written to.
+    if (raised_ == nullptr && active != nullptr && !active->isHidden())
+        area.setActiveSubWindow(active);
+}
+
+void View::showWindow(FeuilleCalcul& panel)
+{
+    PanelWindow* window = find(panel);
+    if (window == nullptr && panel.visible()) {
+        window = new PanelWindow{*this, panel};
+        windows_.emplace(&panel, window);
+        mainWindow_->area().addSubWindow(window);
     }
+    if (window == nullptr)
+        return;
+    opened_ = opened_ || (panel.visible() && window->isHidden());
+    window->follow();
+    window->setVisible(panel.visible());
 }
 
 void View::showControls()
@@ -219,6 +229,8 @@ void View::showControls()
         if (const PanelWindow* const window = find(focused->panel()))
             if (ControlWidget* const shown = window->find(*focused))
                 shown->widget().setFocus(Qt::OtherFocusReason);
+    if (std::exchange(opened_, false))
+        mainWindow_->area().bringPanelsIntoSight();
 }
 
 void View::tellFocus()

@@ -58,6 +58,7 @@ private:
     /// Shows all that was noted.
     void show();
     void showWindows();
+    void showWindow(FeuilleCalcul& panel);
     void showControls();
     /// Tells the desk which control has got the keyboard by all this: one that was shown, or the one after a hidden
     /// one.
@@ -72,9 +73,10 @@ private:
     bool frameNoted_ = false;
     std::vector<FeuilleCalcul*> notedPanels_;
     std::vector<Control*> notedControls_;
-    FeuilleCalcul* raised_ = nullptr;
+    FeuilleCalcul* raised_ = nullptr; ///< the first of them
     Control* focused_ = nullptr;
 
+    bool opened_ = false; ///< a panel has come on screen and may be out of sight there
     std::vector<PanelWindow*> closedWindows_; ///< kept until no handler runs that one of their widgets has started
     unsigned actions_ = 0; ///< that run now, one inside the other
     bool showing_ = false;

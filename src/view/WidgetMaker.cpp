@@ -21,14 +21,20 @@ ControlWidget* WidgetMaker::make(Control& control)
 
 void WidgetMaker::stack()
 {
+    const auto lower = [](const std::vector<QWidget*>& widgets) {
+        std::for_each(widgets.rbegin(), widgets.rend(), [](QWidget* widget) { widget->lower(); });
+    };
+    lower(captions_);
     for (const auto& [parent, lines] : lines_)
         lines->lower();
-    std::for_each(drawings_.rbegin(), drawings_.rend(), [](QWidget* drawing) { drawing->lower(); });
+    lower(drawings_);
 }
 
 void WidgetMaker::visit(Label& label)
 {
-    take(*new LabelWidget{window_, label, parentOf(label)}, label);
+    auto* const made = new LabelWidget{window_, label, parentOf(label)};
+    captions_.push_back(made);
+    take(*made, label);
 }
 
 void WidgetMaker::visit(TextBox& box)
@@ -78,22 +84,17 @@ void WidgetMaker::visit(Frame& frame)
 {
     auto* const made = new FrameWidget{window_, frame, parentOf(frame)};
     frames_.emplace(&frame, made);
-    drawings_.push_back(made);
     take(*made, frame);
 }
 
 void WidgetMaker::visit(PictureBox& picture)
 {
-    auto* const made = new PictureWidget{window_, picture, PictureWidget::Border::Yes, parentOf(picture)};
-    drawings_.push_back(made);
-    take(*made, picture);
+    show(picture);
 }
 
 void WidgetMaker::visit(Image& image)
 {
-    auto* const made = new PictureWidget{window_, image, PictureWidget::Border::No, parentOf(image)};
-    drawings_.push_back(made);
-    take(*made, image);
+    show(image);
 }
 
 void WidgetMaker::visit(Line& line)
@@ -110,6 +111,13 @@ void WidgetMaker::visit(MaskEdBox& box)
 {
     take(*new MaskEdBoxWidget{window_, box, parentOf(box)}, box);
     window_.nameAfter(box.design().label, made_->widget());
+}
+
+void WidgetMaker::show(Picture& picture)
+{
+    auto* const made = new PictureWidget{window_, picture, parentOf(picture)};
+    drawings_.push_back(made);
+    take(*made, picture);
 }
 
 QWidget* WidgetMaker::parentOf(const Control& control) const

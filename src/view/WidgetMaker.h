@@ -18,7 +18,7 @@ public:
     explicit WidgetMaker(PanelWindow& window) : window_{window} { }
 
     ControlWidget* make(Control& control);
-    /// Puts the drawings under the lines, and the lines under all other controls.
+    /// Puts the drawings under the lines, the lines under the captions, and these under all other controls.
     void stack();
 
 private:
@@ -38,12 +38,14 @@ private:
 
     /// The frame around the control, or the panel.
     [[nodiscard]] QWidget* parentOf(const Control& control) const;
+    void show(Picture& picture);
     void take(ControlWidget& made, const Control& control);
     /// What paints the lines and shapes on the panel, or in the frame.
     LinesWidget& linesOn(const Control& control);
 
     PanelWindow& window_;
     std::unordered_map<const Control*, QWidget*> frames_;
+    std::vector<QWidget*> captions_;
     std::vector<QWidget*> drawings_;
     std::unordered_map<QWidget*, LinesWidget*> lines_; ///< by what they are on
     ControlWidget* made_ = nullptr;

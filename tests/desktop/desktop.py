@@ -54,15 +54,16 @@ def stop(process: subprocess.Popen[bytes]) -> None:
 
 
 class Desktop:
-    """A screen of our own, and the hands on its mouse and its keyboard."""
+    """A screen of our own, with a window manager or, where that is "", without one; and the hands on its mouse and its
+    keyboard."""
 
-    def __init__(self, size: str = "1920x1080") -> None:
+    def __init__(self, size: str = "1920x1080", manager: str = "openbox") -> None:
         self._server, display = start_server(
             lambda end: ["Xvfb", "-displayfd", str(end), "-screen", "0", f"{size}x24", "-dpi", "96", "-noreset",
                          "-nolisten", "tcp"])
         self.display = f":{display}"
-        self._manager = start(["openbox"], DISPLAY=self.display)
-        until(lambda: self.hands("get_num_desktops").returncode == 0, "a window manager")
+        self._manager = start([manager], DISPLAY=self.display) if manager else None
+        until(lambda: not manager or self.hands("get_num_desktops").returncode == 0, "a window manager")
 
     def hands(self, *words: str) -> subprocess.CompletedProcess[str]:
         """Moves the mouse, presses buttons and keys: real events of the X server, by xdotool."""
@@ -87,7 +88,8 @@ class Desktop:
         stop(self._server)
 
     def close(self) -> None:
-        stop(self._manager)
+        if self._manager:
+            stop(self._manager)
         stop(self._server)
 
 

@@ -123,10 +123,10 @@ class Person:
               lambda: f'a highlight on "{entry}" under "{menu}", not on {self.highlighted()}')
         self.press("Return")
 
-    def click(self, thing: Thing) -> None:
+    def click(self, thing: Thing, button: str = "1") -> None:
         place = Atspi.Component.get_extents(thing, Atspi.CoordType.SCREEN)
         self._desktop.hands("mousemove", str(place.x + place.width // 2), str(place.y + place.height // 2),
-                            "click", "1")
+                            "click", button)
 
     def write(self, name: str, text: str) -> None:
         """Clicks into a field and types over what is there."""

@@ -47,6 +47,8 @@ class Hardships(DesktopCase):
         panel = self.person.find(Role.FRAME, "HB9CV pour bandes HF")
         place = Atspi.Component.get_extents(panel, Atspi.CoordType.SCREEN)
         self.assertNotEqual(self.desktop.color(place.x + 20, place.y + 40), DUSK)
+        tip = [self.desktop.color(place.x + 13, place.y + y) for y in range(4, 12)]
+        self.assertTrue(any(color > "E0" and color[4:] < "90" for color in tip), f"no wave in the title bar: {tip}")
         self.open_section()
         until(lambda: self.desktop.color(place.x + 20, place.y + 40) == DUSK, "a plain area where the panel was")
         self.person.pick("Fin de travail", "Quitter")

@@ -54,6 +54,19 @@ TEST_F(StoreTest, OfTheSameTextTwiceRaisesOnce)
     EXPECT_EQ(panel.log, Log{"C with x"});
 }
 
+TEST_F(StoreTest, WritesACaptionUntilThePanelIsLoadedAnew)
+{
+    panel.Show();
+    EXPECT_FALSE(panel.LblA.written());
+    panel.LblA.Visible = false;
+    EXPECT_FALSE(panel.LblA.written());
+    panel.LblA.Caption = "A"; // that of the design
+    EXPECT_TRUE(panel.LblA.written());
+    desk.Unload(panel);
+    panel.Show();
+    EXPECT_FALSE(panel.LblA.written());
+}
+
 TEST_F(StoreTest, OfTheDesignTextRaisesNothing)
 {
     panel.TxtB.Text = "b";

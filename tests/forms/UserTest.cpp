@@ -15,6 +15,7 @@ public:
     TextBox TxtRes{this, "TxtRes", {.Text = "1", .Locked = true}};
     TextBox TxtEfface{this, "TxtEfface", {}, {}, &Saisie::TxtEfface_KeyPress};
     TextBox TxtRemis{this, "TxtRemis", {}, {}, &Saisie::TxtRemis_KeyPress};
+    TextBox TxtLignes{this, "TxtLignes", {.multiLine = true}};
     Label LblA{this, "LblA", {}};
     Shape Cadre{this, "Cadre", {}};
     MaskEdBox MebIp{this, "MebIp", {}};
@@ -133,17 +134,66 @@ TEST_F(UserTest, MaxLengthCutsAPasteAndNotAStore)
 TEST_F(UserTest, AnEditTakesCharactersOutOfALongTextAndCutsWhatItPutsIn)
 {
     struct Edit {
-        const char* leaves;
+        const char* toCaret;
+        const char* tail;
         const char* stands;
     };
     panel.TxtCourt.Text = "élongé";
-    for (const Edit& edit : std::initializer_list<Edit>{
-             {"élngé", "élngé"}, {"élxgé", "élgé"}, {"èé", "èé"}, {"èxyzé", "èxé"}, {"", ""}, {"1234", "123"}}) {
+    for (const Edit& edit : std::initializer_list<Edit>{{"él", "ngé", "élngé"}, {"élx", "gé", "élgé"}, {"è", "é", "èé"},
+             {"èxyz", "é", "èxé"}, {"", "", ""}, {"1234", "", "123"}}) {
         panel.log.clear();
-        user.edit(panel.TxtCourt, edit.leaves);
+        user.edit(panel.TxtCourt, edit.toCaret, edit.tail);
         EXPECT_EQ(panel.TxtCourt.Text, edit.stands);
         EXPECT_EQ(panel.log, (Log{std::string{"court "} + edit.stands}));
     }
+}
+
+TEST_F(UserTest, AFieldOfOneLineTakesTheFirstLineOfAPaste)
+{
+    struct Paste {
+        const char* text;
+        const char* stands;
+    };
+    for (const Paste& paste : std::initializer_list<Paste>{
+             {"1\n2", "1"}, {"12\r\n", "12"}, {"3\r4", "3"}, {"\n5", ""}, {"6\t7 8", "6\t7 8"}}) {
+        user.replace(panel.TxtA, paste.text);
+        EXPECT_EQ(panel.TxtA.Text, paste.stands);
+    }
+    user.replace(panel.TxtCourt, "12\n456");
+    EXPECT_EQ(panel.TxtCourt.Text, "12");
+    user.replace(panel.TxtLignes, "1\r\n2");
+    EXPECT_EQ(panel.TxtLignes.Text, "1\r\n2");
+}
+
+TEST_F(UserTest, AnEditPutsInTheFirstLineOnly)
+{
+    panel.TxtA.Text = "2";
+    user.edit(panel.TxtA, "1\n2", ""); // over the whole of it
+    EXPECT_EQ(panel.TxtA.Text, "1");
+    panel.TxtA.Text = "19";
+    user.edit(panel.TxtA, "12\r\n9", "9");
+    EXPECT_EQ(panel.TxtA.Text, "129");
+    panel.TxtA.Text = "11";
+    user.edit(panel.TxtA, "11", "1");
+    EXPECT_EQ(panel.TxtA.Text, "111");
+    user.edit(panel.TxtLignes, "1\n2", "");
+    EXPECT_EQ(panel.TxtLignes.Text, "1\n2");
+}
+
+TEST_F(UserTest, ALineBreakThatCodeHasStoredStays)
+{
+    panel.TxtA.Text = "un\ndeux";
+    EXPECT_EQ(panel.TxtA.Text, "un\ndeux");
+    user.edit(panel.TxtA, "un\nxy\nz", "eux");
+    EXPECT_EQ(panel.TxtA.Text, "un\nxyeux");
+}
+
+TEST_F(UserTest, TheEnterKeyPutsNothingIntoAFieldOfOneLine)
+{
+    user.type(panel.TxtA, "1\r\n2");
+    EXPECT_EQ(panel.log, (Log{"key 49", "text 1", "key 50", "text 12"}));
+    user.type(panel.TxtLignes, "1\n2");
+    EXPECT_EQ(panel.TxtLignes.Text, "1\n2");
 }
 
 TEST_F(UserTest, APasteIsOneChangeAndNoKey)

@@ -53,6 +53,25 @@ class ExamplesTest final : public QObject {
         return *found;
     }
 
+    /// The lines of diagrams that reach beyond their frames.
+    static QStringList cutLines(const Desk& desk)
+    {
+        QStringList names;
+        for (const FeuilleCalcul* panel : desk.loadedPanels())
+            for (const Control* control : panel->controls()) {
+                const auto* const line = dynamic_cast<const Line*>(control);
+                if (line == nullptr || line->design().within == nullptr || !line->Visible)
+                    continue;
+                const auto twips = [](const Property<Single>& place) { return Double{place}.value(); };
+                const Box& room = line->design().within->at();
+                const QRectF inside{room.Left, room.Top, room.Width, room.Height};
+                if (!inside.contains(twips(line->X1), twips(line->Y1))
+                    || !inside.contains(twips(line->X2), twips(line->Y2)))
+                    names.append(QString::fromStdString(std::string{control->name()}));
+            }
+        return names;
+    }
+
 private slots:
     void aPictureShowsWhatHasBeenTyped()
     {
@@ -105,6 +124,28 @@ private slots:
                         faults.append(QString::fromStdString(line) + QStringLiteral(": ") + fault.line());
         }
         QVERIFY2(faults.isEmpty(), qPrintable(faults.join(QLatin1Char{'\n'})));
+    }
+
+    void everyDiagramStaysInside_data() { addExamples(); }
+
+    void everyDiagramStaysInside()
+    {
+        const Subject shown = subject();
+        Sitting sitting;
+        sitting.play("menu " + shown.entry);
+        QStringList beyond = cutLines(sitting.frame().desk());
+        std::ifstream in{std::filesystem::path{EXAMPLES} / (shown.panel + ".txt")};
+        for (std::string line; std::getline(in, line);) {
+            pilote::Words words{line};
+            if (words.atEnd())
+                continue;
+            if (words.next() == "picture")
+                for (const QString& name : cutLines(sitting.frame().desk()))
+                    beyond.append(QString::fromStdString(line) + QStringLiteral(": ") + name);
+            else
+                sitting.play(line);
+        }
+        QCOMPARE(beyond.join(QLatin1Char{'\n'}), QString{});
     }
 
     void whatIsNoCommandIsNamed()

@@ -41,6 +41,9 @@ private slots:
         QVERIFY(!opensDark(picture("96")));
         QVERIFY(opensDark(picture("sombre-96")));
         QCOMPARE(picture("sombre-96").size(), picture("96").size());
+        QVERIFY(!opensDark(picture("120")));
+        QCOMPARE(picture("120").size(), picture("96").size() * 1.25);
+        QCOMPARE(picture("144").size(), picture("96").size() * 1.5);
         QCOMPARE(picture("192").size(), picture("96").size() * 2);
         QCOMPARE(picture("sombre-192").size(), picture("192").size());
         QVERIFY(QFile::exists(folder_.filePath(QStringLiteral("CircuitsOscillants-sombre-96.png"))));
@@ -53,6 +56,7 @@ private slots:
         const QByteArray text = page.readAll();
         QVERIFY(text.contains("<h2>Circuits oscillants et Selfs</h2>"));
         QVERIFY(text.contains("src=\"CircuitsOscillants-exemple-sombre-96.png\""));
+        QVERIFY(text.contains("href=\"CircuitsOscillants-120.png\">125 %"));
         QVERIFY(!text.contains("Antennes"));
     }
 

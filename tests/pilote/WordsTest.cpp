@@ -43,7 +43,7 @@ TEST(WordsTest, MayHoldBlanksInQuotes)
 
 TEST(WordsTest, HaveEscapesInQuotes)
 {
-    EXPECT_EQ(wordsOf(R"("a\nb\tc\"d\\e")"), List{"a\nb\tc\"d\\e"});
+    EXPECT_EQ(wordsOf(R"("a\nb\tc\rd\"e\\f")"), List{"a\nb\tc\rd\"e\\f"});
     EXPECT_EQ(wordsOf(R"("\\n")"), List{"\\n"});
     EXPECT_EQ(wordsOf(R"(a\nb)"), List{"a\\nb"});
 }
@@ -71,7 +71,7 @@ TEST(WordsTest, RefuseWhatIsNotWellFormed)
 
 TEST(WordsTest, GiveATextInQuotesBackAsItWas)
 {
-    for (const char* const text : {"", "12,5 µF", "a \"quoted\" # text", "\\n", "tab\tand\nline"})
+    for (const char* const text : {"", "12,5 µF", "a \"quoted\" # text", "\\n", "tab\tand\r\nline"})
         EXPECT_EQ(wordsOf(inQuotes(text)), List{text}) << text;
 }
 

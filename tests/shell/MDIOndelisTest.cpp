@@ -1,3 +1,5 @@
+#include <set>
+
 #include "Support.h"
 #include "shell/Centrages.h"
 
@@ -106,6 +108,21 @@ TEST_F(MDIOndelisTest, NothingOpensAfterTheEnd)
     frame.close();
     click("MenuCircuitOscillant");
     EXPECT_TRUE(desk.loadedPanels().empty());
+}
+
+TEST_F(MDIOndelisTest, TwoListsOfAllPanelsListenToAClickOnTheChosenRow)
+{
+    frame.start();
+    std::set<std::string> listening;
+    for (const MenuEntry* const entry : panelEntries()) {
+        frame.click(*entry);
+        for (const FeuilleCalcul* const open : desk.loadedPanels())
+            for (const Control* const control : open->controls())
+                if (const auto* const list = dynamic_cast<const ListBox*>(control);
+                    list != nullptr && list->design().clickOnChosenRow)
+                    listening.insert(open->design().name + "." + list->name());
+    }
+    EXPECT_EQ(listening, (std::set<std::string>{"CondensateurFixe.LstDielectrique", "Transformateur.LstTole"}));
 }
 
 /// Notes the stores into a position.

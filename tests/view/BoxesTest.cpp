@@ -20,7 +20,7 @@ class BoxesTest final : public QObject {
     static void type(const std::vector<Qt::Key>& keys)
     {
         QWidget& box = *QApplication::activeModalWidget();
-        QTRY_VERIFY(box.isActiveWindow());
+        QVERIFY(QTest::qWaitFor([&] { return box.isActiveWindow(); }));
         for (const Qt::Key key : keys)
             QTest::keyClick(box.focusWidget(), key);
     }

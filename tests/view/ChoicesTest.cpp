@@ -1,9 +1,11 @@
 #include <QListWidget>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QWheelEvent>
 
 #include "Program.h"
 #include "TestPanel.h"
+#include "panels/puissance/Transformateur.h"
 
 namespace ondelis {
 
@@ -11,10 +13,9 @@ namespace ondelis {
 class ChoicesTest final : public QObject {
     Q_OBJECT
 
-    static void click(QListWidget& list, int row)
+    static void click(QListWidget& list, int row, Qt::MouseButton button = Qt::LeftButton)
     {
-        QTest::mouseClick(
-            list.viewport(), Qt::LeftButton, Qt::NoModifier, list.visualItemRect(list.item(row)).center());
+        QTest::mouseClick(list.viewport(), button, Qt::NoModifier, list.visualItemRect(list.item(row)).center());
     }
 
 private slots:
@@ -29,6 +30,43 @@ private slots:
         click(list, 1);
         QCOMPARE(panel.events, (std::vector<std::string>{"LstU_GotFocus", "LstU_Click"}));
         QCOMPARE(panel.LstU.ListIndex.get().value(), 1);
+    }
+
+    void onlyTheLeftButtonChoosesARow()
+    {
+        Program program;
+        auto& panel = program.open<TestPanel>();
+        auto& list = program.widget<QListWidget>(panel.LstU);
+        click(list, 1);
+        panel.events.clear();
+        for (const Qt::MouseButton button : {Qt::RightButton, Qt::MiddleButton}) {
+            click(list, 2, button);
+            const QPoint place = list.visualItemRect(list.item(0)).center();
+            QTest::mouseDClick(list.viewport(), button, Qt::NoModifier, place);
+            QTest::mousePress(list.viewport(), button, Qt::NoModifier, place);
+            QTest::mouseMove(list.viewport(), list.visualItemRect(list.item(2)).center());
+            QTest::mouseRelease(list.viewport(), button);
+        }
+        QVERIFY(panel.events.empty());
+        QCOMPARE(list.currentRow(), 1);
+        QCOMPARE(panel.LstU.ListIndex.get().value(), 1);
+    }
+
+    void theWheelChoosesNothing()
+    {
+        Program program;
+        auto& panel = program.open<TestPanel>();
+        auto& list = program.widget<QListWidget>(panel.LstU);
+        click(list, 1);
+        QTest::mouseClick(&program.widget(panel.OptX), Qt::LeftButton);
+        panel.events.clear();
+        for (QWidget* widget : {list.viewport(), &program.widget(panel.OptX), &program.widget(panel.OptY)}) {
+            const QPoint place = widget->rect().center();
+            QWheelEvent event{place, widget->mapToGlobal(place), {}, {0, -120}, Qt::NoButton, Qt::NoModifier,
+                Qt::NoScrollPhase, false};
+            QApplication::sendEvent(widget, &event);
+        }
+        QVERIFY(panel.events.empty());
     }
 
     void theChosenRowAgainRaisesNothing()
@@ -52,6 +90,23 @@ private slots:
         QCOMPARE(panel.events, (std::vector<std::string>{"LstR_Click", "LstR_Click"}));
         QTest::keyClick(&list, Qt::Key_Down); // the last row already
         QCOMPARE(panel.events.size(), std::size_t{2});
+    }
+
+    void theChosenLaminationIsDesignedAgain()
+    {
+        Program program;
+        program.pick("mnuCalcTransfo");
+        auto& panel = program.desk.get<Transformateur>();
+        auto& list = program.widget<QListWidget>(panel.LstTole);
+        auto& current = program.widget<QLineEdit>(panel.TxtIsec(0));
+        current.setFocus();
+        current.selectAll();
+        QTest::keyClicks(&current, QStringLiteral("2"));
+        QCOMPARE(list.currentRow(), 0);
+        QCOMPARE(list.palette().color(QPalette::Base), QColor(Qt::white));
+        QCOMPARE(std::string{panel.TxtSpires(0).Text}, std::string{"44.6"});
+        click(list, 0);
+        QCOMPARE(std::string{panel.TxtSpires(0).Text}, std::string{"53.2"});
     }
 
     void keysWalkThroughTheRows()

@@ -72,6 +72,9 @@ public:
         const int above = (title.height() - metrics.height()) / 2;
         for (int y = title.top() + above; y <= title.bottom() - above; ++y)
             judge(ink, image_.pixel(beside, y));
+        name_ = name_.replace(QStringLiteral("(title)"), QStringLiteral("(close box)"));
+        lookAtSign(
+            window.style()->subControlRect(QStyle::CC_TitleBar, &option, QStyle::SC_TitleBarCloseButton, &window));
     }
 
     void lookAt(const QColor& ink, const QRect& place, const QString& name)
@@ -129,6 +132,19 @@ private:
     void lookAtPlace(QPalette::ColorRole role, const QRect& place)
     {
         judge(color(role), commonestColor(place.translated(widget_->mapTo(&window_, QPoint{}))));
+    }
+
+    /// The middle of a place, where a sign stands on its ground: of its colours, one must stand out.
+    void lookAtSign(const QRect& place)
+    {
+        const QRect middle = place.adjusted(4, 4, -4, -4);
+        const QColor ground{commonestColor(middle)};
+        QColor sign = ground;
+        for (int y = middle.top(); y <= middle.bottom(); ++y)
+            for (int x = middle.left(); x <= middle.right(); ++x)
+                if (const QColor pixel{image_.pixel(x, y)}; contrast(pixel, ground) > contrast(sign, ground))
+                    sign = pixel;
+        judge(sign, ground.rgb());
     }
 
     [[nodiscard]] QColor color(QPalette::ColorRole role) const { return widget_->palette().color(role); }

@@ -153,6 +153,47 @@ private slots:
         QCOMPARE(panel.TxtB.BackColor.get(), 0xFFFFC0U);
     }
 
+    void aHueIsKeptOnDarkPalettes()
+    {
+        const ScopedLook look = palette(true);
+        Program program;
+        auto& panel = program.open<TestPanel>();
+        program.store([&] {
+            panel.TxtA.BackColor = 0xFFFFC0;
+            panel.TxtB.BackColor = 0xFFFFC0;
+            panel.TxtB.ForeColor = 0xFF0000;
+        });
+        QCOMPARE(program.widget(panel.TxtA).palette().color(QPalette::Text), QColor{Qt::white});
+        const QColor blue = program.widget(panel.TxtB).palette().color(QPalette::Text);
+        QCOMPARE(blue.hue(), QColor{Qt::blue}.hue());
+        QVERIFY(blue.blue() - blue.red() > 80);
+    }
+
+    void allColoredFieldsHaveWhiteTextOnDarkPalettes()
+    {
+        const ScopedLook look = palette(true);
+        Program program;
+        auto& panel = program.open<TestPanel>();
+        for (const Color ground : {0xFFFFC0, 0xFFFF80, 0xFFFF00, 0xC0FFC0, 0xC0E0FF, 0xE0E0E0}) {
+            program.store([&] { panel.TxtB.BackColor = ground; });
+            const QPalette shown = program.widget(panel.TxtB).palette();
+            QCOMPARE(shown.color(QPalette::Text), QColor{Qt::white});
+            QVERIFY(contrast(Qt::white, shown.color(QPalette::Base)) >= 4.5);
+        }
+    }
+
+    void theCloseBoxIsSeen_data() { addPalettes(); }
+
+    void theCloseBoxIsSeen()
+    {
+        QFETCH(bool, dark);
+        const ScopedLook look = palette(dark);
+        Program program;
+        program.pick("MenuThomson"); // two panels, one of which has no keyboard
+        for (const FeuilleCalcul* panel : program.desk.loadedPanels())
+            report(contrastFaultsOf(program.window(*panel)));
+    }
+
     void menus_data() { addPalettes(); }
 
     void menus()

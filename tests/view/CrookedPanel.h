@@ -36,6 +36,7 @@ public:
     ListBox PartList{this, "PartList", {.Items = {"a", "b"}, .at = {2880, 1140, 600, 480}, .label = &CutLabel}};
     ListBox BlankList{this, "BlankList", {.Items = {"a", "b"}, .at = {2880, 1740, 600, 780}, .label = &CutLabel}};
     OptionButton HighOption{this, "HighOption", {.Caption = "Rho", .at = {4200, 1740, 900, 345}}};
+    Label LowTitle{this, "LowTitle", {.Caption = "Rho", .at = {4200, 2160, 900, 255}, .font = {.bold = true}}};
     OptionButton CutOption{this, "CutOption", {.Caption = "Rho optimum", .at = {3600, 240, 600, 300}}};
     CommandButton CutButton{this, "CutButton", {.Caption = "Calculer", .at = {3600, 600, 480, 375}}};
     Label NoCaption{this, "NoCaption", {.at = {4200, 1440, 600, 255}}};
@@ -44,6 +45,9 @@ public:
     Label Under{this, "Under", {.Caption = "R", .at = {240, 1320, 900, 255}}};
     TextBox Over{this, "Over", {.at = {900, 1320, 900, 315}, .label = &Under}};
     Image Missing{this, "Missing", {.picture = "aucun", .at = {240, 1800, 900, 900}}};
+    Image Stretched{this, "Stretched", {.picture = "section-diametre", .at = {1200, 1800, 600, 735}}};
+    Label Small{this, "Small", {.Caption = "C", .at = {1200, 2400, 600, 255}, .font = {.size = 8}}};
+    Label Covered{this, "Covered", {.Caption = "R", .at = {360, 4380, 600, 255}}}; // by CutArea: on purpose
     Label Hidden{this, "Hidden", {.Caption = "Cachée, mais trop longue", .at = {240, 240, 60, 60}, .Visible = false}};
     Frame CutFrame{this, "CutFrame", {.Caption = "Caractéristiques", .at = {240, 2880, 900, 1200}}};
     Frame Frame1{this, "Frame1", {.Caption = "Cadre", .at = {1800, 2880, 1800, 1200}}};

@@ -3,6 +3,7 @@
 #include <QClipboard>
 #include <QLineEdit>
 #include <QMenu>
+#include <QMimeData>
 #include <QPlainTextEdit>
 
 #include "Program.h"
@@ -69,6 +70,65 @@ private slots:
         QTest::keyClick(&program.widget(panel.TxtA), Qt::Key_V, Qt::ControlModifier);
         QCOMPARE(panel.events, (std::vector<std::string>{"TxtA_Change"}));
         QCOMPARE(std::string{panel.TxtA.Text}, std::string{"12"});
+    }
+
+    void aPasteEndsAtItsFirstLineBreak_data()
+    {
+        QTest::addColumn<QString>("pasted");
+        QTest::addColumn<QString>("stands");
+        QTest::newRow("two cells") << QStringLiteral("1\n2") << QStringLiteral("1");
+        QTest::newRow("a cell with its end") << QStringLiteral("12\r\n") << QStringLiteral("12");
+        QTest::newRow("an old file") << QStringLiteral("3\r4") << QStringLiteral("3");
+        QTest::newRow("an empty line first") << QStringLiteral("\n5") << QString{};
+        QTest::newRow("a tab") << QStringLiteral("6\t7") << QStringLiteral("6\t7");
+    }
+
+    void aPasteEndsAtItsFirstLineBreak()
+    {
+        QFETCH(QString, pasted);
+        QFETCH(QString, stands);
+        Program program;
+        auto& panel = program.open<TestPanel>();
+        program.store([&] { panel.TxtA.Text = "2"; });
+        auto& field = program.widget<QLineEdit>(panel.TxtA);
+        const auto stored = [&] { return toQString(panel.TxtA.Text.get()); };
+        QGuiApplication::clipboard()->setText(pasted);
+        field.selectAll();
+        QTest::keyClick(&field, Qt::Key_V, Qt::ControlModifier);
+        QCOMPARE(stored(), stands);
+        QCOMPARE(field.text(), stands);
+        // In the middle: typing goes on behind what was put in.
+        program.store([&] { panel.TxtA.Text = "89"; });
+        field.setCursorPosition(1);
+        QTest::keyClick(&field, Qt::Key_V, Qt::ControlModifier);
+        QCOMPARE(stored(), QLatin1Char{'8'} + stands + QLatin1Char{'9'});
+        QCOMPARE(field.cursorPosition(), 1 + stands.size());
+    }
+
+    void aDropEndsAtItsFirstLineBreak()
+    {
+        Program program;
+        auto& panel = program.open<TestPanel>();
+        program.store([&] { panel.TxtA.Text = "89"; });
+        auto& field = program.widget<QLineEdit>(panel.TxtA);
+        QMimeData dropped;
+        dropped.setText(QStringLiteral("1\r\n2"));
+        const QPoint end{field.width() - 5, field.height() / 2};
+        QDragEnterEvent enter{end, Qt::CopyAction, &dropped, Qt::LeftButton, Qt::NoModifier};
+        QApplication::sendEvent(&field, &enter);
+        QDropEvent event{end, Qt::CopyAction, &dropped, Qt::LeftButton, Qt::NoModifier};
+        QApplication::sendEvent(&field, &event);
+        QCOMPARE(toQString(panel.TxtA.Text.get()), QStringLiteral("891"));
+        QCOMPARE(field.text(), QStringLiteral("891"));
+    }
+
+    void aFieldOfSeveralLinesTakesThemAll()
+    {
+        Program program;
+        auto& panel = program.open<TestPanel>();
+        QGuiApplication::clipboard()->setText(QStringLiteral("un\ndeux"));
+        QTest::keyClick(&program.widget(panel.TxtM), Qt::Key_V, Qt::ControlModifier);
+        QCOMPARE(toQString(panel.TxtM.Text.get()), QStringLiteral("un\ndeux"));
     }
 
     void theCaretStaysAtTheEndOfTheFieldThatIsTypedIn()

@@ -87,6 +87,19 @@ private slots:
         }
     }
 
+    void theFrameIsTheOnlyMark()
+    {
+        Program program;
+        auto& panel = program.open<TestPanel>();
+        program.store([&] { panel.OptX.Value = true; });
+        QWidget& option = program.widget(panel.OptX);
+        program.widget(panel.TxtC).setFocus();
+        const QImage before = option.grab().toImage();
+        option.setFocus(Qt::TabFocusReason);
+        QVERIFY(option.hasFocus());
+        QCOMPARE(option.grab().toImage(), before);
+    }
+
     void theMarkIsSeenAroundAnOptionWithoutCaption()
     {
         Program program;
@@ -109,7 +122,7 @@ private slots:
         Reader reader{{"Non"}};
         reader.meanwhile = [&] {
             QWidget& box = *QApplication::activeModalWidget();
-            QTRY_VERIFY(box.isActiveWindow());
+            QVERIFY(QTest::qWaitFor([&] { return box.isActiveWindow(); }));
             const QWidget& yes = *box.focusWidget();
             const QImage with = picture(yes, box);
             QTest::keyClick(&box, Qt::Key_Tab);

@@ -6,10 +6,13 @@
 #include <QListWidget>
 #include <QScrollBar>
 #include <QStyleOptionTitleBar>
+#include <QSvgRenderer>
+#include <algorithm>
 #include <cmath>
 
 #include "TextFit.h"
 #include "forms/Controls.h"
+#include "panels/CouleursDessins.h"
 #include "view/ControlWidget.h"
 
 namespace ondelis {
@@ -20,8 +23,12 @@ constexpr int fewRows = 8;
 
 // In twips.
 constexpr double optionHeight = 300;
+constexpr double boldHeight = 315;
 constexpr double listRow = 240;
 constexpr double listBorders = 60;
+constexpr double twipsPerPixel = 15;
+
+constexpr double dimensionSize = 8; // in points
 
 class Check {
 public:
@@ -41,6 +48,7 @@ public:
             checkMeasures();
             checkPlace(widget);
             checkDrawing();
+            checkSize();
             checkName(widget);
         }
         checkOverlaps();
@@ -104,6 +112,10 @@ private:
         const double height = control_->at().Height;
         if (dynamic_cast<const OptionButton*>(control_) != nullptr && height != optionHeight)
             fault(QStringLiteral("the option is not as high as all others"));
+        // In some fonts bold capitals with accents are higher than a plain caption.
+        if (const auto* const label = dynamic_cast<const Label*>(control_);
+            label != nullptr && label->design().font.bold && height < boldHeight)
+            fault(QStringLiteral("the bold caption is lower than a field"));
         const auto* const list = dynamic_cast<const ListBox*>(control_);
         if (list == nullptr)
             return;
@@ -129,12 +141,37 @@ private:
     void checkDrawing()
     {
         std::string name;
-        if (const auto* const picture = dynamic_cast<const Picture*>(control_))
+        const auto* const picture = dynamic_cast<const Picture*>(control_);
+        if (picture != nullptr)
             name = picture->design().picture;
         else if (const auto* const frame = dynamic_cast<const Frame*>(control_))
             name = frame->design().picture;
-        if (!name.empty() && !QFile::exists(QStringLiteral(":/dessins/%1.svg").arg(toQString(name))))
+        if (name.empty())
+            return;
+        const QString file = QStringLiteral(":/dessins/%1.svg").arg(toQString(name));
+        if (!QFile::exists(file))
             fault(QStringLiteral("there is no drawing %1").arg(toQString(name)));
+        else if (picture != nullptr && !isOfItsSize(*picture, QSvgRenderer{file}.defaultSize()))
+            fault(QStringLiteral("the drawing is not shown in its size"));
+    }
+
+    /// Its control leaves a drawing some room, but lets it grow in no direction.
+    static bool isOfItsSize(const Picture& picture, const QSize& pixels)
+    {
+        const double across = picture.at().Width / (twipsPerPixel * pixels.width());
+        const double down = picture.at().Height / (twipsPerPixel * pixels.height());
+        return std::min(across, down) == 1;
+    }
+
+    /// One size for all texts, but for the dimensions on drawings.
+    void checkSize()
+    {
+        const auto* const label = dynamic_cast<const Label*>(control_);
+        if (label == nullptr)
+            return;
+        const double size = label->design().ForeColor == dessin::cote ? dimensionSize : Font{}.size;
+        if (label->design().font.size != size)
+            fault(QStringLiteral("its text is not of the size of all others"));
     }
 
     void checkName(QWidget& widget)
@@ -156,6 +193,12 @@ private:
         return part.isValid() ? part.translated(widget.mapTo(&window_.form(), QPoint{})) : QRect{};
     }
 
+    /// A caption of which another control leaves nothing to be seen.
+    static bool isHidden(const Control& control, const QRect& part, const QRect& other)
+    {
+        return dynamic_cast<const Label*>(&control) != nullptr && other.contains(part);
+    }
+
     void checkOverlaps()
     {
         const std::vector<Control*>& controls = window_.panel().controls();
@@ -165,7 +208,9 @@ private:
             parts.push_back(solidPartOf(*control));
         for (std::size_t one = 0; one < parts.size(); ++one)
             for (std::size_t other = one + 1; other < parts.size(); ++other)
-                if (parts[one].intersects(parts[other]) && controls[other]->container() != controls[one]) {
+                if (parts[one].intersects(parts[other]) && controls[other]->container() != controls[one]
+                    && !isHidden(*controls[one], parts[one], parts[other])
+                    && !isHidden(*controls[other], parts[other], parts[one])) {
                     turnTo(*controls[one]);
                     fault(QStringLiteral("it overlaps %1").arg(toQString(controls[other]->name())));
                 }

@@ -1,6 +1,7 @@
 #include "Program.h"
 #include "forms/Controls.h"
 #include "forms/FeuilleCalcul.h"
+#include "panels/antennes/AntennesLPDA1.h"
 
 namespace ondelis {
 
@@ -57,6 +58,28 @@ private slots:
         QVERIFY(blue(program, panel, 1500, 1470));
         QVERIFY(blue(program, panel, 1500, 630));
         QVERIFY(!blue(program, panel, 1500, 570));
+    }
+
+    void framesAndFieldsCoverCaptions()
+    {
+        Program program;
+        program.pick("mnuLPDA");
+        auto& panel = program.desk.get<AntennesLPDA1>();
+        const auto seen = [&] { return program.window(panel).form().grab().toImage(); };
+        for (const bool notes : {false, true}) { // over its frame lie two fields that take turns with it
+            if (notes)
+                program.store([&] { panel.BtnCalculer1.Value = true; });
+            const QImage covered = seen();
+            program.store([&] { panel.Label8.Visible = false; });
+            QCOMPARE(seen(), covered);
+            program.store([&] {
+                panel.Label8.Visible = true;
+                panel.Frame1.Visible = false;
+                panel.Text1.Visible = false;
+            });
+            QVERIFY(seen() != covered);
+            program.store([&] { panel.Frame1.Visible = true; });
+        }
     }
 
     void aLineThatMissesItsDiagramIsNotDrawn()

@@ -1,4 +1,5 @@
 #include <QAccessible>
+#include <QMdiArea>
 #include <QScrollBar>
 #include <QStyleOptionSlider>
 #include <QWheelEvent>
@@ -30,12 +31,14 @@ class ScrollBarsTest final : public QObject {
         QTest::mouseClick(&bar, Qt::LeftButton, Qt::NoModifier, at.center());
     }
 
+    /// Turns the wheel of the mouse over a bar; what does not take it leaves it to what is around.
     static void turnWheel(QScrollBar& bar, int notches)
     {
         const QPoint middle = bar.rect().center();
         QWheelEvent event{middle, bar.mapToGlobal(middle), {}, {0, 120 * notches}, Qt::NoButton, Qt::NoModifier,
             Qt::NoScrollPhase, false};
-        QApplication::sendEvent(&bar, &event);
+        QSpontaneKeyEvent::setSpontaneous(&event); // an event that a program sends goes no further
+        QApplication::instance()->notify(&bar, &event);
     }
 
     static ScrollBar& barOf(TestPanel& panel, const QString& name)
@@ -84,6 +87,7 @@ private slots:
         QTest::keyClick(&widget, Qt::Key_PageUp);
         QCOMPARE(value(), 50);
 
+        QVERIFY(widget.hasFocus());
         turnWheel(widget, -1);
         QVERIFY((value() - 50) * towardsMax > 0);
         turnWheel(widget, 1);
@@ -93,6 +97,43 @@ private slots:
         QCOMPARE(value(), control.Min.get().value());
         QTest::keyClick(&widget, Qt::Key_End);
         QCOMPARE(value(), control.Max.get().value());
+    }
+
+    void theWheelPassesOverABarThatLacksTheKeyboard()
+    {
+        Program program;
+        auto& panel = program.open<TestPanel>();
+        QMdiArea& area = *program.window(panel).mdiArea();
+        program.window(panel).move(0, -200);
+        QScrollBar& scrolled = *area.verticalScrollBar();
+        QTRY_VERIFY(scrolled.maximum() > scrolled.minimum());
+        auto& bar = program.widget<QScrollBar>(panel.VscrA);
+        program.widget(panel.TxtA).setFocus();
+        panel.events.clear();
+
+        scrolled.setValue(scrolled.minimum());
+        turnWheel(bar, -1);
+        QCOMPARE(panel.VscrA.Value.get().value(), 50);
+        QCOMPARE(program.desk.focused(), &panel.TxtA);
+        QVERIFY(scrolled.value() > scrolled.minimum());
+
+        bar.setFocus();
+        const int stands = scrolled.value();
+        QTest::keyClick(&bar, Qt::Key_End);
+        turnWheel(bar, -1);
+        QCOMPARE(panel.VscrA.Value.get().value(), 100);
+        QCOMPARE(scrolled.value(), stands);
+    }
+
+    void otherButtonsMoveNoBar()
+    {
+        Program program;
+        auto& panel = program.open<TestPanel>();
+        auto& bar = program.widget<QScrollBar>(panel.HscrA);
+        for (const Qt::MouseButton button : {Qt::MiddleButton, Qt::RightButton})
+            for (const QPoint place : {QPoint{3, 5}, QPoint{bar.width() / 4, 5}, QPoint{bar.width() - 3, 5}})
+                QTest::mouseClick(&bar, button, Qt::NoModifier, place);
+        QCOMPARE(panel.HscrA.Value.get().value(), 50);
     }
 
     void theSliderStandsWhereTheValueIs()

@@ -5,6 +5,7 @@
 
 #include "Program.h"
 #include "TestPanel.h"
+#include "panels/resonance/CalculNombreSpires.h"
 #include "shell/Menu.h"
 #include "view/ClientArea.h"
 
@@ -88,10 +89,10 @@ private slots:
         const Program program;
         MainWindow& window = program.view.mainWindow();
         window.move(window.x(), 0);
-        QTRY_COMPARE(window.menuBar()->y(), 0);
-        QTRY_VERIFY(window.screen()->geometry().contains(onScreen(window.area())));
+        QVERIFY(QTest::qWaitFor([&] { return window.menuBar()->y() == 0; }));
+        QVERIFY(QTest::qWaitFor([&] { return window.screen()->geometry().contains(onScreen(window.area())); }));
         window.resize(800, 600);
-        QTRY_COMPARE(window.contentsMargins(), QMargins{});
+        QVERIFY(QTest::qWaitFor([&] { return window.contentsMargins() == QMargins{}; }));
         window.move(-100, 400); // it fits on the screen: where the user puts it is his business
         QCOMPARE(window.contentsMargins(), QMargins{});
     }
@@ -115,7 +116,7 @@ private slots:
         QCOMPARE(controlsOutOfSight(program), QStringList{});
         QCOMPARE(panelsOutOfSight(program), QStringList{});
         window.setGeometry(100, 100, 800, 600);
-        QTRY_COMPARE(window.contentsMargins(), QMargins{});
+        QVERIFY(QTest::qWaitFor([&] { return window.contentsMargins() == QMargins{}; }));
         QCOMPARE(controlsOutOfSight(program), QStringList{});
         QCOMPARE(panelsOutOfSight(program), QStringList{});
     }
@@ -126,7 +127,7 @@ private slots:
         auto& panel = program.desk.get<TestPanel>();
         panel.onLoad = [&] { panel.Left = 24000; };
         program.open<TestPanel>();
-        QTRY_VERIFY(seen(program).contains(onScreen(program.widget(panel.TxtA))));
+        QVERIFY(QTest::qWaitFor([&] { return seen(program).contains(onScreen(program.widget(panel.TxtA))); }));
         QCOMPARE(Double{panel.Left}.value(), 24000.0);
     }
 
@@ -135,12 +136,38 @@ private slots:
         Program program;
         MainWindow& window = program.view.mainWindow();
         window.setGeometry(100, 100, 800, 600);
-        program.pick("MenuThomson"); // its companion, on the right, has the keyboard
+        program.pick("MenuThomson");
         const auto seenWhole = [&] { return seen(program).contains(onScreen(*QApplication::focusWidget())); };
-        QTRY_VERIFY(program.view.mainWindow().area().verticalScrollBar()->isVisible());
-        QTRY_VERIFY(seenWhole());
+        QVERIFY(QTest::qWaitFor([&] { return program.view.mainWindow().area().verticalScrollBar()->isVisible(); }));
+        QVERIFY(QTest::qWaitFor(seenWhole));
         window.resize(600, 500);
-        QTRY_VERIFY(seenWhole());
+        QVERIFY(QTest::qWaitFor(seenWhole));
+    }
+
+    void whatWasClickedStaysInSightToo()
+    {
+        Program program;
+        MainWindow& window = program.view.mainWindow();
+        window.setGeometry(100, 100, 1200, 700);
+        program.pick("MenuThomson");
+        const auto& companion = program.desk.get<CalculNombreSpires>();
+        QWidget& field = program.widget(companion.TxtS);
+        QTest::mouseClick(window.windowHandle(), Qt::LeftButton, {}, field.mapTo(&window, field.rect().center()));
+        QVERIFY(field.hasFocus());
+        window.resize(500, 400);
+        QTRY_VERIFY(seen(program).contains(onScreen(field)));
+    }
+
+    void theWindowKeepsItsSizeWhereverItIs()
+    {
+        const Program program;
+        MainWindow& window = program.view.mainWindow();
+        window.resize(1500, 900); // larger than the screen
+        for (const QPoint place : {QPoint{1350, 100}, {-1490, 100}, {100, 760}, {100, -890}, {5000, 5000}, {0, 0}}) {
+            window.move(place);
+            QTest::qWait(10);
+            QCOMPARE(window.size(), (QSize{1500, 900}));
+        }
     }
 
     void nothingMovesUnderTheMouse()

@@ -135,7 +135,7 @@ private slots:
         auto& panel = program.open<TestPanel>();
         program.store([&] { panel.Left = 15000; });
         QScrollBar& bar = *program.view.mainWindow().area().horizontalScrollBar();
-        QTRY_VERIFY(bar.maximum() > 0);
+        QVERIFY(QTest::qWaitFor([&] { return bar.maximum() > 0; }));
         bar.setValue(bar.maximum());
         PanelWindow& window = program.window(panel);
         QVERIFY(window.geometry().right() <= program.view.mainWindow().area().viewport()->width());
@@ -258,7 +258,9 @@ private slots:
             const QColor option = program.widget(panel.OptX).palette().color(QPalette::WindowText);
             QVERIFY(option.lightness() > 80);
             QApplication::setPalette(light);
-            QTRY_COMPARE(program.widget(panel.OptX).palette().color(QPalette::WindowText), QColor(0, 0, 0x80));
+            QVERIFY(QTest::qWaitFor([&] {
+                return program.widget(panel.OptX).palette().color(QPalette::WindowText) == QColor(0, 0, 0x80);
+            }));
         }
         QApplication::setPalette(light);
     }

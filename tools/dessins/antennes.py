@@ -89,12 +89,16 @@ def gamma_section(s: Sheet, element: Point, rod: Point) -> None:
             s.axis(along(centre, cross, -radius - 5), along(centre, cross, radius + 5))
 
 
+SECTION = "A-A"  # the heading of what the cut below shows
+
+
 def cut(s: Sheet, a: Point, b: Point) -> None:
-    """The line along which a section is taken; it is seen to the left of the way from a to b, as the arrows point."""
+    """The line A-A along which a section is taken, seen to the left of the way from a to b, as the arrows point."""
     u = towards(a, b)
     s.axis(a, b)
-    for end in (a, b):
+    for end, out in ((a, -10), (b, 10)):
         s.arrow(end, along(end, u, 0, 14), DIM, THIN)
+        s.text(*along(end, u, out, 7), "A", WORD, colour=DIM)
 
 
 @picture("gamma-monopole", 420, 440, "Gamma match d'un monopôle")
@@ -112,6 +116,7 @@ def gamma_monopole(s: Sheet) -> None:
     s.dimension((rod - 8, strap), (rod - 8, foot), "Gamma", -52)
     y = 386.0
     gamma_section(s, (mast, y), (rod, y))
+    s.text(80, y, SECTION, colour=DIM)
     s.dimension((mast, y + 28), (mast, y - 28), "DE", -48)
     s.dimension((rod, y + 9), (rod, y - 9), "DR", 38)
     s.dimension((rod, y + 17), (mast, y + 17), "S", -26)
@@ -135,6 +140,7 @@ def gamma_dipole(s: Sheet) -> None:
     s.dimension((middle, rod), (strap, rod), "Gamma", -46)
     x = 196.0
     gamma_section(s, (x, axis + 208), (x, rod + 208))
+    s.text(120, axis + 208, SECTION, colour=DIM)
     s.dimension((x - 28, axis + 208), (x + 28, axis + 208), "DE", 46)
     s.dimension((x - 9, rod + 208), (x + 9, rod + 208), "DR", -36)
     s.dimension((x + 33, rod + 208), (x + 33, axis + 208), "S", -26)

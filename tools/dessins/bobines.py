@@ -57,13 +57,14 @@ def bobine_diametre(s: Sheet) -> None:
 
 @picture("bobine-espacement", 150, 120, "Diamètre du fil et espacement des spires")
 def bobine_espacement(s: Sheet) -> None:
-    """Two turns close up: the wire's diameter and the space e between turns."""
-    wire, space, axis = 48.0, 38.0, 46.0
+    """Two turns close up: the wire's diameter and the space between turns, in the words of their fields."""
+    wire, space, axis = 48.0, 38.0, 42.0
     left, right = 32.0, 32.0 + wire + space
     for x in (left, right):
         s.circle((x, axis), wire / 2, stroke=COPPER, fill=COPPER_PALE)
-    s.dimension((left - wire / 2, axis), (left + wire / 2, axis), "Ø", -46)
-    s.dimension((left + wire / 2, axis), (right - wire / 2, axis), "e", -46)
+    s.dimension((left - wire / 2, axis), (left + wire / 2, axis), "Ø", -44)
+    s.dimension((left + wire / 2, axis), (right - wire / 2, axis), offset=-44)
+    s.text((left + right) / 2, axis + 58, "Espacement", WORD, colour=DIM)
 
 
 @picture("bobine-longueur", 150, 120, "Longueur et diamètre de l'enroulement")
@@ -112,13 +113,18 @@ def self_cotes(s: Sheet) -> None:
     s.text(x + 4 * pitch, top - 34, "3", WORD, colour=DIM)
 
 
-@picture("tore", 270, 190, "Bobine sur un tore")
+@picture("tore", 276, 207, "Bobine sur un tore")
 def tore(s: Sheet) -> None:
     """The wound core seen from above, and its thickness seen from the side."""
-    centre, outer, inside = (92.0, 82.0), 64.0, 34.0
-    s.path("M28 82 a64 64 0 1 1 128 0 a64 64 0 1 1 -128 0 Z M58 82 a34 34 0 1 0 68 0 a34 34 0 1 0 -68 0 Z", fill=DARK)
-    for i in range(19):
-        angle = -60 + 16.7 * i
+    centre, outer, inside = (92.0, 94.0), 64.0, 34.0
+    first, step, turns = 119.7, 16.7, 19
+    # Each turn comes out of the hole and goes over the core. So the wire begins behind it, and ends on its outside.
+    for angle in (first + 3, first + step * (turns - 1) - 3):
+        hole, foot = polar(centre, inside + 1, angle), polar(centre, outer + 3, angle)
+        s.wire(hole, foot, (foot[0], 6), stroke=COPPER, width=TUBE)
+    s.path("M28 94 a64 64 0 1 1 128 0 a64 64 0 1 1 -128 0 Z M58 94 a34 34 0 1 0 68 0 a34 34 0 1 0 -68 0 Z", fill=DARK)
+    for i in range(turns):
+        angle = first + step * i
         a, b = polar(centre, inside + 1, angle + 3), polar(centre, outer + 3, angle - 3)
         s.wire(a, b, stroke=COPPER, width=TUBE)
     left, width = 196.0, 30.0

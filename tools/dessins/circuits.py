@@ -1,4 +1,4 @@
-"""The seven simple circuits, the sweep circuits and the LC circuit."""
+"""The seven simple circuits, the sweep circuits and the sign of the LC circuit."""
 
 from __future__ import annotations
 
@@ -109,19 +109,11 @@ def sweep_parallele(s: Sheet) -> None:
     capacitor(s, (right, top + 32), (right, bottom), "C")
 
 
-@picture("circuit-lc", 200, 130, "Circuit oscillant")
-def lc(s: Sheet) -> None:
-    """A coil and a capacitor, closed on each other."""
-    inductor(s, (60, 25), (60, 105), "L", side=-1)
-    capacitor(s, (140, 25), (140, 105), "C")
-    for y in (25, 105):
-        s.wire((60, y), (140, y))
-
-
 @picture("thomson-icone", 46, 46, "Circuit oscillant")
 def thomson_icone(s: Sheet) -> None:
-    """The same circuit as a small sign, without letters."""
-    inductor(s, (12, 6), (12, 40), side=-1, turns=3)
-    capacitor(s, (34, 6), (34, 40))
+    """A coil and a capacitor, closed on each other: a small sign, without letters."""
+    coil, plates = 9.5, 31.5
+    inductor(s, (coil, 6), (coil, 40), side=-1, turns=3)
+    capacitor(s, (plates, 6), (plates, 40))
     for y in (6, 40):
-        s.wire((12, y), (34, y))
+        s.wire((coil, y), (plates, y))

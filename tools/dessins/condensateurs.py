@@ -2,9 +2,11 @@
 
 from __future__ import annotations
 
-from sheet import (COPPER, COPPER_PALE, DIELECTRIC, DIM, HEAVY, INK, MARKING, METAL, PAPER, THIN, WORD, Point, Sheet,
-                   number, picture, polar)
-from symbols import block, capacitor, current_source, junction, lamp, switch
+import math
+
+from sheet import (ARROW, BLACK_PART, COPPER, COPPER_PALE, DIELECTRIC, DIM, HEAVY, MARK, MARKING, METAL, PAPER, THIN,
+                   WORD, Point, Sheet, number, picture, polar, towards)
+from symbols import block, capacitor, current_source, junction, lamp, switch, terminal
 
 
 @picture("condensateur-plan", 230, 140, "Condensateur plan")
@@ -26,8 +28,8 @@ def cms(s: Sheet) -> None:
     """A chip resistor from above, with its marking, its length and its width."""
     x, y, length, width, end = 22.0, 14.0, 116.0, 64.0, 20.0
     s.rect(x, y, length, width, fill=METAL)
-    s.rect(x + end, y, length - 2 * end, width, fill=INK)
-    s.text(x + length / 2, y + width / 2, "103", MARKING, colour=PAPER)
+    s.rect(x + end, y, length - 2 * end, width, fill=BLACK_PART)
+    s.text(x + length / 2, y + width / 2, "103", MARKING, colour=MARK)
     s.dimension((x, y + width), (x + length, y + width), "Longueur", -24)
     s.dimension((x + length, y + width), (x + length, y), "Largeur", -40)
 
@@ -40,22 +42,72 @@ def blade(s: Sheet, centre: Point, outer: float, inner: float, start: float, end
            f" A{inner} {inner} 0 0 1 {number(x4)} {number(y4)} Z", fill=fill)
 
 
+# The three constructions of a variable capacitor, in pictures of one size that take turns.
+
+BLADES, BLADE, HUB = (108.0, 106.0), 76.0, 20.0  # centre, outer and inner radius
+
+
+def angle_of_blade(s: Sheet, start: float, end: float, reach: float, gap: float) -> None:
+    """The angle between the edges of a blade, its word in a gap of the arc that wide, in degrees."""
+    head = math.degrees(ARROW[0] / reach)
+    middle = (start + end) / 2
+    s.arc(BLADES, reach, start + head, middle - gap / 2, stroke=DIM, width=THIN)
+    s.arc(BLADES, reach, middle + gap / 2, end - head, stroke=DIM, width=THIN)
+    for angle, back in ((start, head / 2), (end, -head / 2)):
+        tip, behind = polar(BLADES, reach, angle), polar(BLADES, reach, angle + 2 * back)
+        s.head(tip, towards(behind, tip), DIM)
+    s.text(*polar(BLADES, reach, middle), "Angle", WORD)
+
+
+def diameters(s: Sheet) -> None:
+    """The shaft, and the two diameters of the blades."""
+    x, y = BLADES
+    s.circle(BLADES, 7, fill=PAPER)
+    s.dimension((x - BLADE, y), (x + BLADE, y), "Ø ext", -100)
+    s.dimension((x, y + HUB), (x, y - HUB), "Ø int", -98)
+
+
 @picture("condensateur-variable", 240, 220, "Lames d'un condensateur variable")
 def condensateur_variable(s: Sheet) -> None:
-    """A moving blade turned halfway out of a fixed one, with its two diameters and its angle."""
-    centre, outer, inner = (108.0, 106.0), 76.0, 20.0
-    blade(s, centre, outer, inner, 180.5, 359.5, METAL)
-    blade(s, centre, outer, inner, 40.5, 219.5, COPPER_PALE)
-    s.circle(centre, 7, fill=PAPER)
-    reach = 48.0
-    tip, tail = polar(centre, reach, 219), polar(centre, reach, 41)
-    s.arc(centre, reach, 46, 105, stroke=DIM, width=THIN)
-    s.arc(centre, reach, 158, 214, stroke=DIM, width=THIN)
-    s.head(tip, (0.69, 0.72), DIM)
-    s.head(tail, (0.72, 0.69), DIM)
-    s.text(*polar(centre, reach, 131), "Angle", WORD)
-    s.dimension((centre[0] - outer, centre[1]), (centre[0] + outer, centre[1]), "Ø ext", -100)
-    s.dimension((centre[0], centre[1] + inner), (centre[0], centre[1] - inner), "Ø int", -98)
+    """A moving blade turned halfway out of a fixed one."""
+    blade(s, BLADES, BLADE, HUB, 180.5, 359.5, METAL)
+    blade(s, BLADES, BLADE, HUB, 40.5, 219.5, COPPER_PALE)
+    angle_of_blade(s, 40.5, 219.5, 48, 52)
+    diameters(s)
+
+
+def butterfly(s: Sheet) -> None:
+    """Two moving blades on one shaft, turned halfway out of two fixed ones that face each other."""
+    for half in (0, 180):
+        blade(s, BLADES, BLADE, HUB, 180.5 + half, 269.5 + half, METAL)
+    for half in (0, 180):
+        blade(s, BLADES, BLADE, HUB, 135.5 + half, 224.5 + half, COPPER_PALE)
+    angle_of_blade(s, 135.5, 224.5, 48, 24)
+    diameters(s)
+
+
+@picture("papillon-serie", 240, 220, "Condensateur papillon en série")
+def papillon_serie(s: Sheet) -> None:
+    """The two fixed blades are the two poles: the current crosses the moving ones on its way."""
+    butterfly(s)
+    first, second = polar(BLADES, BLADE, 67), polar(BLADES, BLADE, 247)
+    ends = ((228, first[1]), (8, second[1]))
+    s.wire(first, ends[0])
+    s.wire(second, ends[1])
+    terminal(s, *ends)
+
+
+@picture("papillon-parallele", 240, 220, "Condensateur papillon en parallèle")
+def papillon_parallele(s: Sheet) -> None:
+    """The two fixed blades are one pole, the moving ones the other."""
+    butterfly(s)
+    first, second, moving = polar(BLADES, BLADE, 67), polar(BLADES, BLADE, 247), polar(BLADES, BLADE, -36)
+    corner, ends = (20.0, 12.0), ((6.0, 12.0), (228.0, moving[1]))
+    s.wire(first, (first[0], corner[1]), corner, (corner[0], second[1]), second)
+    s.wire(corner, ends[0])
+    s.wire(moving, ends[1])
+    junction(s, corner)
+    terminal(s, *ends)
 
 
 @picture("energie-condensateur", 280, 130, "Charge et décharge d'un condensateur")

@@ -37,7 +37,8 @@ def write(name: str, *source: str, image: bytes | None = None, shaded: bool = Fa
 
 
 def rendered(sheet: Sheet) -> bytes:
-    return subprocess.run(["rsvg-convert", "-b", PAPER], input=sheet.svg().encode(),
+    svg = sheet.svg().replace("<g ", '<g font-family="DejaVu Sans" ', 1)  # the font of the gallery
+    return subprocess.run(["rsvg-convert", "-b", PAPER], input=svg.encode(),
                           stdout=subprocess.PIPE, check=True).stdout
 
 

@@ -147,19 +147,18 @@ def elimination_bande(s: Sheet) -> None:
     terminal(s, (IN, top), (IN, low))
 
 
-@picture("double-pi", 558, 140, "Filtre en double Pi")
+@picture("double-pi", 558, 120, "Filtre en double Pi")
 def double_pi(s: Sheet) -> None:
     """Two Pi in cascade, each drawn whole: C1 L1 C2, then C3 L2 C4. Each part stands over or under its field."""
-    first, step, end = 66.0, 142.0, 548.0
+    first, step, end, high, low = 66.0, 142.0, 548.0, 24.0, 112.0
     columns = [first + i * step for i in range(4)]
-    low = 132.0
     for x, letter, label in zip(columns, ("C1", "C2", "C3", "C4"), ("Label2", "Label3", "Label6", "Label12")):
-        capacitor(s, (x, HIGH), (x, low), letter, label=label)
-        junction(s, (x, HIGH), (x, low))
-    inductor(s, (columns[0], HIGH), (columns[1], HIGH), "L1", label="Label4")
-    inductor(s, (columns[2], HIGH), (columns[3], HIGH), "L2", label="Label5")
-    s.wire((10, HIGH), (columns[0], HIGH))
-    s.wire((columns[1], HIGH), (columns[2], HIGH))
-    s.wire((columns[3], HIGH), (end, HIGH))
+        capacitor(s, (x, high), (x, low), letter, label=label)
+        junction(s, (x, high), (x, low))
+    inductor(s, (columns[0], high), (columns[1], high), "L1", label="Label4")
+    inductor(s, (columns[2], high), (columns[3], high), "L2", label="Label5")
+    s.wire((10, high), (columns[0], high))
+    s.wire((columns[1], high), (columns[2], high))
+    s.wire((columns[3], high), (end, high))
     s.wire((10, low), (end, low))
-    terminal(s, (10, HIGH), (10, low), (end, HIGH), (end, low))
+    terminal(s, (10, high), (10, low), (end, high), (end, low))

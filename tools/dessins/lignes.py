@@ -33,16 +33,16 @@ def coaxial_rond(s: Sheet) -> None:
     s.dimension((x - inside, y), (x + inside, y), "D", -94)
 
 
-@picture("coaxial-carre", 320, 325, "Ligne coaxiale carrée, en coupe")
+@picture("coaxial-carre", 284, 156, "Ligne coaxiale carrée, en coupe")
 def coaxial_carre(s: Sheet) -> None:
     """The same with a square outer conductor and air inside."""
-    centre, inside, wall = (160.0, 137.0), 122.0, 13.0
+    centre, inside, wall = (142.0, 60.0), 50.0, 8.0
     (x, y), outside = centre, inside + wall
     s.path(f"M{number(x - outside)} {number(y - outside)} h{number(2 * outside)} v{number(2 * outside)}"
            f" h{number(-2 * outside)} Z M{number(x - inside)} {number(y - inside)} v{number(2 * inside)}"
            f" h{number(2 * inside)} v{number(-2 * inside)} Z", fill=METAL)
-    inner(s, centre, 54, 86)
-    s.dimension((x - inside, y + inside), (x + inside, y + inside), "D", -wall - 33)
+    inner(s, centre, 20, 34)
+    s.dimension((x - inside, y + inside), (x + inside, y + inside), "D", -wall - 26)
 
 
 def inner(s: Sheet, centre: tuple[float, float], radius: float, below: float) -> None:

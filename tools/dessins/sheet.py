@@ -25,6 +25,9 @@ PALE = "#edf2f7"  # fill: the inside of a symbol
 DIELECTRIC = "#f6ecd0"  # fill: insulators
 COPPER_PALE = "#e9c9ad"  # fill: copper seen in section
 DARK = "#8597a9"  # fill: what is dark itself, the outside of a cable and the iron of a core
+# The view turns the colours above for dark windows, and leaves those that are written as below.
+BLACK_PART = "rgb(31,45,61)"  # fill: a part that is black by day and by night
+MARK = "rgb(255,255,255)"  # what is printed on it
 
 # Strokes, in pixels at nominal size.
 THIN = 1.0  # dimension lines, hatching
@@ -91,7 +94,10 @@ def number(value: float) -> str:
 
 
 def text_width(text: str, size: float, bold: bool = False) -> float:
-    """The width of a text in pixels, near enough to leave room for it."""
+    """The width of a text in pixels, near enough to leave room for it, in a wide font (DejaVu Sans).
+
+    The pictures name no font: the view letters them in that of the interface.
+    """
     narrow, wide = "iIjl1.,:;'()| ", "mwMWΩ@%"
     ems = sum(0.38 if c in narrow else 0.88 if c in wide else 0.64 for c in text)
     return ems * size * (1.1 if bold else 1.0)
@@ -291,4 +297,4 @@ class Sheet:
                 f' width="{self.width}" height="{self.height}" viewBox="0 0 {self.width} {self.height}">\n'
                 f"<title>{escape(self.title)}</title>\n"
                 f'<g fill="none" stroke="{INK}" stroke-width="{MAIN}" stroke-linecap="round"'
-                f' stroke-linejoin="round" font-family="DejaVu Sans">\n{body}\n</g>\n</svg>\n')
+                f' stroke-linejoin="round">\n{body}\n</g>\n</svg>\n')

@@ -34,10 +34,13 @@ std::vector<std::string> picturesOf(const std::string& panel, const path& folder
     return pictures;
 }
 
-/// A picture by day and by night, one click from its large one.
+/// A picture by day and by night, one click from its large one, and from those of the scales between.
 void show(const std::string& picture, std::ostream& page)
 {
-    page << "<figure><figcaption>" << picture << "</figcaption>\n";
+    page << "<figure><figcaption>" << picture;
+    for (const auto& [percent, dpi] : {std::pair{125, 120}, std::pair{150, 144}})
+        page << " · <a href=\"" << picture << '-' << dpi << ".png\">" << percent << " %</a>";
+    page << "</figcaption>\n";
     for (const char* const palette : {"-", "-sombre-"})
         page << "<a href=\"" << picture << palette << "192.png\"><img loading=\"lazy\" alt=\"" << picture << "\" src=\""
              << picture << palette << "96.png\"></a>\n";

@@ -46,13 +46,15 @@ char unescaped(char mark)
     switch (mark) {
     case 'n':
         return '\n';
+    case 'r':
+        return '\r';
     case 't':
         return '\t';
     case '"':
     case '\\':
         return mark;
     default:
-        throw Malformed{"an escape other than \\n \\t \\\" \\\\"};
+        throw Malformed{"an escape other than \\n \\r \\t \\\" \\\\"};
     }
 }
 
@@ -143,6 +145,9 @@ std::string inQuotes(std::string_view text)
         switch (c) {
         case '\n':
             word += "\\n";
+            break;
+        case '\r':
+            word += "\\r";
             break;
         case '\t':
             word += "\\t";

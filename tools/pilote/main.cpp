@@ -35,7 +35,7 @@ bool play(std::span<char* const> files)
 
 } // namespace
 
-int main(int argc, char* argv[])
+int main(int argc, char** argv)
 {
     if (argc > 1)
         return play(std::span{argv, static_cast<std::size_t>(argc)}.subspan(1)) ? 0 : 1;

@@ -2,6 +2,7 @@
 
 #include "forms/Controls.h"
 #include "forms/FeuilleCalcul.h"
+#include "panels/CouleursDessins.h"
 
 namespace ondelis {
 
@@ -14,8 +15,8 @@ public:
 
     // clang-format off
     Image   Dessin    {this, "Dessin",     {.picture = "dipole-raccourci", .at = drawing}};
-    Label   LblA      {this, "LblA",       {.Caption = "A", .at = lettre(drawing, 0.500, 0.125), .align = Align::Center}};
-    Label   LblB      {this, "LblB",       {.Caption = "B", .at = lettre(drawing, 0.626, 0.357), .align = Align::Center}};
+    Label   LblA      {this, "LblA",       dessin::lettreDeCote("A", drawing, 0.500, 0.125)};
+    Label   LblB      {this, "LblB",       dessin::lettreDeCote("B", drawing, 0.626, 0.357)};
 
     Label   Label1    {this, "Label1",     {.Caption = "Longueur totale du dipole en mètres", .at = {240, 2190, 3300, 255}}};
     TextBox TxtA      {this, "TxtA",       {.at = {3600, 2160, 1860, 315}, .label = &Label1}, &AntennesDipolesRaccourcis::TxtA_Change};

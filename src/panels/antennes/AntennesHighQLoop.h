@@ -41,7 +41,7 @@ public:
     TextBox       TxtSurface     {this, "TxtSurface",      champ({6780, 2040, 2400, 315}, &LblSurface)};
     Label         LblInductance  {this, "LblInductance",   {.Caption = "Inductance en µH", .at = {4440, 2430, 2280, 255}}};
     TextBox       TxtInductance  {this, "TxtInductance",   champ({6780, 2400, 2400, 315}, &LblInductance)};
-    PictureBox    Picture2       {this, "Picture2",        {.picture = "high-q-loop", .at = {4440, 2955, 4740, 4125}}};
+    PictureBox    Picture2       {this, "Picture2",        {.picture = "high-q-loop", .at = {4440, 2955, 4680, 4065}}};
 
     Frame         FrmFreqMin     {this, "FrmFreqMin",      {.Caption = "Fonctionnement à la fréquence minimum", .at = {9480, 180, 4380, 3360}}};
     Label         LblQ_FreqMin   {this, "LblQ_FreqMin",    {.Caption = "Q", .at = {180, 375, 1560, 255}, .container = &FrmFreqMin}};

@@ -72,16 +72,17 @@ public:
                                                             .at = {9420, 240, 5760, 2700}, .Locked = true, .multiLine = true}};
     TextBox       Text2          {this, "Text2",           {.Text = "En HF, court-circuiter l'élément le plus long par une \népingle de 6\" (1,8288m) de longueur non pliée\n\nEn VHF et UHF :  Zt = LambdaMax/8",
                                                             .at = {9420, 3060, 5760, 2220}, .Locked = true, .multiLine = true}};
+    // These two are never seen: the drawing's frame covers them, and the notes where it is hidden.
+    Label         Label8         {this, "Label8",          {.Caption = "Label8", .at = {9600, 1200, 780, 255}}};
+    Label         Label23        {this, "Label23",         {.at = {10500, 1200, 780, 255}}};
 
     Shape         Cadre4         {this, "Cadre4",          {.at = {9420, 5400, 5760, 2085}}};
-    Label         Label8         {this, "Label8",          {.Caption = "Label8", .at = {9600, 5520, 780, 255}}};
-    Label         Label23        {this, "Label23",         {.at = {10500, 5520, 780, 255}}};
-    Label         LblDimBrin     {this, "LblDimBrin",      {.Caption = "Longueur des brins ", .at = {9600, 5865, 3420, 255}}};
-    TextBox       TxtLongBrin    {this, "TxtLongBrin",     {.at = {13080, 5835, 1920, 315}, .label = &LblDimBrin}};
-    Label         LblEspacement  {this, "LblEspacement",   {.Caption = "Espacement des brins ", .at = {9600, 6225, 3420, 255}}};
-    TextBox       TxtEspacement  {this, "TxtEspacement",   {.at = {13080, 6195, 1920, 315}, .label = &LblEspacement}};
-    Label         LblDiamètre    {this, "LblDiamètre",     {.Caption = "Diamètre du brin", .at = {9600, 6585, 3420, 255}}};
-    TextBox       TxtDiamètre    {this, "TxtDiamètre",     {.at = {13080, 6555, 1920, 315}, .label = &LblDiamètre}};
+    Label         LblDimBrin     {this, "LblDimBrin",      {.Caption = "Longueur des brins ", .at = {9600, 5580, 3420, 255}}};
+    TextBox       TxtLongBrin    {this, "TxtLongBrin",     {.at = {13080, 5550, 1920, 315}, .label = &LblDimBrin}};
+    Label         LblEspacement  {this, "LblEspacement",   {.Caption = "Espacement des brins ", .at = {9600, 5940, 3420, 255}}};
+    TextBox       TxtEspacement  {this, "TxtEspacement",   {.at = {13080, 5910, 1920, 315}, .label = &LblEspacement}};
+    Label         LblDiamètre    {this, "LblDiamètre",     {.Caption = "Diamètre du brin", .at = {9600, 6300, 3420, 255}}};
+    TextBox       TxtDiamètre    {this, "TxtDiamètre",     {.at = {13080, 6270, 1920, 315}, .label = &LblDiamètre}};
     CommandButton BtnAfficher    {this, "BtnAfficher",     {.Caption = "Afficher", .at = {9600, 6960, 1200, 375}}, &AntennesLPDA1::BtnAfficher_Click};
     CommandButton BtnPrecedent   {this, "BtnPrecedent",    {.Caption = "Précédent", .at = {11000, 6960, 1200, 375}}, &AntennesLPDA1::BtnPrecedent_Click};
     CommandButton BtnSuivant     {this, "BtnSuivant",      {.Caption = "Suivant", .at = {12400, 6960, 1200, 375}}, &AntennesLPDA1::BtnSuivant_Click};

@@ -32,7 +32,7 @@ public:
     Label         LblFrequence          {this, "LblFrequence",           {.Caption = "Frequence de resonance MHz", .at = {2760, 3030, 2820, 255}}};
     TextBox       TxtFrequence          {this, "TxtFrequence",           {.at = {5640, 3000, 2400, 315}, .label = &LblFrequence}, &AntennesTrappesCoaxiales::TxtFrequence_Change};
     CommandButton BtnCalculer           {this, "BtnCalculer",            {.Caption = "Calculer", .at = {5640, 3480, 1320, 375}}, &AntennesTrappesCoaxiales::BtnCalculer_Click};
-    PictureBox    Picture2              {this, "Picture2",               {.picture = "trappe-coaxiale", .at = {8340, 240, 5580, 3615}}};
+    PictureBox    Picture2              {this, "Picture2",               {.picture = "trappe-coaxiale", .at = {8340, 240, 5520, 3555}}};
 
     Label         LblReactanceInductive {this, "LblReactanceInductive",  {.Caption = "Reatance inductive", .at = {2760, 4230, 2820, 255}}};
     TextBox       TxtReactanceInductive {this, "TxtReactanceInductive",  resultField({5640, 4200, 2400, 315}, &LblReactanceInductive)};
@@ -51,7 +51,7 @@ public:
     Label         LblLongueurEffective  {this, "LblLongueurEffective",   {.Caption = "Longueur electrique equivalente en mm", .at = {8340, 5310, 3660, 255}}};
     TextBox       TxtLongueurEffective  {this, "TxtLongueurEffective",   resultField({12060, 5280, 1860, 315}, &LblLongueurEffective)};
 
-    PictureBox    Picture3              {this, "Picture3",               {.picture = "trappe-antenne", .at = {240, 5880, 7800, 1650}}};
+    PictureBox    Picture3              {this, "Picture3",               {.picture = "trappe-antenne", .at = {240, 5880, 7680, 1590}}};
     Label         LblBrinSuivant        {this, "LblBrinSuivant",         {.Caption = "Le brin rayonnant suivant la trappe doit être raccourci de la longueur électrique équivalente de la trappe", .at = {8340, 6075, 5580, 510}}};
     Label         LblBrinAmont          {this, "LblBrinAmont",           {.Caption = "Le brin rayonnant en amont de la trappe doit être accordé avant la mise en place de cette dernière", .at = {8340, 6825, 5580, 510}}};
     Label         Label19               {this, "Label19",                {.at = {240, 7770, 13680, 255}}};

@@ -25,7 +25,7 @@ public:
     Label   Label6   {this, "Label6",    {.Caption = "0.136 * Lambda  (mm)",  .at = {240, ligne(6.5) + 30, 2160, 255}}};
     TextBox Txt0136L {this, "Txt0136L",  resultField({2460, ligne(6.5), 2400, 315}, &Label6)};
 
-    PictureBox Picture1{this, "Picture1", {.picture = "double-quad", .at = {5160, 240, 6060, 2655}}};
+    PictureBox Picture1{this, "Picture1", {.picture = "double-quad", .at = {5160, 240, 6000, 2595}}};
     // clang-format on
 
 private:

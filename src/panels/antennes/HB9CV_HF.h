@@ -37,7 +37,7 @@ public:
     Label        Label5   {this, "Label5",    {.Caption = "Lambda / Coeff (m)",         .at = {240, ligne(11) + 30, 2820, 255}}};
     TextBox      TxtDiam  {this, "TxtDiam",   resultField({3120, ligne(11), 1860, 315}, &Label5)};
 
-    PictureBox   Picture1 {this, "Picture1",  {.picture = "hb9cv-hf", .at = {5280, 240, 6510, 4275}}};
+    PictureBox   Picture1 {this, "Picture1",  {.picture = "hb9cv-hf", .at = {5280, 240, 6450, 4215}}};
     // clang-format on
 
 private:

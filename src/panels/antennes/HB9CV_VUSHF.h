@@ -32,7 +32,7 @@ public:
     Label   Label9   {this, "Label9",    {.Caption = "Lambda / 2 (m)",         .at = {240, ligne(11) + 30, 3360, 255}}};
     TextBox TxtL2    {this, "TxtL2",     resultField({3660, ligne(11), 2400, 315}, &Label9)};
 
-    PictureBox Picture1{this, "Picture1", {.picture = "hb9cv-vushf", .at = {6360, 240, 6510, 4275}}};
+    PictureBox Picture1{this, "Picture1", {.picture = "hb9cv-vushf", .at = {6360, 240, 6450, 4215}}};
     // clang-format on
 
 private:

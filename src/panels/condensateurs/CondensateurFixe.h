@@ -17,7 +17,7 @@ public:
     ListBox LstDielectrique{this, "LstDielectrique", {.Items = {"Air", "Céramique I", "Céramique II", "Electrolytique", "Mica", "Mylar",
                                                                 "Papier", "Polycarbonate", "Polystyrène", "Tantale", "Téflon", "Verre"},
                                                       .at = {420, 660, 1800, 2940}, .clickOnChosenRow = true, .label = &Lbl_Isolant}, &CondensateurFixe::LstDielectrique_Click};
-    Label   LblCsteDiel    {this, "LblCsteDiel",     {.Caption = "Constante diélectrique", .at = {2460, 360, 2760, 255}, .font = {.bold = true}}};
+    Label   LblCsteDiel    {this, "LblCsteDiel",     {.Caption = "Constante diélectrique", .at = {2460, 330, 2760, 315}, .font = {.bold = true}}};
     Label   Label3         {this, "Label3",          {.Caption = "Valeur de calcul", .at = {2460, 690, 2220, 255}}};
     TextBox TxtCstDiel     {this, "TxtCstDiel",      {.at = {4740, 660, 1560, 315}, .label = &Label3}, &CondensateurFixe::TxtCstDiel_Change};
     Label   Label1         {this, "Label1",          {.Caption = "Valeur Min", .at = {2460, 1050, 2220, 255}}};

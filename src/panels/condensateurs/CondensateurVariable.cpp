@@ -46,6 +46,7 @@ void CondensateurVariable::OptClassique_Click()
     OptClassique.Value = true;
     OptPapSer.Value = false;
     OptPapPar.Value = false;
+    Montrer(Classique);
     TxtAngle.Text = "179";
     Calculer();
 }
@@ -55,6 +56,7 @@ void CondensateurVariable::OptPapSer_Click()
     OptClassique.Value = false;
     OptPapSer.Value = true;
     OptPapPar.Value = false;
+    Montrer(PapillonSerie);
     TxtAngle.Text = "89";
     Calculer();
 }
@@ -64,6 +66,7 @@ void CondensateurVariable::OptPapPar_Click()
     OptClassique.Value = false;
     OptPapSer.Value = false;
     OptPapPar.Value = true;
+    Montrer(PapillonParallele);
     TxtAngle.Text = "89";
     Calculer();
 }
@@ -104,6 +107,12 @@ void CondensateurVariable::TxtMobiles_Change()
     NbMobiles = Val(TxtMobiles.Text);
     DessinerLames(NbMobiles, LM1);
     Calculer();
+}
+
+void CondensateurVariable::Montrer(const Image& construction)
+{
+    for (Image* image : {&Classique, &PapillonSerie, &PapillonParallele})
+        image->Visible = image == &construction;
 }
 
 void CondensateurVariable::DessinerLames(Double n, ControlArray<Line>& lames)

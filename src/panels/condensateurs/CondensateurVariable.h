@@ -39,7 +39,10 @@ public:
     Label        LblCapacite  {this, "LblCapacite",   {.Caption = "Capacite max", .at = {240, 4500, 2040, 255}}};
     TextBox      TxtCapacite  {this, "TxtCapacite",   resultField({2340, 4470, 2820, 315}, &LblCapacite)};
 
-    Image        Schema       {this, "Schema",        {.picture = "condensateur-variable", .at = {5160, 60, 3600, 3300}}};
+    // The blades from above, as the construction has them.
+    Image        Classique        {this, "Classique",         lames("condensateur-variable")};
+    Image        PapillonSerie    {this, "PapillonSerie",     lames("papillon-serie")};
+    Image        PapillonParallele{this, "PapillonParallele", lames("papillon-parallele")};
     // The blades from the side: two combs that reach into one another.
     Line         LM           {this, "LM", {.X1 = 5340, .Y1 = 3660, .X2 = 8580, .Y2 = 3660, .BorderColor = dessin::cuivre, .BorderWidth = 3}};
     Line         LF           {this, "LF", {.X1 = 5340, .Y1 = 4740, .X2 = 8580, .Y2 = 4740, .BorderColor = dessin::encre, .BorderWidth = 3}};
@@ -48,6 +51,7 @@ public:
     // clang-format on
 
 private:
+    static Image::Design lames(const char* dessin) { return {.picture = dessin, .at = {5160, 60, 3600, 3300}}; }
     static Line::Design lameMobile(int index);
     static Line::Design lameFixe(int index);
 
@@ -62,6 +66,7 @@ private:
     void TxtFixes_Change();
     void TxtMobiles_Change();
 
+    void Montrer(const Image& construction);
     static void DessinerLames(Double n, ControlArray<Line>& lames);
     void Calculer();
     void RefuserAngle(const std::string& message);

@@ -13,7 +13,7 @@ public:
 
     // clang-format off
     Shape   Cadre1  {this, "Cadre1",   {.at = {240, 240, 5160, 2640}}};
-    Label   Label1  {this, "Label1",   {.Caption = "Décibels en puissance", .at = {420, 360, 4440, 255}, .font = {.bold = true}}};
+    Label   Label1  {this, "Label1",   {.Caption = "Décibels en puissance", .at = {420, 330, 4440, 315}, .font = {.bold = true}}};
     Label   Label5  {this, "Label5",   {.Caption = "Puissance en entrée", .at = {420, 810, 2160, 255}}};
     TextBox TxtPe   {this, "TxtPe",    {.at = {2640, 780, 1560, 315}, .label = &Label5}, &Decibels::TxtPe_Change};
     Label   Label6  {this, "Label6",   {.Caption = "Puissance en sortie", .at = {420, 1170, 2160, 255}}};
@@ -25,7 +25,7 @@ public:
     TextBox TxtGainP{this, "TxtGainP", resultField({2640, 2400, 2580, 315}, &Label11)};
 
     Shape   Cadre2  {this, "Cadre2",   {.at = {5520, 240, 5160, 2640}}};
-    Label   Label2  {this, "Label2",   {.Caption = "Décibels en tension", .at = {5700, 360, 4440, 255}, .font = {.bold = true}}};
+    Label   Label2  {this, "Label2",   {.Caption = "Décibels en tension", .at = {5700, 330, 4440, 315}, .font = {.bold = true}}};
     Label   Label3  {this, "Label3",   {.Caption = "Tension d'entrée", .at = {5700, 810, 2160, 255}}};
     TextBox TxtUe   {this, "TxtUe",    {.at = {7920, 780, 1560, 315}, .label = &Label3}, &Decibels::TxtUe_Change};
     Label   Label4  {this, "Label4",   {.Caption = "Tension de sortie", .at = {5700, 1170, 2160, 255}}};

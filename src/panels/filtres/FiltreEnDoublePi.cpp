@@ -11,7 +11,7 @@ namespace ondelis {
 
 FiltreEnDoublePi::FiltreEnDoublePi(Desk& desk)
     : FeuilleCalcul{
-        desk, {.name = "FiltreEnDoublePi", .Caption = "Filtre en douple Pi", .Width = 13050, .Height = 3750}}
+        desk, {.name = "FiltreEnDoublePi", .Caption = "Filtre en douple Pi", .Width = 13050, .Height = 3450}}
 {
 }
 

@@ -52,7 +52,7 @@ TextBox::Design FiltrePasseBasEnPi::champ(double top, Label* label)
 
 Picture::Design FiltrePasseBasEnPi::schema(const char* dessin)
 {
-    return {.picture = dessin, .at = {3060, 240, 4080, 2210}, .Visible = false};
+    return {.picture = dessin, .at = {3060, 240, 4020, 2145}, .Visible = false};
 }
 
 void FiltrePasseBasEnPi::Form_Load()

@@ -7,7 +7,7 @@ namespace ondelis {
 
 CoaxSectCarree::CoaxSectCarree(Desk& desk)
     : FeuilleCalcul{
-        desk, {.name = "CoaxSectCarree", .Caption = "Coaxial section carrée", .Width = 8400, .Height = 5775}}
+        desk, {.name = "CoaxSectCarree", .Caption = "Coaxial section carrée", .Width = 4860, .Height = 5415}}
 {
 }
 

@@ -12,18 +12,18 @@ public:
     explicit CoaxSectCarree(Desk& desk);
 
     // clang-format off
-    OptionButton OptZ      {this, "OptZ",       {.Caption = "Calcul de Z", .at = {240, 240, 2400, 300}}, &CoaxSectCarree::OptZ_Click};
-    OptionButton OptD      {this, "OptD",       {.Caption = "Calcul de D", .at = {240, 600, 2400, 300}}, &CoaxSectCarree::OptD_Click};
+    OptionButton OptZ      {this, "OptZ",       {.Caption = "Calcul de Z", .at = {2940, 2895, 1560, 300}}, &CoaxSectCarree::OptZ_Click};
+    OptionButton OptD      {this, "OptD",       {.Caption = "Calcul de D", .at = {2940, 3255, 1560, 300}}, &CoaxSectCarree::OptD_Click};
 
     // As it opens, D stands above d and the impedance under it.
-    Label        Label2    {this, "Label2",     {.Caption = "D (mm)", .at = {240, 2640, 2700, 225}, .font = {.size = 8}}};
+    Label        Label2    {this, "Label2",     {.Caption = "D (mm)", .at = {240, 2640, 2640, 240}}};
     TextBox      TxtCote   {this, "TxtCote",    resultField({240, 2880, 2400, 315}, &Label2), &CoaxSectCarree::TxtCote_Change};
-    Label        Label1    {this, "Label1",     {.Caption = "d  (mm)", .at = {240, 3420, 2700, 225}, .font = {.size = 8}}};
+    Label        Label1    {this, "Label1",     {.Caption = "d  (mm)", .at = {240, 3420, 2640, 240}}};
     TextBox      TxtDiamAme{this, "TxtDiamAme", {.at = {240, 3660, 2400, 315}, .label = &Label1}, &CoaxSectCarree::TxtDiamAme_Change};
-    Label        Label4    {this, "Label4",     {.Caption = "Impédance carecteristique", .at = {240, 4200, 2700, 225}, .font = {.size = 8}}};
+    Label        Label4    {this, "Label4",     {.Caption = "Impédance carecteristique", .at = {240, 4200, 2640, 240}}};
     TextBox      TxtZ      {this, "TxtZ",       {.at = {240, 4440, 2400, 315}, .label = &Label4}, &CoaxSectCarree::TxtZ_Change};
 
-    Image        Image1    {this, "Image1",     {.picture = "coaxial-carre", .at = {3240, 240, 4800, 4875}}};
+    Image        Image1    {this, "Image1",     {.picture = "coaxial-carre", .at = {240, 240, 4260, 2340}}};
     // clang-format on
 
 private:

@@ -17,8 +17,8 @@ public:
     TextBox TxtDiamCorps{this, "TxtDiamCorps", {.at = {2880, 600, 2400, 315}, .BackColor = 0xFFFFFF, .label = &Label2}, &CoaxSectCyl::TxtDiamCorps_Change};
     Label   Label3      {this, "Label3",       {.Caption = "Dielectrique", .at = {240, 1170, 2580, 255}}};
     ListBox LstEpsilon  {this, "LstEpsilon",   {.Items = {"Vide ou Air", "PTFE", "Polyéthylène"}, .at = {2880, 1140, 2400, 780}, .label = &Label3}, &CoaxSectCyl::LstEpsilon_Click};
-    Label   Label4      {this, "Label4",       {.Caption = "Impédance carecteristique", .at = {240, 2535, 2580, 255}}};
-    TextBox TxtZ        {this, "TxtZ",         openResultField({2880, 2505, 2400, 315}, &Label4, 0xFFFF80)};
+    Label   Label4      {this, "Label4",       {.Caption = "Impédance carecteristique", .at = {240, 2310, 2580, 255}}};
+    TextBox TxtZ        {this, "TxtZ",         openResultField({2880, 2280, 2400, 315}, &Label4, 0xFFFF80)};
 
     Image   Image1      {this, "Image1",       {.picture = "coaxial-rond", .at = {5700, 240, 2760, 2580}}};
     // clang-format on

@@ -17,8 +17,8 @@ public:
     TextBox TxtB  {this, "TxtB",   {.at = {2880, ligne(1), 1860, 315}, .label = &LblB}, &StripLine::TxtB_Change};
     Label   Label2{this, "Label2", {.Caption = "Epaisseur du support (mm)", .at = {240, ligne(2) + 30, 2580, 255}}};
     TextBox TxtH  {this, "TxtH",   {.at = {2880, ligne(2), 1860, 315}, .label = &Label2}, &StripLine::TxtH_Change};
-    Label   Label3{this, "Label3", {.Caption = "L (H)", .at = {240, 2145, 2580, 255}}};
-    TextBox TxtL  {this, "TxtL",   resultField({2880, 2115, 1860, 315}, &Label3)};
+    Label   Label3{this, "Label3", {.Caption = "L (H)", .at = {240, ligne(4) + 30, 2580, 255}}};
+    TextBox TxtL  {this, "TxtL",   resultField({2880, ligne(4), 1860, 315}, &Label3)};
 
     Image   Image1{this, "Image1", {.picture = "ruban", .at = {5040, 240, 4500, 2190}}};
     // clang-format on

@@ -13,7 +13,7 @@ public:
 
     // clang-format off
     Shape        Cadre1          {this, "Cadre1", {.at = {240, 240, 9660, 1080}}};
-    Label        Label7          {this, "Label7",           {.Caption = "Caractéristiques du galvanomètre", .at = {420, 360, 4440, 255}, .font = {.bold = true}}};
+    Label        Label7          {this, "Label7",           {.Caption = "Caractéristiques du galvanomètre", .at = {420, 330, 4440, 315}, .font = {.bold = true}}};
     Label        LblRint         {this, "LblRint",          {.Caption = "Résinstance interne", .at = {420, 840, 2640, 255}}};
     TextBox      TxtResInt       {this, "TxtResInt",        {.at = {3120, 810, 1440, 315}, .label = &LblRint}, &PDShunts::TxtResInt_Change};
     Label        LblDevTot       {this, "LblDevTot",        {.Caption = "I déviation totale µA", .at = {6120, 840, 2100, 255}}};
@@ -25,7 +25,7 @@ public:
     TextBox      TxtImax         {this, "TxtImax",          {.at = {3120, 2160, 1440, 315}, .label = &LblImax}, &PDShunts::TxtImax_Change};
     Label        LblIShunt       {this, "LblIShunt",        {.Caption = "Valeur du shunt", .at = {420, 2550, 2640, 255}}};
     TextBox      TxTShuntI       {this, "TxTShuntI",        {.at = {3120, 2520, 2820, 315}, .BackColor = 0xFFFFC0, .ForeColor = 0xFF80FF, .Locked = true, .font = {.bold = true}, .label = &LblIShunt}};
-    Label        LblAmperemetre  {this, "LblAmperemetre",   {.Caption = "Ampèremètre", .at = {6120, 1560, 3600, 255}, .align = Align::Center, .font = {.bold = true}}};
+    Label        LblAmperemetre  {this, "LblAmperemetre",   {.Caption = "Ampèremètre", .at = {6120, 1530, 3600, 315}, .align = Align::Center, .font = {.bold = true}}};
     Image        SchemaCourant   {this, "SchemaCourant",    {.picture = "shunt-amperemetre", .at = {6120, 1860, 3600, 1440}}};
     Label        LblACourant     {this, "LblACourant",      {.Caption = "A", .at = lettre(SchemaCourant.at(), 0.500, 0.250, 240), .align = Align::Center}};
 
@@ -35,7 +35,7 @@ public:
     TextBox      TxtUmax         {this, "TxtUmax",          {.at = {3120, 4200, 1440, 315}, .label = &LblTensionMax}, &PDShunts::TxtUmax_Change};
     Label        LblVShunt       {this, "LblVShunt",        {.Caption = "Valeur du shunt", .at = {420, 4590, 2640, 255}}};
     TextBox      TxtShuntU       {this, "TxtShuntU",        {.at = {3120, 4560, 2820, 315}, .BackColor = 0xFFFFC0, .ForeColor = 0xFF80FF, .Locked = true, .font = {.bold = true}, .label = &LblVShunt}};
-    Label        Label4          {this, "Label4",           {.Caption = "Voltmètre", .at = {6120, 3660, 3600, 255}, .align = Align::Center, .font = {.bold = true}}};
+    Label        Label4          {this, "Label4",           {.Caption = "Voltmètre", .at = {6120, 3630, 3600, 315}, .align = Align::Center, .font = {.bold = true}}};
     Image        SchemaTension   {this, "SchemaTension",    {.picture = "shunt-voltmetre", .at = {6120, 3960, 3600, 1020}}};
     Label        LblATension     {this, "LblATension",      {.Caption = "A", .at = lettre(SchemaTension.at(), 0.683, 0.618, 240), .align = Align::Center}};
     // clang-format on

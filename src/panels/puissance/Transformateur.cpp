@@ -61,11 +61,7 @@ TextBox::Design Transformateur::resultat(int i, double left, Label& legende)
 
 Label::Design Transformateur::cote(const char* texte, double x, double y)
 {
-    return {.Caption = texte,
-        .at = lettre({4470, 2430, 6450, 3480}, x, y),
-        .ForeColor = dessin::cote,
-        .align = Align::Center,
-        .font = {.size = 8}};
+    return dessin::lettreDeCote(texte, {4470, 2430, 6450, 3480}, x, y);
 }
 
 void Transformateur::Form_Load()

@@ -34,7 +34,7 @@ public:
     Label   Label2           {this, "Label2",            {.Caption = "Puissance au primaire", .at = {240, 2850, 2280, 255}}};
     TextBox TxtPuisPrim      {this, "TxtPuisPrim",       openResultField({2580, 2820, 1620, 315}, &Label2, cyan)};
     Label   Label3           {this, "Label3",            {.Caption = "Qualité de la tôle", .at = {240, 3270, 2280, 255}}};
-    ListBox LstTole          {this, "LstTole",           {.Items = {"Ordinaire", "Faible pertes", "Orientée"}, .at = {2580, 3240, 1620, 780}, .label = &Label3}, &Transformateur::LstTole_Click};
+    ListBox LstTole          {this, "LstTole",           {.Items = {"Ordinaire", "Faible pertes", "Orientée"}, .at = {2580, 3240, 1620, 780}, .clickOnChosenRow = true, .label = &Label3}, &Transformateur::LstTole_Click};
     Label   Label9           {this, "Label9",            {.Caption = "Perte dans les tôles", .at = {240, 4170, 2280, 255}}};
     TextBox TxtPertes        {this, "TxtPertes",         openResultField({2580, 4140, 1620, 315}, &Label9, cyan)};
     Label   Label4           {this, "Label4",            {.Caption = "Section brute en cm²", .at = {240, 4530, 2280, 255}}};

@@ -44,7 +44,7 @@ public:
     Line  BarreC     {this, "BarreC",      {.X1 = 3660, .Y1 = 2587, .X2 = 5370, .Y2 = 2587}};
     Label LblCBas    {this, "LblCBas",     {.Caption = "( 2 * Pi * F )² * L", .at = {3660, 2640, 1710, 255}, .align = Align::Center}};
 
-    PictureBox Picture1{this, "Picture1", {.picture = "thomson-icone", .at = {5460, 240, 720, 720}}};
+    PictureBox Picture1{this, "Picture1", {.picture = "thomson-icone", .at = {5490, 240, 690, 690}}};
     // clang-format on
 
 private:

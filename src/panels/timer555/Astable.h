@@ -12,7 +12,7 @@ public:
     explicit Astable(Desk& desk);
 
     // clang-format off
-    PictureBox Picture1 {this, "Picture1",  {.picture = "astable-555", .at = {240, 240, 6645, 3870}}};
+    PictureBox Picture1 {this, "Picture1",  {.picture = "astable-555", .at = {240, 240, 6645, 3840}}};
 
     Label      LblFreq  {this, "LblFreq",   {.Caption = "Fréquence", .at = {240, 4470, 5580, 255}}};
     Label      Label2   {this, "Label2",    {.Caption = "1", .at = {240, 4755, 180, 255}}};

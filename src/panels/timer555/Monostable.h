@@ -12,7 +12,7 @@ public:
     explicit Monostable(Desk& desk);
 
     // clang-format off
-    PictureBox Picture1 {this, "Picture1",  {.picture = "monostable-555", .at = {240, 240, 6645, 3870}}};
+    PictureBox Picture1 {this, "Picture1",  {.picture = "monostable-555", .at = {240, 240, 6645, 3840}}};
 
     Label      LblRes   {this, "LblRes",    {.Caption = "Résistance", .at = {240, 4470, 5580, 255}}};
     HScrollBar HscrRes  {this, "HscrRes",   barre({240, 4755, 5580, 255}, 1, &LblRes), &Monostable::HscrRes_Change};

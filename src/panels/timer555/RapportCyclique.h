@@ -14,7 +14,7 @@ public:
     explicit RapportCyclique(Desk& desk);
 
     // clang-format off
-    PictureBox Picture1            {this, "Picture1", {.picture = "rapport-cyclique-555", .at = {240, 180, 5955, 3870}}};
+    PictureBox Picture1            {this, "Picture1", {.picture = "rapport-cyclique-555", .at = {240, 180, 5955, 3840}}};
 
     Label      LblFreq             {this, "LblFreq",              {.Caption = "Fréquence", .at = {240, 4170, 4890, 255}}};
     Label      Label1              {this, "Label1",               {.Caption = "1", .at = {240, 4455, 180, 255}}};
@@ -40,12 +40,11 @@ public:
     Line       Line4               {this, "Line4", {.X1 = 4940, .Y1 = 5640, .X2 = 5960, .Y2 = 5640, .BorderColor = dessin::encre, .BorderWidth = 2}};
     Line       Line5               {this, "Line5", {.X1 = 5960, .Y1 = 5640, .X2 = 5960, .Y2 = 6240, .BorderColor = dessin::encre, .BorderWidth = 2}};
 
-    // The longest results take two lines.
-    Shape      Cadre1              {this, "Cadre1",   {.at = {240, 6345, 5955, 1140}}};
-    Label      LblR1               {this, "LblR1",    {.Caption = "R1", .at = {360, 6465, 2820, 510}}};
-    Label      LblP1a              {this, "LblP1a",   {.Caption = "P1a", .at = {360, 6975, 2820, 510}}};
-    Label      LblP1b              {this, "LblP1b",   {.Caption = "P1b", .at = {3300, 6975, 2820, 510}}};
-    Label      LblPotar            {this, "LblPotar", {.Caption = "Potentiometre", .at = {3300, 6465, 2820, 510}}};
+    Shape      Cadre1              {this, "Cadre1",   {.at = {240, 6345, 5955, 1185}}};
+    Label      LblR1               {this, "LblR1",    {.Caption = "R1", .at = {420, 6405, 5595, 255}}};
+    Label      LblP1a              {this, "LblP1a",   {.Caption = "P1a", .at = {420, 6675, 5595, 255}}};
+    Label      LblP1b              {this, "LblP1b",   {.Caption = "P1b", .at = {420, 6945, 5595, 255}}};
+    Label      LblPotar            {this, "LblPotar", {.Caption = "Potentiometre", .at = {420, 7215, 5595, 255}}};
     // clang-format on
 
 private:

@@ -1,0 +1,54 @@
+#include "view/Copying.h"
+
+#include <QClipboard>
+#include <QGuiApplication>
+#include <QLineEdit>
+#include <algorithm>
+
+namespace ondelis {
+namespace {
+
+void copyOn(QAction& action, const QString& text)
+{
+    QObject::connect(&action, &QAction::triggered, &action, [text] { QGuiApplication::clipboard()->setText(text); });
+}
+
+/// Whether an entry of a context menu is that which copies: other kinds of field have another letter of it underlined,
+/// and the key stands behind it.
+bool copies(const QAction* entry)
+{
+    const auto plain = [](QString words) { return words.section(QLatin1Char{'\t'}, 0, 0).remove(QLatin1Char{'&'}); };
+    return plain(entry->text()) == plain(QLineEdit::tr("&Copy"));
+}
+
+} // namespace
+
+bool copyWhole(const QKeyEvent& event, bool selected, const QString& text)
+{
+    if (!event.matches(QKeySequence::Copy) || selected || text.isEmpty())
+        return false;
+    QGuiApplication::clipboard()->setText(text);
+    return true;
+}
+
+void popUp(QMenu* menu, const QPoint& place, bool selected, const QString& text)
+{
+    const QList<QAction*> actions = menu->actions();
+    const auto copy = std::ranges::find_if(actions, copies);
+    if (copy != actions.end() && !selected && !text.isEmpty()) {
+        (*copy)->setEnabled(true); // the field's own copying does nothing without a selection
+        copyOn(**copy, text);
+    }
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    menu->popup(place);
+}
+
+void popUpCopy(QWidget& widget, const QPoint& place, const QString& text)
+{
+    auto* const menu = new QMenu{&widget};
+    copyOn(*menu->addAction(QLineEdit::tr("&Copy")), text);
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    menu->popup(place);
+}
+
+} // namespace ondelis

@@ -1,0 +1,109 @@
+"""The main window keeps its size, whatever part of it is in sight: moved and dragged to all sides and back."""
+
+from __future__ import annotations
+
+import time
+import unittest
+
+from desktop import Desktop, Program, until
+import person  # noqa: F401  it starts the bus that one of the window managers wants
+
+WIDTH, HEIGHT = 1298, 1000  # pixels: the frame at 96 dots per inch
+
+
+class Window(unittest.TestCase):
+    def start(self, size: str, manager: str, **environment: str) -> None:
+        self.screen = [int(pixels) for pixels in size.split("x")]
+        self.desktop = Desktop(size, manager)
+        self.addCleanup(self.desktop.close)
+        self.program = Program(self.desktop, **environment)
+        self.addCleanup(self.program.close)
+        self.window = until(self.find, "the main window")
+        before = self.geometry()
+        while before != (before := self.rest()):  # the window manager puts its border around it
+            pass
+
+    def find(self) -> str:
+        self.assertTrue(self.program.runs())
+        return self.desktop.hands("search", "--onlyvisible", "--name", "Veloris").stdout.strip()
+
+    def geometry(self) -> dict[str, int]:
+        lines = self.desktop.hands("getwindowgeometry", "--shell", self.window).stdout.split()
+        return {name: int(value) for name, value in (line.split("=") for line in lines)}
+
+    def size(self) -> tuple[int, int]:
+        return self.geometry()["WIDTH"], self.geometry()["HEIGHT"]
+
+    def rest(self) -> dict[str, int]:
+        """Where the window is in a while."""
+        time.sleep(0.4)  # that nothing happens can only be waited for
+        self.assertTrue(self.program.runs(), "the program has ended")
+        return self.geometry()
+
+    def move(self, x: int, y: int) -> None:
+        self.desktop.hands("windowmove", self.window, str(x), str(y))
+
+    def drag(self, start: tuple[int, int], end: tuple[int, int]) -> None:
+        """Drags the window by its title bar from one point of the screen to the other."""
+        self.desktop.hands("mousemove", *map(str, start), "mousedown", "1")
+        for step in range(1, 11):
+            place = (a + (b - a) * step // 10 for a, b in zip(start, end))
+            self.desktop.hands("mousemove", *map(str, place))
+        self.desktop.hands("mouseup", "1")
+
+    def moves_everywhere(self) -> None:
+        size = self.size()
+        width, height = self.screen
+        for x, y in [(width - 30, 100), (30 - size[0], 100), (100, height - 30), (100, 30 - size[1]), (0, 0)]:
+            self.move(x, y)
+            self.rest()
+            self.assertEqual(self.size(), size, f"after a move to {x}, {y}")
+
+    def drags_everywhere(self) -> None:
+        size = self.size()
+        right, bottom = self.screen[0] - 10, self.screen[1] - 10
+        by_the_left, by_the_right = (200, 30), (right - 150, 30)  # the buttons of the title bar left alone
+        for start, *ends in [(by_the_left, (right, 30), by_the_left), (by_the_right, (10, 30), by_the_right),
+                             (by_the_left, (200, bottom), by_the_left)]:
+            self.move(0, 40)  # the window manager's title bar is above that
+            before = self.rest()
+            for end in ends:
+                self.drag(start, end)
+                after = self.rest()
+                self.assertNotEqual((before["X"], before["Y"]), (after["X"], after["Y"]), "it does not follow the mouse")
+                self.assertEqual(self.size(), size, f"after a drag to {end}")
+                start, before = end, after
+
+    def test_it_keeps_its_size(self) -> None:
+        for manager in ["", "openbox", "xfwm4"]:
+            for size in ["1280x1024", "1024x768", "640x480"]:
+                with self.subTest(manager=manager, size=size):
+                    self.start(size, manager)
+                    if not manager:
+                        self.assertEqual(self.size(), (WIDTH, HEIGHT))
+                    self.moves_everywhere()
+                    if manager:
+                        self.drags_everywhere()
+                self.doCleanups()
+
+    def test_it_keeps_its_size_at_any_scale(self) -> None:
+        for setting, scale in [({"QT_SCALE_FACTOR": "4"}, 4), ({"QT_FONT_DPI": "480"}, 5)]:
+            for manager in ["", "openbox", "xfwm4"]:
+                with self.subTest(setting, manager=manager):
+                    self.start("640x480", manager, **setting)
+                    if not manager:
+                        self.assertEqual(self.size(), (scale * WIDTH, scale * HEIGHT))
+                    self.moves_everywhere()
+                self.doCleanups()
+
+    def test_a_scale_that_is_none(self) -> None:
+        for scale in ["-1", "0", "nan", "inf"]:
+            with self.subTest(scale):
+                self.start("640x480", "", QT_SCALE_FACTOR=scale)
+                self.assertEqual(self.size(), (WIDTH, HEIGHT))
+                self.moves_everywhere()
+            self.doCleanups()
+
+
+if __name__ == "__main__":
+    unittest.main()
