@@ -24,6 +24,7 @@ version=$(sed -n 's/^CMAKE_PROJECT_VERSION:.*=//p' "$build/CMakeCache.txt")
 architecture=$(dpkg --print-architecture)
 package=$build/ondelis_${version}_$architecture.deb
 symbols=$build/ondelis-dbgsym_${version}_$architecture.deb
+guide=$build/ondelis-doc_${version}_all.deb
 
 # check WORDS COMMAND...
 check() {
@@ -112,9 +113,19 @@ debug_package() {
     dpkg-deb -c "$symbols" | grep "/${id:0:2}/${id:2}.debug$" >/dev/null
 }
 
+# The guide's package holds a page for each panel, where the program and the desktop entry look for it.
+guide_package() {
+    local folder=usr/share/doc/ondelis/guide page
+    dpkg-deb -x "$guide" "$scratch/guide"
+    for page in index commencer je-veux $(cd "$here/../docs/guide/panneaux" && printf '%s\n' *.md | sed 's/\.md$//'); do
+        [[ -s $scratch/guide/$folder/$page.html ]] || { echo "no page $page" >&2; return 1; }
+    done
+    grep -q "^Exec=xdg-open /$folder/index.html$" "$unpacked/usr/share/applications/ondelis.desktop"
+}
+
 # starts FOLDER: the program of the desktop entry, installed there, answers real keys on a display.
 starts() {
-    [[ -x $1/bin/$(sed -n 's/^Exec=//p' "$1/share/applications/ondelis.desktop") ]]
+    [[ -x $1/bin/$(sed -n 's/^Exec=\([^ ]*\)$/\1/p' "$1/share/applications/ondelis.desktop") ]]
     PATH=$(realpath "$1/bin"):$PATH AUTOPKGTEST_ARTIFACTS=$scratch "$debian/tests/panel" >"$scratch/shown" ||
         { cat "$scratch/shown" >&2; return 1; }
 }
@@ -125,6 +136,7 @@ check "The files of the installation" files "$staged" \
 check "The files of the package" files "$unpacked/usr" \
     man/{,fr/}man1/ondelis.1.gz doc/ondelis/{copyright,changelog.gz} lintian/overrides/ondelis
 check "The debug package" debug_package
+check "The guide's package" guide_package
 check "The sizes of the icons" icons
 check "The sizes of the screenshots" screenshots
 check "The version in all lists of releases" releases
@@ -133,6 +145,6 @@ check "Desktop entry (desktop-file-validate)" silent desktop-file-validate "$sta
 check "Metainfo (appstreamcli)" appstreamcli validate --no-net --strict "$staged"/share/metainfo/*.xml
 check "Man pages" man_pages
 check "Packages (lintian)" lintian --allow-root --display-info --pedantic --fail-on error,warning,info,pedantic \
-    "$package" "$symbols"
+    "$package" "$symbols" "$guide"
 check "The installed program starts" starts "$staged"
 check "The packaged program starts" starts "$unpacked/usr"

@@ -28,6 +28,8 @@ for group; do
             packages+=(openbox xfwm4 x11-xserver-utils dbus-daemon at-spi2-core gir1.2-atspi-2.0 python3-gi)
             # The drawings, made anew by tools/dessins
             packages+=(python3)
+            # The guide, and what finds fault with its pages
+            packages+=(pandoc tidy)
             # A region with a decimal comma, for tests
             packages+=(locales)
             # The package and what people install

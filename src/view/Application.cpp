@@ -22,6 +22,7 @@ Application::Application(int& argc, char** argv) : QApplication{argc, argv}
     // Qt has given the C library the user's locale; numbers are written by the kit, which asks its own region.
     std::setlocale(LC_NUMERIC, "C");
     setApplicationName(QStringLiteral("Ondelis"));
+    setApplicationVersion(QStringLiteral(ONDELIS_VERSION));
     setDesktopFileName(QStringLiteral("ondelis"));
     setQuitOnLastWindowClosed(false); // the desk says when the program is over
     speakFrench();

@@ -118,6 +118,7 @@ void MainWindow::makeShortcuts()
     findChild<QAction*>(QStringLiteral("MenuQuitter"))->setShortcut(Qt::CTRL | Qt::Key_Q);
     for (const Qt::Key key : {Qt::Key_F4, Qt::Key_W})
         connect(new QShortcut{Qt::CTRL | key, this}, &QShortcut::activated, area_, &QMdiArea::closeActiveSubWindow);
+    connect(new QShortcut{Qt::Key_F1, this}, &QShortcut::activated, this, [this] { view_.showGuide(); });
     connect(new QShortcut{Qt::Key_F10, this}, &QShortcut::activated, menuBar(),
         [this] { menuBar()->setActiveAction(menuBar()->actions().front()); });
 }

@@ -11,6 +11,7 @@
 #include "view/ClientArea.h"
 #include "view/ControlWidget.h"
 #include "view/Dialogs.h"
+#include "view/Guide.h"
 #include "view/MainWindow.h"
 #include "view/PanelWindow.h"
 #include "view/Scale.h"
@@ -83,6 +84,15 @@ void View::act(const std::function<void(User&)>& action)
 void View::close()
 {
     frame_->close();
+}
+
+void View::showGuide()
+{
+    if (waitingBoxes_ > 0 || actions_ > 0 || frame_->desk().ended())
+        return;
+    const Counted waiting{waitingBoxes_};
+    const QMdiSubWindow* const active = mainWindow_->area().activeSubWindow();
+    openGuide(*mainWindow_, active == nullptr ? QStringLiteral("index") : active->objectName());
 }
 
 Answer View::showBox(const MessageBox& box)

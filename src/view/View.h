@@ -37,6 +37,8 @@ public:
     void act(const std::function<void(User&)>& action);
     /// The user closes the main window.
     void close();
+    /// Opens the page of the guide on the active panel; nothing while a handler or a box waits.
+    void showGuide();
     /// Counts the boxes that were shown: a widget that is held down is let go by them.
     [[nodiscard]] unsigned boxesShown() const { return boxesShown_; }
 

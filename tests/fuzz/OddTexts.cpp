@@ -36,8 +36,10 @@ std::string characterSoup(Dice& dice)
 std::string plainNumber(Dice& dice)
 {
     std::string number = std::to_string(dice.below(dice.percent(70) ? 100 : 40000));
-    if (dice.percent(40))
-        number += (dice.percent(70) ? "." : ",") + std::to_string(dice.below(1000));
+    if (dice.percent(40)) {
+        number += dice.percent(70) ? '.' : ',';
+        number += std::to_string(dice.below(1000));
+    }
     return number;
 }
 

@@ -165,7 +165,8 @@ TEST_F(CommandTest, ShowsTheLoadedPanelWithItsControls)
 TEST_F(CommandTest, StandsALongText)
 {
     open();
-    EXPECT_EQ(say("type CircuitsOscillants.TxtRes " + std::string(2000, '9'))["fault"], "overflow");
+    const std::string digits(2000, '9');
+    EXPECT_EQ(say("type CircuitsOscillants.TxtRes " + digits)["fault"], "overflow");
 }
 
 } // namespace

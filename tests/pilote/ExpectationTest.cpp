@@ -63,7 +63,8 @@ TEST_F(ExpectationTest, StandsDeepNestingAndLongNumbers)
     const std::string closing(200000, ']');
     EXPECT_FALSE(error("expect A.B " + opening).empty());
     EXPECT_FALSE(error("expect A.B " + opening + closing).empty());
-    EXPECT_FALSE(ok("expect MDIOndelis.Left " + std::string(300, '9')));
+    const std::string digits(300, '9');
+    EXPECT_FALSE(ok("expect MDIOndelis.Left " + digits));
 }
 
 TEST_F(ExpectationTest, TellsTheStatesOfAPanelApart)

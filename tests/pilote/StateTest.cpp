@@ -18,8 +18,8 @@ public:
     }
 
     Label LblA{this, "LblA", {.Caption = "Fréquence", .at = {240, 600, 1000, 240}}};
-    TextBox TxtA{
-        this, "TxtA", {.Text = "1", .at = {.Top = 240}, .BackColor = 0xC0E0FF, .Locked = true, .MaxLength = 5}};
+    TextBox TxtA{this, "TxtA",
+        {.Text = "1", .at = {.Top = 240}, .BackColor = 0xC0E0FF, .Locked = true, .MaxLength = 5, .label = &LblA}};
     ListBox LstA{this, "LstA", {.Items = {"nF", "pF"}}};
     Frame Cadre{this, "Cadre", {.Caption = "Unité"}};
     OptionButton OptA{this, "OptA", {.Caption = "L", .Value = true, .ForeColor = 0x0000FF}};
@@ -47,18 +47,18 @@ TEST_F(StateTest, HasEveryMemberOfEachClass)
     panel.LstA.ListIndex = 1;
     expectState(panel.LblA, R"({"kind":"Label","Caption":"Fréquence","Visible":true,"Top":600})");
     expectState(panel.TxtA, R"({"kind":"TextBox","Text":"1","BackColor":12640511,"ForeColor":0,"Locked":true,
-        "Visible":true,"Top":240,"MaxLength":5})");
+        "Visible":true,"Top":240,"MaxLength":5,"Label":"LblA"})");
     expectState(panel.LstA, R"({"kind":"ListBox","ListIndex":1,"ListCount":2,"Text":"pF","Items":["nF","pF"],
-        "Visible":true,"BackColor":16777215})");
+        "Visible":true,"BackColor":16777215,"Label":""})");
     expectState(panel.Cadre, R"({"kind":"Frame","Caption":"Unité","Visible":true})");
     expectState(panel.OptA, R"({"kind":"OptionButton","Caption":"L","Value":true,"ForeColor":255,"Visible":true})");
     expectState(panel.BtnA, R"({"kind":"CommandButton","Caption":"Calculer","Value":false,"Visible":false})");
-    expectState(panel.HscrA, R"({"kind":"HScrollBar","Value":3,"Min":10,"Max":-5,"Visible":true})");
-    expectState(panel.VscrA, R"({"kind":"VScrollBar","Value":0,"Min":0,"Max":32767,"Visible":true})");
+    expectState(panel.HscrA, R"({"kind":"HScrollBar","Value":3,"Min":10,"Max":-5,"Visible":true,"Label":""})");
+    expectState(panel.VscrA, R"({"kind":"VScrollBar","Value":0,"Min":0,"Max":32767,"Visible":true,"Label":""})");
     expectState(panel.Picture1, R"({"kind":"PictureBox","Visible":true})");
     expectState(panel.Image1, R"({"kind":"Image","Visible":false})");
     expectState(panel.Shape1, R"({"kind":"Shape"})");
-    expectState(panel.MebIp, R"({"kind":"MaskEdBox","Text":"","Display":""})");
+    expectState(panel.MebIp, R"({"kind":"MaskEdBox","Text":"","Display":"","Label":""})");
 }
 
 TEST_F(StateTest, HasTheCoordinatesOfALineAsSingles)
@@ -70,7 +70,7 @@ TEST_F(StateTest, HasTheDisplayOfAMaskedBox)
 {
     const ScopedRegion comma{{.decimal = ",", .thousands = "."}};
     panel.MebIp.Text = "0,12";
-    expectState(panel.MebIp, R"({"kind":"MaskEdBox","Text":"0,12","Display":"1,200E-01"})");
+    expectState(panel.MebIp, R"({"kind":"MaskEdBox","Text":"0,12","Display":"1,200E-01","Label":""})");
 }
 
 TEST_F(StateTest, HasTheLoadedPanelsAlone)
@@ -84,6 +84,14 @@ TEST_F(StateTest, HasTheLoadedPanelsAlone)
     EXPECT_EQ(state["Left"], 100.5);
     EXPECT_EQ(state["Caption"], "Échantillon");
     EXPECT_EQ(state["controls"].size(), 13U);
+}
+
+TEST_F(StateTest, HasTheTreeOfTheMenu)
+{
+    const MDIOndelis frame{desk};
+    const Json timers = stateOfAll(frame)["menus"][4];
+    EXPECT_EQ(timers["Caption"], "Le timer 555");
+    EXPECT_EQ(timers["Entries"][0], Json::parse(R"({"Name":"MenuAstable","Caption":"Astable"})"));
 }
 
 } // namespace

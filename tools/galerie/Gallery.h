@@ -24,7 +24,7 @@ struct Subject {
 /// Takes pictures of panels in one look: as they open, and where their examples say so.
 class Gallery {
 public:
-    /// The folders of the examples and of the pictures; the second one is there.
+    /// The folders of the examples, empty for none, and of the pictures, which is there.
     Gallery(std::filesystem::path examples, std::filesystem::path pictures, const Look& look);
 
     /// Pictures one panel, in a fresh program, as it opens, then plays its example. Throws Refused, with file and line

@@ -1,6 +1,6 @@
 // Pictures of the panels in the real view. Usage:
 //
-//     galerie FOLDER [PANEL ...]
+//     galerie [--openings] FOLDER [PANEL ...]
 //
 // For each panel of the menu, or for those that are named, at 96 and 192 dpi, light and dark, and
 // at 120 and 144 dpi, light:
@@ -9,8 +9,9 @@
 //     FOLDER/PANEL-NAME-sombre-96.png ...  at the line "picture NAME" of its example, exemples/PANEL.txt
 //     FOLDER/index.html                    all of them on one page
 //
-// An example is a file of gestures and answers in the driver's language, and of such lines. "picture NAME MDIOndelis"
-// pictures the main window, with the name of another panel that panel.
+// With --openings only the pictures of panels as they open. An example is a file of gestures and answers in the
+// driver's language, and of such lines. "picture NAME MDIOndelis" pictures the main window, with the name of another
+// panel that panel.
 
 #include <algorithm>
 #include <array>
@@ -45,8 +46,13 @@ std::vector<Subject> chosen(std::span<char* const> names)
     return some;
 }
 
+struct Folders {
+    std::filesystem::path examples; ///< empty for none
+    std::filesystem::path pictures;
+};
+
 /// Draws in this process, which takes this look; gives its exit status.
-int drawAll(const Look& look, const std::vector<Subject>& subjects, const char* folder)
+int drawAll(const Look& look, const std::vector<Subject>& subjects, const Folders& folders)
 {
     look.chooseResolution();
     std::string name{"galerie"};
@@ -54,7 +60,7 @@ int drawAll(const Look& look, const std::vector<Subject>& subjects, const char* 
     int count = 1;
     const Application application{count, arguments.data()};
     look.apply();
-    const Gallery gallery{EXAMPLES, folder, look};
+    const Gallery gallery{folders.examples, folders.pictures, look};
     try {
         for (const Subject& subject : subjects)
             gallery.draw(subject);
@@ -66,13 +72,13 @@ int drawAll(const Look& look, const std::vector<Subject>& subjects, const char* 
 }
 
 /// Draws in a process for each look, all at once; tells whether all ended well.
-bool drawEach(std::span<const Look> some, const std::vector<Subject>& subjects, const char* folder)
+bool drawEach(std::span<const Look> some, const std::vector<Subject>& subjects, const Folders& folders)
 {
     std::vector<pid_t> processes;
     for (const Look& look : some) {
         processes.push_back(fork());
         if (processes.back() == 0)
-            std::exit(drawAll(look, subjects, folder));
+            std::exit(drawAll(look, subjects, folders));
     }
     bool good = true;
     for (const pid_t process : processes) {
@@ -89,19 +95,23 @@ bool drawEach(std::span<const Look> some, const std::vector<Subject>& subjects, 
 
 int main(int argc, char** argv)
 {
-    const std::span arguments{argv, static_cast<std::size_t>(argc)};
-    if (arguments.size() < 2) {
-        std::cerr << "usage: galerie FOLDER [PANEL ...]\n";
+    std::span<char* const> words = std::span{argv, static_cast<std::size_t>(argc)}.subspan(1);
+    const bool openings = !words.empty() && words[0] == std::string_view{"--openings"};
+    if (openings)
+        words = words.subspan(1);
+    if (words.empty()) {
+        std::cerr << "usage: galerie [--openings] FOLDER [PANEL ...]\n";
         return 2;
     }
     try {
-        const std::vector<Subject> subjects = chosen(arguments.subspan(2));
-        std::filesystem::create_directories(arguments[1]);
+        const Folders folders{.examples = openings ? "" : EXAMPLES, .pictures = words[0]};
+        const std::vector<Subject> subjects = chosen(words.subspan(1));
+        std::filesystem::create_directories(folders.pictures);
         // A wrong example is said once: by the first look, alone.
         const std::span all{looks};
-        if (!drawEach(all.first(1), subjects, arguments[1]) || !drawEach(all.subspan(1), subjects, arguments[1]))
+        if (!drawEach(all.first(1), subjects, folders) || !drawEach(all.subspan(1), subjects, folders))
             return 1;
-        writeIndex(arguments[1]);
+        writeIndex(folders.pictures);
         return 0;
     } catch (const std::exception& error) {
         std::cerr << "galerie: " << error.what() << '\n';

@@ -4,6 +4,7 @@
 
 #include "forms/Controls.h"
 #include "forms/Desk.h"
+#include "shell/Menu.h"
 
 namespace ondelis::pilote {
 namespace {
@@ -38,6 +39,12 @@ Color color(const Property<Color>& property)
     return plainColor(property);
 }
 
+/// The name of the caption that stands for a control; "" where none does.
+std::string labelOf(const Label* label)
+{
+    return label == nullptr ? "" : label->name();
+}
+
 template <class Form>
 Json placeAndCaption(const Form& form)
 {
@@ -58,13 +65,13 @@ public:
     {
         state = {{"kind", "TextBox"}, {"Text", text(box.Text)}, {"BackColor", color(box.BackColor)},
             {"ForeColor", color(box.ForeColor)}, {"Locked", yes(box.Locked)}, {"Visible", yes(box.Visible)},
-            {"Top", twips(box.Top)}, {"MaxLength", box.design().MaxLength}};
+            {"Top", twips(box.Top)}, {"MaxLength", box.design().MaxLength}, {"Label", labelOf(box.design().label)}};
     }
     void visit(ListBox& list) override
     {
         state = {{"kind", "ListBox"}, {"ListIndex", number(list.ListIndex)}, {"ListCount", list.ListCount().value()},
             {"Text", std::string{list.Text}}, {"Items", list.items()}, {"Visible", yes(list.Visible)},
-            {"BackColor", color(list.BackColor)}};
+            {"BackColor", color(list.BackColor)}, {"Label", labelOf(list.design().label)}};
     }
     void visit(OptionButton& option) override
     {
@@ -92,16 +99,29 @@ public:
     void visit(Shape& /*shape*/) override { state = {{"kind", "Shape"}}; }
     void visit(MaskEdBox& box) override
     {
-        state = {{"kind", "MaskEdBox"}, {"Text", text(box.Text)}, {"Display", box.display()}};
+        state = {{"kind", "MaskEdBox"}, {"Text", text(box.Text)}, {"Display", box.display()},
+            {"Label", labelOf(box.design().label)}};
     }
 
 private:
     void visitBar(const char* kind, const ScrollBar& bar)
     {
         state = {{"kind", kind}, {"Value", number(bar.Value)}, {"Min", number(bar.Min)}, {"Max", number(bar.Max)},
-            {"Visible", yes(bar.Visible)}};
+            {"Visible", yes(bar.Visible)}, {"Label", labelOf(bar.design().label)}};
     }
 };
+
+Json menus()
+{
+    Json tree = Json::array();
+    for (const Menu& menu : menuTree()) {
+        Json entries = Json::array();
+        for (const MenuEntry& entry : menu.entries)
+            entries.push_back({{"Name", entry.control}, {"Caption", entry.caption}});
+        tree.push_back({{"Caption", menu.caption}, {"Entries", std::move(entries)}});
+    }
+    return tree;
+}
 
 } // namespace
 
@@ -135,7 +155,7 @@ Json stateOfAll(const MDIOndelis& frame)
         state["controls"] = std::move(controls);
         panels[panel->design().name] = std::move(state);
     }
-    return {{"frame", stateOf(frame)}, {"panels", std::move(panels)}};
+    return {{"frame", stateOf(frame)}, {"menus", menus()}, {"panels", std::move(panels)}};
 }
 
 } // namespace ondelis::pilote

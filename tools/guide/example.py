@@ -1,0 +1,112 @@
+"""An example of a page: lines in the driver's language, played in a region and told to the reader in French.
+
+A line that begins with "#" is a sentence of the author's. Numbers in quotes are written as under a decimal comma: a
+comma between two digits becomes the region's separator, a point is a point everywhere.
+"""
+
+import re
+
+from driver import Refused, Session, caption_of, localized, menu_path, words
+
+
+def play(program, entry, lines, decimal):
+    """Opens the panel by its menu entry, plays the lines, and gives the sentences that tell it: (kind, text), the kind
+    being "do", "see" or "say". Raises Refused at the first line that does not go as it says, and where a box or the end
+    of the program comes without a line that expects it."""
+    told = []
+    with Session(program, decimal) as session:
+        menu, caption = menu_path(session.state(), entry)
+        told.append(("do", f"Ouvrez « {caption} » dans le menu « {menu} »."))
+        answer = session.say("menu " + entry)
+        panels, unexpected = shown(session, answer), news(answer)
+        for line in lines:
+            if line.startswith("#"):
+                told.append(("say", line.lstrip("# ")))
+                continue
+            if not line.strip():
+                continue
+            line = localized(line, decimal)
+            if line.startswith("expect "):
+                sentence = tell(words(line), panels)
+                session.say(line)
+                unexpected.discard(words(line)[1])
+            else:
+                if unexpected:
+                    break
+                sentence = tell(words(line), panels)
+                answer = session.say(line)
+                panels, unexpected = shown(session, answer), news(answer)
+            told.append(sentence)
+    if unexpected:
+        raise Refused("not expected: " + " and ".join(unexpected))
+    return [sentence for sentence in told if sentence is not None]
+
+
+def shown(session, answer):
+    """The panels after a command; none once the program has ended."""
+    return {} if answer["ended"] else session.state()["panels"]
+
+
+def news(answer):
+    """What a command brought that an example has to expect: a box, a fault."""
+    return {what for what, came in (("message", answer["messages"]), ("fault", answer["fault"])) if came}
+
+
+def tell(line, panels):
+    """The sentence for one command or expectation."""
+    verb, rest = line[0], line[1:]
+    if verb == "expect":
+        return _tell_expectation(rest, panels)
+    if verb == "answer":
+        return "do", "Répondez « Oui »." if rest == ["yes"] else "Répondez « Non »."
+    if verb == "menu":
+        return "do", "Rouvrez le panneau par le menu."
+    panel, name = rest[0].split(".")
+    controls = panels[panel]["controls"]
+    caption = caption_of(controls, name)
+    place = f" « {caption} »" if caption else ""
+    if verb in ("type", "replace"):
+        where = f" dans{place}" if place else ""
+        text = rest[1]
+        if text == "":
+            return "do", f"Videz le champ{place}."
+        return "do", f"Tapez **{text}**{where}{separator_note(text)}."
+    if verb == "select":
+        row = controls[name]["Items"][int(rest[1])]
+        return "do", f"Choisissez « {row.strip()} » dans la liste{place}."
+    if verb == "click":
+        return "do", f"Cliquez sur{place}."
+    if verb == "scroll":
+        return "do", f"Amenez la barre{place} à **{rest[1]}**."
+    if verb == "backspace":
+        return "do", f"Effacez le dernier caractère de{place}."
+    if verb == "focus":
+        return "do", f"Cliquez dans{place}."
+    raise Refused("no words for: " + " ".join(line))
+
+
+def separator_note(text):
+    """A point between digits is typed as a point under a comma too, which the reader would not guess."""
+    return " (avec un point)" if re.search(r"\d\.\d|^\.\d", text) else ""
+
+
+def _tell_expectation(rest, panels):
+    if rest[0] == "message":
+        return "see", f"Une boîte dit : « {' '.join(rest[1].split())} »."
+    if rest[0] == "fault":
+        return "see", "Le programme s'arrête sur une erreur."
+    if rest[0] == "no" or rest[0] == "refused":
+        return None
+    if rest[0].count(".") < 2:
+        return None
+    panel, name, member = rest[0].split(".")
+    value = rest[1].strip()
+    caption = caption_of(panels[panel]["controls"], name)
+    if member == "Text":
+        seen = f"**{value}**" if value else "un champ vide"
+        return "see", f"Vous lisez {seen} dans « {caption} »." if caption else f"Vous lisez {seen}."
+    if member == "Display":
+        return "see", f"Vous lisez **{value}** dans « {caption} »."
+    if member == "Caption":
+        return "see", f"Le panneau affiche « **{value}** »."
+    return None
