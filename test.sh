@@ -37,7 +37,7 @@ run_tests() {
 
 # Of the build that was tested, beside it.
 make_package() {
-    dh_clean && BUILT=build/release debian/rules binary
+    dh_clean && BUILT=build/release dpkg-buildpackage --rules-target=binary
 }
 
 # What runs beside it keeps its pace.

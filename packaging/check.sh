@@ -26,6 +26,10 @@ package=$build/ondelis_${version}_$architecture.deb
 symbols=$build/ondelis-dbgsym_${version}_$architecture.deb
 guide=$build/ondelis-doc_${version}_all.deb
 
+# As debian/rules has it.
+overrides=()
+! grep -q '^VERSION_ID="12"$' /etc/os-release || overrides=(lintian/overrides/ondelis)
+
 # check WORDS COMMAND...
 check() {
     running=$1
@@ -98,6 +102,14 @@ licence() {
         <(sed '1,/^License: .*$/d' "$debian/copyright" | sed '1,/^License: /d; s/^ \.$//; s/^ //')
 }
 
+# Nothing is found in it but that later versions of the tool want another element for the developers, which Debian 12's
+# does not know.
+metainfo() {
+    local said
+    said=$(appstreamcli validate --no-net "$staged"/share/metainfo/*.xml) || { printf '%s\n' "$said" >&2; return 1; }
+    ! grep '^[EWI]: ' <<<"$said" | grep -v ' developer-name-tag-deprecated$\| developer-info-missing$' >&2
+}
+
 man_pages() {
     local page warnings
     for page in "$staged"/share/man/{,fr/}man1/ondelis.1; do
@@ -135,7 +147,7 @@ check "Installation into a prefix, and the package unpacked" unpack
 check "The files of the installation" files "$staged" \
     man/{,fr/}man1/ondelis.1 doc/ondelis/{LICENSE,CHANGELOG.md}
 check "The files of the package" files "$unpacked/usr" \
-    man/{,fr/}man1/ondelis.1.gz doc/ondelis/{copyright,changelog.gz} lintian/overrides/ondelis
+    man/{,fr/}man1/ondelis.1.gz doc/ondelis/{copyright,changelog.gz} "${overrides[@]}"
 check "The debug package" debug_package
 check "The guide's package" guide_package
 check "The sizes of the icons" icons
@@ -143,7 +155,7 @@ check "The sizes of the screenshots" screenshots
 check "The version in all lists of releases" releases
 check "The terms of the licence" licence
 check "Desktop entry (desktop-file-validate)" silent desktop-file-validate "$staged/share/applications/ondelis.desktop"
-check "Metainfo (appstreamcli)" appstreamcli validate --no-net --strict "$staged"/share/metainfo/*.xml
+check "Metainfo (appstreamcli)" metainfo
 check "Man pages" man_pages
 check "Packages (lintian)" lintian --allow-root --display-info --pedantic --fail-on error,warning,info,pedantic \
     "$package" "$symbols" "$guide"
