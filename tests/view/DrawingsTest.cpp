@@ -45,7 +45,9 @@ class DrawingsTest final : public QObject {
     {
         QRect place;
         for (int y = 0; y < with.height(); ++y)
-            if (std::memcmp(with.constScanLine(y), without.constScanLine(y), with.bytesPerLine()) != 0)
+            if (std::memcmp(
+                    with.constScanLine(y), without.constScanLine(y), static_cast<std::size_t>(with.bytesPerLine()))
+                != 0)
                 for (int x = 0; x < with.width(); ++x)
                     if (with.pixel(x, y) != without.pixel(x, y))
                         place |= QRect{x, y, 1, 1};
