@@ -106,7 +106,7 @@ private slots:
         QMdiArea& area = *program.window(panel).mdiArea();
         program.window(panel).move(0, -200);
         QScrollBar& scrolled = *area.verticalScrollBar();
-        QTRY_VERIFY(scrolled.maximum() > scrolled.minimum());
+        QVERIFY(QTest::qWaitFor([&] { return scrolled.maximum() > scrolled.minimum(); }));
         auto& bar = program.widget<QScrollBar>(panel.VscrA);
         program.widget(panel.TxtA).setFocus();
         panel.events.clear();

@@ -155,7 +155,7 @@ private slots:
         QTest::mouseClick(window.windowHandle(), Qt::LeftButton, {}, field.mapTo(&window, field.rect().center()));
         QVERIFY(field.hasFocus());
         window.resize(500, 400);
-        QTRY_VERIFY(seen(program).contains(onScreen(field)));
+        QVERIFY(QTest::qWaitFor([&] { return seen(program).contains(onScreen(field)); }));
     }
 
     void theWindowKeepsItsSizeWhereverItIs()
