@@ -126,14 +126,13 @@ std::string_view trimmed(std::string_view text)
     return text;
 }
 
-/// The length of the thousands separator that starts a text; 0 where none does. Groups may have any length, so
-/// that a number can be typed digit by digit.
-std::size_t thousandsLength(std::string_view text)
+/// The length of the thousands separator that starts a text, in any of its ways; 0 where none does. Groups may have any
+/// length, so that a number can be typed digit by digit.
+std::size_t thousandsLength(std::string_view text, std::string_view separator)
 {
     constexpr std::string_view noBreakBlank = "\u00a0";
     constexpr std::string_view narrowNoBreakBlank = "\u202f";
     constexpr std::string_view typographicApostrophe = "\u2019";
-    const std::string_view separator = region().thousands;
     // No keyboard types the no-break blanks, and systems differ in which one they use: all blanks are one.
     if (separator == noBreakBlank || separator == narrowNoBreakBlank)
         for (const std::string_view blank : {std::string_view{" "}, noBreakBlank, narrowNoBreakBlank})
@@ -147,21 +146,22 @@ std::size_t thousandsLength(std::string_view text)
 }
 
 /// The text of a number of the region with "." as the decimal point and no thousands separators; "" where it has the
-/// decimal point of other regions.
-std::string plain(std::string_view text)
+/// decimal point of other regions. It lasts until the next call.
+const std::string& plain(std::string_view text, const Region& region)
 {
-    const std::string& decimal = region().decimal;
-    std::string number{text};
+    thread_local std::string number; // it keeps its memory: to get some takes half as long as to read a number
+    number = text;
     std::size_t at = text.starts_with('-') || text.starts_with('+') ? 1 : 0;
     const auto rest = [&] { return std::string_view{number}.substr(at); };
     while (const std::size_t digits = countDigits(rest())) {
         at += digits;
-        if (at == number.size() || rest().starts_with(decimal))
+        if (at == number.size() || rest().starts_with(region.decimal))
             break;
-        number.erase(at, thousandsLength(rest()));
+        number.erase(at, thousandsLength(rest(), region.thousands));
     }
-    if (rest().starts_with(decimal)) {
-        number.erase(at + 1, decimal.size() - 1);
+    if (rest().starts_with(region.decimal)) {
+        if (region.decimal.size() > 1)
+            number.erase(at + 1, region.decimal.size() - 1);
         number[at] = '.';
     } else if (rest().starts_with('.')) {
         number.clear();
@@ -189,9 +189,10 @@ char* writeGeneral(double x, char* begin, char* end)
 {
     // Nearly all numbers shown have six decimals at most. Those that 15 digits hold whole are written by their
     // millionths, in half the time.
-    const double millionths = std::nearbyint(x * 1e6);
-    if (millionths >= 100 && millionths < 1e15 && millionths / 1e6 == x)
-        return writeMillionths(static_cast<std::int64_t>(millionths), begin, end);
+    const double guess = std::min(x * 1e6, 1e15) + 0.5; // proved by the division
+    const auto millionths = static_cast<std::int64_t>(guess);
+    if (static_cast<double>(millionths) / 1e6 == x && millionths >= 100)
+        return writeMillionths(millionths, begin, end);
     char* const last = std::to_chars(begin, end, x, std::chars_format::general, 15).ptr;
     if (char* const mark = std::find(begin, last, 'e'); mark != last)
         *mark = 'E';
@@ -211,6 +212,16 @@ std::string digits(Double x, std::size_t blanks)
     text.resize(
         static_cast<std::size_t>(writeGeneral(std::fabs(x.value()), begin, text.data() + longest) - text.data()));
     return text;
+}
+
+/// Puts the region's decimal separator in the place of the point.
+void putDecimal(std::string& text, std::size_t point)
+{
+    const std::string& decimal = region().decimal;
+    if (decimal.size() == 1)
+        text[point] = decimal.front();
+    else
+        text.replace(point, 1, decimal);
 }
 
 } // namespace
@@ -233,10 +244,11 @@ Term Val(std::string_view text)
 Term CDbl(std::string_view text)
 {
     text = trimmed(text);
-    if (region().decimal == ".")
+    const Region& region = ondelis::region();
+    if (region.decimal == ".")
         if (const auto number = wholly(text))
             return *number;
-    if (const auto number = wholly(plain(text)))
+    if (const auto number = wholly(plain(text, region)))
         return *number;
     return Term{FaultKind::TypeMismatch};
 }
@@ -250,14 +262,14 @@ std::string CStr(Double x)
 {
     std::string text = digits(x, 0);
     if (const auto point = text.find('.'); point != std::string::npos)
-        text.replace(point, 1, region().decimal);
+        putDecimal(text, point);
     return text;
 }
 
 std::string Str(Double x)
 {
     std::string text = digits(x, 1);
-    if (text.compare(1, 2, "0.") == 0)
+    if (text[1] == '0' && text.size() > 2 && text[2] == '.')
         text.erase(1, 1);
     return text;
 }
