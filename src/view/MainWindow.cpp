@@ -147,11 +147,14 @@ void MainWindow::tellPlace()
 {
     if (!isVisible() || isMinimized())
         return;
-    // A window manager puts its border around a window that is on screen already: the outer size must stay.
+    // A window manager puts its border around a window that is on screen already: the outer size must stay, unless the
+    // manager has chosen one too, as some do for a window that is larger than the screen.
     if (!bordered_ && !border().isNull()) {
         bordered_ = true;
-        takePlace();
-        return;
+        if (!isMaximized()) {
+            takePlace();
+            return;
+        }
     }
     if (frameGeometry() == toldPlace())
         return;

@@ -105,8 +105,8 @@ class Guide:
         markdown = markdown.replace("« ", "«\u00a0").replace(" »", "\u00a0»")  # marks stay with their words
         title = next(line[2:] for line in markdown.splitlines() if line.startswith("# "))
         rendered = subprocess.run(
-            ["pandoc", "--from=markdown-smart", "--to=html5", "--mathml", "--standalone", "--section-divs", "--wrap=none",
-             f"--template={TEMPLATE}", "--variable=version:" + self.version, "--metadata=lang:fr",
+            ["pandoc", "--from=markdown-smart-fancy_lists", "--to=html5", "--mathml", "--standalone", "--section-divs",
+             "--wrap=none", f"--template={TEMPLATE}", "--variable=version:" + self.version, "--metadata=lang:fr",
              "--metadata=pagetitle:" + title],
             input=markdown, encoding="utf-8", stdout=subprocess.PIPE, check=True).stdout
         (self.out / f"{name}.html").write_text(formulas.readable(rendered), encoding="utf-8")
