@@ -27,7 +27,8 @@ namespace {
 QIcon icon()
 {
     QIcon icon;
-    for (const char* file : {":/icon/16.png", ":/icon/32.png", ":/icon/64.png", ":/icon/128.png"})
+    for (const char* file :
+        {":/icon/16.png", ":/icon/18.png", ":/icon/24.png", ":/icon/32.png", ":/icon/64.png", ":/icon/128.png"})
         icon.addFile(QString::fromLatin1(file));
     return icon;
 }
