@@ -14,19 +14,28 @@ sys.path.insert(0, str(ROOT / "tools" / "guide"))
 from driver import Session
 
 PAGES = {file.stem for file in (ROOT / "docs" / "guide" / "panneaux").glob("*.md")}
+VERBATIM = {"math", "code", "pre"}
 RENDERED = sorted(pathlib.Path(os.environ["GUIDE"]).glob("*.html"))
 
 
 class Links(html.parser.HTMLParser):
-    """Where a page leads, the places in it, and what it asks of a browser."""
+    """Where a page leads, the places in it, what it asks of a browser, and its words without formulas and code."""
 
     def __init__(self, file):
         super().__init__()
-        self.targets, self.places, self.tags = [], set(), []
+        self.targets, self.places, self.tags, self.words, self._inside = [], set(), [], [], 0
         self.feed(file.read_text(encoding="utf-8"))
+
+    def handle_data(self, data):
+        if not self._inside:
+            self.words.append(data)
+
+    def handle_endtag(self, tag):
+        self._inside -= tag in VERBATIM
 
     def handle_starttag(self, tag, attrs):
         attributes = dict(attrs)
+        self._inside += tag in VERBATIM
         self.tags.append(tag)
         self.places.add(attributes.get("id"))
         self.targets += [attributes[name] for name in ("href", "src") if name in attributes]
@@ -77,6 +86,18 @@ class GuideTest(unittest.TestCase):
         for file in RENDERED:
             with self.subTest(file.name):
                 self.assertNotIn('class="math', file.read_text(encoding="utf-8"), "a formula that is left as TeX")
+
+    def test_sets_formulas_one_by_one_with_whole_numbers(self):
+        page = (RENDERED[0].parent / "AntennesHighQLoop.html").read_text(encoding="utf-8")
+        beside = re.search(r'<span class="formules">(?:(?!</span>).)*</span>', page[page.index("31200") - 2000:], re.DOTALL)
+        self.assertEqual(beside.group().count("<math "), 4)
+        self.assertIn("<mn>0,2</mn>", page)
+
+    def test_ends_no_line_before_a_mark_or_a_unit(self):
+        for file in RENDERED:
+            with self.subTest(file.name):
+                words = "".join(Links(file).words)
+                self.assertEqual(re.findall(r"\S+ [»:;?!].*|.*« .*|\d (?:[kM]?Hz|[kM]?Ω|[µp]F|[µn]H|mm)\b.*|\d %.*", words), [])
 
 
 if __name__ == "__main__":

@@ -16,6 +16,7 @@ import sys
 import accuracy
 import example
 import formulas
+import typography
 from driver import Refused, Session, caption_of, menu_path
 from page import Block, Field, Malformed, Page, rows
 
@@ -102,13 +103,15 @@ class Guide:
         return "\n".join(text)
 
     def _render(self, name, markdown):
-        markdown = markdown.replace("« ", "«\u00a0").replace(" »", "\u00a0»")  # marks stay with their words
+        markdown = typography.french(markdown)
         title = next(line[2:] for line in markdown.splitlines() if line.startswith("# "))
         rendered = subprocess.run(
             ["pandoc", "--from=markdown-smart-fancy_lists", "--to=html5", "--mathml", "--standalone", "--section-divs",
-             "--wrap=none", f"--template={TEMPLATE}", "--variable=version:" + self.version, "--metadata=lang:fr",
+             "--wrap=none", "--columns=10000",  # longer lines would give a table columns of fixed widths
+             f"--template={TEMPLATE}", "--variable=version:" + self.version, "--metadata=lang:fr",
              "--metadata=pagetitle:" + title],
             input=markdown, encoding="utf-8", stdout=subprocess.PIPE, check=True).stdout
+        rendered = rendered.replace("<table>", '<div class="tableau"><table>').replace("</table>", "</table></div>")
         (self.out / f"{name}.html").write_text(formulas.readable(rendered), encoding="utf-8")
 
 
