@@ -9,7 +9,15 @@
 
 namespace ondelis_mutants {
 
-[[nodiscard]] constexpr bool on(int number)
+// In a header of the floors code may be computed by the compiler, and has no change then. Elsewhere a constant that is
+// computed by the compiler is none any more, or does not compile: no change goes unseen for that.
+#ifdef ONDELIS_MUTANTS_OF_A_FLOOR
+#define ONDELIS_CONSTEXPR constexpr
+#else
+#define ONDELIS_CONSTEXPR inline
+#endif
+
+[[nodiscard]] ONDELIS_CONSTEXPR bool on(int number)
 {
     if (std::is_constant_evaluated())
         return false;
@@ -19,7 +27,7 @@ namespace ondelis_mutants {
 
 /// A literal that is another one while the change is on. No conditional: lists of these take a compiler for ever.
 template <class Value>
-constexpr Value either(int number, Value changed, Value original)
+ONDELIS_CONSTEXPR Value either(int number, Value changed, Value original)
 {
     return on(number) ? changed : original;
 }
@@ -27,7 +35,7 @@ constexpr Value either(int number, Value changed, Value original)
 enum class Sign { Plus, Minus, Times, Over, Less, LessEqual, Greater, GreaterEqual, Equal, NotEqual };
 
 template <Sign sign, class Left, class Right>
-constexpr decltype(auto) compute(Left&& left, Right&& right)
+ONDELIS_CONSTEXPR decltype(auto) compute(Left&& left, Right&& right)
 {
     if constexpr (sign == Sign::Plus)
         return std::forward<Left>(left) + std::forward<Right>(right);
@@ -64,7 +72,7 @@ struct Held {
     int number;
 
     template <class Right>
-    constexpr auto with(Right&& right) &&
+    ONDELIS_CONSTEXPR auto with(Right&& right) &&
     {
         using Result = std::decay_t<decltype(compute<From>(std::forward<Left>(left), std::forward<Right>(right)))>;
         if (on(number))
@@ -76,12 +84,12 @@ struct Held {
 // NOLINTBEGIN(bugprone-macro-parentheses): an operator cannot stand in parentheses
 #define ONDELIS_CHANGED(SIGN, NAME) \
     template <class Left, Sign To> \
-    constexpr Held<Left, Sign::NAME, To> operator SIGN(Left&& left, Change<Sign::NAME, To> change) \
+    ONDELIS_CONSTEXPR Held<Left, Sign::NAME, To> operator SIGN(Left&& left, Change<Sign::NAME, To> change) \
     { \
         return {std::forward<Left>(left), change.number}; \
     } \
     template <class Left, Sign To, class Right> \
-    constexpr auto operator SIGN(Held<Left, Sign::NAME, To>&& held, Right&& right) \
+    ONDELIS_CONSTEXPR auto operator SIGN(Held<Left, Sign::NAME, To>&& held, Right&& right) \
     { \
         return std::move(held).with(std::forward<Right>(right)); \
     }
@@ -98,5 +106,6 @@ ONDELIS_CHANGED(>=, GreaterEqual)
 ONDELIS_CHANGED(==, Equal)
 ONDELIS_CHANGED(!=, NotEqual)
 #undef ONDELIS_CHANGED
+#undef ONDELIS_CONSTEXPR
 
 } // namespace ondelis_mutants

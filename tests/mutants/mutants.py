@@ -10,6 +10,7 @@ tried, a panel's header with its source. Survivors are printed; those in unseen.
 import argparse
 import os
 import random
+import re
 import resource
 import subprocess
 import sys
@@ -24,6 +25,8 @@ from workshop import HERE, ROOT, SOURCES, Broken, Build, Workshop
 
 FLOORS = ("kit", "forms", "panels", "shell")
 SCENARIOS = ROOT / "tests/scenarios"
+# What the compiler computes: a variable, and no function.
+CONSTANT = re.compile(r"\b((?:static )?)(?:inline )?constexpr(?= [\w:<>, *]+? \w+(?:\[\w*\])?(?: = |\{))")
 SECONDS = 5  # of the processor; a play takes a fraction of one, a mutant may never end
 
 
@@ -157,8 +160,9 @@ class Trial:
                     inserts.append((change.end, 0, length, mutant.number, change.behind.replace("@", number)))
             for place, *_, words in sorted(inserts, reverse=True):
                 text = text[:place] + words + text[place:]
-            texts[path] = text if path.suffix == ".h" else \
-                text.replace("constexpr Table<", "const Table<")
+            if self.shared or path.suffix == ".cpp":
+                text = CONSTANT.sub(r"\1inline const" if path.suffix == ".h" else r"\1const", text)
+            texts[path] = text
         return texts
 
     def copy(self, path):
@@ -198,9 +202,7 @@ def trial(build, paths):
     floor = paths[0].relative_to(SOURCES).parts[0]
     tests = {"kit": ["test_kit"], "forms": ["test_forms"], "shell": ["test_shell"]}.get(floor, [])
     source = next((path for path in paths if path.suffix == ".cpp"), None)
-    if source is None or (len(paths) == 1 and source not in build.commands):
-        return Trial(build, paths, build.readers(paths[0]), tests)
-    return Trial(build, paths, [source], tests)
+    return Trial(build, paths, [source] if source else build.readers(paths[0]), tests)
 
 
 def all_files():

@@ -1,6 +1,7 @@
 """Builds mutants: one source, or one header with all that reads it, into programs of their own beside the build."""
 
 import json
+import os
 import re
 import resource
 import shlex
@@ -80,7 +81,8 @@ class Build:
                               check=True).stdout
         found = set()
         for part in said.split("\n\n"):
-            if str(header) in part.split():
+            if any(os.path.normpath(self.folder / word) == str(header)
+                   for word in part.split() if word.endswith(header.name)):
                 found.add(self.folder / part.split(":", 1)[0])
         floors = tuple(str(SOURCES / name) for name in ("kit", "forms", "panels", "shell"))
         return sorted(source for source, (_, obj) in self.commands.items()
@@ -97,6 +99,8 @@ class Workshop:
     def compile(self, source, changed, shared):
         """Compiles a source with the changed texts in place of the files of these paths; gives the object."""
         compiler, flags = self.build.flags(source)
+        if not shared and all(path.suffix == ".h" for path in changed):
+            flags = [*flags, "-DONDELIS_MUTANTS_OF_A_FLOOR"]
         for path, text in changed.items():
             copy = self.folder / path.relative_to(SOURCES)
             copy.parent.mkdir(parents=True, exist_ok=True)
