@@ -7,6 +7,7 @@ import resource
 import shlex
 import subprocess
 import tempfile
+import threading
 from pathlib import Path
 
 HERE = Path(__file__).resolve().parent
@@ -50,6 +51,7 @@ class Build:
             self.commands[Path(entry["file"])] = (words, self.folder / words[words.index("-o") + 1])
         self.scratch = tempfile.TemporaryDirectory(prefix="mutants-")
         self.headers = {}
+        self.lock = threading.Lock()
 
     def flags(self, source):
         """The compiler, and the build's flags that change what a program does; the fastest compile otherwise."""
@@ -60,12 +62,13 @@ class Build:
 
     def precompiled(self, compiler, flags, text):
         key = (compiler, tuple(flags), text)
-        if key not in self.headers:
-            header = Path(self.scratch.name) / f"headers{len(self.headers)}.h"
-            header.write_text(f'#include "{HERE}/Mutant.h"\n' + text)
-            subprocess.run([compiler, *flags, "-x", "c++-header", str(header), "-o", f"{header}.gch"], check=True)
-            self.headers[key] = header
-        return self.headers[key]
+        with self.lock:
+            if key not in self.headers:
+                header = Path(self.scratch.name) / f"headers{len(self.headers)}.h"
+                header.write_text(f'#include "{HERE}/Mutant.h"\n' + text)
+                subprocess.run([compiler, *flags, "-x", "c++-header", str(header), "-o", f"{header}.gch"], check=True)
+                self.headers[key] = header
+            return self.headers[key]
 
     def objects(self, program):
         """The objects of a program of the build."""
