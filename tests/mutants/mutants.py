@@ -58,18 +58,18 @@ class Unseen:
         self.used = set()
 
     def has(self, path, line, change):
-        for place, entry in enumerate(self.entries):
-            if entry["file"] == str(path.relative_to(SOURCES)) and entry["line"] == line \
-                    and ("changes" not in entry or f"{change.old} -> {change.new}" in entry["changes"]):
-                self.used.add(place)
+        name, words = str(path.relative_to(SOURCES)), f"{change.old} -> {change.new}"
+        for entry in self.entries:
+            if entry["file"] == name and line in entry["lines"] and words in entry.get("changes", [words]):
+                self.used.add((name, line))
                 return True
         return False
 
     def idle(self, paths):
-        """The entries of these files that no change answers to any more."""
+        """What is listed of these files and answers to no change any more."""
         names = {str(path.relative_to(SOURCES)) for path in paths}
-        return [entry for place, entry in enumerate(self.entries)
-                if entry["file"] in names and place not in self.used]
+        listed = {(entry["file"], line) for entry in self.entries for line in entry["lines"]}
+        return sorted((name, line) for name, line in listed - self.used if name in names)
 
 
 class Trial:
@@ -254,8 +254,8 @@ def main():
         print(f"{folder}: {sum_['tried']} tried, {sum_['noticed']} noticed, {sum_['survived']} survived, "
               f"{sum_['listed']} listed")
     idle = unseen.idle([path for paths in files for path in paths])
-    for entry in idle:
-        print(f"unseen.toml: {entry['file']} has no such change: {entry['line']}")
+    for name, line in idle:
+        print(f"unseen.toml: {name} has no such change: {line}")
     return 1 if survivors or idle else 0
 
 
