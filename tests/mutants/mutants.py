@@ -16,7 +16,7 @@ import subprocess
 import sys
 import tomllib
 from collections import Counter, defaultdict
-from concurrent.futures import ThreadPoolExecutor
+from concurrent.futures import ThreadPoolExecutor, as_completed
 from dataclasses import dataclass
 from pathlib import Path
 
@@ -202,7 +202,10 @@ def fails(command, number):
 
 def trial(build, paths):
     floor = paths[0].relative_to(SOURCES).parts[0]
-    tests = {"kit": ["test_kit"], "forms": ["test_forms"], "shell": ["test_shell"]}.get(floor, [])
+    program = f"test_{floor}"
+    tested = floor != "panels" or any(f'/{paths[0].stem}.h"' in test.read_text(encoding="utf-8")
+                                      for test in (ROOT / "tests/panels").glob("*.cpp"))
+    tests = [program] if tested else []
     source = next((path for path in paths if path.suffix == ".cpp"), None)
     return Trial(build, paths, [source] if source else build.readers(paths[0]), tests)
 
@@ -243,7 +246,9 @@ def main():
         one.choose(unseen, wish.number, dice)
     sums, survivors = defaultdict(Counter), 0
     with ThreadPoolExecutor(os.cpu_count()) as pool:
-        for result in pool.map(Trial.run, [one for one in trials if one.mutants]):
+        runs = [pool.submit(one.run) for one in trials if one.mutants]
+        for done in as_completed(runs):
+            result = done.result()
             left = len(result.survivors)
             print(f"{result.name}: {result.noticed} noticed, {left} survived, {result.listed} listed, "
                   f"{result.stillborn} do not compile", *result.survivors, sep="\n  ", flush=True)
