@@ -25,7 +25,7 @@ KEYWORDS = {"if", "else", "for", "while", "do", "switch", "case", "default", "co
             "using", "namespace", "template", "class", "struct", "enum", "friend", "virtual", "explicit", "inline",
             "public", "private", "protected", "typedef", "operator", "try", "catch", "throw", "static_assert", "extern"}
 # Where a control stands is our own layout, stated nowhere: the form checks of the view judge it.
-PLACES = re.compile(r"\.at = \{|(?<=[ {])\.(?:Width|Height) = |\bBox(?: \w+)?\{|\(\{(?=[\d.]+, [^{}]+, [^{}]+, [^{}]+\})"
+PLACES = re.compile(r"\.at = \{|(?<=[ {])\.(?:Width|Height) = |\bBox(?: \w+)?\{|\(\{(?=[\w.]+, [^{}]+, [^{}]+, [^{}]+\})"
                     r"|\b(?:ligne|lettre|lettreDeCote|cote|legende|saisie|resultat)\(")
 LINE_ENDS = re.compile(r"\.[XY][12] = -?$")
 
