@@ -120,8 +120,8 @@ def numbers(text, toks, index, header):
     earlier = text[text.rfind("\n", 0, start) + 1:start]
     if re.search(r"<[^<>=;]*$", earlier) and re.match(r"[^<>=;()]*>", text[end:]):
         return []  # a template's argument: the size of a table
-    if header and LINE_ENDS.search(earlier):
-        return []
+    if before == "case" or header and LINE_ENDS.search(earlier):
+        return []  # beside another label, or layout
     sign = ""
     if before == "-" and toks[index - 1].end() == start and toks[index - 2].group() in "(,={?:<>==!=return+-*/":
         start, sign = start - 1, "-"
