@@ -82,16 +82,16 @@ struct Held {
 };
 
 // NOLINTBEGIN(bugprone-macro-parentheses): an operator cannot stand in parentheses
-#define ONDELIS_CHANGED(SIGN, NAME) \
-    template <class Left, Sign To> \
-    ONDELIS_CONSTEXPR Held<Left, Sign::NAME, To> operator SIGN(Left&& left, Change<Sign::NAME, To> change) \
-    { \
-        return {std::forward<Left>(left), change.number}; \
-    } \
-    template <class Left, Sign To, class Right> \
-    ONDELIS_CONSTEXPR auto operator SIGN(Held<Left, Sign::NAME, To>&& held, Right&& right) \
-    { \
-        return std::move(held).with(std::forward<Right>(right)); \
+#define ONDELIS_CHANGED(SIGN, NAME)                                                                                    \
+    template <class Left, Sign To>                                                                                     \
+    ONDELIS_CONSTEXPR Held<Left, Sign::NAME, To> operator SIGN(Left&& left, Change<Sign::NAME, To> change)             \
+    {                                                                                                                  \
+        return {std::forward<Left>(left), change.number};                                                              \
+    }                                                                                                                  \
+    template <class Left, Sign To, class Right>                                                                        \
+    ONDELIS_CONSTEXPR auto operator SIGN(Held<Left, Sign::NAME, To>&& held, Right&& right)                             \
+    {                                                                                                                  \
+        return std::move(held).with(std::forward<Right>(right));                                                       \
     }
 // NOLINTEND(bugprone-macro-parentheses)
 
