@@ -148,14 +148,14 @@ void Style::drawComplexControl(
         // Of an inner bar three sides fall on the edge around it, and are clipped.
         const bool across = (option->state & State_Horizontal) != 0;
         const QMargins beyond = isInner(widget) ? QMargins{across ? 2 : 0, across ? 0 : 2, 2, 2} : QMargins{};
-        const QColor edge = edgeColor(option->palette, lineContrast);
-        drawEdge(*painter, option->rect + beyond, edge);
-        // On a dark window Fusion's slider is as dark as what it slides in.
+        drawEdge(*painter, option->rect + beyond, edgeColor(option->palette, lineContrast));
+        // On a dark window Fusion's slider is as dark as the groove, which is nearer to the edge's colour than the
+        // window.
         if ((option->state & State_Enabled) != 0) {
             const QRect slider = subControlRect(control, option, SC_ScrollBarSlider, widget);
             const QRect along = across ? QRect{slider.x(), option->rect.y(), slider.width(), option->rect.height()}
                                        : QRect{option->rect.x(), slider.y(), option->rect.width(), slider.height()};
-            drawEdge(*painter, along + beyond, edge);
+            drawEdge(*painter, along + beyond, edgeColor(option->palette, 1.15 * lineContrast));
         }
         return;
     }
