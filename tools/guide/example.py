@@ -92,7 +92,8 @@ def separator_note(text):
 
 def _tell_expectation(rest, panels):
     if rest[0] == "message":
-        return "see", f"Une boîte dit : « {' '.join(rest[1].split())} »."
+        lines = [" ".join(line.split()) for line in rest[1].splitlines() if line.strip()]
+        return "see", f"Une boîte dit : « {' / '.join(lines)} »."
     if rest[0] == "fault":
         return "see", "Le programme s'arrête sur une erreur."
     if rest[0] == "no" or rest[0] == "refused":

@@ -99,7 +99,8 @@ class Guide:
                 text += ["", f"## {menu['Caption']}", ""]
             for entry in entries:
                 page = by_entry[entry["Name"]]
-                text.append(f"- [{entry['Caption']}]({page.panel}.html) : {lower_first(page.title)}")
+                title = "" if page.title.lower() == entry["Caption"].lower() else f" : {lower_first(page.title)}"
+                text.append(f"- [{entry['Caption']}]({page.panel}.html){title}")
         return "\n".join(text)
 
     def _render(self, name, markdown):

@@ -3,7 +3,7 @@
 import re
 
 FORMULAS_AND_CODE = re.compile(r"(\$\$.*?\$\$|\$[^$\n]+\$|`[^`\n]+`|\]\([^)\n]*\))", re.DOTALL)
-UNITS = ("%|°|[kMG]?Hz|[KMG]Hz|[mkM]?Ω|[Oo]hms|[mk]?V|[mµ]?A|k?W|VA|W/kg|[mµnp]?H|[µnp]?F|pF/m|nF/m|[cdmµ]?m|[mc]?m²|dB|"
+UNITS = ("%|°|[kMG]?Hz|[KMG]Hz|[mkM]?Ω|[Oo]hms|[mk]?V|[mµ]?A|k?W|VA|W/kg|A/mm²|N/m²|kg/cm²|[mµnp]?H|[µnp]?F|pF/m|nF/m|[cdmµ]?m|[mc]?m²|dB|"
          "[mµnp]?s|hPa|Pa|J|T|pouces?|tours?|spires?|volts?|watts?|degrés?")
 BLANKS = (
     (re.compile(r"« "), "«\u00a0"),
