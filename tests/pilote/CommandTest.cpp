@@ -159,7 +159,8 @@ TEST_F(CommandTest, ShowsTheLoadedPanelWithItsControls)
     EXPECT_TRUE(panel["Width"].is_number_integer());
     EXPECT_EQ(panel["controls"]["LstFreq"]["Items"], Json({"GHz", "MHz", "KHz", "Hz"}));
     EXPECT_EQ(panel["controls"]["frmCircuit(0)"],
-        Json::parse(R"({"kind":"Frame","Caption":"Circuit RC Série","Picture":"circuit-rc-serie","Visible":true,"Frame":""})"));
+        Json::parse(
+            R"({"kind":"Frame","Caption":"Circuit RC Série","Picture":"circuit-rc-serie","Visible":true,"Frame":""})"));
 }
 
 TEST_F(CommandTest, StandsALongText)

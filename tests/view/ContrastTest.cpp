@@ -3,6 +3,8 @@
 #include <QListWidget>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QScrollBar>
+#include <QStyleOptionSlider>
 
 #include "Contrast.h"
 #include "Look.h"

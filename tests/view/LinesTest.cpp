@@ -1,3 +1,5 @@
+#include <QGroupBox>
+
 #include "Program.h"
 #include "TestPanel.h"
 #include "forms/Controls.h"
