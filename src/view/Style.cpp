@@ -148,7 +148,6 @@ void Style::drawComplexControl(
         // Of an inner bar three sides fall on the edge around it, and are clipped.
         const bool across = (option->state & State_Horizontal) != 0;
         const QMargins beyond = isInner(widget) ? QMargins{across ? 2 : 0, across ? 0 : 2, 2, 2} : QMargins{};
-        drawEdge(*painter, option->rect + beyond, edgeColor(option->palette, lineContrast));
         // On a dark window Fusion's slider is as dark as the groove, which is nearer to the edge's colour than the
         // window.
         if ((option->state & State_Enabled) != 0) {
@@ -157,6 +156,7 @@ void Style::drawComplexControl(
                                        : QRect{option->rect.x(), slider.y(), option->rect.width(), slider.height()};
             drawEdge(*painter, along + beyond, edgeColor(option->palette, 1.15 * lineContrast));
         }
+        drawEdge(*painter, option->rect + beyond, edgeColor(option->palette, lineContrast));
         return;
     }
     const auto* const title = qstyleoption_cast<const QStyleOptionTitleBar*>(option);
