@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # Checks everything: installs what is missing, builds with warnings as errors, checks the code's shape, makes the
 # package and checks what people install, and runs every test twice, the second time with sanitizers. Ends at the first
-# step that fails. What was built and read before, and has not changed, is not built and read again.
+# step that fails. What passed before, and has not changed since, is not built, read or run again.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")"
 source tools/steps.sh
@@ -31,9 +31,6 @@ build_release() {
     mapfile -t flags < <(debian/rules flags) && build release "${flags[@]}"
 }
 
-run_tests() {
-    ctest --preset "$1" -j"$jobs"
-}
 
 # Of the build that was tested, beside it.
 make_package() {
@@ -47,7 +44,7 @@ yielding() (
 
 # What people get.
 check_release() {
-    step "Tests (release)" run_tests release
+    step "Tests (release)" tools/tests.py release
     step "Debian package" make_package
     step "Installation and package (validators)" packaging/check.sh build/release
 }
@@ -60,6 +57,6 @@ step "Release build, as for a package, warnings as errors" build_release
 beside check_release
 pinned clang-tidy 14 "Lint (clang-tidy)" yielding tools/lint.py build/release
 step "Build with address and undefined behaviour sanitizers" yielding build sanitize
-step "Tests (sanitizers)" run_tests sanitize
+step "Tests (sanitizers)" tools/tests.py sanitize
 join_beside
 report

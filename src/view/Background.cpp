@@ -18,7 +18,7 @@ constexpr int fewDrawings = 2;
 
 /// The rows of the picture that are then decoded at a time. Each time begins at the top of the file: fewer rows take
 /// longer in all, more rows take more memory.
-constexpr int bandRows = 96;
+constexpr int bandRows = 189;
 
 QString file()
 {

@@ -9,6 +9,7 @@ ListBoxWidget::ListBoxWidget(PanelWindow& window, ListBox& list, QWidget* parent
     : QListWidget{parent}, ControlWidget{window}, list_{list}
 {
     setUniformItemSizes(true);
+    setFocusPolicy(Qt::TabFocus); // the base class would take the keyboard by any button
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setEditTriggers(NoEditTriggers);
 }
@@ -62,6 +63,9 @@ bool ListBoxWidget::viewportEvent(QEvent* event)
 void ListBoxWidget::mousePressEvent(QMouseEvent* event)
 {
     if (event->button() != Qt::LeftButton) // the base class would choose by any button
+        return;
+    setFocus(Qt::MouseFocusReason);
+    if (gone())
         return;
     QListWidget::mousePressEvent(event);
     // A click on the row that is chosen already is told too: some lists listen to it.

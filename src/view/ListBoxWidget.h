@@ -8,7 +8,7 @@
 
 namespace ondelis {
 
-/// A list of texts. Of the mouse only the left button chooses.
+/// A list of texts. Of the mouse only the left button chooses, and only it gives the list the keyboard.
 class ListBoxWidget final : public QListWidget, public ControlWidget {
 public:
     ListBoxWidget(PanelWindow& window, ListBox& list, QWidget* parent);

@@ -27,7 +27,8 @@ namespace {
 QIcon icon()
 {
     QIcon icon;
-    for (const char* file : {":/icon/16.png", ":/icon/32.png", ":/icon/64.png", ":/icon/128.png"})
+    for (const char* file :
+        {":/icon/16.png", ":/icon/18.png", ":/icon/24.png", ":/icon/32.png", ":/icon/64.png", ":/icon/128.png"})
         icon.addFile(QString::fromLatin1(file));
     return icon;
 }
@@ -147,11 +148,14 @@ void MainWindow::tellPlace()
 {
     if (!isVisible() || isMinimized())
         return;
-    // A window manager puts its border around a window that is on screen already: the outer size must stay.
+    // A window manager puts its border around a window that is on screen already: the outer size must stay, unless the
+    // manager has chosen one too, as some do for a window that is larger than the screen.
     if (!bordered_ && !border().isNull()) {
         bordered_ = true;
-        takePlace();
-        return;
+        if (!isMaximized()) {
+            takePlace();
+            return;
+        }
     }
     if (frameGeometry() == toldPlace())
         return;

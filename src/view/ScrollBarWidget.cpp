@@ -49,7 +49,7 @@ ScrollBarWidget::ScrollBarWidget(PanelWindow& window, ScrollBar& bar, Qt::Orient
     : QScrollBar{orientation, parent}, ControlWidget{window}, bar_{bar}
 {
     QAccessible::installFactory(makeAccessible); // counts once however often it is called
-    setFocusPolicy(Qt::StrongFocus);
+    setFocusPolicy(Qt::TabFocus); // and by the left button
     setContextMenuPolicy(Qt::NoContextMenu);
     setSingleStep(bar.design().SmallChange.value());
     setPageStep(bar.design().LargeChange.value());
@@ -74,7 +74,10 @@ void ScrollBarWidget::follow()
 
 void ScrollBarWidget::mousePressEvent(QMouseEvent* event)
 {
-    if (event->button() == Qt::LeftButton) // the middle one would move the slider under the pointer
+    if (event->button() != Qt::LeftButton) // the middle one would move the slider under the pointer
+        return;
+    setFocus(Qt::MouseFocusReason);
+    if (!gone())
         QScrollBar::mousePressEvent(event);
 }
 

@@ -8,7 +8,8 @@
 namespace ondelis {
 
 /// A bar. `Min` stands at its left or upper end, be it the smaller limit or the larger: the widget counts positions
-/// from that end. Only the left button, the keys and, while it has the keyboard, the wheel change it.
+/// from that end. Only the left button, which gives it the keyboard, the keys and, while it has the keyboard, the wheel
+/// change it.
 class ScrollBarWidget final : public QScrollBar, public ControlWidget {
 public:
     ScrollBarWidget(PanelWindow& window, ScrollBar& bar, Qt::Orientation orientation, QWidget* parent);

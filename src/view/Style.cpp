@@ -118,6 +118,15 @@ int Style::styleHint(
     return 1;
 }
 
+QRect Style::subControlRect(
+    ComplexControl control, const QStyleOptionComplex* option, SubControl part, const QWidget* widget) const
+{
+    const QRect rect = QProxyStyle::subControlRect(control, option, part, widget);
+    if (control != CC_GroupBox || part != SC_GroupBoxLabel)
+        return rect;
+    return rect.translated(option->fontMetrics.averageCharWidth(), option->fontMetrics.leading() + 2);
+}
+
 void Style::drawControl(
     ControlElement element, const QStyleOption* option, QPainter* painter, const QWidget* widget) const
 {
@@ -140,6 +149,14 @@ void Style::drawComplexControl(
         const bool across = (option->state & State_Horizontal) != 0;
         const QMargins beyond = isInner(widget) ? QMargins{across ? 2 : 0, across ? 0 : 2, 2, 2} : QMargins{};
         drawEdge(*painter, option->rect + beyond, edgeColor(option->palette, lineContrast));
+        // On a dark window Fusion's slider is as dark as the groove, which is nearer to the edge's colour than the
+        // window.
+        if ((option->state & State_Enabled) != 0) {
+            const QRect slider = subControlRect(control, option, SC_ScrollBarSlider, widget);
+            const QRect along = across ? QRect{slider.x(), option->rect.y(), slider.width(), option->rect.height()}
+                                       : QRect{option->rect.x(), slider.y(), option->rect.width(), slider.height()};
+            drawEdge(*painter, along + beyond, edgeColor(option->palette, 1.15 * lineContrast));
+        }
         return;
     }
     const auto* const title = qstyleoption_cast<const QStyleOptionTitleBar*>(option);

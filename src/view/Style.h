@@ -21,6 +21,10 @@ public:
     int styleHint(
         StyleHint hint, const QStyleOption* option, const QWidget* widget, QStyleHintReturn* returned) const override;
 
+    /// Sets the title of a frame off from the edge at its left.
+    QRect subControlRect(ComplexControl control, const QStyleOptionComplex* option, SubControl part,
+        const QWidget* widget) const override;
+
     /// Marks the heading of the menu that the keyboard is on, even while its menu is not open.
     void drawControl(
         ControlElement element, const QStyleOption* option, QPainter* painter, const QWidget* widget) const override;

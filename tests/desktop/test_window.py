@@ -43,9 +43,24 @@ class Window(unittest.TestCase):
     def move(self, x: int, y: int) -> None:
         self.desktop.hands("windowmove", self.window, str(x), str(y))
 
-    def drag(self, start: tuple[int, int], end: tuple[int, int]) -> None:
-        """Drags the window by its title bar from one point of the screen to the other."""
-        self.desktop.hands("mousemove", *map(str, start), "mousedown", "1")
+    def point_at_title(self, x: int) -> None:
+        """Moves the mouse to the title bar, so far from the left of the window."""
+        self.desktop.hands("mousemove", "--window", self.window, "--", str(x), "-12")
+
+    def restore(self) -> None:
+        """Some window managers give a window that is larger than the screen the size of that: by its title bar it gets
+        its own again."""
+        if self.size()[0] <= self.screen[0]:
+            self.point_at_title(300)
+            self.desktop.hands("click", "--repeat", "2", "--delay", "80", "1")
+            self.rest()
+            self.assertGreater(self.size()[0], self.screen[0])
+
+    def drag(self, end: tuple[int, int]) -> None:
+        """Drags what the mouse points at to another point of the screen."""
+        place = dict(line.split("=") for line in self.desktop.hands("getmouselocation", "--shell").stdout.split())
+        start = int(place["X"]), int(place["Y"])
+        self.desktop.hands("mousedown", "1")
         for step in range(1, 11):
             place = (a + (b - a) * step // 10 for a, b in zip(start, end))
             self.desktop.hands("mousemove", *map(str, place))
@@ -60,19 +75,21 @@ class Window(unittest.TestCase):
             self.assertEqual(self.size(), size, f"after a move to {x}, {y}")
 
     def drags_everywhere(self) -> None:
+        self.restore()
         size = self.size()
         right, bottom = self.screen[0] - 10, self.screen[1] - 10
-        by_the_left, by_the_right = (200, 30), (right - 150, 30)  # the buttons of the title bar left alone
-        for start, *ends in [(by_the_left, (right, 30), by_the_left), (by_the_right, (10, 30), by_the_right),
-                             (by_the_left, (200, bottom), by_the_left)]:
-            self.move(0, 40)  # the window manager's title bar is above that
+        left, far = 200, right - 150  # the buttons of the title bar left alone
+        for grip, *ends in [(left, (right, 30), (left, 30)), (far, (10, 30), (far, 30)),
+                            (left, (left, bottom), (left, 30))]:
+            self.move(0, 40)  # with the title bar in sight
             before = self.rest()
+            self.point_at_title(grip)
             for end in ends:
-                self.drag(start, end)
+                self.drag(end)
                 after = self.rest()
                 self.assertNotEqual((before["X"], before["Y"]), (after["X"], after["Y"]), "it does not follow the mouse")
                 self.assertEqual(self.size(), size, f"after a drag to {end}")
-                start, before = end, after
+                before = after
 
     def test_it_keeps_its_size(self) -> None:
         for manager in ["", "openbox", "xfwm4"]:

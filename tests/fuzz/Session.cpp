@@ -117,9 +117,19 @@ public:
             log_.length = before;
         else if (reply["fault"].is_string())
             keep(log_.fault, reply["fault"].get<std::string>());
+        if (!digests_)
+            return;
+        digest(log_.digest, command);
+        digest(log_.digest, text(reply));
+        if (++commands_ % commandsALook == 0)
+            look();
+    }
+
+    /// Takes what the panels show into the digest.
+    void look()
+    {
         if (digests_)
-            for (const std::string& seen : {command, text(reply), text(pilote_.answer("state"))})
-                digest(log_.digest, seen);
+            digest(log_.digest, text(pilote_.answer("state")));
     }
 
 private:
@@ -128,8 +138,11 @@ private:
         return json.dump(-1, ' ', false, pilote::Json::error_handler_t::replace);
     }
 
+    static constexpr int commandsALook = 8; // to look takes far longer than a command
+
     Log& log_;
     bool digests_;
+    int commands_ = 0;
     pilote::Pilote pilote_;
 };
 
@@ -169,6 +182,7 @@ Outcome play(const Aim& aim, const std::function<void(Session&)>& what)
     if (child == 0) {
         Session session{log, aim.digests};
         what(session);
+        session.look();
         std::exit(0); // leaks are looked for on the way out
     }
     Outcome outcome{.commands = {}, .subject = {}, .fault = {}, .trouble = watch(child, log, aim.longestStep)};

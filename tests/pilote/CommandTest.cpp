@@ -146,7 +146,7 @@ TEST_F(CommandTest, ShowsTheFrameAndNoPanelAtTheStart)
     say("start");
     const Json state = say("state");
     EXPECT_EQ(state["frame"], Json::parse(R"({"Left":4665,"Top":600,"Width":19470,"Height":15000,
-        "Caption":"Kervane : Veloris divers V21.5.0 du 20 Janvier 2021"})"));
+        "Caption":"Kervane : Veloris divers V21.5.0 du 20 Janvier 2021","Focus":""})"));
     EXPECT_EQ(state["panels"], Json::object());
 }
 
@@ -159,7 +159,7 @@ TEST_F(CommandTest, ShowsTheLoadedPanelWithItsControls)
     EXPECT_TRUE(panel["Width"].is_number_integer());
     EXPECT_EQ(panel["controls"]["LstFreq"]["Items"], Json({"GHz", "MHz", "KHz", "Hz"}));
     EXPECT_EQ(panel["controls"]["frmCircuit(0)"],
-        Json::parse(R"({"kind":"Frame","Caption":"Circuit RC Série","Visible":true})"));
+        Json::parse(R"({"kind":"Frame","Caption":"Circuit RC Série","Picture":"circuit-rc-serie","Visible":true,"Frame":""})"));
 }
 
 TEST_F(CommandTest, StandsALongText)

@@ -1,3 +1,4 @@
+#include <QLineEdit>
 #include <QListWidget>
 #include <QPushButton>
 #include <QRadioButton>
@@ -5,6 +6,7 @@
 
 #include "Program.h"
 #include "TestPanel.h"
+#include "panels/lignes/RVListeCoaxiaux.h"
 #include "panels/puissance/Transformateur.h"
 
 namespace ondelis {
@@ -16,6 +18,14 @@ class ChoicesTest final : public QObject {
     static void click(QListWidget& list, int row, Qt::MouseButton button = Qt::LeftButton)
     {
         QTest::mouseClick(list.viewport(), button, Qt::NoModifier, list.visualItemRect(list.item(row)).center());
+    }
+
+    /// As a person does: on the window, whose widgets then hand the keyboard on.
+    static void clickOnWindow(QListWidget& list, int row, Qt::MouseButton button)
+    {
+        const QPoint place = list.visualItemRect(list.item(row)).center();
+        QTest::mouseClick(
+            list.window()->windowHandle(), button, Qt::NoModifier, list.viewport()->mapTo(list.window(), place));
     }
 
 private slots:
@@ -50,6 +60,40 @@ private slots:
         QVERIFY(panel.events.empty());
         QCOMPARE(list.currentRow(), 1);
         QCOMPARE(panel.LstU.ListIndex.get().value(), 1);
+    }
+
+    void onlyTheLeftButtonGivesAListTheKeyboard()
+    {
+        Program program;
+        auto& panel = program.open<TestPanel>();
+        auto& list = program.widget<QListWidget>(panel.LstU);
+        auto& field = program.widget<QLineEdit>(panel.TxtA);
+        QTest::keyClicks(&field, QStringLiteral("14"));
+        panel.events.clear();
+        for (const Qt::MouseButton button : {Qt::RightButton, Qt::MiddleButton}) {
+            clickOnWindow(list, 1, button);
+            QVERIFY(field.hasFocus());
+            QCOMPARE(program.desk.focused(), &panel.TxtA);
+        }
+        QVERIFY(panel.events.empty());
+        clickOnWindow(list, 1, Qt::LeftButton);
+        QVERIFY(list.hasFocus());
+        QCOMPARE(panel.events, (std::vector<std::string>{"LstU_GotFocus", "LstU_Click"}));
+    }
+
+    void aRightClickLeavesTheHeadingOfTheCatalogue()
+    {
+        Program program;
+        program.pick("MenuCoaxiauxCourants");
+        auto& panel = program.desk.get<RVListeCoaxiaux>();
+        QTest::mouseClick(&program.widget(panel.OptVF), Qt::LeftButton, {}, {12, 8});
+        click(program.widget<QListWidget>(panel.LstCritere), 0);
+        QCOMPARE(std::string{panel.LblCriteres.Caption}, std::string{"Velocite"});
+        auto& results = program.widget<QListWidget>(panel.LstResultat);
+        clickOnWindow(results, 0, Qt::RightButton);
+        QCOMPARE(std::string{panel.LblCriteres.Caption}, std::string{"Velocite"});
+        clickOnWindow(results, 0, Qt::LeftButton);
+        QCOMPARE(std::string{panel.LblCriteres.Caption}, std::string{"Impédances"});
     }
 
     void theWheelChoosesNothing()

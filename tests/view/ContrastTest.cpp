@@ -194,6 +194,32 @@ private slots:
             report(contrastFaultsOf(program.window(*panel)));
     }
 
+    void theSliderIsSeen_data() { addPalettes(); }
+
+    void theSliderIsSeen()
+    {
+        QFETCH(bool, dark);
+        const ScopedLook look = palette(dark);
+        Program program;
+        auto& panel = program.open<TestPanel>();
+        auto& bar = program.widget<QScrollBar>(panel.HscrA);
+        QStyleOptionSlider option;
+        option.initFrom(&bar);
+        option.orientation = Qt::Horizontal;
+        option.state |= QStyle::State_Horizontal;
+        option.maximum = bar.maximum();
+        option.sliderPosition = bar.sliderPosition();
+        option.sliderValue = bar.value();
+        option.pageStep = bar.pageStep();
+        const QRect slider
+            = bar.style()->subControlRect(QStyle::CC_ScrollBar, &option, QStyle::SC_ScrollBarSlider, &bar);
+        QVERIFY(slider.left() > bar.height() + 8 && slider.right() < bar.width() - bar.height() - 8);
+        const QImage image = bar.grab().toImage();
+        const QColor ground = image.pixelColor(slider.left() - 8, slider.center().y());
+        QVERIFY(contrast(image.pixelColor(slider.left(), slider.center().y()), ground) >= lineContrast);
+        QVERIFY(contrast(image.pixelColor(slider.right(), slider.center().y()), ground) >= lineContrast);
+    }
+
     void menus_data() { addPalettes(); }
 
     void menus()

@@ -1,6 +1,7 @@
 #include <QDesktopServices>
 #include <QDir>
 #include <QFile>
+#include <QMdiSubWindow>
 #include <QUrl>
 
 #include "Program.h"
@@ -71,7 +72,7 @@ private slots:
             QStringLiteral("Le guide n'est pas installé : il est dans le paquet « ondelis-doc »."));
         QCOMPARE(opened_, QString{});
         program.pick("MenuAstable"); // the program goes on
-        QVERIFY(program.view.mainWindow().findChild<PanelWindow*>("Astable") != nullptr);
+        QVERIFY(program.view.mainWindow().findChild<QMdiSubWindow*>(QStringLiteral("Astable")) != nullptr);
     }
 
     void saysThatTheGuideIsOfAnotherVersion()

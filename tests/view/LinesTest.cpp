@@ -1,4 +1,5 @@
 #include "Program.h"
+#include "TestPanel.h"
 #include "forms/Controls.h"
 #include "forms/FeuilleCalcul.h"
 #include "panels/antennes/AntennesLPDA1.h"
@@ -80,6 +81,24 @@ private slots:
             QVERIFY(seen() != covered);
             program.store([&] { panel.Frame1.Visible = true; });
         }
+    }
+
+    void theTitleOfAFrameStandsClearOfItsEdge()
+    {
+        Program program;
+        auto& panel = program.open<TestPanel>();
+        auto& frame = program.widget<QGroupBox>(panel.Frame1);
+        const QImage image = frame.grab().toImage();
+        const auto emptyColumn = [&](int x) {
+            const QColor ground = image.pixelColor(3, frame.height() / 2);
+            for (int y = 2; y < frame.fontMetrics().height() + 4; ++y)
+                if (image.pixelColor(x, y) != ground)
+                    return false;
+            return true;
+        };
+        for (int x = 1; x <= 4; ++x)
+            QVERIFY(emptyColumn(x));
+        QVERIFY(!emptyColumn(0));
     }
 
     void aLineThatMissesItsDiagramIsNotDrawn()

@@ -132,8 +132,12 @@ private slots:
         auto& bar = program.widget<QScrollBar>(panel.HscrA);
         for (const Qt::MouseButton button : {Qt::MiddleButton, Qt::RightButton})
             for (const QPoint place : {QPoint{3, 5}, QPoint{bar.width() / 4, 5}, QPoint{bar.width() - 3, 5}})
-                QTest::mouseClick(&bar, button, Qt::NoModifier, place);
+                QTest::mouseClick(bar.window()->windowHandle(), button, {}, bar.mapTo(bar.window(), place));
         QCOMPARE(panel.HscrA.Value.get().value(), 50);
+        QCOMPARE(program.desk.focused(), &panel.TxtA); // the wheel must not move it then either
+        QTest::mouseClick(bar.window()->windowHandle(), Qt::LeftButton, {}, bar.mapTo(bar.window(), QPoint{3, 5}));
+        QCOMPARE(panel.HscrA.Value.get().value(), 48);
+        QCOMPARE(program.desk.focused(), &panel.HscrA);
     }
 
     void theSliderStandsWhereTheValueIs()

@@ -107,8 +107,8 @@ class Guide:
         markdown = typography.french(markdown)
         title = next(line[2:] for line in markdown.splitlines() if line.startswith("# "))
         rendered = subprocess.run(
-            ["pandoc", "--from=markdown-smart", "--to=html5", "--mathml", "--standalone", "--section-divs", "--wrap=none",
-             "--columns=10000",  # longer lines would give a table columns of fixed widths
+            ["pandoc", "--from=markdown-smart-fancy_lists", "--to=html5", "--mathml", "--standalone", "--section-divs",
+             "--wrap=none", "--columns=10000",  # longer lines would give a table columns of fixed widths
              f"--template={TEMPLATE}", "--variable=version:" + self.version, "--metadata=lang:fr",
              "--metadata=pagetitle:" + title],
             input=markdown, encoding="utf-8", stdout=subprocess.PIPE, check=True).stdout

@@ -45,6 +45,26 @@ std::string labelOf(const Label* label)
     return label == nullptr ? "" : label->name();
 }
 
+const char* name(Align align)
+{
+    switch (align) {
+    case Align::Left:
+        return "left";
+    case Align::Right:
+        return "right";
+    case Align::Center:
+        return "center";
+    }
+    return "";
+}
+
+/// How the text of a control stands in it, and in which type.
+template <class Design>
+Json typeOf(const Design& design)
+{
+    return {{"Alignment", name(design.align)}, {"FontSize", design.font.size}, {"FontBold", design.font.bold}};
+}
+
 template <class Form>
 Json placeAndCaption(const Form& form)
 {
@@ -59,13 +79,16 @@ public:
     void visit(Label& label) override
     {
         state = {{"kind", "Label"}, {"Caption", text(label.Caption)}, {"Visible", yes(label.Visible)},
-            {"Top", twips(label.Top)}};
+            {"Top", twips(label.Top)}, {"ForeColor", plainColor(label.design().ForeColor)}};
+        state.update(typeOf(label.design()));
     }
     void visit(TextBox& box) override
     {
         state = {{"kind", "TextBox"}, {"Text", text(box.Text)}, {"BackColor", color(box.BackColor)},
             {"ForeColor", color(box.ForeColor)}, {"Locked", yes(box.Locked)}, {"Visible", yes(box.Visible)},
-            {"Top", twips(box.Top)}, {"MaxLength", box.design().MaxLength}, {"Label", labelOf(box.design().label)}};
+            {"Top", twips(box.Top)}, {"MaxLength", box.design().MaxLength}, {"MultiLine", box.design().multiLine},
+            {"Label", labelOf(box.design().label)}};
+        state.update(typeOf(box.design()));
     }
     void visit(ListBox& list) override
     {
@@ -87,29 +110,46 @@ public:
     void visit(VScrollBar& bar) override { visitBar("VScrollBar", bar); }
     void visit(Frame& frame) override
     {
-        state = {{"kind", "Frame"}, {"Caption", frame.design().Caption}, {"Visible", yes(frame.Visible)}};
+        state = {{"kind", "Frame"}, {"Caption", frame.design().Caption}, {"Picture", frame.design().picture},
+            {"Visible", yes(frame.Visible)}};
     }
-    void visit(PictureBox& picture) override { state = {{"kind", "PictureBox"}, {"Visible", yes(picture.Visible)}}; }
-    void visit(Image& image) override { state = {{"kind", "Image"}, {"Visible", yes(image.Visible)}}; }
+    void visit(PictureBox& picture) override { visitPicture("PictureBox", picture); }
+    void visit(Image& image) override { visitPicture("Image", image); }
     void visit(Line& line) override
     {
         state = {{"kind", "Line"}, {"X1", twips(line.X1)}, {"Y1", twips(line.Y1)}, {"X2", twips(line.X2)},
-            {"Y2", twips(line.Y2)}, {"Visible", yes(line.Visible)}};
+            {"Y2", twips(line.Y2)}, {"BorderColor", plainColor(line.design().BorderColor)},
+            {"BorderWidth", line.design().BorderWidth}, {"Visible", yes(line.Visible)}};
     }
     void visit(Shape& /*shape*/) override { state = {{"kind", "Shape"}}; }
     void visit(MaskEdBox& box) override
     {
         state = {{"kind", "MaskEdBox"}, {"Text", text(box.Text)}, {"Display", box.display()},
-            {"Label", labelOf(box.design().label)}};
+            {"BackColor", plainColor(box.design().BackColor)}, {"Label", labelOf(box.design().label)}};
     }
 
 private:
     void visitBar(const char* kind, const ScrollBar& bar)
     {
         state = {{"kind", kind}, {"Value", number(bar.Value)}, {"Min", number(bar.Min)}, {"Max", number(bar.Max)},
+            {"SmallChange", bar.design().SmallChange.value()}, {"LargeChange", bar.design().LargeChange.value()},
             {"Visible", yes(bar.Visible)}, {"Label", labelOf(bar.design().label)}};
     }
+    void visitPicture(const char* kind, const Picture& picture)
+    {
+        state = {{"kind", kind}, {"Picture", picture.design().picture}, {"Visible", yes(picture.Visible)}};
+    }
 };
+
+/// The controls that the tab key leads to, in its order.
+Json tabOrder(const FeuilleCalcul& panel)
+{
+    Json names = Json::array();
+    for (const Control* control : panel.controls())
+        if (control->focusable())
+            names.push_back(control->name());
+    return names;
+}
 
 Json menus()
 {
@@ -127,13 +167,17 @@ Json menus()
 
 Json stateOf(const MDIOndelis& frame)
 {
-    return placeAndCaption(frame);
+    Json state = placeAndCaption(frame);
+    const Control* const focused = frame.desk().focused();
+    state["Focus"] = focused == nullptr ? "" : focused->panel().design().name + '.' + focused->name();
+    return state;
 }
 
 Json stateOf(const FeuilleCalcul& panel)
 {
     Json state{{"visible", panel.visible()}};
     state.update(placeAndCaption(panel));
+    state["TabOrder"] = tabOrder(panel);
     return state;
 }
 
@@ -141,6 +185,7 @@ Json stateOf(Control& control)
 {
     ControlState visitor;
     control.accept(visitor);
+    visitor.state["Frame"] = control.container() == nullptr ? "" : control.container()->name();
     return visitor.state;
 }
 

@@ -12,13 +12,13 @@ using Json = nlohmann::ordered_json;
 // What there is to see, as JSON: numbers of twips, colours 0xBBGGRR as numbers, the rest under the names of
 // the members.
 
-/// "Left", "Top", "Width", "Height", "Caption".
+/// "Left", "Top", "Width", "Height", "Caption", and "Focus", the control that has the keyboard as "PANEL.CONTROL".
 [[nodiscard]] Json stateOf(const MDIOndelis& frame);
 
-/// The same and "visible".
+/// "visible", the place and the caption, and "TabOrder", what the tab key leads to.
 [[nodiscard]] Json stateOf(const FeuilleCalcul& panel);
 
-/// "kind", which is the class, and its members.
+/// "kind", which is the class, its members, and "Frame", the frame that it stands in.
 [[nodiscard]] Json stateOf(Control& control);
 
 /// "frame", and "panels": each loaded one with its "controls".

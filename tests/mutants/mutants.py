@@ -1,0 +1,266 @@
+#!/usr/bin/env python3
+"""Changes one token of a source at a time, and tells which changes no scenario and no test notices.
+
+    mutants.py BUILD [FILE...] [--number N] [--files N] [--seed N]
+
+BUILD is the folder of a finished release build. Without FILE all sources of src/kit, forms, panels and shell are
+tried, a panel's header with its source. Survivors are printed; those in unseen.toml are not tried.
+"""
+
+import argparse
+import os
+import random
+import re
+import resource
+import subprocess
+import sys
+import tomllib
+from collections import Counter, defaultdict
+from concurrent.futures import ThreadPoolExecutor, as_completed
+from dataclasses import dataclass
+from pathlib import Path
+
+import sites
+from workshop import HERE, ROOT, SOURCES, Broken, Build, Workshop
+
+FLOORS = ("kit", "forms", "panels", "shell")
+SCENARIOS = ROOT / "tests/scenarios"
+# What the compiler computes: a variable, and no function.
+CONSTANT = re.compile(r"\b((?:static )?)(?:inline )?constexpr(?= [\w:<>, *]+? \w+(?:\[\w*\])?(?: = |\{))")
+SECONDS = 5  # of the processor; a play takes a fraction of one, a mutant may never end
+
+
+@dataclass
+class Mutant:
+    path: Path
+    change: sites.Change
+    number: int
+
+    def told(self, texts):
+        line = texts[self.path].split("\n")[self.change.line - 1].strip()
+        return f"{self.path.relative_to(ROOT)}:{self.change.line}: {self.change.old} -> {self.change.new}\n    {line}"
+
+
+@dataclass
+class Result:
+    name: str
+    noticed: int = 0
+    listed: int = 0
+    stillborn: int = 0
+    survivors: list = None
+
+
+class Unseen:
+    """The changes that nobody can see, and why."""
+
+    def __init__(self):
+        self.entries = tomllib.loads((HERE / "unseen.toml").read_text(encoding="utf-8"))["unseen"]
+        self.used = set()
+
+    def has(self, path, line, change):
+        name, words = str(path.relative_to(SOURCES)), f"{change.old} -> {change.new}"
+        for entry in self.entries:
+            if entry["file"] == name and line in entry["lines"] and words in entry.get("changes", [words]):
+                self.used.add((name, line))
+                return True
+        return False
+
+    def idle(self, paths):
+        """What is listed of these files and answers to no change any more."""
+        names = {str(path.relative_to(SOURCES)) for path in paths}
+        listed = {(entry["file"], line) for entry in self.entries for line in entry["lines"]}
+        return sorted((name, line) for name, line in listed - self.used if name in names)
+
+
+class Trial:
+    """All that is tried on one file, or on a panel's source with its header."""
+
+    def __init__(self, build, paths, units, tests):
+        self.build, self.paths, self.units, self.tests = build, paths, units, tests
+        self.shared = all("panels" in path.parts for path in paths)
+        self.texts = {path: path.read_text(encoding="utf-8") for path in paths}
+        self.result = Result("/".join(paths[0].relative_to(SOURCES).with_suffix("").parts), survivors=[])
+        self.workshop = Workshop(build)
+        own = sorted(SCENARIOS.rglob(f"{paths[0].stem}.scn")) + sorted(SCENARIOS.rglob(f"{paths[0].stem}-*.scn"))
+        others = sorted(set(SCENARIOS.rglob("*.scn")) - set(own))
+        self.plays = [list(map(str, files)) for files in (own, others) if files]
+
+    def choose(self, unseen, number, dice):
+        """At most so many changes, by chance; all of them without a number."""
+        found = []
+        for path in self.paths:
+            lines = self.texts[path].split("\n")
+            for change in sites.changes(self.texts[path], path.suffix == ".h"):
+                if unseen.has(path, lines[change.line - 1].strip(), change):
+                    self.result.listed += 1
+                else:
+                    found.append((path, change))
+        if number is not None and len(found) > number:
+            found = [found[place] for place in sorted(dice.sample(range(len(found)), number))]
+        self.mutants = [Mutant(path, change, place + 1) for place, (path, change) in enumerate(found)]
+
+    def run(self):
+        alone = [mutant for mutant in self.mutants if mutant.change.before is None]
+        rounds = defaultdict(list)
+        taken = Counter()
+        for mutant in self.mutants:
+            if mutant.change.before is None:
+                continue
+            operator = mutant.change.before == ""
+            key = (mutant.path, mutant.change.start)
+            rounds[taken[key] if operator else 0].append(mutant)
+            taken[key] += operator
+        for together in rounds.values():
+            alone += self.play_together(together)
+        for mutant in alone:
+            self.play_alone(mutant)
+        return self.result
+
+    def play_together(self, mutants):
+        """One build of many mutants, of which the environment chooses one; gives those that do not compile so."""
+        left = []
+        while True:
+            try:
+                programs = self.programs(self.instrumented(mutants))
+                break
+            except Broken as broken:
+                kept = [mutant for mutant in mutants
+                        if mutant.change.line not in broken.lines(self.copy(mutant.path))]
+                if len(kept) == len(mutants) > 1:
+                    half = len(mutants) // 2
+                    return left + self.play_together(mutants[:half]) + self.play_together(mutants[half:])
+                left += [mutant for mutant in mutants if mutant not in kept] if len(mutants) > 1 else mutants
+                if not kept or len(mutants) == 1:
+                    return left
+                mutants = kept
+        if self.noticed(programs, 0):
+            raise SystemExit(f"{self.result.name}: without a change something fails already")
+        for mutant in mutants:
+            self.count(mutant, self.noticed(programs, mutant.number))
+        return left
+
+    def play_alone(self, mutant):
+        text, change = self.texts[mutant.path], mutant.change
+        try:
+            programs = self.programs({mutant.path: text[:change.start] + change.new + text[change.end:]})
+        except Broken:
+            self.result.stillborn += 1
+            return
+        self.count(mutant, self.noticed(programs, 0))
+
+    def instrumented(self, mutants):
+        texts = {}
+        for path, text in self.texts.items():
+            inserts = []
+            for mutant in mutants:
+                change = mutant.change
+                if mutant.path == path:
+                    number, length = str(mutant.number), change.end - change.start
+                    inserts.append((change.start, 1, -length, -mutant.number, change.before.replace("@", number)))
+                    inserts.append((change.end, 0, length, mutant.number, change.behind.replace("@", number)))
+            for place, *_, words in sorted(inserts, reverse=True):
+                text = text[:place] + words + text[place:]
+            if self.shared or path.suffix == ".cpp":
+                text = CONSTANT.sub(r"\1inline const" if path.suffix == ".h" else r"\1const", text)
+            texts[path] = text
+        return texts
+
+    def copy(self, path):
+        return self.workshop.folder / path.relative_to(SOURCES)
+
+    def programs(self, texts):
+        texts = {**self.texts, **texts}
+        objects = [self.workshop.compile(unit, texts, self.shared) for unit in self.units]
+        compiler, _ = self.build.flags(self.units[0])
+        return [self.workshop.link(compiler, name, objects) for name in ("pilote", *self.tests)]
+
+    def noticed(self, programs, number):
+        pilote, *tests = programs
+        return any(fails([pilote, *files], number) for files in self.plays) \
+            or any(fails([test, "--gtest_brief=1", "--gtest_fail_fast"], number) for test in tests)
+
+    def count(self, mutant, noticed):
+        if noticed:
+            self.result.noticed += 1
+        else:
+            self.result.survivors.append(mutant.told(self.texts))
+
+
+def fails(command, number):
+    def limit():
+        resource.setrlimit(resource.RLIMIT_CPU, (SECONDS, SECONDS))
+        resource.setrlimit(resource.RLIMIT_AS, (2 << 30, 2 << 30))
+        resource.setrlimit(resource.RLIMIT_CORE, (0, 0))
+
+    done = subprocess.run(list(map(str, command)), stdin=subprocess.DEVNULL, stdout=subprocess.DEVNULL,
+                          stderr=subprocess.DEVNULL, preexec_fn=limit, check=False, timeout=600,
+                          env={**os.environ, "ONDELIS_MUTANT": str(number)})
+    return done.returncode != 0
+
+
+def trial(build, paths):
+    floor = paths[0].relative_to(SOURCES).parts[0]
+    program = f"test_{floor}"
+    tested = floor != "panels" or any(f'/{paths[0].stem}.h"' in test.read_text(encoding="utf-8")
+                                      for test in (ROOT / "tests/panels").glob("*.cpp"))
+    tests = [program] if tested else []
+    source = next((path for path in paths if path.suffix == ".cpp"), None)
+    return Trial(build, paths, [source] if source else build.readers(paths[0]), tests)
+
+
+def all_files():
+    """What is tried together: a panel's header with its source, every other file alone."""
+    files = sorted(path for floor in FLOORS for path in (SOURCES / floor).rglob("*") if path.suffix in (".h", ".cpp"))
+    together = []
+    for path in files:
+        source = path.with_suffix(".cpp")
+        if path.suffix == ".h" and "panels" in path.parts and source in files:
+            continue
+        header = path.with_suffix(".h")
+        both = "panels" in path.parts and path.suffix == ".cpp" and header in files
+        together.append([path, header] if both else [path])
+    return together
+
+
+def main():
+    parser = argparse.ArgumentParser(description=__doc__, formatter_class=argparse.RawDescriptionHelpFormatter)
+    parser.add_argument("build", type=Path)
+    parser.add_argument("files", nargs="*", type=Path)
+    parser.add_argument("--number", type=int, help="of changes a file; all of them where it is not given")
+    parser.add_argument("--sample", type=int, help="of files, by chance")
+    parser.add_argument("--seed", type=int, default=1)
+    wish = parser.parse_args()
+
+    dice = random.Random(wish.seed)
+    files = all_files()
+    if wish.files:
+        wanted = {path.resolve() for path in wish.files}
+        files = [paths for paths in files if wanted & set(paths)]
+    if wish.sample is not None:
+        files = dice.sample([paths for paths in files if paths[0].suffix == ".cpp"], wish.sample)
+    build, unseen = Build(wish.build), Unseen()
+    trials = [trial(build, paths) for paths in files]
+    for one in trials:
+        one.choose(unseen, wish.number, dice)
+    sums, survivors = defaultdict(Counter), 0
+    with ThreadPoolExecutor(os.cpu_count()) as pool:
+        runs = [pool.submit(one.run) for one in trials if one.mutants]
+        for done in as_completed(runs):
+            result = done.result()
+            left = len(result.survivors)
+            print(f"{result.name}: {result.noticed} noticed, {left} survived, {result.listed} listed, "
+                  f"{result.stillborn} do not compile", *result.survivors, sep="\n  ", flush=True)
+            survivors += left
+            sums[str(Path(result.name).parent)].update(
+                noticed=result.noticed, survived=left, listed=result.listed, tried=result.noticed + left)
+    for folder, sum_ in sorted(sums.items()):
+        print(f"{folder}: {sum_['tried']} tried, {sum_['noticed']} noticed, {sum_['survived']} survived, "
+              f"{sum_['listed']} listed")
+    idle = unseen.idle([path for paths in files for path in paths])
+    for name, line in idle:
+        print(f"unseen.toml: {name} has no such change: {line}")
+    return 1 if survivors or idle else 0
+
+
+if __name__ == "__main__":
+    sys.exit(main())

@@ -1,0 +1,199 @@
+"""What can be changed in a source: one token at a time, each change as a person could have mistyped it."""
+
+import re
+from dataclasses import dataclass, field
+
+TOKEN = re.compile(r"""
+    (?P<comment>//[^\n]*|/\*.*?\*/)
+  | (?P<directive>^[ \t]*\#[^\n]*)
+  | (?P<string>"(?:\\.|[^"\\\n])*")
+  | (?P<char>(?<![\w])'(?:\\.|[^'\\\n])+')
+  | (?P<number>(?<![\w.])(?:0[xX][0-9A-Fa-f']+|(?:\d[\d']*\.?\d*|\.\d+)(?:[eE][-+]?\d+)?)[fFuUlL]*)
+  | (?P<name>[^\W\d]\w*)
+  | (?P<sign><=>|->\*?|\+\+|--|<<|>>|<=|>=|==|!=|&&|\|\||::|[-+*/%]=|[^\s\w])
+""", re.VERBOSE | re.DOTALL | re.MULTILINE)
+
+SIGNS = {"+": "Plus", "-": "Minus", "*": "Times", "/": "Over", "<": "Less", "<=": "LessEqual", ">": "Greater",
+         ">=": "GreaterEqual", "==": "Equal", "!=": "NotEqual"}
+OTHER_SIGNS = {"+": ["-"], "-": ["+"], "*": ["/"], "/": ["*"], "<": ["<=", ">="], "<=": ["<", ">"], ">": [">=", "<="],
+               ">=": [">", "<"], "==": ["!="], "!=": ["=="]}
+LOGIC = {"&&": "||", "||": "&&"}
+WORDS = {"true": "false", "false": "true"}
+ALIGN = {"Left": "Right", "Right": "Center", "Center": "Left"}
+# No statement that can be left out begins with one of these.
+KEYWORDS = {"if", "else", "for", "while", "do", "switch", "case", "default", "const", "constexpr", "static", "auto",
+            "using", "namespace", "template", "class", "struct", "enum", "friend", "virtual", "explicit", "inline",
+            "public", "private", "protected", "typedef", "operator", "try", "catch", "throw", "static_assert", "extern"}
+# Where a control stands is our own layout, stated nowhere: the form checks of the view judge it.
+PLACES = re.compile(r"\.at = \{|(?<=[ {])\.(?:Width|Height) = |\bBox(?: \w+)?\{|\(\{(?=[\w.]+, [^{}]+, [^{}]+, [^{}]+\})"
+                    r"|\b(?:ligne|lettre|lettreDeCote|cote|legende|saisie|resultat)\(")
+LINE_ENDS = re.compile(r"\.[XY][12] = -?$")
+
+
+@dataclass
+class Change:
+    """One change of one token: what the source has, and what a mutant has instead."""
+
+    start: int
+    end: int
+    old: str
+    new: str
+    before: str | None = None  # what goes before and behind the token to have both in one source; @ is its number
+    behind: str | None = None
+    line: int = field(default=0)
+
+
+def tokens(text):
+    return [match for match in TOKEN.finditer(text) if match.lastgroup not in ("comment", "directive")]
+
+
+def changes(text, header):
+    """All changes of a source, in the order of their places."""
+    found = []
+    toks = tokens(text)
+    shut = shut_places(text)
+    for index, token in enumerate(toks):
+        if any(start <= token.start() < end for start, end in shut):
+            continue
+        made = one_token(text, toks, index, header)
+        found += made
+    found += statements(text, toks)
+    found.sort(key=lambda change: (change.start, -change.end))
+    for change in found:
+        change.line = text.count("\n", 0, change.start) + 1
+    return found
+
+
+def shut_places(text):
+    """Where places of controls are written."""
+    spans = []
+    for match in PLACES.finditer(text):
+        depth, end = 1, match.end()
+        while depth and end < len(text):
+            depth += {"(": 1, "{": 1, ")": -1, "}": -1}.get(text[end], 0)
+            end += 1
+        spans.append((match.start(), end))
+    return spans
+
+
+def one_token(text, toks, index, header):
+    token = toks[index]
+    kind, old = token.lastgroup, token.group()
+    start, end = token.span()
+    before = toks[index - 1].group() if index else ""
+    behind = toks[index + 1].group() if index + 1 < len(toks) else ""
+    if kind == "number":
+        return numbers(text, toks, index, header)
+    if kind == "string":
+        return strings(text, start, end, old)
+    if kind == "name" and old in WORDS and before != "consteval":
+        return [either(start, end, old, WORDS[old])]
+    if kind == "name" and old in ALIGN and before == "::" and toks[index - 2].group() == "Align":
+        return [either(toks[index - 2].start(), end, "Align::" + old, "Align::" + ALIGN[old])]
+    if kind != "sign" or before == "operator":
+        return []
+    if old == "!" and behind != "=":
+        return [Change(start, end, old, "")]
+    if text[start - 1] != " " or text[end:end + 1] != " ":
+        return []
+    if old in LOGIC:
+        return [Change(start, end, old, LOGIC[old])]
+    if old in SIGNS and not before.startswith("template"):
+        line = text[text.rfind("\n", 0, start):text.find("\n", end)]
+        if old == "+" and '"' in line:
+            return []  # it puts texts together
+        return [Change(start, end, old, new, "", f" ondelis_mutants::Change<ondelis_mutants::Sign::{SIGNS[old]}, "
+                       f"ondelis_mutants::Sign::{SIGNS[new]}>{{@}} {old}")
+                for new in OTHER_SIGNS[old]]
+    return []
+
+
+def either(start, end, old, new):
+    return Change(start, end, old, new, f"ondelis_mutants::either(@, {new}, ", ")")
+
+
+def numbers(text, toks, index, header):
+    token = toks[index]
+    start, end = token.span()
+    old = token.group()
+    before = toks[index - 1].group() if index else ""
+    earlier = text[text.rfind("\n", 0, start) + 1:start]
+    if re.search(r"<[^<>=;]*$", earlier) and re.match(r"[^<>=;()]*>", text[end:]):
+        return []  # a template's argument: the size of a table
+    if before == "case" or header and LINE_ENDS.search(earlier):
+        return []  # beside another label, or layout
+    sign = ""
+    if before == "-" and toks[index - 1].end() == start and toks[index - 2].group() in "(,={?:<>==!=return+-*/":
+        start, sign = start - 1, "-"
+    return [either(start, end, sign + old, new) for new in other_numbers(sign, old)]
+
+
+def other_numbers(sign, old):
+    if sign == "-":
+        yield old
+    if old[:2] in ("0x", "0X"):
+        digits = old.rstrip("uUlL")
+        yield digits[:-1] + format(int(digits[-1], 16) ^ 1, "X") + old[len(digits):]
+        return
+    if old.isdigit():
+        yield sign + str(int(old) + 1)
+        if int(old) > 0:
+            yield sign + str(int(old) - 1)
+        return
+    digits = [place for place, letter in enumerate(re.split("[eE]", old)[0]) if letter.isdigit()]
+    for place in sorted({digits[-1], digits[0]}):
+        digit = int(old[place])
+        yield sign + old[:place] + str(digit + 1 if digit < 9 else 8) + old[place + 1:]
+
+
+def strings(text, start, end, old):
+    earlier = text[max(0, start - 40):start]
+    if re.search(r"\bthis, $|\.name = $|NOLINT|extern $", earlier):
+        return []  # the name of a control
+    if old == '""':
+        return [either(start, end, old, '"?"')]
+    places = [place for place in range(1, len(old) - 1)
+              if old[place].isascii() and old[place].isalnum() and old[place - 1] != "\\"]
+    if not places:
+        return [either(start, end, old, '"?' + old[2:])]
+    place = places[(7 * start) % len(places)]
+    letter = old[place]
+    other = {"z": "y", "Z": "Y", "9": "8"}.get(letter, chr(ord(letter) + 1))
+    return [either(start, end, old, old[:place] + other + old[place + 1:])]
+
+
+STATEMENT = re.compile(
+    r"(?:\*|\+\+|--)?(?:::)?[^\W\d]\w*(?:<[\w:, ]+>)?(?:(?:\.|->|::)\w+|\([^()]*\)|\[[^\[\]]*\])*\s*(?:[-+*/]?=(?!=)|\(|\+\+|--|;)")
+
+
+def statements(text, toks):
+    """Statements that can be left out: those that begin a line, but declarations."""
+    for index, token in enumerate(toks):
+        start = token.start()
+        line = text[text.rfind("\n", 0, start) + 1:start]
+        if line.strip() or not line or token.group() in KEYWORDS:
+            continue
+        if index == 0 or toks[index - 1].group() not in (";", "{", "}", ")", ":", "else"):
+            continue
+        match = STATEMENT.match(text, start)
+        if token.group() != "return" and not match:
+            continue
+        if token.group() == "return" and toks[index + 1].group() != ";":
+            continue
+        end = statement_end(toks, index)
+        if end is None:
+            continue
+        old = " ".join(text[start:end].split())
+        yield Change(start, end, old, ";", "{ if (!ondelis_mutants::on(@)) { ", " } }")
+
+
+def statement_end(toks, index):
+    depth = 0
+    for token in toks[index:]:
+        sign = token.group() if token.lastgroup == "sign" else ""
+        depth += {"(": 1, "{": 1, "[": 1, ")": -1, "}": -1, "]": -1}.get(sign, 0)
+        if depth < 0:
+            return None
+        if depth == 0 and sign == ";":
+            return token.end()
+    return None
