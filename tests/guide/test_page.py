@@ -48,7 +48,7 @@ class PageTest(unittest.TestCase):
             self.assertTrue(any(line.startswith("expect ") for line in block.lines), "an example that shows nothing")
             for decimal in block.decimals:
                 with self.subTest(decimal=decimal):
-                    example.play(PILOTE, self.page.entry, block.lines, decimal)
+                    example.play(PILOTE, self.page, block.lines, decimal)
 
     def test_figures_are_as_exact_as_told(self):
         if not self.has_fields():

@@ -9,15 +9,15 @@ import re
 from driver import Refused, Session, caption_of, localized, menu_path, words
 
 
-def play(program, entry, lines, decimal):
-    """Opens the panel by its menu entry, plays the lines, and gives the sentences that tell it: (kind, text), the kind
-    being "do", "see" or "say". Raises Refused at the first line that does not go as it says, and where a box or the end
+def play(program, page, lines, decimal):
+    """Opens the panel of the page by its menu entry, plays the lines, and gives the sentences that tell it: (kind, text),
+    the kind being "do", "see" or "say". Raises Refused at the first line that does not go as it says, and where a box or the end
     of the program comes without a line that expects it."""
-    told = []
+    told, names = [], page.names()
     with Session(program, decimal) as session:
-        menu, caption = menu_path(session.state(), entry)
+        menu, caption = menu_path(session.state(), page.entry)
         told.append(("do", f"Ouvrez « {caption} » dans le menu « {menu} »."))
-        answer = session.say("menu " + entry)
+        answer = session.say("menu " + page.entry)
         panels, unexpected = shown(session, answer), news(answer)
         for line in lines:
             if line.startswith("#"):
@@ -27,13 +27,13 @@ def play(program, entry, lines, decimal):
                 continue
             line = localized(line, decimal)
             if line.startswith("expect "):
-                sentence = tell(words(line), panels)
+                sentence = tell(words(line), panels, names)
                 session.say(line)
                 unexpected.discard(words(line)[1])
             else:
                 if unexpected:
                     break
-                sentence = tell(words(line), panels)
+                sentence = tell(words(line), panels, names)
                 answer = session.say(line)
                 panels, unexpected = shown(session, answer), news(answer)
             told.append(sentence)
@@ -52,18 +52,18 @@ def news(answer):
     return {what for what, came in (("message", answer["messages"]), ("fault", answer["fault"])) if came}
 
 
-def tell(line, panels):
-    """The sentence for one command or expectation."""
+def tell(line, panels, names):
+    """The sentence for one command or expectation. A control is called by its name in the page, or else by its caption."""
     verb, rest = line[0], line[1:]
     if verb == "expect":
-        return _tell_expectation(rest, panels)
+        return _tell_expectation(rest, panels, names)
     if verb == "answer":
         return "do", "Répondez « Oui »." if rest == ["yes"] else "Répondez « Non »."
     if verb == "menu":
         return "do", "Rouvrez le panneau par le menu."
     panel, name = rest[0].split(".")
     controls = panels[panel]["controls"]
-    caption = caption_of(controls, name)
+    caption = names.get(name) or caption_of(controls, name)
     place = f" « {caption} »" if caption else ""
     if verb in ("type", "replace"):
         where = f" dans{place}" if place else ""
@@ -75,9 +75,12 @@ def tell(line, panels):
         row = controls[name]["Items"][int(rest[1])]
         return "do", f"Choisissez « {row.strip()} » dans la liste{place}."
     if verb == "click":
+        if not caption:
+            raise Refused(f"{name}: the page gives no name for what is clicked")
         return "do", f"Cliquez sur{place}."
     if verb == "scroll":
-        return "do", f"Amenez la barre{place} à **{rest[1]}**."
+        bar = caption.replace("Barre", "la barre", 1) if caption.startswith("Barre ") else "la barre" + place
+        return "do", f"Amenez {bar} à **{rest[1]}**."
     if verb == "backspace":
         return "do", f"Effacez le dernier caractère de{place}."
     if verb == "focus":
@@ -90,7 +93,7 @@ def separator_note(text):
     return " (avec un point)" if re.search(r"\d\.\d|^\.\d", text) else ""
 
 
-def _tell_expectation(rest, panels):
+def _tell_expectation(rest, panels, names):
     if rest[0] == "message":
         lines = [" ".join(line.split()) for line in rest[1].splitlines() if line.strip()]
         return "see", f"Une boîte dit : « {' / '.join(lines)} »."
@@ -102,7 +105,7 @@ def _tell_expectation(rest, panels):
         return None
     panel, name, member = rest[0].split(".")
     value = rest[1].strip()
-    caption = caption_of(panels[panel]["controls"], name)
+    caption = names.get(name) or caption_of(panels[panel]["controls"], name)
     if member == "Text":
         seen = f"**{value}**" if value else "un champ vide"
         return "see", f"Vous lisez {seen} dans « {caption} »." if caption else f"Vous lisez {seen}."

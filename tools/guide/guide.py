@@ -62,7 +62,7 @@ class Guide:
         if block.kind == "exactitude":
             script = SOURCE / "exactitude" / f"{page.panel}.py"
             return accuracy.table([accuracy.play(self.program, page.entry, case) for case in accuracy.cases(script)])
-        told = {decimal: example.play(self.program, page.entry, block.lines, decimal) for decimal in block.decimals}
+        told = {decimal: example.play(self.program, page, block.lines, decimal) for decimal in block.decimals}
         return story(told.get(SHOWN_REGION) or told["."])
 
     def _fields(self, page, block):

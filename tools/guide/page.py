@@ -85,6 +85,10 @@ class Page:
         """The rows of its tables of fields."""
         return [row for block in self.blocks("champs") for row in rows(block) if isinstance(row, Field)]
 
+    def names(self):
+        """The names that it gives to single controls."""
+        return {field.controls[0]: field.name for field in self.fields() if field.name and len(field.controls) == 1}
+
 
 def split(text):
     """The body as Markdown and blocks, in turns."""
