@@ -1,13 +1,12 @@
 #include "view/Guide.h"
 
 #include <QCoreApplication>
-#include <QDesktopServices>
 #include <QDir>
+#include <QElapsedTimer>
 #include <QFile>
+#include <QProcess>
 #include <QRegularExpression>
 #include <QUrl>
-
-#include "view/Dialogs.h"
 
 namespace ondelis {
 namespace {
@@ -27,28 +26,49 @@ QString versionOf(QFile& page)
     return version.match(QString::fromUtf8(page.read(head))).captured(1);
 }
 
-void say(QWidget& window, const QString& words)
+/// Shows a file with the desktop's browser, and calls `failed` where the desktop has none. The toolkit's own way would
+/// not tell: it asks nobody how the desktop's command ended.
+void browse(QObject& owner, const QString& file, const std::function<void()>& failed)
 {
-    ask(window, {.prompt = words.toStdString()});
+    constexpr qint64 soon
+        = 15'000; // ms; on some desktops the command lasts as long as the browser, and ends as that does
+    auto* const opener = new QProcess; // nobody's: a browser outlives the program
+    QElapsedTimer since;
+    since.start();
+    QObject::connect(opener, &QProcess::finished, &owner, [failed, since](int status) {
+        if (status != 0 && !since.hasExpired(soon))
+            failed();
+    });
+    QObject::connect(opener, &QProcess::errorOccurred, &owner, [failed](QProcess::ProcessError error) {
+        if (error == QProcess::FailedToStart)
+            failed();
+    });
+    QObject::connect(opener, &QProcess::stateChanged, opener, [opener](QProcess::ProcessState state) {
+        if (state == QProcess::NotRunning)
+            opener->deleteLater();
+    });
+    opener->setProcessChannelMode(QProcess::ForwardedChannels);
+    opener->setInputChannelMode(QProcess::ForwardedInputChannel);
+    opener->start(QStringLiteral("xdg-open"), {QString::fromLatin1(QUrl::fromLocalFile(file).toEncoded())});
 }
 
 } // namespace
 
-void openGuide(QWidget& window, const QString& page)
+void openGuide(QObject& owner, const QString& page, const std::function<void(const QString&)>& say)
 {
     QFile file{pathOf(page)};
     if (!file.open(QIODevice::ReadOnly)) {
-        say(window, QStringLiteral("Le guide n'est pas installé : il est dans le paquet « ondelis-doc »."));
+        say(QStringLiteral("Le guide n'est pas installé : il est dans le paquet « ondelis-doc »."));
         return;
     }
     if (const QString version = versionOf(file); version != QCoreApplication::applicationVersion())
-        say(window,
-            QStringLiteral(
-                "Ce guide est celui de la version %1, et le programme est de la version %2 : mettez à jour le "
-                "paquet « ondelis-doc ».")
+        say(QStringLiteral(
+            "Ce guide est celui de la version %1, et le programme est de la version %2 : mettez à jour le "
+            "paquet « ondelis-doc ».")
                 .arg(version, QCoreApplication::applicationVersion()));
-    if (!QDesktopServices::openUrl(QUrl::fromLocalFile(file.fileName())))
-        say(window, QStringLiteral("Aucun navigateur ne s'ouvre. Le guide est là : %1").arg(file.fileName()));
+    browse(owner, file.fileName(), [say, name = file.fileName()] {
+        say(QStringLiteral("Aucun navigateur ne s'ouvre. Le guide est là : %1").arg(name));
+    });
 }
 
 } // namespace ondelis

@@ -88,11 +88,21 @@ void View::close()
 
 void View::showGuide()
 {
-    if (waitingBoxes_ > 0 || actions_ > 0 || frame_->desk().ended())
+    if (waits())
         return;
-    const Counted waiting{waitingBoxes_};
     const QMdiSubWindow* const active = mainWindow_->area().activeSubWindow();
-    openGuide(*mainWindow_, active == nullptr ? QStringLiteral("index") : active->objectName());
+    openGuide(
+        *mainWindow_, active == nullptr ? QStringLiteral("index") : active->objectName(), [this](const QString& words) {
+            if (waits())
+                return;
+            const Counted waiting{waitingBoxes_};
+            ask(*mainWindow_, {.prompt = words.toStdString()});
+        });
+}
+
+bool View::waits() const
+{
+    return waitingBoxes_ > 0 || actions_ > 0 || frame_->desk().ended();
 }
 
 Answer View::showBox(const MessageBox& box)

@@ -57,6 +57,8 @@ public:
     void programEnded(int status) override;
 
 private:
+    /// A handler or a box waits, or the program has ended.
+    [[nodiscard]] bool waits() const;
     /// Shows all that was noted.
     void show();
     void showWindows();
