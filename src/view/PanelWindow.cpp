@@ -84,14 +84,13 @@ void PanelWindow::activate()
     mdiArea()->setActiveSubWindow(this);
     if (std::exchange(activated_, true))
         return;
-    const auto first = std::ranges::find_if(panel_.controls(), &Control::focusable);
-    if (first == panel_.controls().end())
+    QWidget* const first = firstStop();
+    if (first == nullptr)
         return;
-    QWidget& widget = find(**first)->widget();
-    widget.setFocus(Qt::TabFocusReason);
+    first->setFocus(Qt::TabFocusReason);
     // It may have had the keyboard already, or get it only when the main window does, which the drop-down that has been
     // left may still hold up: then its text is not selected as by the Tab key.
-    if (auto* const field = qobject_cast<QLineEdit*>(&widget))
+    if (auto* const field = qobject_cast<QLineEdit*>(first))
         field->selectAll();
 }
 
@@ -199,6 +198,22 @@ void PanelWindow::orderTabs()
         stops[turns[i]] = moved[i];
     for (std::size_t i = 1; i < stops.size(); ++i)
         QWidget::setTabOrder(stops[i - 1], stops[i]);
+}
+
+QWidget* PanelWindow::firstStop() const
+{
+    QWidget* first = nullptr;
+    for (Control* const control : panel_.controls()) {
+        if (!control->focusable())
+            continue;
+        QWidget& widget = find(*control)->widget();
+        const auto* const field = qobject_cast<QLineEdit*>(&widget);
+        if (field != nullptr && !field->isReadOnly())
+            return &widget;
+        if (first == nullptr)
+            first = &widget;
+    }
+    return first;
 }
 
 void PanelWindow::makeMenu()

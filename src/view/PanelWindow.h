@@ -37,7 +37,7 @@ public:
     /// Shows the properties of a control.
     void follow(const Control& control);
 
-    /// Brings the panel before the others; the first time with the keyboard in its first control.
+    /// Brings the panel before the others; the first time with the keyboard in its first field, the text selected.
     void activate();
 
     /// Runs an action of the user, on a control or on the panel itself.
@@ -58,6 +58,8 @@ protected:
 private:
     void makeWidgets();
     void makeMenu();
+    /// Where the keyboard goes first: the first field to type into, else the first control, else nothing.
+    [[nodiscard]] QWidget* firstStop() const;
     /// Lets the Tab key follow the eye where code has moved fields: they take their turns from top to bottom.
     void orderTabs();
     /// Shows which widget has the keyboard, if it is one of this panel.

@@ -51,6 +51,18 @@ class OpeningTest final : public QObject {
         return first == panel.controls().end() ? nullptr : *first;
     }
 
+    /// The first field to type into; the first control where there is none.
+    static const Control* firstField(const FeuilleCalcul& panel)
+    {
+        for (Control* const control : panel.controls()) {
+            const auto* const box = dynamic_cast<const TextBox*>(control);
+            if (control->focusable()
+                && (box != nullptr ? !box->Locked : dynamic_cast<const MaskEdBox*>(control) != nullptr))
+                return control;
+        }
+        return firstControl(panel);
+    }
+
     static void addEntries()
     {
         QTest::addColumn<QString>("entry");
@@ -123,7 +135,7 @@ private slots:
         open(program, entry);
         const PanelWindow& panel = *windows(program).first();
         QCOMPARE(program.view.mainWindow().area().activeSubWindow(), &panel);
-        const Control* const first = firstControl(panel.panel());
+        const Control* const first = firstField(panel.panel());
         QCOMPARE(program.desk.focused(), first);
         if (first == nullptr)
             return;
