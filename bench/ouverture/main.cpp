@@ -13,6 +13,7 @@
 #include <vector>
 
 #include "Gallery.h"
+#include "Words.h"
 #include "forms/Controls.h"
 #include "shell/Menu.h"
 #include "view/Application.h"

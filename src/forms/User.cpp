@@ -56,6 +56,15 @@ std::string edited(const TextBox& box, std::string_view toCaret, std::string_vie
     return std::string{head} + accepted(box, toCaret.substr(start), limit - Len(head) - Len(tail)) + std::string{tail};
 }
 
+/// Whether a key puts that character into a field: the Enter key a line break into one of several lines, no key any
+/// other control character. The Tab key leaves the field.
+bool isEnteredByKey(const TextBox& box, std::string_view character)
+{
+    if (lineEnd(character) == 0)
+        return box.design().multiLine;
+    return static_cast<unsigned char>(character[0]) >= ' ';
+}
+
 /// The code of a key as `KeyPress` gets it: "?" for a character that 16 bits do not hold.
 Integer keyCode(char32_t character)
 {
@@ -71,7 +80,7 @@ User::Refusal User::type(TextBox& box, std::string_view text)
     while (!text.empty()) {
         const std::string character = Left(text, 1);
         text.remove_prefix(character.size());
-        if (lineEnd(character) == 0 && !box.design().multiLine) // the Enter key puts nothing there
+        if (!isEnteredByKey(box, character))
             continue;
         desk_.perform([&] {
             takeFocus(box);

@@ -20,7 +20,8 @@ public:
     explicit User(Desk& desk) : desk_{desk} { }
 
     /// Types a text key by key at the end of a field: `KeyPress`, then the character lands, unless
-    /// `MaxLength` is reached, and `Change` is raised. In a field of one line a line break is no such key.
+    /// `MaxLength` is reached, and `Change` is raised. No key enters a control character, but a line break into a field
+    /// of several lines.
     Refusal type(TextBox& box, std::string_view text);
     /// The backspace key at the end of a field: `KeyPress` 8, then, if the handler left the text alone, the
     /// last character goes.

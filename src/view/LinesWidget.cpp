@@ -2,7 +2,6 @@
 
 #include <QPainter>
 #include <algorithm>
-#include <optional>
 
 #include "view/Colors.h"
 #include "view/Edges.h"
@@ -37,6 +36,12 @@ LinesWidget::LinesWidget(PanelWindow& window, QWidget* parent) : QWidget{parent}
     setAttribute(Qt::WA_TransparentForMouseEvents);
 }
 
+std::optional<QLineF> LinesWidget::painted(const Line& line) const
+{
+    const auto stroke = std::ranges::find(strokes_, &line, &Stroke::of);
+    return stroke == strokes_.end() ? std::nullopt : std::optional{stroke->line};
+}
+
 void LinesWidget::follow()
 {
     const Scale scale{*this};
@@ -54,7 +59,8 @@ void LinesWidget::follow()
 void LinesWidget::draw(const Line& line, const Scale& scale)
 {
     const auto exact = [&](const Property<Single>& twips) { return scale.exact(Double{twips}.value()); };
-    Stroke stroke{.line = {exact(line.X1), exact(line.Y1), exact(line.X2), exact(line.Y2)},
+    Stroke stroke{.of = &line,
+        .line = {exact(line.X1), exact(line.Y1), exact(line.X2), exact(line.Y2)},
         .area = {},
         .color = line.design().BorderColor,
         .width = line.design().BorderWidth * scale.exact(1440) / 96};

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QLineF>
+#include <optional>
 #include <vector>
 
 #include "forms/Controls.h"
@@ -16,6 +17,8 @@ public:
 
     void add(const Line& line) { lines_.push_back(&line); }
     void add(const Shape& shape) { shapes_.push_back(&shape); }
+    /// What is painted of a line, in pixels; nothing where it is hidden, or runs outside its diagram.
+    [[nodiscard]] std::optional<QLineF> painted(const Line& line) const;
 
     QWidget& widget() override { return *this; }
     void follow() override;
@@ -26,6 +29,7 @@ protected:
 private:
     /// What is painted, in pixels.
     struct Stroke {
+        const Line* of = nullptr;
         QLineF line;
         QRect area; ///< nothing is painted outside it; null for no limit
         Color color = windowTextColor;

@@ -196,6 +196,14 @@ TEST_F(UserTest, TheEnterKeyPutsNothingIntoAFieldOfOneLine)
     EXPECT_EQ(panel.TxtLignes.Text, "1\n2");
 }
 
+TEST_F(UserTest, NoKeyEntersAControlCharacter)
+{
+    user.type(panel.TxtA, "1\t2\x01");
+    EXPECT_EQ(panel.log, (Log{"key 49", "text 1", "key 50", "text 12"}));
+    user.type(panel.TxtLignes, "1\t2");
+    EXPECT_EQ(panel.TxtLignes.Text, "12");
+}
+
 TEST_F(UserTest, APasteIsOneChangeAndNoKey)
 {
     user.replace(panel.TxtA, "14.1");

@@ -17,7 +17,8 @@ std::string longRun(Dice& dice)
 {
     constexpr std::string_view characters{"0195-. e"};
     std::string run;
-    run.append(static_cast<std::size_t>(dice.between(20, 400)), dice.one(characters));
+    const int length = dice.percent(5) ? 10'000 : dice.between(20, 400);
+    run.append(static_cast<std::size_t>(length), dice.one(characters));
     return run;
 }
 

@@ -9,6 +9,10 @@
 namespace ondelis::fuzz {
 namespace {
 
+/// The panels whose handlers show boxes, or let events through.
+constexpr std::array<std::string_view, 7> waiting{"AntennesLPDA1", "AntennesTrappesCoaxiales", "CondensateurVariable",
+    "FiltreEnDoublePi", "FiltrePasseBasEnPi", "GammaMatch", "RapportCyclique"};
+
 } // namespace
 
 std::string RandomUser::region()
@@ -19,15 +23,52 @@ std::string RandomUser::region()
 
 std::string RandomUser::next(const Desk& desk)
 {
+    if (minimised_ && dice_.percent(60)) {
+        minimised_ = false;
+        return "restore MDIOndelis";
+    }
+    if (dice_.percent(2))
+        return dice_.percent(50) ? "answer yes" : "answer no";
+    if (dice_.percent(2))
+        return toWindows(desk);
+    const bool mayWait = std::ranges::any_of(desk.loadedPanels(),
+        [](const FeuilleCalcul* panel) { return std::ranges::find(waiting, panel->design().name) != waiting.end(); });
+    return (dice_.percent(mayWait ? 15 : 1) ? "meanwhile " : "") + deed(desk);
+}
+
+std::string RandomUser::deed(const Desk& desk)
+{
     const auto& panels = desk.loadedPanels();
     if (panels.empty() || dice_.percent(3))
         return menuEntry();
-    if (dice_.percent(2))
-        return dice_.percent(50) ? "answer yes" : "answer no";
     const FeuilleCalcul& panel = *dice_.one(panels);
     if (dice_.percent(1))
         return "close " + panel.design().name;
     return onPanel(panel);
+}
+
+std::string RandomUser::toWindows(const Desk& desk)
+{
+    const auto& panels = desk.loadedPanels();
+    switch (dice_.below(5)) {
+    case 0:
+        minimised_ = true;
+        return "minimise MDIOndelis";
+    case 1:
+        // As large as the window: on smaller ones its menu may be out of reach.
+        return "screen " + std::to_string(15 * dice_.between(1920, 3840)) + ' '
+            + std::to_string(15 * dice_.between(1080, 2160));
+    case 2:
+        return "move MDIOndelis " + place() + ' ' + place();
+    default:
+        return panels.empty() ? "restore MDIOndelis"
+                              : "move " + dice_.one(panels)->design().name + ' ' + place() + ' ' + place();
+    }
+}
+
+std::string RandomUser::place()
+{
+    return std::to_string(15 * dice_.between(0, 500));
 }
 
 std::string RandomUser::menuEntry()
@@ -57,6 +98,8 @@ std::string RandomUser::onControl(Control& control)
     if (auto* const list = dynamic_cast<ListBox*>(&control))
         if (const int rows = list->ListCount().value(); rows > 0)
             return "select " + target + ' ' + std::to_string(dice_.between(0, rows - 1));
+    if (auto* const bar = dynamic_cast<ScrollBar*>(&control); bar != nullptr && dice_.percent(15))
+        return held(target, {"back", "forward"});
     if (auto* const bar = dynamic_cast<ScrollBar*>(&control))
         return "scroll " + target + ' ' + std::to_string(position(*bar));
     if (dynamic_cast<OptionButton*>(&control) != nullptr || dynamic_cast<CommandButton*>(&control) != nullptr)
@@ -68,6 +111,8 @@ std::string RandomUser::write(TextBox& box, const std::string& target)
 {
     if (dice_.percent(oddity_ > 10 ? 25 : 10))
         return "backspace " + target;
+    if (dice_.percent(3))
+        return held(target, {"backspace", R"("5")", R"("-")", R"(".")", R"("e")"});
     // Keys land behind what stands there: a number grows by a key or two before it is written anew.
     if (dice_.percent(20) && !std::string{box.Text}.empty())
         return "type " + target + ' ' + std::to_string(dice_.below(10));
@@ -75,6 +120,12 @@ std::string RandomUser::write(TextBox& box, const std::string& target)
     const std::string written = text();
     const std::string_view command = written.size() <= 20 && dice_.percent(30) ? "type " : "replace ";
     return std::string{command} + target + ' ' + pilote::inQuotes(written);
+}
+
+std::string RandomUser::held(const std::string& target, std::initializer_list<std::string_view> keys)
+{
+    const std::string key{std::data(keys)[dice_.below(keys.size())]};
+    return "hold " + target + ' ' + key + ' ' + std::to_string(dice_.between(2, 40));
 }
 
 int RandomUser::position(ScrollBar& bar)

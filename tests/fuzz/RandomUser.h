@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <initializer_list>
 #include <string>
 
 #include "Dice.h"
@@ -23,15 +24,23 @@ private:
     /// How many texts in a hundred are odd: with few of them a session lasts, with many it meets more.
     static constexpr std::array<std::size_t, 4> oddities{2, 10, 30, 80};
 
+    /// What the user does to what is on screen.
+    std::string deed(const Desk& desk);
     std::string menuEntry();
+    /// What the user does to a window, or to the screen.
+    std::string toWindows(const Desk& desk);
+    /// Twips that are a whole number of pixels.
+    std::string place();
     std::string onPanel(const FeuilleCalcul& panel);
     std::string onControl(Control& control);
     std::string write(TextBox& box, const std::string& target);
+    std::string held(const std::string& target, std::initializer_list<std::string_view> keys);
     int position(ScrollBar& bar);
     std::string text();
 
     Dice dice_;
     std::size_t oddity_;
+    bool minimised_ = false;
 };
 
 } // namespace ondelis::fuzz

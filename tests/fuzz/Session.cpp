@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <atomic>
+#include <chrono>
 #include <csignal>
 #include <cstdio>
 #include <cstdlib>
@@ -17,7 +18,6 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
-#include "Pilote.h"
 #include "RandomUser.h"
 
 namespace ondelis::fuzz {
@@ -33,14 +33,19 @@ struct Aim {
 constexpr Aim findings{.longestStep = 2, .digests = false};
 constexpr Aim comparison{.longestStep = 60, .digests = true};
 
+/// A step that waits so long, and keeps the processor free, waits for ever.
+constexpr std::chrono::seconds longestWait{60};
+
 /// What the session's process tells of itself. It begins as zeros.
 struct Log { // NOLINT(cppcoreguidelines-pro-type-member-init): the memory that it is made in is all zeros
-    static constexpr std::size_t capacity = std::size_t{1} << 20U;
+    static constexpr std::size_t capacity = std::size_t{1} << 22U;
 
     std::atomic<std::size_t> length; ///< of the commands written, a line each
     std::atomic<double> stepBegan; ///< seconds of processor time
     std::array<char, 64> subject;
     std::array<char, 64> fault;
+    std::array<char, 128> where; ///< of a difference
+    std::array<char, 1024> expectation;
     std::uint64_t digest;
     std::array<char, capacity> lines;
 };
@@ -98,10 +103,16 @@ void digest(std::uint64_t& sum, std::string_view text)
 /// The program in the session's process.
 class Session {
 public:
-    Session(Log& log, bool digests) : log_{log}, digests_{digests} { }
+    Session(Log& log, const Aim& aim, const NewSubject& newSubject)
+        : log_{log}, digests_{aim.digests}, subject_{newSubject()}
+    {
+    }
 
-    [[nodiscard]] const Desk& desk() const { return pilote_.desk(); }
-    [[nodiscard]] bool over() const { return desk().ended() || log_.length + 2048 > Log::capacity; }
+    [[nodiscard]] const Desk& desk() const { return subject_->desk(); }
+    [[nodiscard]] bool over() const
+    {
+        return desk().ended() || log_.length + 16384 > Log::capacity || !std::string_view{log_.where.data()}.empty();
+    }
 
     void carryOut(const std::string& command)
     {
@@ -110,12 +121,15 @@ public:
         keep(log_.subject, subjectOf(command));
         log_.stepBegan = processorTime(CLOCK_PROCESS_CPUTIME_ID);
         log_.length = before + command.size() + 1;
-        const pilote::Json reply = pilote_.answer(command);
+        const pilote::Json reply = subject_->answer(command);
         if (reply.contains("error"))
             throw std::logic_error{command};
-        if (reply.contains("refused"))
+        const Difference difference = subject_->difference();
+        keep(log_.where, difference.where);
+        keep(log_.expectation, difference.expectation);
+        if (reply.contains("refused") && difference.where.empty())
             log_.length = before;
-        else if (reply["fault"].is_string())
+        else if (reply.contains("fault") && reply["fault"].is_string())
             keep(log_.fault, reply["fault"].get<std::string>());
         if (!digests_)
             return;
@@ -129,7 +143,7 @@ public:
     void look()
     {
         if (digests_)
-            digest(log_.digest, text(pilote_.answer("state")));
+            digest(log_.digest, text(subject_->answer("state")));
     }
 
 private:
@@ -143,7 +157,7 @@ private:
     Log& log_;
     bool digests_;
     int commands_ = 0;
-    pilote::Pilote pilote_;
+    std::unique_ptr<Subject> subject_;
 };
 
 /// Waits for the end of the session's process, and ends it where a step takes too long. Says what was wrong
@@ -156,23 +170,31 @@ std::string watch(pid_t child, const Log& log, double longestStep)
     clockid_t clock{};
     clock_getcpuclockid(child, &clock);
     bool hangs = false;
+    bool waits = false;
     int status = 0;
+    std::size_t length = log.length;
+    auto last = std::chrono::steady_clock::now();
     while (waitpid(child, &status, WNOHANG) == 0) {
         const timespec aMoment{.tv_sec = 0, .tv_nsec = 100'000'000};
         sigtimedwait(&ends, nullptr, &aMoment);
         hangs = processorTime(clock) - log.stepBegan > longestStep;
-        if (hangs)
+        if (log.length != length) {
+            length = log.length;
+            last = std::chrono::steady_clock::now();
+        }
+        waits = std::chrono::steady_clock::now() - last > longestWait;
+        if (hangs || waits)
             kill(child, SIGKILL);
     }
-    if (hangs && WIFSIGNALED(status))
-        return "hang";
+    if ((hangs || waits) && WIFSIGNALED(status))
+        return hangs ? "hang" : "it waits for ever";
     if (WIFSIGNALED(status))
         return std::string{"crash: "} + strsignal(WTERMSIG(status));
     // The sanitizers, which have written their report, end a process with a status.
     return WEXITSTATUS(status) == 0 ? "" : "the process ended with status " + std::to_string(WEXITSTATUS(status));
 }
 
-Outcome play(const Aim& aim, const std::function<void(Session&)>& what)
+Outcome play(const Aim& aim, const NewSubject& newSubject, const std::function<void(Session&)>& what)
 {
     SharedLog shared;
     Log& log = *shared;
@@ -180,14 +202,18 @@ Outcome play(const Aim& aim, const std::function<void(Session&)>& what)
     if (child == -1)
         throw std::runtime_error{"no process for a session"};
     if (child == 0) {
-        Session session{log, aim.digests};
-        what(session);
-        session.look();
+        {
+            Session session{log, aim, newSubject};
+            what(session);
+            session.look();
+        }
         std::exit(0); // leaks are looked for on the way out
     }
-    Outcome outcome{.commands = {}, .subject = {}, .fault = {}, .trouble = watch(child, log, aim.longestStep)};
+    Outcome outcome{
+        .commands = {}, .subject = {}, .fault = {}, .trouble = watch(child, log, aim.longestStep), .difference = {}};
     outcome.subject = log.subject.data();
     outcome.fault = log.fault.data();
+    outcome.difference = {.where = log.where.data(), .expectation = log.expectation.data()};
     outcome.digest = log.digest;
     std::string_view lines{log.lines.data(), log.length};
     while (!lines.empty()) {
@@ -197,9 +223,9 @@ Outcome play(const Aim& aim, const std::function<void(Session&)>& what)
     return outcome;
 }
 
-Outcome playUser(const Aim& aim, std::uint64_t seed)
+Outcome playUser(const Aim& aim, const NewSubject& newSubject, std::uint64_t seed)
 {
-    return play(aim, [seed](Session& session) {
+    return play(aim, newSubject, [seed](Session& session) {
         RandomUser user{seed};
         session.carryOut(user.region());
         session.carryOut("start");
@@ -210,19 +236,19 @@ Outcome playUser(const Aim& aim, std::uint64_t seed)
 
 } // namespace
 
-Outcome playUser(std::uint64_t seed)
+Outcome playUser(const NewSubject& newSubject, std::uint64_t seed)
 {
-    return playUser(findings, seed);
+    return playUser(findings, newSubject, seed);
 }
 
 Outcome watchUser(std::uint64_t seed)
 {
-    return playUser(comparison, seed);
+    return playUser(comparison, newHeadless, seed);
 }
 
-Outcome playAgain(const std::vector<std::string>& commands)
+Outcome playAgain(const NewSubject& newSubject, const std::vector<std::string>& commands)
 {
-    return play(findings, [&commands](Session& session) {
+    return play(findings, newSubject, [&commands](Session& session) {
         [[maybe_unused]] const std::FILE* const silence
             = std::freopen("/dev/null", "w", stderr); // the sanitizers have reported it already
         for (const std::string& command : commands)

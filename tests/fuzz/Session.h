@@ -4,6 +4,8 @@
 #include <string>
 #include <vector>
 
+#include "Subject.h"
+
 namespace ondelis::fuzz {
 
 /// How a session went.
@@ -12,17 +14,18 @@ struct Outcome {
     std::string subject; ///< of the last command: a panel, or a menu entry
     std::string fault; ///< by which the program ended; "" for none
     std::string trouble; ///< a hang, a crash, a leak; "" for none
+    Difference difference; ///< between two programs in step
     std::uint64_t digest = 0; ///< of all that was there to see, in a watched session
 };
 
 /// A random user works for a while, in a process of its own.
-[[nodiscard]] Outcome playUser(std::uint64_t seed);
+[[nodiscard]] Outcome playUser(const NewSubject& newSubject, std::uint64_t seed);
 
-/// The same user, and a digest of each command, its answer and what the panels then showed. How fast the program is
-/// does not count: a step may take a minute.
+/// A user of the program with no window, and a digest of each command, its answer and what the panels then showed. How
+/// fast the program is does not count: a step may take a minute.
 [[nodiscard]] Outcome watchUser(std::uint64_t seed);
 
 /// The same commands once more, in a process of their own; those that are refused now are left out.
-[[nodiscard]] Outcome playAgain(const std::vector<std::string>& commands);
+[[nodiscard]] Outcome playAgain(const NewSubject& newSubject, const std::vector<std::string>& commands);
 
 } // namespace ondelis::fuzz

@@ -7,12 +7,13 @@ namespace {
 
 bool sameEnd(const Outcome& one, const Outcome& other)
 {
-    return one.subject == other.subject && one.fault == other.fault && one.trouble == other.trouble;
+    return one.subject == other.subject && one.fault == other.fault && one.trouble == other.trouble
+        && one.difference.where == other.difference.where;
 }
 
 } // namespace
 
-Outcome shrunk(Outcome outcome)
+Outcome shrunk(const NewSubject& newSubject, Outcome outcome)
 {
     constexpr int mostTries = 300;
     int tries = 0;
@@ -22,7 +23,7 @@ Outcome shrunk(Outcome outcome)
             const auto last = first + static_cast<std::ptrdiff_t>(std::min(cut, outcome.commands.size() - from));
             std::vector<std::string> fewer{outcome.commands.begin(), first};
             fewer.insert(fewer.end(), last, outcome.commands.end());
-            if (Outcome shorter = playAgain(fewer); sameEnd(shorter, outcome))
+            if (Outcome shorter = playAgain(newSubject, fewer); sameEnd(shorter, outcome))
                 outcome = std::move(shorter);
             else
                 from += cut;

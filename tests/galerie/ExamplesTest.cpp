@@ -5,6 +5,7 @@
 
 #include "FormCheck.h"
 #include "Gallery.h"
+#include "Words.h"
 #include "forms/Controls.h"
 #include "view/Application.h"
 #include "view/ControlWidget.h"

@@ -30,11 +30,18 @@ TEST_F(CommandTest, DoesNothingBeforeTheStart)
         EXPECT_EQ(refusal(line), "the program has not started") << line;
 }
 
-TEST_F(CommandTest, TakesRegionAndScreenBeforeTheStartOnly)
+TEST_F(CommandTest, TakesTheRegionBeforeTheStartOnly)
 {
     say("start");
-    for (const char* const line : {"region , .", "screen 10000 10000", "start"})
+    for (const char* const line : {"region , .", "start"})
         EXPECT_EQ(refusal(line), "the program has started") << line;
+}
+
+TEST_F(CommandTest, TakesAnotherScreenWhileTheProgramRuns)
+{
+    say("start");
+    EXPECT_TRUE(ok("screen 20000 16000"));
+    EXPECT_TRUE(ok("expect MDIOndelis.Left 4665"));
 }
 
 TEST_F(CommandTest, DoesNothingAfterTheEnd)
@@ -55,7 +62,8 @@ TEST_F(CommandTest, EndsByTheCloseBoxOfTheFrame)
 TEST_F(CommandTest, UsesTheRegionForItsOwnProgramOnly)
 {
     {
-        Pilote other;
+        Headless otherBody;
+        Pilote other{otherBody};
         other.answer("region , .");
         EXPECT_EQ(ondelis::region().decimal, ",");
     }

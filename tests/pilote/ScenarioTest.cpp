@@ -6,6 +6,8 @@
 
 #include <gtest/gtest.h>
 
+#include "Headless.h"
+
 namespace ondelis::pilote {
 namespace {
 
@@ -18,7 +20,8 @@ protected:
             = testing::TempDir() + "ondelis-" + testing::UnitTest::GetInstance()->current_test_info()->name() + ".scn";
         std::ofstream{file} << lines;
         std::ostringstream out;
-        const Tally tally = playScenario(file, out);
+        Headless body;
+        const Tally tally = playScenario(file, body, out);
         std::remove(file.c_str());
         printed = out.str();
         for (auto at = printed.find(file); at != std::string::npos; at = printed.find(file))
@@ -86,8 +89,9 @@ TEST_F(ScenarioTest, StartsAFreshProgramForEachFile)
 TEST_F(ScenarioTest, FailsOnAFileThatCannotBeRead)
 {
     std::ostringstream out;
-    EXPECT_EQ(playScenario(testing::TempDir() + "no such file", out).failures, 1);
-    EXPECT_EQ(playScenario(testing::TempDir(), out).failures, 1);
+    Headless body;
+    EXPECT_EQ(playScenario(testing::TempDir() + "no such file", body, out).failures, 1);
+    EXPECT_EQ(playScenario(testing::TempDir(), body, out).failures, 1);
 }
 
 } // namespace

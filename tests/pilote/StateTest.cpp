@@ -44,7 +44,10 @@ public:
 
 class StateTest : public testing::Test {
 protected:
-    static void expectState(Control& control, const char* wanted) { EXPECT_EQ(stateOf(control), Json::parse(wanted)); }
+    static void expectState(Control& control, const char* wanted)
+    {
+        EXPECT_EQ(State{}.see(control), Json::parse(wanted));
+    }
 
     ScriptedSurroundings world;
     Desk desk{world};
@@ -100,27 +103,27 @@ TEST_F(StateTest, HasTheDisplayOfAMaskedBox)
 TEST_F(StateTest, HasTheControlsThatTheTabKeyLeadsTo)
 {
     panel.Show();
-    EXPECT_EQ(stateOf(panel)["TabOrder"], Json({"TxtA", "LstA", "OptA", "HscrA", "VscrA", "MebIp"}));
+    EXPECT_EQ(State{}.see(panel)["TabOrder"], Json({"TxtA", "LstA", "OptA", "HscrA", "VscrA", "MebIp"}));
     panel.BtnA.Visible = true;
-    EXPECT_EQ(stateOf(panel)["TabOrder"], Json({"TxtA", "LstA", "OptA", "BtnA", "HscrA", "VscrA", "MebIp"}));
+    EXPECT_EQ(State{}.see(panel)["TabOrder"], Json({"TxtA", "LstA", "OptA", "BtnA", "HscrA", "VscrA", "MebIp"}));
 }
 
 TEST_F(StateTest, HasTheControlWithTheKeyboard)
 {
     const MDIOndelis frame{desk};
-    EXPECT_EQ(stateOf(frame)["Focus"], "");
+    EXPECT_EQ(State{}.see(frame)["Focus"], "");
     panel.Show();
     panel.TxtA.SetFocus();
-    EXPECT_EQ(stateOf(frame)["Focus"], "Echantillon.TxtA");
+    EXPECT_EQ(State{}.see(frame)["Focus"], "Echantillon.TxtA");
 }
 
 TEST_F(StateTest, HasTheLoadedPanelsAlone)
 {
     const MDIOndelis frame{desk};
-    EXPECT_EQ(stateOfAll(frame)["panels"], Json::object());
+    EXPECT_EQ(seeAll(State{}, frame)["panels"], Json::object());
     panel.Hide();
     panel.Left = 100.5;
-    const Json state = stateOfAll(frame)["panels"]["Echantillon"];
+    const Json state = seeAll(State{}, frame)["panels"]["Echantillon"];
     EXPECT_EQ(state["visible"], false);
     EXPECT_EQ(state["Left"], 100.5);
     EXPECT_EQ(state["Caption"], "Échantillon");
@@ -130,7 +133,7 @@ TEST_F(StateTest, HasTheLoadedPanelsAlone)
 TEST_F(StateTest, HasTheTreeOfTheMenu)
 {
     const MDIOndelis frame{desk};
-    const Json timers = stateOfAll(frame)["menus"][4];
+    const Json timers = seeAll(State{}, frame)["menus"][4];
     EXPECT_EQ(timers["Caption"], "Le timer 555");
     EXPECT_EQ(timers["Entries"][0], Json::parse(R"({"Name":"MenuAstable","Caption":"Astable"})"));
 }

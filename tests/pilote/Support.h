@@ -5,6 +5,7 @@
 
 #include <gtest/gtest.h>
 
+#include "Headless.h"
 #include "Pilote.h"
 
 namespace ondelis::pilote {
@@ -24,7 +25,8 @@ protected:
         say("menu MenuCircuitOscillant");
     }
 
-    Pilote driver;
+    Headless body;
+    Pilote driver{body};
 };
 
 } // namespace ondelis::pilote

@@ -4,6 +4,7 @@
 #include <set>
 
 #include "ScriptedSurroundings.h"
+#include "Words.h"
 #include "shell/Menu.h"
 
 namespace ondelis::galerie {

@@ -4,6 +4,7 @@
 #include <QApplication>
 #include <QMessageBox>
 
+#include "Gestures.h"
 #include "view/MainWindow.h"
 #include "view/PanelWindow.h"
 
@@ -47,17 +48,17 @@ void Sitting::play(std::string_view line)
         answers_.push_back(answer);
         return;
     }
-    const pilote::Gestures::Deed deed = gestures_.read(word, words);
+    const pilote::Deed deed = pilote::readGesture(word, words);
     if (!deed)
         throw pilote::Malformed{"no such command: " + word};
     words.finish();
     run(deed);
 }
 
-void Sitting::run(const pilote::Gestures::Deed& deed)
+void Sitting::run(const pilote::Deed& deed)
 {
-    pilote::Gestures::Refusal refusal;
-    view_.act([&](User& user) { refusal = deed(user); });
+    pilote::Hands::Refusal refusal;
+    view_.act([&](User&) { refusal = deed(hands_); });
     if (desk_.ended())
         throw Refused{"the program has ended: " + lastBox_};
     settle();
@@ -67,7 +68,7 @@ void Sitting::run(const pilote::Gestures::Deed& deed)
 
 void Sitting::picture(std::string_view window, const std::string& file) const
 {
-    const FeuilleCalcul* const panel = gestures_.panel(window);
+    const FeuilleCalcul* const panel = pilote::findPanel(frame_, window);
     QWidget* const shown = window == "MDIOndelis" ? static_cast<QWidget*>(&view_.mainWindow())
         : panel == nullptr                        ? nullptr
                                                   : view_.find(*panel);

@@ -6,7 +6,7 @@
 #include <string>
 #include <string_view>
 
-#include "Gestures.h"
+#include "UserHands.h"
 #include "forms/Desk.h"
 #include "shell/MDIOndelis.h"
 #include "view/View.h"
@@ -39,14 +39,14 @@ public:
     void picture(std::string_view window, const std::string& file) const;
 
 private:
-    void run(const pilote::Gestures::Deed& deed);
+    void run(const pilote::Deed& deed);
     /// Answers the box that is on screen now, if there is one: as was told, or else by "OK" or "Oui".
     void answerBox();
 
     View view_;
     Desk desk_{view_};
     MDIOndelis frame_{desk_};
-    pilote::Gestures gestures_{frame_};
+    pilote::UserHands hands_{frame_};
     QTimer boxes_;
     std::deque<Answer> answers_;
     std::string lastBox_; ///< its first line

@@ -66,7 +66,7 @@ Json Pilote::expectMessage(Words& words)
 {
     const std::string prompt = words.next();
     words.finish();
-    const auto& boxes = surroundings_.boxes();
+    const auto& boxes = body_.boxes();
     const std::size_t next = expectedBoxes_++;
     return judged(prompt, next < boxes.size() ? Json(boxes[next].prompt) : Json{});
 }
@@ -76,11 +76,11 @@ Json Pilote::expectNothing(Words& words)
     const std::string what = words.next();
     words.finish();
     if (what == "message") {
-        const auto& boxes = surroundings_.boxes();
+        const auto& boxes = body_.boxes();
         return judged({}, expectedBoxes_ < boxes.size() ? Json(boxes[expectedBoxes_].prompt) : Json{});
     }
     if (what == "fault") {
-        const auto& fault = surroundings_.fault();
+        const auto& fault = body_.fault();
         return judged({}, fault ? Json(fault->what()) : Json{});
     }
     throw Malformed{"neither \"no message\" nor \"no fault\""};
@@ -90,15 +90,15 @@ Json Pilote::expectFault(Words& words)
 {
     const std::string name = words.next();
     words.finish();
-    const auto& fault = surroundings_.fault();
+    const auto& fault = body_.fault();
     return judged(name, fault ? Json(fault->what()) : Json{});
 }
 
 Json Pilote::expectRefused(Words& words)
 {
     words.finish();
-    if (refusal_)
-        return {{"ok", true}, {"got", *refusal_}};
+    if (const Refusal refusal = refusal_ ? refusal_ : body_.meanwhileRefused())
+        return {{"ok", true}, {"got", *refusal}};
     return {{"ok", false}, {"wanted", "refused"}, {"got", nullptr}};
 }
 
@@ -109,7 +109,7 @@ Json Pilote::expectVisibility(const std::string& name, Words& words)
     if (wanted != "visible" && wanted != "hidden" && wanted != "unloaded")
         throw Malformed{"neither visible nor hidden nor unloaded: " + wanted};
     const FeuilleCalcul* const loaded = panel(name);
-    return judged(wanted, loaded == nullptr ? "unloaded" : loaded->visible() ? "visible" : "hidden");
+    return judged(wanted, loaded == nullptr ? "unloaded" : body_.eyes().see(*loaded)["visible"] ? "visible" : "hidden");
 }
 
 Json Pilote::expectMember(const std::string& target, Words& words)
@@ -132,18 +132,18 @@ Json Pilote::member(const std::string& target) const
     const std::string memberName = target.substr(last + 1);
     Json state;
     if (name == "MDIOndelis" && first == last) {
-        state = stateOf(frame_);
+        state = body_.eyes().see(body_.frame());
     } else {
         const FeuilleCalcul* const loaded = panel(name);
         if (loaded == nullptr)
             throw Absent{"the panel is not loaded"};
         if (first == last) {
-            state = stateOf(*loaded);
+            state = body_.eyes().see(*loaded);
         } else {
             Control* const control = loaded->find(target.substr(first + 1, last - first - 1));
             if (control == nullptr)
                 throw Absent{"the panel has no such control"};
-            state = stateOf(*control);
+            state = body_.eyes().see(*control);
         }
     }
     if (!state.contains(memberName))

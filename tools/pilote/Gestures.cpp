@@ -3,14 +3,15 @@
 #include <algorithm>
 #include <array>
 #include <charconv>
+#include <cmath>
 #include <limits>
 
-#include "forms/Controls.h"
-#include "forms/Desk.h"
-#include "shell/Menu.h"
+#include "kit/Text.h"
 
 namespace ondelis::pilote {
 namespace {
+
+using Refusal = Hands::Refusal;
 
 /// A whole number; the largest one where it is too long to be held: no list and no bar goes so far.
 int whole(const std::string& word)
@@ -25,98 +26,8 @@ int whole(const std::string& word)
     return number;
 }
 
-} // namespace
-
-Gestures::Deed Gestures::read(std::string_view word, Words& words) const
-{
-    static constexpr std::array<Gesture, 9> gestures{{
-        {"menu", &Gestures::menu},
-        {"close", &Gestures::close},
-        {"type", &Gestures::type},
-        {"backspace", &Gestures::backspace},
-        {"replace", &Gestures::replace},
-        {"click", &Gestures::click},
-        {"select", &Gestures::select},
-        {"scroll", &Gestures::scroll},
-        {"focus", &Gestures::focus},
-    }};
-    const auto* const found = std::ranges::find(gestures, word, &Gesture::word);
-    return found == gestures.end() ? Deed{} : (this->*found->read)(words);
-}
-
-Gestures::Deed Gestures::menu(Words& words) const
-{
-    return [this, entry = findMenuEntry(words.next())](User&) -> Refusal {
-        if (entry == nullptr)
-            return "the menu has no such entry";
-        frame_.click(*entry);
-        return {};
-    };
-}
-
-Gestures::Deed Gestures::close(Words& words) const
-{
-    return [this, name = words.next()](User& user) -> Refusal {
-        if (name == "MDIOndelis") {
-            frame_.close();
-            return {};
-        }
-        FeuilleCalcul* const open = panel(name);
-        return open == nullptr ? "the panel is not on screen" : user.close(*open);
-    };
-}
-
-Gestures::Deed Gestures::type(Words& words) const
-{
-    return [this, field = target(words), text = words.next()](
-               User& user) { return with<TextBox>(field, [&](TextBox& box) { return user.type(box, text); }); };
-}
-
-Gestures::Deed Gestures::backspace(Words& words) const
-{
-    return [this, field = target(words)](
-               User& user) { return with<TextBox>(field, [&](TextBox& box) { return user.backspace(box); }); };
-}
-
-Gestures::Deed Gestures::replace(Words& words) const
-{
-    return [this, field = target(words), text = words.next()](
-               User& user) { return with<TextBox>(field, [&](TextBox& box) { return user.replace(box, text); }); };
-}
-
-Gestures::Deed Gestures::click(Words& words) const
-{
-    return [this, button = target(words)](User& user) {
-        return with<Control>(button, [&](Control& control) -> Refusal {
-            if (auto* const option = dynamic_cast<OptionButton*>(&control))
-                return user.click(*option);
-            if (auto* const command = dynamic_cast<CommandButton*>(&control))
-                return user.click(*command);
-            return "the control is neither an option nor a button";
-        });
-    };
-}
-
-Gestures::Deed Gestures::select(Words& words) const
-{
-    return [this, choices = target(words), row = whole(words.next())](
-               User& user) { return with<ListBox>(choices, [&](ListBox& list) { return user.choose(list, row); }); };
-}
-
-Gestures::Deed Gestures::scroll(Words& words) const
-{
-    return [this, scrollBar = target(words), value = whole(words.next())](User& user) {
-        return with<ScrollBar>(scrollBar, [&](ScrollBar& bar) { return user.move(bar, value); });
-    };
-}
-
-Gestures::Deed Gestures::focus(Words& words) const
-{
-    return [this, next = target(words)](
-               User& user) { return with<Control>(next, [&](Control& control) { return user.focus(control); }); };
-}
-
-Gestures::Target Gestures::target(Words& words)
+/// The next word, "PANEL.CONTROL".
+Hands::Target target(Words& words)
 {
     const std::string word = words.next();
     const std::size_t dot = word.find('.');
@@ -125,26 +36,121 @@ Gestures::Target Gestures::target(Words& words)
     return {.panel = word.substr(0, dot), .control = word.substr(dot + 1)};
 }
 
-template <class ControlClass, class Act>
-Gestures::Refusal Gestures::with(const Target& target, Act&& act) const
+Deed menu(Words& words)
 {
-    const FeuilleCalcul* const open = panel(target.panel);
-    if (open == nullptr)
-        return "the panel is not on screen";
-    Control* const control = open->find(target.control);
-    if (control == nullptr)
-        return "the panel has no such control";
-    auto* const wanted = dynamic_cast<ControlClass*>(control);
-    if (wanted == nullptr)
-        return "the control is of another class";
-    return act(*wanted);
+    return [entry = words.next()](Hands& hands) { return hands.menu(entry); };
 }
 
-FeuilleCalcul* Gestures::panel(std::string_view name) const
+Deed close(Words& words)
 {
-    const auto& loaded = frame_.desk().loadedPanels();
-    const auto found = std::ranges::find(loaded, name, [](const FeuilleCalcul* one) { return one->design().name; });
-    return found == loaded.end() ? nullptr : *found;
+    return [window = words.next()](Hands& hands) { return hands.close(window); };
+}
+
+Deed move(Words& words)
+{
+    const std::string window = words.next();
+    const double left = readNumber(words.next());
+    const double top = readNumber(words.next());
+    return [=](Hands& hands) { return hands.move(window, left, top); };
+}
+
+Deed minimise(Words& words)
+{
+    return [window = words.next()](Hands& hands) { return hands.minimise(window); };
+}
+
+Deed restore(Words& words)
+{
+    return [window = words.next()](Hands& hands) { return hands.restore(window); };
+}
+
+Deed type(Words& words)
+{
+    return [field = target(words), text = words.next()](Hands& hands) { return hands.type(field, text); };
+}
+
+Deed backspace(Words& words)
+{
+    return [field = target(words)](Hands& hands) { return hands.backspace(field); };
+}
+
+Deed replace(Words& words)
+{
+    return [field = target(words), text = words.next()](Hands& hands) { return hands.replace(field, text); };
+}
+
+Deed click(Words& words)
+{
+    return [button = target(words)](Hands& hands) { return hands.click(button); };
+}
+
+Deed select(Words& words)
+{
+    return [list = target(words), row = whole(words.next())](Hands& hands) { return hands.select(list, row); };
+}
+
+Deed scroll(Words& words)
+{
+    return [bar = target(words), value = whole(words.next())](Hands& hands) { return hands.scroll(bar, value); };
+}
+
+Deed focus(Words& words)
+{
+    return [control = target(words)](Hands& hands) { return hands.focus(control); };
+}
+
+Hands::Key keyOf(const std::string& word, bool quoted)
+{
+    if (quoted && Len(word) == 1)
+        return Hands::Key::Character;
+    if (!quoted && word == "backspace")
+        return Hands::Key::Backspace;
+    if (!quoted && word == "back")
+        return Hands::Key::Back;
+    if (!quoted && word == "forward")
+        return Hands::Key::Forward;
+    throw Malformed{"neither a character in quotes nor backspace, back or forward: " + word};
+}
+
+Deed hold(Words& words)
+{
+    const Hands::Target control = target(words);
+    const bool quoted = words.quotedNext();
+    const std::string word = words.next();
+    const Hands::Key key = keyOf(word, quoted);
+    const int times = whole(words.next());
+    if (times < 1 || times > 1000)
+        throw Malformed{"not a count from 1 to 1000"};
+    return [=](Hands& hands) { return hands.hold(control, key, word, times); };
+}
+
+struct Gesture {
+    std::string_view word;
+    Deed (*read)(Words& words);
+};
+
+constexpr std::array<Gesture, 13> gestures{{
+    {"menu", menu},
+    {"close", close},
+    {"move", move},
+    {"minimise", minimise},
+    {"restore", restore},
+    {"type", type},
+    {"backspace", backspace},
+    {"replace", replace},
+    {"click", click},
+    {"select", select},
+    {"scroll", scroll},
+    {"focus", focus},
+    {"hold", hold},
+}};
+
+} // namespace
+
+Deed readGesture(std::string_view word, Words& words)
+{
+    const auto* const found = std::ranges::find(gestures, word, &Gesture::word);
+    return found == gestures.end() ? Deed{} : found->read(words);
 }
 
 Answer readAnswer(Words& words)
@@ -153,6 +159,16 @@ Answer readAnswer(Words& words)
     if (word != "yes" && word != "no")
         throw Malformed{"neither yes nor no: " + word};
     return word == "yes" ? Answer::Yes : Answer::No;
+}
+
+double readNumber(const std::string& word)
+{
+    double number = 0;
+    const char* const end = word.data() + word.size();
+    const auto [stop, error] = std::from_chars(word.data(), end, number);
+    if (error != std::errc{} || stop != end || !(std::abs(number) <= std::numeric_limits<float>::max()))
+        throw Malformed{"not a number of twips: " + word};
+    return number;
 }
 
 } // namespace ondelis::pilote

@@ -2,9 +2,9 @@
 
 #include <algorithm>
 #include <array>
-#include <charconv>
-#include <limits>
 
+#include "Gestures.h"
+#include "UserHands.h"
 #include "kit/Text.h"
 
 namespace ondelis::pilote {
@@ -13,10 +13,8 @@ namespace {
 /// A size in twips.
 double extent(const std::string& word)
 {
-    double twips = 0;
-    const char* const end = word.data() + word.size();
-    const auto [stop, error] = std::from_chars(word.data(), end, twips);
-    if (error != std::errc{} || stop != end || !(twips > 0) || twips > std::numeric_limits<float>::max())
+    const double twips = readNumber(word);
+    if (!(twips > 0))
         throw Malformed{"not a size in twips: " + word};
     return twips;
 }
@@ -35,11 +33,12 @@ Json Pilote::answer(std::string_view line)
 
 const Pilote::Command* Pilote::find(std::string_view word)
 {
-    static constexpr std::array<Command, 4> commands{{
+    static constexpr std::array<Command, 5> commands{{
         {"region", When::BeforeStart, &Pilote::region},
-        {"screen", When::BeforeStart, &Pilote::screen},
+        {"screen", When::Any, &Pilote::screen},
         {"start", When::BeforeStart, &Pilote::start},
         {"answer", When::Running, &Pilote::answerNext},
+        {"meanwhile", When::Running, &Pilote::meanwhile},
     }};
     const auto* const found = std::ranges::find(commands, word, &Command::word);
     return found == commands.end() ? nullptr : found;
@@ -55,19 +54,21 @@ Json Pilote::run(Words& words)
         if (const Refusal refusal = outOfTime(When::Running))
             return {{"ok", false}, {"refused", *refusal}};
         Json state{{"ok", true}};
-        state.update(stateOfAll(frame_));
+        state.update(seeAll(body_.eyes(), body_.frame()));
         return state;
     }
     const Command* const command = find(word);
-    const Deed deed = command != nullptr ? (this->*command->read)(words) : gestures_.read(word, words);
+    const Deed deed = command != nullptr ? (this->*command->read)(words) : readGesture(word, words);
     if (!deed)
         throw Malformed{"no such command: " + word};
     words.finish();
-    surroundings_.forget();
+    body_.forget();
     expectedBoxes_ = 0;
     refusal_ = outOfTime(command != nullptr ? command->when : When::Running);
     if (!refusal_)
-        refusal_ = deed(user_);
+        refusal_ = deed(body_.hands());
+    if (word != "meanwhile")
+        body_.settle();
     return done();
 }
 
@@ -76,16 +77,19 @@ Json Pilote::done() const
     if (refusal_)
         return {{"ok", false}, {"refused", *refusal_}};
     Json messages = Json::array();
-    for (const MessageBox& box : surroundings_.boxes())
+    for (const MessageBox& box : body_.boxes())
         messages.push_back({{"prompt", box.prompt}, {"buttons", box.buttons}, {"title", box.title}});
-    const auto& fault = surroundings_.fault();
-    return {{"ok", true}, {"messages", std::move(messages)}, {"fault", fault ? Json(fault->what()) : Json{}},
-        {"ended", desk_.ended()}};
+    const auto& fault = body_.fault();
+    Json reply{{"ok", true}, {"messages", std::move(messages)}, {"fault", fault ? Json(fault->what()) : Json{}},
+        {"ended", ended()}};
+    if (const Refusal refusal = body_.meanwhileRefused())
+        reply["meanwhile"] = *refusal;
+    return reply;
 }
 
 Pilote::Refusal Pilote::outOfTime(When when) const
 {
-    if (desk_.ended())
+    if (ended())
         return "the program has ended";
     if (when == When::Running && !started_)
         return "the program has not started";
@@ -94,46 +98,55 @@ Pilote::Refusal Pilote::outOfTime(When when) const
     return {};
 }
 
-Pilote::Deed Pilote::region(Words& words)
+Deed Pilote::region(Words& words)
 {
     Region separators{.decimal = words.next(), .thousands = words.next()};
     if (Len(separators.decimal) != 1 || Len(separators.thousands) > 1 || separators.decimal == separators.thousands)
         throw Malformed{"not two separators: one character, and another one or none"};
-    return [separators](User& /*user*/) -> Refusal {
+    return [separators](Hands& /*hands*/) -> Refusal {
         setRegion(separators);
         return {};
     };
 }
 
-Pilote::Deed Pilote::screen(Words& words)
+Deed Pilote::screen(Words& words)
 {
     const Extent size{.Width = extent(words.next()), .Height = extent(words.next())};
-    return [this, size](User& /*user*/) -> Refusal {
-        surroundings_.setScreen(size);
-        return {};
-    };
+    return [this, size](Hands& /*hands*/) { return body_.setScreen(size); };
 }
 
-Pilote::Deed Pilote::start(Words& /*words*/)
+Deed Pilote::start(Words& /*words*/)
 {
-    return [this](User& /*user*/) -> Refusal {
+    return [this](Hands& /*hands*/) -> Refusal {
         started_ = true;
-        frame_.start();
+        body_.start();
         return {};
     };
 }
 
-Pilote::Deed Pilote::answerNext(Words& words)
+Deed Pilote::answerNext(Words& words)
 {
-    return [this, answer = readAnswer(words)](User& /*user*/) -> Refusal {
-        surroundings_.answer(answer);
+    return [this, answer = readAnswer(words)](Hands& /*hands*/) -> Refusal {
+        body_.answer(answer);
+        return {};
+    };
+}
+
+Deed Pilote::meanwhile(Words& words)
+{
+    const std::string word = words.next();
+    const Deed deed = readGesture(word, words);
+    if (!deed)
+        throw Malformed{"no such gesture: " + word};
+    return [this, deed](Hands& /*hands*/) -> Refusal {
+        body_.meanwhile(deed);
         return {};
     };
 }
 
 FeuilleCalcul* Pilote::panel(std::string_view name) const
 {
-    return running() ? gestures_.panel(name) : nullptr;
+    return running() ? findPanel(body_.frame(), name) : nullptr;
 }
 
 } // namespace ondelis::pilote

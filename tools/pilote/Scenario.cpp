@@ -1,16 +1,22 @@
 #include "Scenario.h"
 
+#include <array>
 #include <fstream>
 #include <optional>
+#include <utility>
 
 #include "Pilote.h"
 
 namespace ondelis::pilote {
 namespace {
 
+/// What of a reply an expectation must name, and by which word.
+constexpr std::array<std::pair<const char*, const char*>, 3> kinds{
+    {{"refused", "refused"}, {"meanwhile", "refused"}, {"fault", "fault"}}};
+
 class Player {
 public:
-    Player(std::string file, std::ostream& out) : file_{std::move(file)}, out_{out} { }
+    Player(std::string file, Body& body, std::ostream& out) : file_{std::move(file)}, out_{out}, pilote_{body} { }
 
     void play(const std::string& line)
     {
@@ -49,9 +55,9 @@ private:
         const Json reply = pilote_.answer(line);
         if (reply.contains("error"))
             fail(number_, line, reply["error"].get<std::string>());
-        for (const char* const kind : {"refused", "fault"})
-            if (reply.contains(kind) && reply[kind].is_string())
-                unnamed_ = {.number = number_, .line = line, .kind = kind, .what = reply[kind]};
+        for (const auto& [member, kind] : kinds)
+            if (reply.contains(member) && reply[member].is_string())
+                unnamed_ = {.number = number_, .line = line, .kind = kind, .what = reply[member]};
     }
 
     void expectation(const std::string& line, Words& words)
@@ -91,10 +97,10 @@ private:
 
 } // namespace
 
-Tally playScenario(const std::string& file, std::ostream& out)
+Tally playScenario(const std::string& file, Body& body, std::ostream& out)
 {
     std::ifstream in{file};
-    Player player{file, out};
+    Player player{file, body, out};
     std::string line;
     while (std::getline(in, line))
         player.play(line);

@@ -3,6 +3,8 @@
 #include <ostream>
 #include <string>
 
+#include "Body.h"
+
 namespace ondelis::pilote {
 
 /// How many lines of a scenario were expectations, and how many lines failed.
@@ -11,8 +13,8 @@ struct Tally {
     int failures = 0;
 };
 
-/// Plays a scenario file in a program of its own, and prints each line that fails. A refusal, a fault and a
-/// line that is no command fail too, where no expectation right after them names them.
-Tally playScenario(const std::string& file, std::ostream& out);
+/// Plays a scenario file in a program that has not started yet, and prints each line that fails. A refusal, a fault and
+/// a line that is no command fail too, where no expectation right after them names them.
+Tally playScenario(const std::string& file, Body& body, std::ostream& out);
 
 } // namespace ondelis::pilote

@@ -11,6 +11,7 @@ void ScriptedSurroundings::forget()
 Answer ScriptedSurroundings::showBox(const MessageBox& box)
 {
     boxes_.push_back(box);
+    whileBoxWaits_();
     if (box.buttons == 0)
         return Answer::Ok;
     if (answers_.empty())
@@ -18,6 +19,12 @@ Answer ScriptedSurroundings::showBox(const MessageBox& box)
     const Answer answer = answers_.front();
     answers_.pop_front();
     return answer;
+}
+
+void ScriptedSurroundings::showFault(const Fault& fault)
+{
+    fault_ = fault;
+    whileBoxWaits_();
 }
 
 } // namespace ondelis::pilote

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <deque>
+#include <functional>
 #include <optional>
 #include <vector>
 
@@ -14,6 +15,12 @@ public:
     /// The answer to the next box that asks "Oui" or "Non" and has none yet. A box without one gets "Oui".
     void answer(Answer answer) { answers_.push_back(answer); }
     void setScreen(const Extent& screen) { screen_ = screen; }
+    /// Is told each control that changes.
+    void onChange(std::function<void(const Control&)> action) { onChange_ = std::move(action); }
+    /// What happens while a box waits for its answer, before it is answered.
+    void whileBoxWaits(std::function<void()> action) { whileBoxWaits_ = std::move(action); }
+    /// What happens while a handler lets events through.
+    void whileEventsRun(std::function<void()> action) { whileEventsRun_ = std::move(action); }
 
     /// The boxes since the last `forget`, in order.
     [[nodiscard]] const std::vector<MessageBox>& boxes() const { return boxes_; }
@@ -22,21 +29,24 @@ public:
     void forget();
 
     Answer showBox(const MessageBox& box) override;
-    void showFault(const Fault& fault) override { fault_ = fault; }
-    void runPendingEvents() override { }
+    void showFault(const Fault& fault) override;
+    void runPendingEvents() override { whileEventsRun_(); }
     [[nodiscard]] Extent screen() const override { return screen_; }
 
-    // Nothing shows what changes: whoever asks reads the controls themselves.
+    // Nothing shows what changes: whoever asks reads the properties themselves.
     void frameChanged() override { }
     void panelLoaded(FeuilleCalcul& /*panel*/) override { }
     void panelChanged(FeuilleCalcul& /*panel*/) override { }
     void panelRaised(FeuilleCalcul& /*panel*/) override { }
     void panelUnloaded(FeuilleCalcul& /*panel*/) override { }
-    void controlChanged(Control& /*control*/) override { }
+    void controlChanged(Control& control) override { onChange_(control); }
     void focusMoved(Control& /*control*/) override { }
     void programEnded(int /*status*/) override { }
 
 private:
+    std::function<void(const Control&)> onChange_ = [](const Control& /*control*/) {};
+    std::function<void()> whileBoxWaits_ = [] {};
+    std::function<void()> whileEventsRun_ = [] {};
     Extent screen_{.Width = 28800, .Height = 16200};
     std::deque<Answer> answers_;
     std::vector<MessageBox> boxes_;

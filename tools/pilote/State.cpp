@@ -151,7 +151,33 @@ Json tabOrder(const FeuilleCalcul& panel)
     return names;
 }
 
-Json menus()
+} // namespace
+
+Json State::see(const MDIOndelis& frame) const
+{
+    Json state = placeAndCaption(frame);
+    const Control* const focused = frame.desk().focused();
+    state["Focus"] = focused == nullptr ? "" : focused->panel().design().name + '.' + focused->name();
+    return state;
+}
+
+Json State::see(const FeuilleCalcul& panel) const
+{
+    Json state{{"visible", panel.visible()}};
+    state.update(placeAndCaption(panel));
+    state["TabOrder"] = tabOrder(panel);
+    return state;
+}
+
+Json State::see(Control& control) const
+{
+    ControlState visitor;
+    control.accept(visitor);
+    visitor.state["Frame"] = control.container() == nullptr ? "" : control.container()->name();
+    return visitor.state;
+}
+
+Json State::menus() const
 {
     Json tree = Json::array();
     for (const Menu& menu : menuTree()) {
@@ -161,46 +187,6 @@ Json menus()
         tree.push_back({{"Caption", menu.caption}, {"Entries", std::move(entries)}});
     }
     return tree;
-}
-
-} // namespace
-
-Json stateOf(const MDIOndelis& frame)
-{
-    Json state = placeAndCaption(frame);
-    const Control* const focused = frame.desk().focused();
-    state["Focus"] = focused == nullptr ? "" : focused->panel().design().name + '.' + focused->name();
-    return state;
-}
-
-Json stateOf(const FeuilleCalcul& panel)
-{
-    Json state{{"visible", panel.visible()}};
-    state.update(placeAndCaption(panel));
-    state["TabOrder"] = tabOrder(panel);
-    return state;
-}
-
-Json stateOf(Control& control)
-{
-    ControlState visitor;
-    control.accept(visitor);
-    visitor.state["Frame"] = control.container() == nullptr ? "" : control.container()->name();
-    return visitor.state;
-}
-
-Json stateOfAll(const MDIOndelis& frame)
-{
-    Json panels = Json::object();
-    for (const FeuilleCalcul* panel : frame.desk().loadedPanels()) {
-        Json controls = Json::object();
-        for (Control* control : panel->controls())
-            controls[control->name()] = stateOf(*control);
-        Json state = stateOf(*panel);
-        state["controls"] = std::move(controls);
-        panels[panel->design().name] = std::move(state);
-    }
-    return {{"frame", stateOf(frame)}, {"menus", menus()}, {"panels", std::move(panels)}};
 }
 
 } // namespace ondelis::pilote

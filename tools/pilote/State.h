@@ -1,27 +1,16 @@
 #pragma once
 
-#include <nlohmann/json.hpp>
-
-#include "shell/MDIOndelis.h"
+#include "Eyes.h"
 
 namespace ondelis::pilote {
 
-/// Keeps the members in the order in which they are written.
-using Json = nlohmann::ordered_json;
-
-// What there is to see, as JSON: numbers of twips, colours 0xBBGGRR as numbers, the rest under the names of
-// the members.
-
-/// "Left", "Top", "Width", "Height", "Caption", and "Focus", the control that has the keyboard as "PANEL.CONTROL".
-[[nodiscard]] Json stateOf(const MDIOndelis& frame);
-
-/// "visible", the place and the caption, and "TabOrder", what the tab key leads to.
-[[nodiscard]] Json stateOf(const FeuilleCalcul& panel);
-
-/// "kind", which is the class, its members, and "Frame", the frame that it stands in.
-[[nodiscard]] Json stateOf(Control& control);
-
-/// "frame", and "panels": each loaded one with its "controls".
-[[nodiscard]] Json stateOfAll(const MDIOndelis& frame);
+/// Reads what the engine says: what a panel would show if it had a window.
+class State final : public Eyes {
+public:
+    [[nodiscard]] Json see(const MDIOndelis& frame) const override;
+    [[nodiscard]] Json see(const FeuilleCalcul& panel) const override;
+    [[nodiscard]] Json see(Control& control) const override;
+    [[nodiscard]] Json menus() const override;
+};
 
 } // namespace ondelis::pilote

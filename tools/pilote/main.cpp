@@ -2,8 +2,8 @@
 #include <span>
 #include <string>
 
-#include "Pilote.h"
-#include "Scenario.h"
+#include "Headless.h"
+#include "Program.h"
 
 namespace {
 
@@ -13,24 +13,11 @@ using namespace ondelis::pilote;
 void converse()
 {
     std::ios::sync_with_stdio(false);
-    Pilote pilote;
+    Headless body;
+    Pilote pilote{body};
     std::string line;
     while (std::getline(std::cin, line))
-        std::cout << pilote.answer(line).dump(-1, ' ', false, Json::error_handler_t::replace) << std::endl;
-}
-
-/// Plays scenario files; tells whether all went as expected.
-bool play(std::span<char* const> files)
-{
-    Tally sum;
-    for (const char* const file : files) {
-        const Tally tally = playScenario(file, std::cout);
-        sum.expectations += tally.expectations;
-        sum.failures += tally.failures;
-    }
-    std::cout << files.size() << " scenarios, " << sum.expectations << " expectations, " << sum.failures
-              << " failures\n";
-    return sum.failures == 0;
+        std::cout << answerLine(pilote, line) << std::endl;
 }
 
 } // namespace
@@ -38,7 +25,10 @@ bool play(std::span<char* const> files)
 int main(int argc, char** argv)
 {
     if (argc > 1)
-        return play(std::span{argv, static_cast<std::size_t>(argc)}.subspan(1)) ? 0 : 1;
+        return playFiles(std::span{argv, static_cast<std::size_t>(argc)}.subspan(1),
+                   [] { return std::make_unique<Headless>(); })
+            ? 0
+            : 1;
     converse();
     return 0;
 }

@@ -1,0 +1,74 @@
+#pragma once
+
+#include <QColor>
+#include <QRect>
+#include <functional>
+#include <set>
+#include <string>
+
+#include "Eyes.h"
+#include "forms/Controls.h"
+#include "view/PanelWindow.h"
+
+namespace ondelis::fenetre {
+
+using pilote::Json;
+
+/// A caption without the marks that keep "&" from being a shortcut.
+[[nodiscard]] QString captionOf(QString shown);
+
+/// Reads the members of a control from its widget.
+class ControlReader final : private ControlVisitor {
+public:
+    /// `said` is what the engine says of the control.
+    ControlReader(const PanelWindow& window, Json said) : window_{window}, said_(std::move(said)) { }
+
+    /// The members that the engine says, as the widget shows them. Throws where there is one that has not been looked
+    /// for.
+    [[nodiscard]] Json read(Control& control);
+
+private:
+    void visit(Label& label) override;
+    void visit(TextBox& box) override;
+    void visit(ListBox& list) override;
+    void visit(OptionButton& option) override;
+    void visit(CommandButton& button) override;
+    void visit(HScrollBar& bar) override { readBar(bar); }
+    void visit(VScrollBar& bar) override { readBar(bar); }
+    void visit(Frame& frame) override;
+    void visit(PictureBox& picture) override { readPicture(picture); }
+    void visit(Image& image) override { readPicture(image); }
+    void visit(Line& line) override;
+    void visit(Shape& shape) override;
+    void visit(MaskEdBox& box) override;
+
+    template <class Widget>
+    [[nodiscard]] Widget& widgetOf(const Control& control) const;
+
+    /// The widget shows this under that member.
+    void seen(const char* member, Json value);
+    /// Nobody can see that member.
+    void unseen(const char* member) { looked_.insert(member); }
+    void readVisible(const Control& control);
+    void readPicture(const Picture& picture)
+    {
+        readVisible(picture);
+        unseen("Picture");
+    }
+    void readBar(const ScrollBar& bar);
+    /// A place in pixels, along one axis.
+    void seenPlace(const char* member, const Property<Single>& said, int pixels, const QWidget& widget);
+    void seenText(const char* member, const QString& text);
+    /// The colour of a text that is painted on that ground; the engine says which it was before it was made readable.
+    void seenTextColor(const char* member, Color said, const QColor& painted, const QColor& ground);
+    /// How a text stands in its widget, and in which type.
+    void seenType(const QWidget& widget, Qt::Alignment alignment);
+    /// The caption that a screen reader names the widget by.
+    void seenLabel(const Label* label, const Label* otherLabel, const QWidget& widget);
+
+    const PanelWindow& window_;
+    Json said_;
+    std::set<std::string> looked_;
+};
+
+} // namespace ondelis::fenetre

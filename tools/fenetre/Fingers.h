@@ -1,0 +1,61 @@
+#pragma once
+
+#include <QPoint>
+#include <QScrollBar>
+#include <QString>
+#include <QWidget>
+
+#include "Hands.h"
+
+class QListWidget;
+
+namespace ondelis {
+class MainWindow;
+class PanelWindow;
+} // namespace ondelis
+
+namespace ondelis::fenetre {
+
+[[nodiscard]] bool isField(const QWidget& widget);
+
+/// How a person gets at a widget of the main window, and what they do there. Where that cannot be, nothing is done, and
+/// the reason given.
+class Fingers {
+public:
+    using Refusal = pilote::Hands::Refusal;
+
+    /// The main window is on screen.
+    void meet(MainWindow& window) { window_ = &window; }
+    /// It is no more.
+    void leave() { window_ = nullptr; }
+    /// Null where it is not on screen.
+    [[nodiscard]] MainWindow* window() const { return window_; }
+
+    /// Where another window has the keyboard, the main window gets it back, as from a window manager: the platform
+    /// without a screen has none.
+    void regainKeyboard() const;
+
+    /// Puts a button down on a point of a widget, and lets it go.
+    Refusal press(QWidget& widget, const QPoint& point, Qt::MouseButton button = Qt::LeftButton) const;
+    /// The same on the title of a panel, which is dragged meanwhile.
+    Refusal pressTitle(PanelWindow& panel, const QPoint& point, const QPoint& by = {}) const;
+    /// Gives a field the keyboard, with the caret at its end, if it has not got it so.
+    Refusal goToEnd(QWidget& field) const;
+    /// Gives any control the keyboard, and changes nothing.
+    Refusal takeKeyboard(QWidget& widget) const;
+    /// A key at the end of a field; a repeated one is held down.
+    Refusal typeKey(QWidget& field, const QString& character, bool repeated) const;
+    Refusal moveThumb(QScrollBar& bar, int position) const;
+
+private:
+    /// Brings a point of a widget where a press reaches it: scrolls the client area, or brings its panel forward.
+    Refusal uncover(QWidget& widget, const QPoint& point) const;
+    /// Gives a list the keyboard: a click would choose a row, the Tab key does not.
+    void tabTo(QListWidget& list) const;
+    /// Brings a panel before the others.
+    static void raise(PanelWindow& panel);
+
+    MainWindow* window_ = nullptr;
+};
+
+} // namespace ondelis::fenetre

@@ -1,0 +1,93 @@
+#include "Parts.h"
+
+#include <QStyleOptionButton>
+#include <QStyleOptionSlider>
+#include <QStyleOptionTitleBar>
+
+namespace ondelis::fenetre {
+namespace {
+
+QStyleOptionTitleBar optionOf(const QMdiSubWindow& window)
+{
+    QStyleOptionTitleBar option;
+    option.initFrom(&window);
+    option.titleBarFlags = window.windowFlags();
+    option.titleBarState = static_cast<int>(window.windowState());
+    option.subControls = QStyle::SC_All;
+    option.text = window.windowTitle();
+    option.rect.setHeight(window.style()->pixelMetric(QStyle::PM_TitleBarHeight, &option, &window));
+    return option;
+}
+
+QStyleOptionSlider optionOf(const QScrollBar& bar)
+{
+    QStyleOptionSlider option;
+    option.initFrom(&bar);
+    option.orientation = bar.orientation();
+    option.minimum = bar.minimum();
+    option.maximum = bar.maximum();
+    option.sliderPosition = bar.sliderPosition();
+    option.sliderValue = bar.value();
+    option.singleStep = bar.singleStep();
+    option.pageStep = bar.pageStep();
+    if (bar.orientation() == Qt::Horizontal)
+        option.state |= QStyle::State_Horizontal;
+    return option;
+}
+
+/// Where a thumb can stand.
+struct Course {
+    int length; ///< pixels
+    int now; ///< how far from its beginning it stands
+};
+
+Course courseOf(const QScrollBar& bar)
+{
+    const QRect groove = barPart(bar, QStyle::SC_ScrollBarGroove);
+    const QRect thumb = barPart(bar, QStyle::SC_ScrollBarSlider);
+    if (bar.orientation() == Qt::Horizontal)
+        return {groove.width() - thumb.width(), thumb.left() - groove.left()};
+    return {groove.height() - thumb.height(), thumb.top() - groove.top()};
+}
+
+} // namespace
+
+QRect titlePart(const QMdiSubWindow& window, QStyle::SubControl part)
+{
+    const QStyleOptionTitleBar option = optionOf(window);
+    return window.style()->subControlRect(QStyle::CC_TitleBar, &option, part, &window);
+}
+
+QStyle::SubControl titlePartAt(const QMdiSubWindow& window, const QPoint& place)
+{
+    const QStyleOptionTitleBar option = optionOf(window);
+    return window.style()->hitTestComplexControl(QStyle::CC_TitleBar, &option, place, &window);
+}
+
+QRect barPart(const QScrollBar& bar, QStyle::SubControl part)
+{
+    const QStyleOptionSlider option = optionOf(bar);
+    return bar.style()->subControlRect(QStyle::CC_ScrollBar, &option, part, &bar);
+}
+
+QRect indicatorOf(const QAbstractButton& option)
+{
+    QStyleOptionButton drawn;
+    drawn.initFrom(&option);
+    drawn.text = option.text();
+    return option.style()->subElementRect(QStyle::SE_RadioButtonIndicator, &drawn, &option);
+}
+
+int thumbWay(const QScrollBar& bar, int position)
+{
+    const Course course = courseOf(bar);
+    return QStyle::sliderPositionFromValue(bar.minimum(), bar.maximum(), position, course.length) - course.now;
+}
+
+int positionAfter(const QScrollBar& bar, int way)
+{
+    const Course course = courseOf(bar);
+    return QStyle::sliderValueFromPosition(bar.minimum(), bar.maximum(), course.now + way, course.length);
+}
+
+} // namespace ondelis::fenetre

@@ -1,0 +1,24 @@
+#pragma once
+
+#include <QAbstractButton>
+#include <QMdiSubWindow>
+#include <QRect>
+#include <QScrollBar>
+#include <QStyle>
+
+namespace ondelis::fenetre {
+
+// Where the style has drawn the parts of a widget that a person aims at, in the widget's own pixels.
+
+[[nodiscard]] QRect titlePart(const QMdiSubWindow& window, QStyle::SubControl part);
+[[nodiscard]] QStyle::SubControl titlePartAt(const QMdiSubWindow& window, const QPoint& place);
+[[nodiscard]] QRect barPart(const QScrollBar& bar, QStyle::SubControl part);
+/// The mark of an option.
+[[nodiscard]] QRect indicatorOf(const QAbstractButton& option);
+
+/// How many pixels the thumb of a bar must be dragged to stand where that position is.
+[[nodiscard]] int thumbWay(const QScrollBar& bar, int position);
+/// The position that a bar takes when its thumb is dragged by so many pixels.
+[[nodiscard]] int positionAfter(const QScrollBar& bar, int way);
+
+} // namespace ondelis::fenetre

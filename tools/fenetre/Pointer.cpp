@@ -1,0 +1,62 @@
+#include "Pointer.h"
+
+#include <QTest>
+
+namespace ondelis::fenetre {
+namespace {
+
+/// What lies at a point of a widget: itself, a part of it, or something over it; null where nothing of its window does.
+QWidget* lyingAt(const QWidget& widget, const QPoint& point)
+{
+    QWidget& window = *widget.window();
+    const QPoint there = widget.mapTo(&window, point);
+    QWidget* const child = window.childAt(there);
+    return child == nullptr && window.rect().contains(there) ? &window : child;
+}
+
+} // namespace
+
+bool Pointer::reaches(const QWidget& widget, const QPoint& point)
+{
+    const QWidget* const there = lyingAt(widget, point);
+    return there == &widget || widget.isAncestorOf(there);
+}
+
+void Pointer::press(QWidget& widget, const QPoint& point, Qt::MouseButton button)
+{
+    pressed_ = lyingAt(widget, point);
+    button_ = button;
+    at_ = pressed_->mapFrom(widget.window(), widget.mapTo(widget.window(), point));
+    // Some widgets look at what lies under the pointer on its way there.
+    moveTo(at_ + QPoint{0, 1}, Qt::NoButton);
+    if (pressed_ != nullptr)
+        moveTo(at_, Qt::NoButton);
+    if (pressed_ != nullptr)
+        QTest::mousePress(pressed_, button_, Qt::NoModifier, at_);
+}
+
+void Pointer::drag(const QPoint& by)
+{
+    if (pressed_ == nullptr)
+        return;
+    const QPoint to = pressed_->mapToGlobal(at_ + by);
+    moveTo(at_ + by, button_);
+    if (pressed_ != nullptr)
+        at_ = pressed_->mapFromGlobal(to); // what is dragged may have come along
+}
+
+void Pointer::release()
+{
+    if (pressed_ != nullptr)
+        QTest::mouseRelease(pressed_, button_, Qt::NoModifier, at_);
+}
+
+void Pointer::moveTo(const QPoint& point, Qt::MouseButtons buttons)
+{
+    // Not the toolkit's own helper, which moves without a button.
+    QMouseEvent event{QEvent::MouseMove, point, pressed_->mapToGlobal(point), Qt::NoButton, buttons, Qt::NoModifier};
+    QSpontaneKeyEvent::setSpontaneous(&event);
+    QCoreApplication::instance()->notify(pressed_, &event);
+}
+
+} // namespace ondelis::fenetre

@@ -1,0 +1,166 @@
+#include "Window.h"
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QMessageBox>
+#include <QTest>
+#include <algorithm>
+#include <array>
+#include <stdexcept>
+
+#include "Pointer.h"
+#include "Screen.h"
+#include "view/MainWindow.h"
+#include "view/PanelWindow.h"
+
+namespace ondelis::fenetre {
+namespace {
+
+constexpr Extent usualScreen{.Width = 28800, .Height = 16200};
+
+/// The box that is on screen.
+QMessageBox& boxOnScreen()
+{
+    auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+    if (box == nullptr)
+        throw std::logic_error{"no box is on screen"};
+    return *box;
+}
+
+/// What a box shows: its words, its title, and its buttons.
+MessageBox read(const QMessageBox& box)
+{
+    QStringList buttons;
+    for (const QAbstractButton* const button : box.buttons())
+        buttons.append(button->text());
+    buttons.sort();
+    if (buttons != QStringList{QStringLiteral("OK")}
+        && buttons != QStringList{QStringLiteral("Non"), QStringLiteral("Oui")})
+        throw std::logic_error{"a box has other buttons: " + buttons.join(QLatin1Char{' '}).toStdString()};
+    return {.prompt = box.text().toStdString(),
+        .buttons = buttons.size() == 1 ? 0 : 4,
+        .title = box.windowTitle().toStdString()};
+}
+
+void pressButton(QMessageBox& box, const QString& words)
+{
+    for (QAbstractButton* const button : box.buttons())
+        if (button->text() == words) {
+            Pointer::click(*button, button->rect().center());
+            return;
+        }
+}
+
+/// The fault that a box names.
+Fault faultNamed(const QString& words)
+{
+    for (const FaultKind kind :
+        {FaultKind::InvalidArgument, FaultKind::Overflow, FaultKind::SubscriptOutOfRange, FaultKind::DivisionByZero,
+            FaultKind::TypeMismatch, FaultKind::ObjectNotSet, FaultKind::InvalidPropertyValue}) {
+        Fault fault{kind};
+        if (words.startsWith(QStringLiteral("Erreur %1 : %2.")
+                                 .arg(QString::number(fault.number()), QString::fromUtf8(fault.text()))))
+            return fault;
+    }
+    throw std::logic_error{"a box names no fault: " + words.toStdString()};
+}
+
+} // namespace
+
+Window::Window(Painting painting) : painting_{painting}
+{
+    onlooker_.onBox = [this] { readBox(); };
+    onlooker_.onFault = [this] { readFault(); };
+    onlooker_.onEvents = [this] { meanwhile_.act(hands_); };
+    setOffscreenSize(usualScreen);
+}
+
+Window::~Window()
+{
+    hands_.leave();
+    view_.act([this](User&) {
+        while (!desk_.loadedPanels().empty())
+            desk_.Unload(*desk_.loadedPanels().front());
+    });
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete); // no event loop comes to it
+    // Where the program has ended, the next one must find an event loop that has not.
+    if (desk_.ended()) {
+        QMetaObject::invokeMethod(qApp, &QCoreApplication::quit, Qt::QueuedConnection);
+        QCoreApplication::exec();
+    }
+}
+
+void Window::start()
+{
+    view_.open(frame_);
+    view_.mainWindow().setUpdatesEnabled(painting_ == Painting::On);
+    if (!QTest::qWaitForWindowActive(&view_.mainWindow()))
+        throw std::runtime_error{"the main window does not come on screen"};
+    hands_.meet(view_.mainWindow());
+}
+
+pilote::Hands::Refusal Window::setScreen(const Extent& size)
+{
+    if (!setOffscreenSize(size))
+        return "the screen is the desktop's";
+    return {};
+}
+
+void Window::forget()
+{
+    boxes_.clear();
+    fault_.reset();
+    meanwhile_.forget();
+}
+
+void Window::settle()
+{
+    meanwhile_.giveUp();
+    QCoreApplication::processEvents();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    if (desk_.ended())
+        hands_.leave();
+    hands_.regainKeyboard();
+}
+
+bool Window::agreesOnKeyboard() const
+{
+    const QWidget* const shown = QApplication::focusWidget();
+    const Control* const said = desk_.focused();
+    for (const FeuilleCalcul* const panel : desk_.loadedPanels())
+        if (const PanelWindow* const window = view_.find(*panel))
+            if (const Control* const control = window->controlOf(shown))
+                return control == said;
+    return true; // no control has it
+}
+
+void Window::readBox()
+{
+    QPointer<QMessageBox> box{&boxOnScreen()};
+    boxes_.push_back(read(*box));
+    const QString answer = nextAnswer(boxes_.back().buttons != 0);
+    meanwhile_.act(hands_);
+    if (box != nullptr)
+        pressButton(*box, answer);
+}
+
+void Window::readFault()
+{
+    QPointer<QMessageBox> box{&boxOnScreen()};
+    fault_ = faultNamed(box->text());
+    meanwhile_.act(hands_);
+    if (box != nullptr)
+        pressButton(*box, nextAnswer(false));
+}
+
+QString Window::nextAnswer(bool asks)
+{
+    if (!asks)
+        return QStringLiteral("OK");
+    const Answer answer = answers_.empty() ? Answer::Yes : answers_.front();
+    if (!answers_.empty())
+        answers_.pop_front();
+    return answer == Answer::Yes ? QStringLiteral("Oui") : QStringLiteral("Non");
+}
+
+} // namespace ondelis::fenetre

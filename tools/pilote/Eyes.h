@@ -1,0 +1,34 @@
+#pragma once
+
+#include <nlohmann/json.hpp>
+
+#include "shell/MDIOndelis.h"
+
+namespace ondelis::pilote {
+
+/// Keeps the members in the order in which they are written.
+using Json = nlohmann::ordered_json;
+
+/// Reads what there is to see, as JSON: numbers of twips, colours 0xBBGGRR as numbers, the rest under the names of the
+/// members.
+class Eyes {
+public:
+    Eyes() = default;
+    Eyes(const Eyes&) = delete;
+    Eyes& operator=(const Eyes&) = delete;
+    virtual ~Eyes() = default;
+
+    /// "Left", "Top", "Width", "Height", "Caption", and "Focus", the control that has the keyboard as "PANEL.CONTROL".
+    [[nodiscard]] virtual Json see(const MDIOndelis& frame) const = 0;
+    /// "visible", the place and the caption, and "TabOrder", what the tab key leads to.
+    [[nodiscard]] virtual Json see(const FeuilleCalcul& panel) const = 0;
+    /// "kind", which is the class, its members, and "Frame", the frame that it stands in.
+    [[nodiscard]] virtual Json see(Control& control) const = 0;
+    /// Each menu, with its "Caption" and its "Entries".
+    [[nodiscard]] virtual Json menus() const = 0;
+};
+
+/// "frame", "menus", and "panels": each loaded one with its "controls".
+[[nodiscard]] Json seeAll(const Eyes& eyes, const MDIOndelis& frame);
+
+} // namespace ondelis::pilote

@@ -1,0 +1,28 @@
+#include "Program.h"
+
+#include <iostream>
+
+#include "Scenario.h"
+
+namespace ondelis::pilote {
+
+std::string answerLine(Pilote& pilote, const std::string& line)
+{
+    return pilote.answer(line).dump(-1, ' ', false, Json::error_handler_t::replace);
+}
+
+bool playFiles(std::span<char* const> files, const NewBody& newBody)
+{
+    Tally sum;
+    for (const char* const file : files) {
+        const std::unique_ptr<Body> body = newBody();
+        const Tally tally = playScenario(file, *body, std::cout);
+        sum.expectations += tally.expectations;
+        sum.failures += tally.failures;
+    }
+    std::cout << files.size() << " scenarios, " << sum.expectations << " expectations, " << sum.failures
+              << " failures\n";
+    return sum.failures == 0;
+}
+
+} // namespace ondelis::pilote

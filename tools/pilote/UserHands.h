@@ -1,0 +1,52 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "Hands.h"
+#include "forms/User.h"
+#include "shell/MDIOndelis.h"
+
+namespace ondelis::pilote {
+
+/// Acts on any running program without touching a window: by the engine's own road of actions.
+class UserHands : public Hands {
+public:
+    explicit UserHands(MDIOndelis& frame) : frame_{frame}, user_{frame.desk()} { }
+
+    Refusal menu(const std::string& entry) override;
+    Refusal close(const std::string& window) override;
+    Refusal move(const std::string& window, double left, double top) override;
+    Refusal minimise(const std::string& window) override;
+    Refusal restore(const std::string& window) override;
+    Refusal type(const Target& field, const std::string& text) override;
+    Refusal backspace(const Target& field) override;
+    Refusal replace(const Target& field, const std::string& text) override;
+    Refusal click(const Target& button) override;
+    Refusal select(const Target& list, int row) override;
+    Refusal scroll(const Target& bar, int value) override;
+    Refusal focus(const Target& control) override;
+    Refusal hold(const Target& control, Key key, const std::string& character, int times) override;
+
+    /// A box waits for its answer: nothing else can be reached.
+    void waitForAnswer(bool waits) { boxWaits_ = waits; }
+
+private:
+    /// Why nothing at all can be reached; nothing where it can.
+    [[nodiscard]] Refusal unable() const;
+    /// Runs `act` on the control if it is of that class.
+    template <class ControlClass, class Act>
+    Refusal with(const Target& target, Act&& act) const;
+    Refusal holdInField(TextBox& box, Key key, const std::string& character, int times);
+    Refusal holdOnBar(ScrollBar& bar, Key key, int times);
+
+    MDIOndelis& frame_;
+    User user_;
+    bool boxWaits_ = false;
+    bool minimised_ = false;
+};
+
+/// Null where no panel of that name is loaded.
+[[nodiscard]] FeuilleCalcul* findPanel(const MDIOndelis& frame, std::string_view name);
+
+} // namespace ondelis::pilote
