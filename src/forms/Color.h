@@ -12,6 +12,16 @@ inline constexpr Color windowColor = 0x80000005;
 /// The text on it.
 inline constexpr Color windowTextColor = 0x80000008;
 
+// Fields by their role. Colours that only one panel has stand in that panel.
+inline constexpr Color resultColor = 0xFFFFC0; ///< light cyan: shows a result
+inline constexpr Color mainResultColor = 0xFFFF80; ///< cyan: shows the result that the panel is for
+inline constexpr Color givenColor = 0xC0FFC0; ///< light green: waits for a value
+inline constexpr Color soughtColor = 0xC0E0FF; ///< light orange: shows what is computed from the others
+
+inline constexpr Color white = 0xFFFFFF;
+inline constexpr Color black = 0x000000;
+inline constexpr Color red = 0x0000FF;
+
 /// Whether the colour is the system's to choose.
 [[nodiscard]] constexpr bool isSystemColor(Color color)
 {
@@ -21,7 +31,7 @@ inline constexpr Color windowTextColor = 0x80000008;
 /// The colour as 0xBBGGRR, with white and black for the system's two.
 [[nodiscard]] constexpr Color plainColor(Color color)
 {
-    return color == windowColor ? 0xFFFFFF : color == windowTextColor ? 0x000000 : color;
+    return color == windowColor ? white : color == windowTextColor ? black : color;
 }
 
 } // namespace ondelis

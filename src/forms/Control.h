@@ -20,14 +20,15 @@ struct Box {
 };
 
 /// The top of a row of the grid that panels are laid out on.
-[[nodiscard]] constexpr double ligne(double row)
+[[nodiscard]] constexpr double rowTop(double row)
 {
     return 240 + 360 * row;
 }
 
 /// The place of a letter on a drawing: its centre as fractions of the drawing's width and height.
-[[nodiscard]] constexpr Box lettre(const Box& drawing, double x, double y, double width = 360)
+[[nodiscard]] constexpr Box letterBox(const Box& drawing, double x, double y)
 {
+    constexpr double width = 360;
     constexpr double height = 255;
     return {drawing.Left + x * drawing.Width - width / 2, drawing.Top + y * drawing.Height - height / 2, width, height};
 }
@@ -65,7 +66,8 @@ public:
     void changed() final;
 
 protected:
-    [[nodiscard]] virtual bool ownVisible() const = 0;
+    /// Whether it is shown where the frame around it is.
+    [[nodiscard]] virtual bool ownVisible() const { return true; }
     /// Runs the procedure that listens to an event of this control.
     void raise(const Handler& handler);
 

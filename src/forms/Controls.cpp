@@ -9,16 +9,6 @@
 
 namespace ondelis {
 
-Label::Label(FeuilleCalcul* panel, std::string name, Design design)
-    : Control{panel, std::move(name), design.at, design.container}, design_{std::move(design)}
-{
-}
-
-void Label::accept(ControlVisitor& visitor)
-{
-    visitor.visit(*this);
-}
-
 void Label::storeCaption(std::string caption)
 {
     written_ = true;
@@ -29,14 +19,13 @@ void Label::storeCaption(std::string caption)
 void Label::reset()
 {
     written_ = false;
-    Caption.reset(design_.Caption);
-    Visible.reset(design_.Visible);
-    Top.reset(Double{design_.at.Top});
+    Caption.reset(design().Caption);
+    Hideable::reset();
+    Top.reset(Double{design().at.Top});
 }
 
 TextBox::TextBox(FeuilleCalcul* panel, std::string name, Design design, Handler change, KeyHandler keyPress)
-    : Control{panel, std::move(name), design.at, design.container}, design_{std::move(design)}, change_{change},
-      keyPress_{keyPress}
+    : Hideable{panel, std::move(name), std::move(design)}, change_{change}, keyPress_{keyPress}
 {
 }
 
@@ -63,24 +52,18 @@ void TextBox::keyPress(Integer key)
         panel().desk().raise(panel(), keyPress_, key);
 }
 
-void TextBox::accept(ControlVisitor& visitor)
-{
-    visitor.visit(*this);
-}
-
 void TextBox::reset()
 {
-    Text.reset(design_.Text);
-    BackColor.reset(design_.BackColor);
-    ForeColor.reset(design_.ForeColor);
-    Locked.reset(design_.Locked);
-    Visible.reset(design_.Visible);
-    Top.reset(Double{design_.at.Top});
+    Text.reset(design().Text);
+    BackColor.reset(design().BackColor);
+    ForeColor.reset(design().ForeColor);
+    Locked.reset(design().Locked);
+    Hideable::reset();
+    Top.reset(Double{design().at.Top});
 }
 
 ListBox::ListBox(FeuilleCalcul* panel, std::string name, Design design, Handler click, Handler gotFocus)
-    : Control{panel, std::move(name), design.at, design.container}, design_{std::move(design)}, click_{click},
-      gotFocus_{gotFocus}
+    : Hideable{panel, std::move(name), std::move(design)}, click_{click}, gotFocus_{gotFocus}
 {
 }
 
@@ -125,7 +108,7 @@ Integer ListBox::ListCount() const
 
 void ListBox::choose(Integer row)
 {
-    if (row == ListIndex && design_.clickOnChosenRow)
+    if (row == ListIndex && design().clickOnChosenRow)
         raise(click_);
     else
         ListIndex = row;
@@ -136,21 +119,16 @@ void ListBox::gotFocus()
     raise(gotFocus_);
 }
 
-void ListBox::accept(ControlVisitor& visitor)
-{
-    visitor.visit(*this);
-}
-
 void ListBox::reset()
 {
-    items_ = design_.Items;
+    items_ = design().Items;
     ListIndex.reset(-1);
-    BackColor.reset(design_.BackColor);
-    Visible.reset(design_.Visible);
+    BackColor.reset(design().BackColor);
+    Hideable::reset();
 }
 
 OptionButton::OptionButton(FeuilleCalcul* panel, std::string name, Design design, Handler click)
-    : Control{panel, std::move(name), design.at, design.container}, design_{std::move(design)}, click_{click}
+    : Hideable{panel, std::move(name), std::move(design)}, click_{click}
 {
 }
 
@@ -169,20 +147,15 @@ void OptionButton::storeValue(bool chosen)
     raise(click_);
 }
 
-void OptionButton::accept(ControlVisitor& visitor)
-{
-    visitor.visit(*this);
-}
-
 void OptionButton::reset()
 {
-    Value.reset(design_.Value);
-    ForeColor.reset(design_.ForeColor);
-    Visible.reset(design_.Visible);
+    Value.reset(design().Value);
+    ForeColor.reset(design().ForeColor);
+    Hideable::reset();
 }
 
 CommandButton::CommandButton(FeuilleCalcul* panel, std::string name, Design design, Handler click)
-    : Control{panel, std::move(name), design.at, design.container}, design_{std::move(design)}, click_{click}
+    : Hideable{panel, std::move(name), std::move(design)}, click_{click}
 {
 }
 
@@ -193,18 +166,8 @@ void CommandButton::storeValue(bool pressed)
         raise(click_);
 }
 
-void CommandButton::accept(ControlVisitor& visitor)
-{
-    visitor.visit(*this);
-}
-
-void CommandButton::reset()
-{
-    Visible.reset(design_.Visible);
-}
-
-ScrollBar::ScrollBar(FeuilleCalcul* panel, std::string name, Design design, Handler change)
-    : Control{panel, std::move(name), design.at, design.container}, design_{design}, change_{change}
+ScrollBar::ScrollBar(Orientation orientation, FeuilleCalcul* panel, std::string name, Design design, Handler change)
+    : Hideable{panel, std::move(name), design}, orientation_{orientation}, change_{change}
 {
 }
 
@@ -248,99 +211,24 @@ void ScrollBar::moveInside()
 
 void ScrollBar::reset()
 {
-    Min.reset(design_.Min);
-    Max.reset(design_.Max);
-    Value.reset(design_.Value);
-    Visible.reset(design_.Visible);
+    Min.reset(design().Min);
+    Max.reset(design().Max);
+    Value.reset(design().Value);
+    Hideable::reset();
 }
 
-HScrollBar::HScrollBar(FeuilleCalcul* panel, std::string name, Design design, Handler change)
-    : ScrollBar{panel, std::move(name), design, change}
+Picture::Picture(const char* kind, FeuilleCalcul* panel, std::string name, Design design)
+    : Hideable{panel, std::move(name), std::move(design)}, kind_{kind}
 {
-}
-
-void HScrollBar::accept(ControlVisitor& visitor)
-{
-    visitor.visit(*this);
-}
-
-VScrollBar::VScrollBar(FeuilleCalcul* panel, std::string name, Design design, Handler change)
-    : ScrollBar{panel, std::move(name), design, change}
-{
-}
-
-void VScrollBar::accept(ControlVisitor& visitor)
-{
-    visitor.visit(*this);
-}
-
-Frame::Frame(FeuilleCalcul* panel, std::string name, Design design)
-    : Control{panel, std::move(name), design.at, nullptr}, design_{std::move(design)}
-{
-}
-
-void Frame::accept(ControlVisitor& visitor)
-{
-    visitor.visit(*this);
-}
-
-void Frame::reset()
-{
-    Visible.reset(design_.Visible);
-}
-
-Picture::Picture(FeuilleCalcul* panel, std::string name, Design design)
-    : Control{panel, std::move(name), design.at, design.container}, design_{std::move(design)}
-{
-}
-
-void Picture::reset()
-{
-    Visible.reset(design_.Visible);
-}
-
-void PictureBox::accept(ControlVisitor& visitor)
-{
-    visitor.visit(*this);
-}
-
-void Image::accept(ControlVisitor& visitor)
-{
-    visitor.visit(*this);
-}
-
-Line::Line(FeuilleCalcul* panel, std::string name, Design design)
-    : Control{panel, std::move(name), {}, nullptr}, design_{design}
-{
-}
-
-void Line::accept(ControlVisitor& visitor)
-{
-    visitor.visit(*this);
 }
 
 void Line::reset()
 {
-    X1.reset(Double{design_.X1});
-    Y1.reset(Double{design_.Y1});
-    X2.reset(Double{design_.X2});
-    Y2.reset(Double{design_.Y2});
-    Visible.reset(design_.Visible);
-}
-
-Shape::Shape(FeuilleCalcul* panel, std::string name, Design design)
-    : Control{panel, std::move(name), design.at, design.container}
-{
-}
-
-void Shape::accept(ControlVisitor& visitor)
-{
-    visitor.visit(*this);
-}
-
-MaskEdBox::MaskEdBox(FeuilleCalcul* panel, std::string name, Design design)
-    : Control{panel, std::move(name), design.at, design.container}, design_{design}
-{
+    X1.reset(Double{design().X1});
+    Y1.reset(Double{design().Y1});
+    X2.reset(Double{design().X2});
+    Y2.reset(Double{design().Y2});
+    Hideable::reset();
 }
 
 std::string MaskEdBox::display() const
@@ -351,11 +239,6 @@ std::string MaskEdBox::display() const
     } catch (const Fault&) { // an empty text, or one that is no number, shows as it is
         return text;
     }
-}
-
-void MaskEdBox::accept(ControlVisitor& visitor)
-{
-    visitor.visit(*this);
 }
 
 void MaskEdBox::reset()

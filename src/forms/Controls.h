@@ -1,10 +1,12 @@
 #pragma once
 
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "forms/Color.h"
 #include "forms/Control.h"
+#include "forms/Designs.h"
 
 namespace ondelis {
 
@@ -12,67 +14,88 @@ namespace ondelis {
 // events. A store into a property that has an event raises it at once, nested, and only where the value is a
 // new one.
 
+/// What all classes of controls share: a design, and a way to be visited.
+template <class Self, class DesignOfSelf>
+class Designed : public Control {
+public:
+    using Design = DesignOfSelf;
+
+    [[nodiscard]] const Design& design() const { return design_; }
+    void accept(ControlVisitor& visitor) final;
+
+protected:
+    Designed(FeuilleCalcul* panel, std::string name, Design design)
+        : Control{panel, std::move(name), boxOf(design), containerOf(design)}, design_{std::move(design)}
+    {
+    }
+
+private:
+    // A line has no box, and neither it nor a frame stands in a frame.
+    static Box boxOf(const auto& design)
+    {
+        if constexpr (requires { design.at; })
+            return design.at;
+        else
+            return {};
+    }
+    static Frame* containerOf(const auto& design)
+    {
+        if constexpr (requires { design.container; })
+            return design.container;
+        else
+            return nullptr;
+    }
+
+    Design design_;
+};
+
+/// A control that code can hide.
+template <class Self, class DesignOfSelf>
+class Hideable : public Designed<Self, DesignOfSelf> {
+public:
+    Property<bool> Visible{*this};
+
+    void reset() override { Visible.reset(this->design().Visible); }
+
+protected:
+    using Designed<Self, DesignOfSelf>::Designed;
+
+private:
+    [[nodiscard]] bool ownVisible() const final { return Visible; }
+};
+
 /// A fixed caption, or a result written as one.
-class Label final : public Control {
+class Label final : public Hideable<Label, LabelDesign> {
     void storeCaption(std::string caption);
 
 public:
-    struct Design {
-        std::string Caption = {};
-        Box at = {};
-        Color ForeColor = windowTextColor;
-        Align align = Align::Left;
-        Font font = {};
-        bool Visible = true;
-        Frame* container = nullptr;
-    };
-    Label(FeuilleCalcul* panel, std::string name, Design design);
+    Label(FeuilleCalcul* panel, std::string name, Design design) : Hideable{panel, std::move(name), std::move(design)}
+    {
+    }
 
     ActiveProperty<Label, std::string, &Label::storeCaption> Caption{*this};
-    Property<bool> Visible{*this};
     Property<Single> Top{*this};
 
     /// Whether its caption is one that code has stored since the panel was loaded, be it the one of its design.
     [[nodiscard]] bool written() const { return written_; }
 
-    [[nodiscard]] const Design& design() const { return design_; }
-    void accept(ControlVisitor& visitor) override;
     void reset() override;
 
 private:
-    [[nodiscard]] bool ownVisible() const override { return Visible; }
-
-    Design design_;
     bool written_ = false;
 };
 
 /// A field. Raises `Change` after its text has changed, and `KeyPress` before a key enters it.
-class TextBox final : public Control {
+class TextBox final : public Hideable<TextBox, TextBoxDesign> {
     void storeText(std::string text);
 
 public:
-    struct Design {
-        std::string Text = {};
-        Box at = {};
-        Color BackColor = windowColor;
-        Color ForeColor = windowTextColor;
-        bool Locked = false;
-        int MaxLength = 0; ///< characters that can be typed; 0 for no limit
-        bool multiLine = false;
-        Align align = Align::Left;
-        Font font = {};
-        bool Visible = true;
-        Label* label = nullptr; ///< the caption that names it
-        Label* otherLabel = nullptr; ///< the caption that names it while `label` is hidden
-        Frame* container = nullptr;
-    };
     TextBox(FeuilleCalcul* panel, std::string name, Design design, Handler change = {}, KeyHandler keyPress = {});
 
     ActiveProperty<TextBox, std::string, &TextBox::storeText> Text{*this};
     Property<Color> BackColor{*this};
     Property<Color> ForeColor{*this};
     Property<bool> Locked{*this};
-    Property<bool> Visible{*this};
     Property<Single> Top{*this};
 
     /// Gives the field the keyboard. Throws an invalid argument where the field is hidden.
@@ -81,51 +104,36 @@ public:
     /// Shows a key to the panel before it enters the field.
     void keyPress(Integer key);
 
-    [[nodiscard]] const Design& design() const { return design_; }
     [[nodiscard]] bool focusable() const override { return onScreen(); }
-    void accept(ControlVisitor& visitor) override;
     void reset() override;
 
 private:
-    [[nodiscard]] bool ownVisible() const override { return Visible; }
-
-    Design design_;
     Handler change_;
     KeyHandler keyPress_;
 };
 
 /// The design of a field that shows a result, on the background of its role, and can be typed over.
-[[nodiscard]] inline TextBox::Design openResultField(Box at, Label* label, Color background = 0xFFFFC0)
+[[nodiscard]] inline TextBox::Design openResultField(Box at, Label* label, Color background = resultColor)
 {
     return {.at = at, .BackColor = background, .label = label};
 }
 
 /// The design of a field that only shows a result: locked, on the background of its role.
-[[nodiscard]] inline TextBox::Design resultField(Box at, Label* label, Color background = 0xFFFFC0)
+[[nodiscard]] inline TextBox::Design resultField(Box at, Label* label, Color background = resultColor)
 {
     return {.at = at, .BackColor = background, .Locked = true, .label = label};
 }
 
 /// A list of texts of which at most one is chosen. Raises `Click` when `ListIndex` changes.
-class ListBox final : public Control {
+class ListBox final : public Hideable<ListBox, ListBoxDesign> {
     void storeListIndex(Integer row);
 
 public:
-    struct Design {
-        std::vector<std::string> Items = {};
-        Box at = {};
-        Color BackColor = windowColor;
-        bool clickOnChosenRow = false; ///< a person's click on the chosen row raises `Click` too
-        bool Visible = true;
-        Label* label = nullptr; ///< the caption that names it
-        Frame* container = nullptr;
-    };
     ListBox(FeuilleCalcul* panel, std::string name, Design design, Handler click = {}, Handler gotFocus = {});
 
     /// The chosen row from 0, -1 for none. A store beyond the list throws an invalid property value.
     ActiveProperty<ListBox, Integer, &ListBox::storeListIndex> ListIndex{*this};
     Property<Color> BackColor{*this};
-    Property<bool> Visible{*this};
 
     void AddItem(std::string text);
     /// No row is left, and none chosen; raises nothing.
@@ -152,15 +160,10 @@ public:
     /// The list, which did not have the keyboard, has got it.
     void gotFocus();
 
-    [[nodiscard]] const Design& design() const { return design_; }
     [[nodiscard]] bool focusable() const override { return onScreen(); }
-    void accept(ControlVisitor& visitor) override;
     void reset() override;
 
 private:
-    [[nodiscard]] bool ownVisible() const override { return Visible; }
-
-    Design design_;
     Handler click_;
     Handler gotFocus_;
     std::vector<std::string> items_;
@@ -168,249 +171,160 @@ private:
 
 /// One of the options of its panel, or of its frame, of which at most one is chosen. Raises `Click` when it
 /// becomes the chosen one.
-class OptionButton final : public Control {
+class OptionButton final : public Hideable<OptionButton, OptionButtonDesign> {
     void storeValue(bool chosen);
 
 public:
-    struct Design {
-        std::string Caption = {};
-        Box at = {};
-        bool Value = false;
-        Color ForeColor = windowTextColor;
-        bool Visible = true;
-        Label* label = nullptr; ///< the caption that names it, where it has none of its own
-        Frame* container = nullptr;
-    };
     OptionButton(FeuilleCalcul* panel, std::string name, Design design, Handler click = {});
 
     ActiveProperty<OptionButton, bool, &OptionButton::storeValue> Value{*this};
     Property<Color> ForeColor{*this};
-    Property<bool> Visible{*this};
 
-    [[nodiscard]] const Design& design() const { return design_; }
     [[nodiscard]] bool focusable() const override { return onScreen(); }
-    void accept(ControlVisitor& visitor) override;
     void reset() override;
 
 private:
-    [[nodiscard]] bool ownVisible() const override { return Visible; }
-
-    Design design_;
     Handler click_;
 };
 
 /// A push button. Storing true into `Value` is a click.
-class CommandButton final : public Control {
+class CommandButton final : public Hideable<CommandButton, CommandButtonDesign> {
     void storeValue(bool pressed);
 
 public:
-    struct Design {
-        std::string Caption = {};
-        Box at = {};
-        bool Visible = true;
-        Frame* container = nullptr;
-    };
     CommandButton(FeuilleCalcul* panel, std::string name, Design design, Handler click = {});
 
     ActiveProperty<CommandButton, bool, &CommandButton::storeValue> Value{*this};
-    Property<bool> Visible{*this};
 
-    [[nodiscard]] const Design& design() const { return design_; }
     [[nodiscard]] bool focusable() const override { return onScreen(); }
-    void accept(ControlVisitor& visitor) override;
-    void reset() override;
 
 private:
-    [[nodiscard]] bool ownVisible() const override { return Visible; }
-
-    Design design_;
     Handler click_;
 };
 
+enum class Orientation { Horizontal, Vertical };
+
 /// A bar between two limits. `Min` stands at its left or upper end, `Max` at the other one, and `Min` may be
 /// the larger. Raises `Change` when its value changes.
-class ScrollBar : public Control {
+class ScrollBar : public Hideable<ScrollBar, ScrollBarDesign> {
     void storeValue(Integer value);
     void storeMin(Integer limit);
     void storeMax(Integer limit);
 
 public:
-    struct Design {
-        Integer Min = 0;
-        Integer Max = 32767;
-        Integer Value = 0;
-        Integer SmallChange = 1;
-        Integer LargeChange = 1;
-        Box at = {};
-        bool Visible = true;
-        Label* label = nullptr; ///< the caption that names it
-        Frame* container = nullptr;
-    };
-    ScrollBar(FeuilleCalcul* panel, std::string name, Design design, Handler change);
-
     /// A store outside the limits throws an invalid property value.
     ActiveProperty<ScrollBar, Integer, &ScrollBar::storeValue> Value{*this};
     /// A limit that leaves `Value` outside moves it to the nearest limit.
     ActiveProperty<ScrollBar, Integer, &ScrollBar::storeMin> Min{*this};
     ActiveProperty<ScrollBar, Integer, &ScrollBar::storeMax> Max{*this};
-    Property<bool> Visible{*this};
 
+    [[nodiscard]] Orientation orientation() const { return orientation_; }
     [[nodiscard]] bool allows(Integer value) const;
-    [[nodiscard]] const Design& design() const { return design_; }
     [[nodiscard]] bool focusable() const override { return onScreen(); }
     void reset() override;
 
+protected:
+    ScrollBar(Orientation orientation, FeuilleCalcul* panel, std::string name, Design design, Handler change);
+
 private:
-    [[nodiscard]] bool ownVisible() const override { return Visible; }
     void moveInside();
 
-    Design design_;
+    Orientation orientation_;
     Handler change_;
 };
 
 class HScrollBar final : public ScrollBar {
 public:
-    HScrollBar(FeuilleCalcul* panel, std::string name, Design design, Handler change = {});
-    void accept(ControlVisitor& visitor) override;
+    HScrollBar(FeuilleCalcul* panel, std::string name, Design design, Handler change = {})
+        : ScrollBar{Orientation::Horizontal, panel, std::move(name), design, change}
+    {
+    }
 };
 
 class VScrollBar final : public ScrollBar {
 public:
-    VScrollBar(FeuilleCalcul* panel, std::string name, Design design, Handler change = {});
-    void accept(ControlVisitor& visitor) override;
+    VScrollBar(FeuilleCalcul* panel, std::string name, Design design, Handler change = {})
+        : ScrollBar{Orientation::Vertical, panel, std::move(name), design, change}
+    {
+    }
 };
 
 /// A titled group of controls, or a titled drawing.
-class Frame final : public Control {
+class Frame final : public Hideable<Frame, FrameDesign> {
 public:
-    struct Design {
-        std::string Caption = {};
-        Box at = {};
-        std::string picture = {}; ///< the drawing inside it: a name in resources/dessins
-        bool Visible = true;
-    };
-    Frame(FeuilleCalcul* panel, std::string name, Design design);
-
-    Property<bool> Visible{*this};
-
-    [[nodiscard]] const Design& design() const { return design_; }
-    void accept(ControlVisitor& visitor) override;
-    void reset() override;
-
-private:
-    [[nodiscard]] bool ownVisible() const override { return Visible; }
-
-    Design design_;
+    Frame(FeuilleCalcul* panel, std::string name, Design design) : Hideable{panel, std::move(name), std::move(design)}
+    {
+    }
 };
 
 /// A drawing. Its two kinds differ in name only.
-class Picture : public Control {
+class Picture : public Hideable<Picture, PictureDesign> {
 public:
-    struct Design {
-        std::string picture = {}; ///< a name in resources/dessins
-        Box at = {};
-        bool Visible = true;
-        Frame* container = nullptr;
-    };
-    Picture(FeuilleCalcul* panel, std::string name, Design design);
+    /// "PictureBox" or "Image".
+    [[nodiscard]] const char* kind() const { return kind_; }
 
-    Property<bool> Visible{*this};
-
-    [[nodiscard]] const Design& design() const { return design_; }
-    void reset() override;
+protected:
+    Picture(const char* kind, FeuilleCalcul* panel, std::string name, Design design);
 
 private:
-    [[nodiscard]] bool ownVisible() const override { return Visible; }
-
-    Design design_;
+    const char* kind_;
 };
 
 class PictureBox final : public Picture {
 public:
-    using Picture::Picture;
-    void accept(ControlVisitor& visitor) override;
+    PictureBox(FeuilleCalcul* panel, std::string name, Design design)
+        : Picture{"PictureBox", panel, std::move(name), std::move(design)}
+    {
+    }
 };
 
 class Image final : public Picture {
 public:
-    using Picture::Picture;
-    void accept(ControlVisitor& visitor) override;
+    Image(FeuilleCalcul* panel, std::string name, Design design)
+        : Picture{"Image", panel, std::move(name), std::move(design)}
+    {
+    }
 };
 
-class Shape;
-
 /// A straight line on the panel.
-class Line final : public Control {
+class Line final : public Hideable<Line, LineDesign> {
 public:
-    struct Design {
-        double X1 = 0;
-        double Y1 = 0;
-        double X2 = 0;
-        double Y2 = 0;
-        Color BorderColor = windowTextColor;
-        int BorderWidth = 1; ///< in pixels at 96 dpi
-        bool Visible = true;
-        const Shape* within = nullptr; ///< where a diagram is drawn: what reaches beyond is not shown
-    };
-    Line(FeuilleCalcul* panel, std::string name, Design design);
+    Line(FeuilleCalcul* panel, std::string name, Design design)
+        : Hideable{panel, std::move(name), std::move(design)} { }
 
     Property<Single> X1{*this};
     Property<Single> Y1{*this};
     Property<Single> X2{*this};
     Property<Single> Y2{*this};
-    Property<bool> Visible{*this};
 
-    [[nodiscard]] const Design& design() const { return design_; }
-    void accept(ControlVisitor& visitor) override;
     void reset() override;
-
-private:
-    [[nodiscard]] bool ownVisible() const override { return Visible; }
-
-    Design design_;
 };
 
 /// A rectangle drawn around what belongs together.
-class Shape final : public Control {
+class Shape final : public Designed<Shape, ShapeDesign> {
 public:
-    struct Design {
-        Box at = {};
-        Frame* container = nullptr;
-    };
-    Shape(FeuilleCalcul* panel, std::string name, Design design);
+    Shape(FeuilleCalcul* panel, std::string name, Design design) : Designed{panel, std::move(name), std::move(design)}
+    {
+    }
 
-    void accept(ControlVisitor& visitor) override;
     void reset() override { }
-
-private:
-    [[nodiscard]] bool ownVisible() const override { return true; }
 };
 
 /// A read-only display of a number in exponent form with three decimals: "1.200E-01".
-class MaskEdBox final : public Control {
+class MaskEdBox final : public Designed<MaskEdBox, MaskEdBoxDesign> {
 public:
-    struct Design {
-        Box at = {};
-        Color BackColor = windowColor;
-        Label* label = nullptr; ///< the caption that names it
-        Frame* container = nullptr;
-    };
-    MaskEdBox(FeuilleCalcul* panel, std::string name, Design design);
+    MaskEdBox(FeuilleCalcul* panel, std::string name, Design design)
+        : Designed{panel, std::move(name), std::move(design)}
+    {
+    }
 
     Property<std::string> Text{*this};
 
     /// What it shows without the keyboard; with it, it shows its text.
     [[nodiscard]] std::string display() const;
 
-    [[nodiscard]] const Design& design() const { return design_; }
     [[nodiscard]] bool focusable() const override { return onScreen(); }
-    void accept(ControlVisitor& visitor) override;
     void reset() override;
-
-private:
-    [[nodiscard]] bool ownVisible() const override { return true; }
-
-    Design design_;
 };
 
 /// Does something by the class of a control: the view builds widgets, the driver writes its state.
@@ -426,14 +340,18 @@ public:
     virtual void visit(ListBox& list) = 0;
     virtual void visit(OptionButton& option) = 0;
     virtual void visit(CommandButton& button) = 0;
-    virtual void visit(HScrollBar& bar) = 0;
-    virtual void visit(VScrollBar& bar) = 0;
+    virtual void visit(ScrollBar& bar) = 0;
     virtual void visit(Frame& frame) = 0;
-    virtual void visit(PictureBox& picture) = 0;
-    virtual void visit(Image& image) = 0;
+    virtual void visit(Picture& picture) = 0;
     virtual void visit(Line& line) = 0;
     virtual void visit(Shape& shape) = 0;
     virtual void visit(MaskEdBox& box) = 0;
 };
+
+template <class Self, class DesignOfSelf>
+void Designed<Self, DesignOfSelf>::accept(ControlVisitor& visitor)
+{
+    visitor.visit(static_cast<Self&>(*this));
+}
 
 } // namespace ondelis

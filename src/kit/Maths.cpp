@@ -32,6 +32,11 @@ Term Fix(Term x)
     return everywhere(std::trunc, x);
 }
 
+Term Cut(Term x, Double parts)
+{
+    return Fix(x * parts) / parts;
+}
+
 Term Int(Term x)
 {
     return everywhere(std::floor, x);

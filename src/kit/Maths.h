@@ -10,6 +10,10 @@ namespace ondelis {
 /// Toward zero: `Fix(-2.7)` is -2.
 [[nodiscard]] Term Fix(Term x);
 
+/// A number cut to whole parts, toward zero: `Cut(2.789, 100)` is 2.78, hundredths. The product, then `Fix`, then the
+/// quotient, each rounded: `Cut(0.29, 100)` is 0.28.
+[[nodiscard]] Term Cut(Term x, Double parts);
+
 /// Toward minus infinity: `Int(-2.7)` is -3.
 [[nodiscard]] Term Int(Term x);
 

@@ -16,7 +16,7 @@ inline constexpr Color cote = 0x784A2A; ///< dimension lines
 [[nodiscard]] inline Label::Design lettreDeCote(std::string texte, const Box& dessin, double x, double y)
 {
     return {.Caption = std::move(texte),
-        .at = lettre(dessin, x, y),
+        .at = letterBox(dessin, x, y),
         .ForeColor = cote,
         .align = Align::Center,
         .font = {.size = 8}};

@@ -2,12 +2,6 @@
 
 namespace ondelis {
 
-Apropos::Apropos(Desk& desk)
-    : FeuilleCalcul{
-        desk, {.name = "Apropos", .Caption = "Pourquoi et comment ce logiciel", .Width = 8310, .Height = 4035}}
-{
-}
-
 void Apropos::Form_Load()
 {
     resumeNext([&] {

@@ -21,6 +21,9 @@ struct MenuEntry {
     std::vector<MenuStep> steps;
 };
 
+/// The entry that ends the program.
+inline constexpr std::string_view quitEntry = "MenuQuitter";
+
 /// A drop-down of the first level.
 struct Menu {
     std::string_view control;

@@ -5,24 +5,24 @@
 namespace ondelis {
 
 OptionButtonWidget::OptionButtonWidget(PanelWindow& window, OptionButton& option, QWidget* parent)
-    : QRadioButton{withoutShortcut(option.design().Caption), parent}, ControlWidget{window}, option_{option}
+    : WidgetOf{window, option, withoutShortcut(option.design().Caption), parent}
 {
     connect(this, &QRadioButton::toggled, this, [this](bool chosen) {
         if (chosen)
-            act(option_, [&](User& user) { user.click(option_); });
+            tell([&](User& user) { user.click(control()); });
     });
 }
 
 void OptionButtonWidget::follow()
 {
-    place(option_);
+    place();
     const QSignalBlocker quiet{this};
     // The desk keeps the options exclusive; here each one just shows its value, none chosen included.
     setAutoExclusive(false);
-    setChecked(option_.Value);
+    setChecked(control().Value);
     setAutoExclusive(true);
-    colors_.applyToText(*this, option_.ForeColor);
-    setVisible(option_.Visible);
+    colors().applyToText(*this, control().ForeColor);
+    setVisible(control().Visible);
     followGroup();
 }
 
@@ -37,29 +37,17 @@ void OptionButtonWidget::followGroup()
         option->setFocusPolicy(option == entry ? Qt::StrongFocus : Qt::ClickFocus);
 }
 
-void OptionButtonWidget::focusInEvent(QFocusEvent* event)
-{
-    QRadioButton::focusInEvent(event);
-    act(option_, [&](User& user) { user.focus(option_); });
-}
-
 CommandButtonWidget::CommandButtonWidget(PanelWindow& window, CommandButton& button, QWidget* parent)
-    : QPushButton{withoutShortcut(button.design().Caption), parent}, ControlWidget{window}, button_{button}
+    : WidgetOf{window, button, withoutShortcut(button.design().Caption), parent}
 {
     setAutoDefault(true); // the Enter key presses it too
-    connect(this, &QPushButton::clicked, this, [this] { act(button_, [&](User& user) { user.click(button_); }); });
+    connect(this, &QPushButton::clicked, this, [this] { tell([&](User& user) { user.click(control()); }); });
 }
 
 void CommandButtonWidget::follow()
 {
-    place(button_);
-    setVisible(button_.Visible);
-}
-
-void CommandButtonWidget::focusInEvent(QFocusEvent* event)
-{
-    QPushButton::focusInEvent(event);
-    act(button_, [&](User& user) { user.focus(button_); });
+    place();
+    setVisible(control().Visible);
 }
 
 } // namespace ondelis

@@ -62,20 +62,20 @@ QColor readable(const QColor& color, const QColor& background, double enough)
 
 QColor turned(const QColor& color, const QColor& ground)
 {
-    constexpr int white = 255;
+    constexpr int brightest = 255;
     const int luma = (54 * color.red() + 183 * color.green() + 19 * color.blue()) / 256; // after ITU-R BT.709
     const auto turn = [&](int channel, int dark) {
-        const int light = std::clamp(channel + white - 2 * luma, 0, white);
-        return light + dark * (white - light) / white;
+        const int light = std::clamp(channel + brightest - 2 * luma, 0, brightest);
+        return light + dark * (brightest - light) / brightest;
     };
     return {turn(color.red(), ground.red()), turn(color.green(), ground.green()), turn(color.blue(), ground.blue())};
 }
 
-QColor shown(Color color, QPalette::ColorRole white)
+QColor shown(Color color, QPalette::ColorRole ground)
 {
     const QPalette palette = QApplication::palette();
     const QColor plain = toQColor(color);
-    return isDark(palette) ? turned(plain, palette.color(white)) : plain;
+    return isDark(palette) ? turned(plain, palette.color(ground)) : plain;
 }
 
 QColor shownText(Color color, const QColor& ground)

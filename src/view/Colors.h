@@ -29,7 +29,7 @@ inline constexpr double quietContrast = 1.6; ///< what holds a group together wi
 [[nodiscard]] QColor turned(const QColor& color, const QColor& ground);
 
 /// The colour of a control as it is shown: itself on light palettes, turned on dark ones, where that role is white.
-[[nodiscard]] QColor shown(Color color, QPalette::ColorRole white);
+[[nodiscard]] QColor shown(Color color, QPalette::ColorRole ground);
 
 /// The colour of a text as it is shown on that ground. On dark palettes it is turned too, unless that would leave less
 /// of its hue than making it readable as it is: a pure blue, turned, can hardly be told from white.

@@ -4,9 +4,11 @@
 #include <QWidget>
 #include <string>
 #include <string_view>
+#include <utility>
 
 #include "forms/Control.h"
 #include "forms/User.h"
+#include "view/Colors.h"
 #include "view/PanelWindow.h"
 #include "view/Scale.h"
 
@@ -36,31 +38,64 @@ public:
     /// Shows the properties that the control has now. Called only while the panel is loaded.
     virtual void follow() = 0;
     /// The system's colours are other ones now.
-    virtual void forgetColors() { }
+    void forgetColors() { colors_.forget(); }
 
 protected:
     [[nodiscard]] PanelWindow& panelWindow() const { return window_; }
     /// The panel is closed, or closed and opened anew in another window: reading a property would load it again.
     [[nodiscard]] bool gone() const { return window_.gone(); }
 
-    /// Tells the desk an action of the user on the control; shows it anew even where the action was refused.
-    template <class Action>
-    void act(Control& control, Action&& action)
-    {
-        window_.act([&](User& user) { action(user); }, &control);
-    }
-
-    /// Puts the widget at its design place, on the panel or in its frame.
-    void place(const Control& control) { place(control, control.at().Top); }
-    void place(const Control& control, double top)
-    {
-        Box at = control.at();
-        at.Top = top;
-        widget().setGeometry(Scale{widget()}.pixels(at));
-    }
+    [[nodiscard]] Colors& colors() { return colors_; }
 
 private:
     PanelWindow& window_;
+    Colors colors_;
+};
+
+/// A widget that shows one control: `Base` is the toolkit's class, `Shown` the control's.
+template <class Base, class Shown>
+class WidgetOf : public Base, public ControlWidget {
+public:
+    QWidget& widget() final { return *this; }
+
+protected:
+    template <class... Arguments>
+    WidgetOf(PanelWindow& window, Shown& control, Arguments&&... ofBase)
+        : Base{std::forward<Arguments>(ofBase)...}, ControlWidget{window}, control_{control}
+    {
+    }
+
+    [[nodiscard]] Shown& control() const { return control_; }
+
+    /// Tells the desk what the user does with the control; shows it anew even where that was refused.
+    template <class Action>
+    void tell(Action&& action)
+    {
+        panelWindow().perform([&](User& user) { action(user); }, &control_);
+    }
+
+    void tellFocus()
+    {
+        tell([this](User& user) { user.focus(control_); });
+    }
+
+    void focusInEvent(QFocusEvent* event) override
+    {
+        Base::focusInEvent(event);
+        tellFocus();
+    }
+
+    /// Puts the widget at its design place, on the panel or in its frame.
+    void place() { place(control_.at().Top); }
+    void place(double top)
+    {
+        Box at = control_.at();
+        at.Top = top;
+        this->setGeometry(Scale{*this}.pixels(at));
+    }
+
+private:
+    Shown& control_;
 };
 
 } // namespace ondelis

@@ -59,16 +59,15 @@ QPixmap Drawing::render(const QSize& pixels) const
 }
 
 FrameWidget::FrameWidget(PanelWindow& window, Frame& frame, QWidget* parent)
-    : QGroupBox{withoutShortcut(frame.design().Caption), parent},
-      ControlWidget{window}, frame_{frame}, drawing_{frame.design().picture}
+    : WidgetOf{window, frame, withoutShortcut(frame.design().Caption), parent}, drawing_{frame.design().picture}
 {
     setAutoFillBackground(true);
 }
 
 void FrameWidget::follow()
 {
-    place(frame_);
-    setVisible(frame_.Visible);
+    place();
+    setVisible(control().Visible);
 }
 
 void FrameWidget::paintEvent(QPaintEvent* event)
@@ -80,14 +79,14 @@ void FrameWidget::paintEvent(QPaintEvent* event)
 }
 
 PictureWidget::PictureWidget(PanelWindow& window, Picture& picture, QWidget* parent)
-    : QWidget{parent}, ControlWidget{window}, picture_{picture}, drawing_{picture.design().picture}
+    : WidgetOf{window, picture, parent}, drawing_{picture.design().picture}
 {
 }
 
 void PictureWidget::follow()
 {
-    place(picture_);
-    setVisible(picture_.Visible);
+    place();
+    setVisible(control().Visible);
 }
 
 void PictureWidget::paintEvent(QPaintEvent* /*event*/)

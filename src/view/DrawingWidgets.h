@@ -33,34 +33,30 @@ private:
 };
 
 /// A titled group of controls, or a titled drawing. Captions and drawings of the panel that lie under it are not seen.
-class FrameWidget final : public QGroupBox, public ControlWidget {
+class FrameWidget final : public WidgetOf<QGroupBox, Frame> {
 public:
     FrameWidget(PanelWindow& window, Frame& frame, QWidget* parent);
 
-    QWidget& widget() override { return *this; }
     void follow() override;
 
 protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
-    Frame& frame_;
     Drawing drawing_;
 };
 
 /// A drawing.
-class PictureWidget final : public QWidget, public ControlWidget {
+class PictureWidget final : public WidgetOf<QWidget, Picture> {
 public:
     PictureWidget(PanelWindow& window, Picture& picture, QWidget* parent);
 
-    QWidget& widget() override { return *this; }
     void follow() override;
 
 protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
-    Picture& picture_;
     Drawing drawing_;
 };
 

@@ -39,8 +39,7 @@ char32_t enteredBy(const QKeyEvent& event)
 
 } // namespace
 
-TextBoxWidget::TextBoxWidget(PanelWindow& window, TextBox& box, QWidget* parent)
-    : LineField{parent}, ControlWidget{window}, box_{box}
+TextBoxWidget::TextBoxWidget(PanelWindow& window, TextBox& box, QWidget* parent) : WidgetOf{window, box, parent}
 {
     setFont(fontOf(box.design().font, *parent));
     setAlignment(horizontal(box.design().align));
@@ -49,23 +48,23 @@ TextBoxWidget::TextBoxWidget(PanelWindow& window, TextBox& box, QWidget* parent)
 
 void TextBoxWidget::follow()
 {
-    place(box_, Double{box_.Top}.value());
+    place(Double{control().Top}.value());
     followText();
-    setReadOnly(box_.Locked);
-    colors_.applyToField(*this, box_.BackColor, box_.ForeColor);
-    setVisible(box_.Visible);
+    setReadOnly(control().Locked);
+    colors().applyToField(*this, control().BackColor, control().ForeColor);
+    setVisible(control().Visible);
 }
 
 void TextBoxWidget::followText()
 {
     const QSignalBlocker quiet{this};
-    const QString stored = toQString(box_.Text.get());
+    const QString stored = toQString(control().Text.get());
     if (stored != text()) {
         if (maxLength() != unlimited) // a new limit is announced to screen readers as a new text
             setMaxLength(unlimited);
         setText(stored);
         // A text shows its start, but the caret of the field that is being typed in stays where typing goes on.
-        if (panelWindow().panel().desk().focused() != &box_)
+        if (panelWindow().panel().desk().focused() != &control())
             setCursorPosition(0);
     }
     limitLength();
@@ -73,7 +72,7 @@ void TextBoxWidget::followText()
 
 void TextBoxWidget::limitLength()
 {
-    const int limit = box_.design().MaxLength;
+    const int limit = control().design().MaxLength;
     const int length = limit == 0 ? unlimited : std::max(limit, static_cast<int>(text().size()));
     if (length == maxLength())
         return;
@@ -86,7 +85,7 @@ void TextBoxWidget::tellText()
 {
     const QString told = text();
     const QString after = told.mid(cursorPosition());
-    act(box_, [&](User& user) { user.edit(box_, toText(told.left(cursorPosition())), toText(after)); });
+    tell([&](User& user) { user.edit(control(), toText(told.left(cursorPosition())), toText(after)); });
     // What was put in may have been cut: typing goes on behind it.
     if (!gone() && text() != told && text().endsWith(after))
         setCursorPosition(static_cast<int>(text().size() - after.size()));
@@ -97,7 +96,7 @@ bool TextBoxWidget::tellKey(char32_t character)
     if (isReadOnly())
         return true;
     bool rewritten = false;
-    act(box_, [&](User& user) { rewritten = user.key(box_, character); });
+    tell([&](User& user) { rewritten = user.key(control(), character); });
     return !gone() && !(rewritten && character == backspaceKey);
 }
 
@@ -123,14 +122,7 @@ void TextBoxWidget::contextMenuEvent(QContextMenuEvent* event)
     popUp(createStandardContextMenu(), event->globalPos(), hasSelectedText(), text());
 }
 
-void TextBoxWidget::focusInEvent(QFocusEvent* event)
-{
-    LineField::focusInEvent(event);
-    act(box_, [&](User& user) { user.focus(box_); });
-}
-
-TextAreaWidget::TextAreaWidget(PanelWindow& window, TextBox& box, QWidget* parent)
-    : QPlainTextEdit{parent}, ControlWidget{window}, box_{box}
+TextAreaWidget::TextAreaWidget(PanelWindow& window, TextBox& box, QWidget* parent) : WidgetOf{window, box, parent}
 {
     setFont(fontOf(box.design().font, *parent));
     setTabChangesFocus(true);
@@ -139,19 +131,19 @@ TextAreaWidget::TextAreaWidget(PanelWindow& window, TextBox& box, QWidget* paren
 
 void TextAreaWidget::follow()
 {
-    place(box_, Double{box_.Top}.value());
+    place(Double{control().Top}.value());
     const QSignalBlocker quiet{this};
-    const QString stored = toQString(box_.Text.get());
+    const QString stored = toQString(control().Text.get());
     if (stored != toPlainText()) {
         setPlainText(stored);
-        if (panelWindow().panel().desk().focused() == &box_)
+        if (panelWindow().panel().desk().focused() == &control())
             moveCursor(QTextCursor::End);
     }
-    setReadOnly(box_.Locked);
+    setReadOnly(control().Locked);
     // Locked, it can still be walked through, selected and copied from by key.
     setTextInteractionFlags(textInteractionFlags() | Qt::TextSelectableByKeyboard | Qt::TextSelectableByMouse);
-    colors_.applyToField(*this, box_.BackColor, box_.ForeColor);
-    setVisible(box_.Visible);
+    colors().applyToField(*this, control().BackColor, control().ForeColor);
+    setVisible(control().Visible);
 }
 
 void TextAreaWidget::keyPressEvent(QKeyEvent* event)
@@ -174,31 +166,24 @@ void TextAreaWidget::wheelEvent(QWheelEvent* event)
         QPlainTextEdit::wheelEvent(event);
 }
 
-void TextAreaWidget::focusInEvent(QFocusEvent* event)
-{
-    QPlainTextEdit::focusInEvent(event);
-    act(box_, [&](User& user) { user.focus(box_); });
-}
-
 void TextAreaWidget::tellText()
 {
     const QString told = toPlainText();
     const int caret = textCursor().position();
-    act(box_, [&](User& user) { user.edit(box_, toText(told.left(caret)), toText(told.mid(caret))); });
+    tell([&](User& user) { user.edit(control(), toText(told.left(caret)), toText(told.mid(caret))); });
 }
 
-MaskEdBoxWidget::MaskEdBoxWidget(PanelWindow& window, MaskEdBox& box, QWidget* parent)
-    : LineField{parent}, ControlWidget{window}, box_{box}
+MaskEdBoxWidget::MaskEdBoxWidget(PanelWindow& window, MaskEdBox& box, QWidget* parent) : WidgetOf{window, box, parent}
 {
     setReadOnly(true);
 }
 
 void MaskEdBoxWidget::follow()
 {
-    place(box_);
-    setText(toQString(hasFocus() ? box_.Text.get() : box_.display()));
+    place();
+    setText(toQString(hasFocus() ? control().Text.get() : control().display()));
     setCursorPosition(0);
-    colors_.applyToField(*this, box_.design().BackColor, windowTextColor);
+    colors().applyToField(*this, control().design().BackColor, windowTextColor);
 }
 
 void MaskEdBoxWidget::keyPressEvent(QKeyEvent* event)
@@ -210,12 +195,6 @@ void MaskEdBoxWidget::keyPressEvent(QKeyEvent* event)
 void MaskEdBoxWidget::contextMenuEvent(QContextMenuEvent* event)
 {
     popUp(createStandardContextMenu(), event->globalPos(), hasSelectedText(), text());
-}
-
-void MaskEdBoxWidget::focusInEvent(QFocusEvent* event)
-{
-    LineField::focusInEvent(event);
-    act(box_, [&](User& user) { user.focus(box_); });
 }
 
 void MaskEdBoxWidget::focusOutEvent(QFocusEvent* event)

@@ -7,8 +7,7 @@
 
 namespace ondelis {
 
-LabelWidget::LabelWidget(PanelWindow& window, Label& label, QWidget* parent)
-    : QLabel{parent}, ControlWidget{window}, label_{label}
+LabelWidget::LabelWidget(PanelWindow& window, Label& label, QWidget* parent) : WidgetOf{window, label, parent}
 {
     setTextFormat(Qt::PlainText);
     setFont(fontOf(label.design().font, *parent));
@@ -20,17 +19,17 @@ LabelWidget::LabelWidget(PanelWindow& window, Label& label, QWidget* parent)
 
 void LabelWidget::follow()
 {
-    place(label_, Double{label_.Top}.value());
-    const QString caption = toQString(label_.Caption.get());
+    place(Double{control().Top}.value());
+    const QString caption = toQString(control().Caption.get());
     if (caption != text()) // each call is announced to screen readers
         setText(caption);
-    colors_.applyToText(*this, label_.design().ForeColor);
-    setVisible(label_.Visible);
+    colors().applyToText(*this, control().design().ForeColor);
+    setVisible(control().Visible);
 }
 
 void LabelWidget::contextMenuEvent(QContextMenuEvent* event)
 {
-    if (!gone() && label_.written() && !text().isEmpty())
+    if (!gone() && control().written() && !text().isEmpty())
         popUpCopy(*this, event->globalPos(), text());
     else
         event->ignore();

@@ -5,8 +5,7 @@
 
 namespace ondelis {
 
-ListBoxWidget::ListBoxWidget(PanelWindow& window, ListBox& list, QWidget* parent)
-    : QListWidget{parent}, ControlWidget{window}, list_{list}
+ListBoxWidget::ListBoxWidget(PanelWindow& window, ListBox& list, QWidget* parent) : WidgetOf{window, list, parent}
 {
     setUniformItemSizes(true);
     setFocusPolicy(Qt::TabFocus); // the base class would take the keyboard by any button
@@ -17,18 +16,18 @@ ListBoxWidget::ListBoxWidget(PanelWindow& window, ListBox& list, QWidget* parent
 void ListBoxWidget::follow()
 {
     const QScopedValueRollback following{following_, true};
-    place(list_);
+    place();
     followRows();
-    const int row = list_.ListIndex.get().value();
+    const int row = control().ListIndex.get().value();
     setCurrentRow(row, QItemSelectionModel::ClearAndSelect);
-    colors_.applyToField(*this, list_.BackColor, windowTextColor);
-    setVisible(list_.Visible);
+    colors().applyToField(*this, control().BackColor, windowTextColor);
+    setVisible(control().Visible);
 }
 
 void ListBoxWidget::followRows()
 {
     QStringList rows;
-    for (const std::string& text : list_.items())
+    for (const std::string& text : control().items())
         rows.append(toQString(text));
     bool same = rows.size() == count();
     for (int row = 0; same && row < count(); ++row)
@@ -77,7 +76,7 @@ void ListBoxWidget::focusInEvent(QFocusEvent* event)
     // The base class would choose the first row.
     QAbstractScrollArea::focusInEvent(event); // NOLINT(bugprone-parent-virtual-call)
     viewport()->update();
-    act(list_, [&](User& user) { user.focus(list_); });
+    tellFocus();
 }
 
 void ListBoxWidget::currentChanged(const QModelIndex& current, const QModelIndex& previous)
@@ -104,7 +103,7 @@ void ListBoxWidget::tellChoice()
     if (events_ > 0 || !chosen_)
         return;
     chosen_ = false;
-    act(list_, [&](User& user) { user.choose(list_, currentRow()); });
+    tell([&](User& user) { user.choose(control(), currentRow()); });
 }
 
 } // namespace ondelis

@@ -3,19 +3,16 @@
 #include <QListWidget>
 
 #include "forms/Controls.h"
-#include "view/Colors.h"
 #include "view/ControlWidget.h"
 
 namespace ondelis {
 
 /// A list of texts. Of the mouse only the left button chooses, and only it gives the list the keyboard.
-class ListBoxWidget final : public QListWidget, public ControlWidget {
+class ListBoxWidget final : public WidgetOf<QListWidget, ListBox> {
 public:
     ListBoxWidget(PanelWindow& window, ListBox& list, QWidget* parent);
 
-    QWidget& widget() override { return *this; }
     void follow() override;
-    void forgetColors() override { colors_.forget(); }
 
 protected:
     bool event(QEvent* event) override;
@@ -32,8 +29,6 @@ private:
     /// Tells the desk which row the user has chosen, once the base class is done with the event.
     void tellChoice();
 
-    ListBox& list_;
-    Colors colors_;
     bool chosen_ = false; ///< by the event that the base class is working on
     bool following_ = false;
     unsigned events_ = 0; ///< that the base class is working on

@@ -108,7 +108,7 @@ void MainWindow::makeMenu()
         dropDown->installEventFilter(this);
         for (const MenuEntry& entry : menu.entries) {
             QAction* const action = dropDown->addAction(
-                withoutShortcut(entry.caption), [this, &entry] { view_.act([&](User&) { frame_.click(entry); }); });
+                withoutShortcut(entry.caption), [this, &entry] { view_.perform([&](User&) { frame_.click(entry); }); });
             action->setObjectName(toQString(entry.control));
         }
     }
@@ -116,7 +116,7 @@ void MainWindow::makeMenu()
 
 void MainWindow::makeShortcuts()
 {
-    findChild<QAction*>(QStringLiteral("MenuQuitter"))->setShortcut(Qt::CTRL | Qt::Key_Q);
+    findChild<QAction*>(toQString(quitEntry))->setShortcut(Qt::CTRL | Qt::Key_Q);
     for (const Qt::Key key : {Qt::Key_F4, Qt::Key_W})
         connect(new QShortcut{Qt::CTRL | key, this}, &QShortcut::activated, area_, &QMdiArea::closeActiveSubWindow);
     connect(new QShortcut{Qt::Key_F1, this}, &QShortcut::activated, this, [this] { view_.showGuide(); });

@@ -94,11 +94,11 @@ void PanelWindow::activate()
         field->selectAll();
 }
 
-void PanelWindow::act(const std::function<void(User&)>& action, Control* control)
+void PanelWindow::perform(const std::function<void(User&)>& action, Control* control)
 {
     if (gone_)
         return;
-    view_.act([&](User& user) {
+    view_.perform([&](User& user) {
         action(user);
         if (!gone_ && control != nullptr)
             view_.controlChanged(*control);
@@ -118,7 +118,7 @@ void PanelWindow::nameAfter(const Label* label, QWidget& widget)
 void PanelWindow::closeEvent(QCloseEvent* event)
 {
     event->ignore(); // the window goes once the panel is unloaded and no handler runs
-    act([this](User& user) { user.close(panel_); });
+    perform([this](User& user) { user.close(panel_); });
 }
 
 void PanelWindow::moveEvent(QMoveEvent* event)

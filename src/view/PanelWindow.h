@@ -41,7 +41,7 @@ public:
     void activate();
 
     /// Runs an action of the user, on a control or on the panel itself.
-    void act(const std::function<void(User&)>& action, Control* control = nullptr);
+    void perform(const std::function<void(User&)>& action, Control* control = nullptr);
 
     /// Counts the boxes that have been shown so far.
     [[nodiscard]] unsigned boxesShown() const;

@@ -46,7 +46,7 @@ QAccessibleInterface* makeAccessible(const QString& /*className*/, QObject* obje
 } // namespace
 
 ScrollBarWidget::ScrollBarWidget(PanelWindow& window, ScrollBar& bar, Qt::Orientation orientation, QWidget* parent)
-    : QScrollBar{orientation, parent}, ControlWidget{window}, bar_{bar}
+    : WidgetOf{window, bar, orientation, parent}
 {
     QAccessible::installFactory(makeAccessible); // counts once however often it is called
     setFocusPolicy(Qt::TabFocus); // and by the left button
@@ -58,18 +58,18 @@ ScrollBarWidget::ScrollBarWidget(PanelWindow& window, ScrollBar& bar, Qt::Orient
 
 void ScrollBarWidget::follow()
 {
-    place(bar_);
+    place();
     const QSignalBlocker quiet{this};
     const int before = shownValue();
-    min_ = bar_.Min.get().value();
-    max_ = bar_.Max.get().value();
+    min_ = control().Min.get().value();
+    max_ = control().Max.get().value();
     setRange(0, positionOf(max_));
-    setValue(positionOf(bar_.Value.get().value()));
+    setValue(positionOf(control().Value.get().value()));
     if (shownValue() != before) {
         QAccessibleValueChangeEvent event{this, shownValue()};
         QAccessible::updateAccessibility(&event);
     }
-    setVisible(bar_.Visible);
+    setVisible(control().Visible);
 }
 
 void ScrollBarWidget::mousePressEvent(QMouseEvent* event)
@@ -121,16 +121,10 @@ void ScrollBarWidget::keyPressEvent(QKeyEvent* event)
     }
 }
 
-void ScrollBarWidget::focusInEvent(QFocusEvent* event)
-{
-    QScrollBar::focusInEvent(event);
-    act(bar_, [&](User& user) { user.focus(bar_); });
-}
-
 void ScrollBarWidget::tellValue()
 {
     const unsigned boxes = panelWindow().boxesShown();
-    act(bar_, [&](User& user) { user.move(bar_, shownValue()); });
+    tell([&](User& user) { user.move(control(), shownValue()); });
     if (panelWindow().boxesShown() != boxes)
         letGo();
 }

@@ -10,11 +10,10 @@ namespace ondelis {
 /// A bar. `Min` stands at its left or upper end, be it the smaller limit or the larger: the widget counts positions
 /// from that end. Only the left button, which gives it the keyboard, the keys and, while it has the keyboard, the wheel
 /// change it.
-class ScrollBarWidget final : public QScrollBar, public ControlWidget {
+class ScrollBarWidget final : public WidgetOf<QScrollBar, ScrollBar> {
 public:
     ScrollBarWidget(PanelWindow& window, ScrollBar& bar, Qt::Orientation orientation, QWidget* parent);
 
-    QWidget& widget() override { return *this; }
     void follow() override;
 
     /// The limits and the value of the control, as a screen reader is told them.
@@ -27,7 +26,6 @@ protected:
     void mousePressEvent(QMouseEvent* event) override;
     void wheelEvent(QWheelEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
-    void focusInEvent(QFocusEvent* event) override;
 
 private:
     [[nodiscard]] int positionOf(int value) const { return min_ <= max_ ? value - min_ : min_ - value; }
@@ -36,7 +34,6 @@ private:
     /// Lets the mouse button go: it was released over a box.
     void letGo();
 
-    ScrollBar& bar_;
     int min_ = 0;
     int max_ = 0;
 };

@@ -68,7 +68,7 @@ PanelWindow* View::find(const FeuilleCalcul& panel) const
     return found == windows_.end() ? nullptr : found->second;
 }
 
-void View::act(const std::function<void(User&)>& action)
+void View::perform(const std::function<void(User&)>& action)
 {
     if (waitingBoxes_ > 0 || showing_ || frame_->desk().ended())
         return;
@@ -259,7 +259,7 @@ void View::tellFocus()
     for (const auto& [panel, window] : windows_)
         if (Control* const control = window->controlOf(focused)) {
             if (control != frame_->desk().focused() && panel->visible() && control->focusable())
-                act([control](User& user) { user.focus(*control); });
+                perform([control](User& user) { user.focus(*control); });
             return;
         }
 }

@@ -34,7 +34,7 @@ public:
 
     /// Runs one action of the user and shows what it changed. While a box waits for its answer only `close` gets
     /// through; what widgets report while they are being changed is nobody's action.
-    void act(const std::function<void(User&)>& action);
+    void perform(const std::function<void(User&)>& action);
     /// The user closes the main window.
     void close();
     /// Opens the page of the guide on the active panel; nothing while a handler or a box waits.

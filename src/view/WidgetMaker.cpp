@@ -68,15 +68,10 @@ void WidgetMaker::visit(CommandButton& button)
     take(*new CommandButtonWidget{window_, button, parentOf(button)}, button);
 }
 
-void WidgetMaker::visit(HScrollBar& bar)
+void WidgetMaker::visit(ScrollBar& bar)
 {
-    take(*new ScrollBarWidget{window_, bar, Qt::Horizontal, parentOf(bar)}, bar);
-    window_.nameAfter(bar.design().label, made_->widget());
-}
-
-void WidgetMaker::visit(VScrollBar& bar)
-{
-    take(*new ScrollBarWidget{window_, bar, Qt::Vertical, parentOf(bar)}, bar);
+    const Qt::Orientation orientation = bar.orientation() == Orientation::Horizontal ? Qt::Horizontal : Qt::Vertical;
+    take(*new ScrollBarWidget{window_, bar, orientation, parentOf(bar)}, bar);
     window_.nameAfter(bar.design().label, made_->widget());
 }
 
@@ -87,14 +82,11 @@ void WidgetMaker::visit(Frame& frame)
     take(*made, frame);
 }
 
-void WidgetMaker::visit(PictureBox& picture)
+void WidgetMaker::visit(Picture& picture)
 {
-    show(picture);
-}
-
-void WidgetMaker::visit(Image& image)
-{
-    show(image);
+    auto* const made = new PictureWidget{window_, picture, parentOf(picture)};
+    drawings_.push_back(made);
+    take(*made, picture);
 }
 
 void WidgetMaker::visit(Line& line)
@@ -111,13 +103,6 @@ void WidgetMaker::visit(MaskEdBox& box)
 {
     take(*new MaskEdBoxWidget{window_, box, parentOf(box)}, box);
     window_.nameAfter(box.design().label, made_->widget());
-}
-
-void WidgetMaker::show(Picture& picture)
-{
-    auto* const made = new PictureWidget{window_, picture, parentOf(picture)};
-    drawings_.push_back(made);
-    take(*made, picture);
 }
 
 QWidget* WidgetMaker::parentOf(const Control& control) const

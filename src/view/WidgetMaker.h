@@ -27,18 +27,15 @@ private:
     void visit(ListBox& list) override;
     void visit(OptionButton& option) override;
     void visit(CommandButton& button) override;
-    void visit(HScrollBar& bar) override;
-    void visit(VScrollBar& bar) override;
+    void visit(ScrollBar& bar) override;
     void visit(Frame& frame) override;
-    void visit(PictureBox& picture) override;
-    void visit(Image& image) override;
+    void visit(Picture& picture) override;
     void visit(Line& line) override;
     void visit(Shape& shape) override;
     void visit(MaskEdBox& box) override;
 
     /// The frame around the control, or the panel.
     [[nodiscard]] QWidget* parentOf(const Control& control) const;
-    void show(Picture& picture);
     void take(ControlWidget& made, const Control& control);
     /// What paints the lines and shapes on the panel, or in the frame.
     LinesWidget& linesOn(const Control& control);

@@ -14,7 +14,7 @@ public:
 
     TextBox Before{this, "Before", {}};
     ControlArray<TextBox> TxtUSec{this, "TxtUSec", 3,
-        [](int i) { return TextBox::Design{.Text = std::to_string(i), .at = {.Top = ligne(i)}}; },
+        [](int i) { return TextBox::Design{.Text = std::to_string(i), .at = {.Top = rowTop(i)}}; },
         &Tableau::TxtUSec_Change};
     ControlArray<Label> Lbl{this, "Lbl", 3, [](int) { return Label::Design{}; }};
     TextBox After{this, "After", {}};

@@ -74,7 +74,7 @@ std::string RandomUser::place()
 std::string RandomUser::menuEntry()
 {
     if (dice_.percent(1))
-        return dice_.percent(50) ? "menu MenuQuitter" : "close MDIOndelis";
+        return dice_.percent(50) ? "menu " + std::string{quitEntry} : "close MDIOndelis";
     return "menu " + std::string{dice_.one(panelEntries())->control};
 }
 

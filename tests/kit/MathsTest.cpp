@@ -154,11 +154,11 @@ TEST(Pi, isFourTimesTheArcTangentOfOne)
 
 TEST(CuttingToDecimals, truncatesTheProductAsItRounds)
 {
-    struct Cut {
+    struct Case {
         double number;
         const char* text;
     };
-    constexpr Cut cuts[] = {
+    constexpr Case cases[] = {
         {1.999, "1.99"},
         {1.15, "1.14"},
         {1.4, "1.4"},
@@ -167,17 +167,17 @@ TEST(CuttingToDecimals, truncatesTheProductAsItRounds)
         {0.001, "0"},
         {-0.001, "0"},
     };
-    for (const auto& [number, text] : cuts)
-        EXPECT_EQ(CStr(Fix(Double{number} * 100) / 100), text);
+    for (const auto& [number, text] : cases)
+        EXPECT_EQ(CStr(Cut(Double{number}, 100)), text);
 }
 
 TEST(CuttingToDecimals, keepsThreeOrFourWhereAskedTo)
 {
     const Double x = 12.34567;
-    EXPECT_EQ(CStr(Fix(x * 1000) / 1000), "12.345");
-    EXPECT_EQ(CStr(Fix(x * 10000) / 10000), "12.3456");
-    EXPECT_EQ(Str(Fix(x * 100) / 100), " 12.34");
-    EXPECT_EQ(Str(Fix(x * 1000) / 1000), " 12.345");
+    EXPECT_EQ(CStr(Cut(x, 1000)), "12.345");
+    EXPECT_EQ(CStr(Cut(x, 10000)), "12.3456");
+    EXPECT_EQ(Str(Cut(x, 100)), " 12.34");
+    EXPECT_EQ(Str(Cut(x, 1000)), " 12.345");
 }
 
 } // namespace

@@ -40,7 +40,7 @@ struct Program {
     template <class Panel>
     Panel& open()
     {
-        view.act([this](User&) { desk.get<Panel>().Show(); });
+        view.perform([this](User&) { desk.get<Panel>().Show(); });
         return desk.get<Panel>();
     }
 
@@ -48,7 +48,7 @@ struct Program {
     template <class Store>
     void store(Store&& store)
     {
-        view.act([&](User&) { desk.perform(store); });
+        view.perform([&](User&) { desk.perform(store); });
     }
 
     [[nodiscard]] PanelWindow& window(const FeuilleCalcul& panel) const { return *view.find(panel); }

@@ -91,13 +91,11 @@ private:
         told_.role = QAccessible::PushButton;
         told_.name = toQString(button.design().Caption);
     }
-    void tellBar(ScrollBar& bar)
+    void visit(ScrollBar& bar) override
     {
         tell(QAccessible::ScrollBar, bar);
         told_.value = QString::number(bar.Value.get().value());
     }
-    void visit(HScrollBar& bar) override { tellBar(bar); }
-    void visit(VScrollBar& bar) override { tellBar(bar); }
     void visit(Label& label) override
     {
         told_.role = QAccessible::StaticText;
@@ -108,8 +106,7 @@ private:
         told_.role = QAccessible::Grouping;
         told_.name = toQString(frame.design().Caption);
     }
-    void visit(PictureBox& /*picture*/) override { }
-    void visit(Image& /*picture*/) override { }
+    void visit(Picture& /*picture*/) override { }
     void visit(Line& /*line*/) override { }
     void visit(Shape& /*shape*/) override { }
 

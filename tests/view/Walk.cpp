@@ -56,7 +56,7 @@ void Walk::reopen()
 
 bool Walk::act(const std::function<void(User&)>& action)
 {
-    program_->view.act(action);
+    program_->view.perform(action);
     if (!program_->desk.ended())
         return true;
     reopen();

@@ -225,7 +225,7 @@ void ControlReader::visit(CommandButton& button)
     readVisible(button);
 }
 
-void ControlReader::readBar(const ScrollBar& bar)
+void ControlReader::visit(ScrollBar& bar)
 {
     const auto& widget = widgetOf<ScrollBarWidget>(bar);
     seen("Value", widget.shownValue());
@@ -242,6 +242,12 @@ void ControlReader::visit(Frame& frame)
     seenText("Caption", captionOf(widgetOf<QGroupBox>(frame).title()));
     unseen("Picture");
     readVisible(frame);
+}
+
+void ControlReader::visit(Picture& picture)
+{
+    readVisible(picture);
+    unseen("Picture");
 }
 
 void ControlReader::visit(Line& line)

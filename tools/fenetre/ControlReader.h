@@ -33,11 +33,9 @@ private:
     void visit(ListBox& list) override;
     void visit(OptionButton& option) override;
     void visit(CommandButton& button) override;
-    void visit(HScrollBar& bar) override { readBar(bar); }
-    void visit(VScrollBar& bar) override { readBar(bar); }
+    void visit(ScrollBar& bar) override;
     void visit(Frame& frame) override;
-    void visit(PictureBox& picture) override { readPicture(picture); }
-    void visit(Image& image) override { readPicture(image); }
+    void visit(Picture& picture) override;
     void visit(Line& line) override;
     void visit(Shape& shape) override;
     void visit(MaskEdBox& box) override;
@@ -50,12 +48,6 @@ private:
     /// Nobody can see that member.
     void unseen(const char* member) { looked_.insert(member); }
     void readVisible(const Control& control);
-    void readPicture(const Picture& picture)
-    {
-        readVisible(picture);
-        unseen("Picture");
-    }
-    void readBar(const ScrollBar& bar);
     /// A place in pixels, along one axis.
     void seenPlace(const char* member, const Property<Single>& said, int pixels, const QWidget& widget);
     void seenText(const char* member, const QString& text);

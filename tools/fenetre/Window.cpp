@@ -78,7 +78,7 @@ Window::Window(Painting painting) : painting_{painting}
 Window::~Window()
 {
     hands_.leave();
-    view_.act([this](User&) {
+    view_.perform([this](User&) {
         while (!desk_.loadedPanels().empty())
             desk_.Unload(*desk_.loadedPanels().front());
     });

@@ -18,7 +18,7 @@ std::vector<Subject> allSubjects()
     std::vector<Subject> subjects;
     for (const Menu& menu : menuTree())
         for (const MenuEntry& entry : menu.entries) {
-            if (entry.control == "MenuQuitter")
+            if (entry.control == quitEntry)
                 continue;
             frame.click(entry);
             // The companion is loaded after the panel beside which it stands.

@@ -31,7 +31,7 @@ Sitting::Sitting()
 
 Sitting::~Sitting()
 {
-    view_.act([this](User&) {
+    view_.perform([this](User&) {
         while (!desk_.loadedPanels().empty())
             desk_.Unload(*desk_.loadedPanels().front());
     });
@@ -58,7 +58,7 @@ void Sitting::play(std::string_view line)
 void Sitting::run(const pilote::Deed& deed)
 {
     pilote::Hands::Refusal refusal;
-    view_.act([&](User&) { refusal = deed(hands_); });
+    view_.perform([&](User&) { refusal = deed(hands_); });
     if (desk_.ended())
         throw Refused{"the program has ended: " + lastBox_};
     settle();

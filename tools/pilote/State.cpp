@@ -106,15 +106,22 @@ public:
         state = {{"kind", "CommandButton"}, {"Caption", button.design().Caption}, {"Value", yes(button.Value)},
             {"Visible", yes(button.Visible)}};
     }
-    void visit(HScrollBar& bar) override { visitBar("HScrollBar", bar); }
-    void visit(VScrollBar& bar) override { visitBar("VScrollBar", bar); }
+    void visit(ScrollBar& bar) override
+    {
+        state = {{"kind", bar.orientation() == Orientation::Horizontal ? "HScrollBar" : "VScrollBar"},
+            {"Value", number(bar.Value)}, {"Min", number(bar.Min)}, {"Max", number(bar.Max)},
+            {"SmallChange", bar.design().SmallChange.value()}, {"LargeChange", bar.design().LargeChange.value()},
+            {"Visible", yes(bar.Visible)}, {"Label", labelOf(bar.design().label)}};
+    }
     void visit(Frame& frame) override
     {
         state = {{"kind", "Frame"}, {"Caption", frame.design().Caption}, {"Picture", frame.design().picture},
             {"Visible", yes(frame.Visible)}};
     }
-    void visit(PictureBox& picture) override { visitPicture("PictureBox", picture); }
-    void visit(Image& image) override { visitPicture("Image", image); }
+    void visit(Picture& picture) override
+    {
+        state = {{"kind", picture.kind()}, {"Picture", picture.design().picture}, {"Visible", yes(picture.Visible)}};
+    }
     void visit(Line& line) override
     {
         state = {{"kind", "Line"}, {"X1", twips(line.X1)}, {"Y1", twips(line.Y1)}, {"X2", twips(line.X2)},
@@ -126,18 +133,6 @@ public:
     {
         state = {{"kind", "MaskEdBox"}, {"Text", text(box.Text)}, {"Display", box.display()},
             {"BackColor", plainColor(box.design().BackColor)}, {"Label", labelOf(box.design().label)}};
-    }
-
-private:
-    void visitBar(const char* kind, const ScrollBar& bar)
-    {
-        state = {{"kind", kind}, {"Value", number(bar.Value)}, {"Min", number(bar.Min)}, {"Max", number(bar.Max)},
-            {"SmallChange", bar.design().SmallChange.value()}, {"LargeChange", bar.design().LargeChange.value()},
-            {"Visible", yes(bar.Visible)}, {"Label", labelOf(bar.design().label)}};
-    }
-    void visitPicture(const char* kind, const Picture& picture)
-    {
-        state = {{"kind", kind}, {"Picture", picture.design().picture}, {"Visible", yes(picture.Visible)}};
     }
 };
 

@@ -8,12 +8,6 @@
 
 namespace ondelis {
 
-AntennesDipolesRaccourcis::AntennesDipolesRaccourcis(Desk& desk)
-    : FeuilleCalcul{
-        desk, {.name = "AntennesDipolesRaccourcis", .Caption = "Dipoles raccourcis", .Width = 5820, .Height = 6150}}
-{
-}
-
 void AntennesDipolesRaccourcis::Form_Load()
 {
     resumeNext([&] { TxtA.Text = "15"; });
@@ -67,7 +61,7 @@ void AntennesDipolesRaccourcis::Calculer()
     const Double w = (FreqDip * LongA / 2 - FreqDip * LongB) / 234;
     const Double T2 = (Log(24 * v / DiamFil) - 1) * (Pow(w, 2) - 1) / v;
     const Double K = 1000000 / (34 * Pi() * FreqDip);
-    const Double X = Fix(K * (T1 - T2) * 100) / 100;
+    const Double X = Cut(K * (T1 - T2), 100);
     TxtXL.Text = TraitementMultiplicateur(X);
     const Double L = X * (1 / (2 * Pi() * FreqDip * 1000000));
     TxtValSelf.Text = TraitementMultiplicateur(L);

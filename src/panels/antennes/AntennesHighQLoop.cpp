@@ -9,19 +9,6 @@
 
 namespace ondelis {
 
-AntennesHighQLoop::AntennesHighQLoop(Desk& desk)
-    : FeuilleCalcul{
-        desk, {.name = "AntennesHighQLoop", .Caption = "Calcul des High Q Loop", .Width = 14220, .Height = 7740}}
-{
-}
-
-TextBox::Design AntennesHighQLoop::champ(Box at, Label* label, Frame* bloc)
-{
-    TextBox::Design design = resultField(at, label);
-    design.container = bloc;
-    return design;
-}
-
 void AntennesHighQLoop::Form_Load()
 {
     resumeNext([&] { NbSpires = 1.0; });
@@ -84,7 +71,7 @@ void AntennesHighQLoop::BtnCalculer_Click()
     FreqMoy = (FreqMax - FreqMin) / 2 + FreqMin;
     TxtFreqMoy.Text = CStr(Pow(10, -6) * FreqMoy);
     LambdaMoy = 3 * Pow(10, 8) / FreqMoy;
-    TxtLambdaMoy.Text = CStr(Fix(LambdaMoy * 1000) / 1000);
+    TxtLambdaMoy.Text = CStr(Cut(LambdaMoy, 1000));
     DeltaFMoy = (DeltaFMax - DeltaFMin) / 2 + DeltaFMin;
     TxtDeltaFMoy.Text = CStr(Pow(10, -3) * DeltaFMoy);
     const Double p = LambdaMoy / LambdaSur; // perimeter
@@ -94,7 +81,7 @@ void AntennesHighQLoop::BtnCalculer_Click()
     Rayon = Cote / (2 * Sin(AngleCote));
     TxtRayon.Text = CStr(Fix(Rayon * 1000) / 10);
     Surface = Cote * 0.5 * Rayon * Cos(AngleCote) * NbCotes;
-    TxtSurface.Text = CStr(Fix(Surface * 10000) / 10000);
+    TxtSurface.Text = CStr(Cut(Surface, 10000));
     Inductance = Pow(10, -6) * InductancePolygone(NbCotes, NbSpires, Cote);
     TxtInductance.Text = CStr(Pow(10, 6) * Inductance);
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "forms/Column.h"
 #include "forms/Controls.h"
 #include "forms/FeuilleCalcul.h"
 
@@ -8,77 +9,93 @@ namespace ondelis {
 /// A small tuned polygonal loop of high Q for a band of frequencies, and what it does at both edges of the band.
 class AntennesHighQLoop final : public FeuilleCalcul {
 public:
-    explicit AntennesHighQLoop(Desk& desk);
+    explicit AntennesHighQLoop(Desk& desk)
+        : FeuilleCalcul{
+            desk, {.name = "AntennesHighQLoop", .Caption = "Calcul des High Q Loop", .Width = 14220, .Height = 7740}}
+    {
+    }
 
-    // clang-format off
-    Label         LblFreqMin     {this, "LblFreqMin",      {.Caption = "Fréquence Mini en MHz", .at = {240, 270, 2520, 255}}};
-    TextBox       TxtFreqMin     {this, "TxtFreqMin",      {.at = {2820, 240, 1320, 315}, .label = &LblFreqMin}, &AntennesHighQLoop::TxtFreqMin_Change};
-    Label         LblFreqMax     {this, "LblFreqMax",      {.Caption = "Fréquence Maxi en MHz", .at = {240, 630, 2520, 255}}};
-    TextBox       TxtFreqMax     {this, "TxtFreqMax",      {.at = {2820, 600, 1320, 315}, .label = &LblFreqMax}, &AntennesHighQLoop::TxtFreqMax_Change};
-    Label         LblDeltaFMin   {this, "LblDeltaFMin",    {.Caption = "DeltaF Mini en KHz", .at = {240, 990, 2520, 255}}};
-    TextBox       TxtDeltaFMin   {this, "TxtDeltaFMin",    {.at = {2820, 960, 1320, 315}, .label = &LblDeltaFMin}, &AntennesHighQLoop::TxtDeltaFMin_Change};
-    Label         LblDeltaFMax   {this, "LblDeltaFMax",    {.Caption = "DeltaF Maxi en KHz", .at = {240, 1350, 2520, 255}}};
-    TextBox       TxtDeltaFMax   {this, "TxtDeltaFMax",    {.at = {2820, 1320, 1320, 315}, .label = &LblDeltaFMax}, &AntennesHighQLoop::TxtDeltaFMax_Change};
-    Label         LblNbreCotes   {this, "LblNbreCotes",    {.Caption = "Nombre de cotes", .at = {240, 1785, 2520, 255}}};
-    ListBox       LstNbreCotes   {this, "LstNbreCotes",    {.Items = {"3", "4", "6", "8"}, .at = {2820, 1755, 1320, 1020}, .label = &LblNbreCotes}, &AntennesHighQLoop::LstNbreCotes_Click};
-    Label         LblLambdaSur   {this, "LblLambdaSur",    {.Caption = "Lambda sur ...", .at = {240, 2925, 2520, 255}}};
-    ListBox       LstLambdaSur   {this, "LstLambdaSur",    {.Items = {"1", "2", "3", "4", "5", "6", "7", "8", "9", "10", "11", "12", "13"}, .at = {2820, 2895, 1320, 3180}, .label = &LblLambdaSur}, &AntennesHighQLoop::LstLambdaSur_Click};
-    Label         LblPuissance   {this, "LblPuissance",    {.Caption = "Puissance utilisée en Watts", .at = {240, 6225, 2520, 255}}};
-    TextBox       TxtPuissance   {this, "TxtPuissance",    {.at = {2820, 6195, 1320, 315}, .label = &LblPuissance}, &AntennesHighQLoop::TxtPuissance_Change};
-    CommandButton BtnCalculer    {this, "BtnCalculer",     {.Caption = "Calculer", .at = {2820, 6705, 1320, 375}}, &AntennesHighQLoop::BtnCalculer_Click};
+    using Me = AntennesHighQLoop;
+    static constexpr Column colonne{.left = 240, .captions = 2520};
+    static constexpr Column colonne_2 = colonne.from(1755);
+    static constexpr Column colonne_3 = colonne.from(2895);
+    static constexpr Column colonne_4 = colonne.from(6195);
+    static constexpr Column colonne2{.left = 4440, .captions = 2280};
+    static constexpr Column colonne3{.left = 180, .captions = 1560, .top = 345};
 
-    Label         LblFreqMoy     {this, "LblFreqMoy",      {.Caption = "Fréquence Moy en MHz", .at = {4440, 270, 2280, 255}}};
-    TextBox       TxtFreqMoy     {this, "TxtFreqMoy",      champ({6780, 240, 2400, 315}, &LblFreqMoy)};
-    Label         LblDeltaFMoy   {this, "LblDeltaFMoy",    {.Caption = "DeltaF Moy en kHz", .at = {4440, 630, 2280, 255}}};
-    TextBox       TxtDeltaFMoy   {this, "TxtDeltaFMoy",    champ({6780, 600, 2400, 315}, &LblDeltaFMoy)};
-    Label         LblLambdaMoy   {this, "LblLambdaMoy",    {.Caption = "Lambda moy en m", .at = {4440, 990, 2280, 255}}};
-    TextBox       TxtLambdaMoy   {this, "TxtLambdaMoy",    champ({6780, 960, 2400, 315}, &LblLambdaMoy)};
-    Label         LblLongueurCote{this, "LblLongueurCote", {.Caption = "Longueur cote en cm", .at = {4440, 1350, 2280, 255}}};
-    TextBox       TxtLongueurCote{this, "TxtLongueurCote", champ({6780, 1320, 2400, 315}, &LblLongueurCote)};
-    Label         LblRayon       {this, "LblRayon",        {.Caption = "Rayon de la loop en cm", .at = {4440, 1710, 2280, 255}}};
-    TextBox       TxtRayon       {this, "TxtRayon",        champ({6780, 1680, 2400, 315}, &LblRayon)};
-    Label         LblSurface     {this, "LblSurface",      {.Caption = "Surface de la loop en m²", .at = {4440, 2070, 2280, 255}}};
-    TextBox       TxtSurface     {this, "TxtSurface",      champ({6780, 2040, 2400, 315}, &LblSurface)};
-    Label         LblInductance  {this, "LblInductance",   {.Caption = "Inductance en µH", .at = {4440, 2430, 2280, 255}}};
-    TextBox       TxtInductance  {this, "TxtInductance",   champ({6780, 2400, 2400, 315}, &LblInductance)};
-    PictureBox    Picture2       {this, "Picture2",        {.picture = "high-q-loop", .at = {4440, 2955, 4680, 4065}}};
+    Label LblFreqMin{this, "LblFreqMin", colonne.caption(0, "Fréquence Mini en MHz")};
+    TextBox TxtFreqMin{this, "TxtFreqMin", colonne.input(LblFreqMin), &Me::TxtFreqMin_Change};
+    Label LblFreqMax{this, "LblFreqMax", colonne.caption(1, "Fréquence Maxi en MHz")};
+    TextBox TxtFreqMax{this, "TxtFreqMax", colonne.input(LblFreqMax), &Me::TxtFreqMax_Change};
+    Label LblDeltaFMin{this, "LblDeltaFMin", colonne.caption(2, "DeltaF Mini en KHz")};
+    TextBox TxtDeltaFMin{this, "TxtDeltaFMin", colonne.input(LblDeltaFMin), &Me::TxtDeltaFMin_Change};
+    Label LblDeltaFMax{this, "LblDeltaFMax", colonne.caption(3, "DeltaF Maxi en KHz")};
+    TextBox TxtDeltaFMax{this, "TxtDeltaFMax", colonne.input(LblDeltaFMax), &Me::TxtDeltaFMax_Change};
+    Label LblNbreCotes{this, "LblNbreCotes", colonne_2.caption(0, "Nombre de cotes")};
+    ListBox LstNbreCotes{
+        this, "LstNbreCotes", colonne_2.list(LblNbreCotes, {"3", "4", "6", "8"}), &Me::LstNbreCotes_Click};
+    Label LblLambdaSur{this, "LblLambdaSur", colonne_3.caption(0, "Lambda sur ...")};
+    ListBox LstLambdaSur{this, "LstLambdaSur",
+        colonne_3.list(LblLambdaSur, {"1", "2", "3", "4", "5", "6", "7", "8", "9", "10", "11", "12", "13"}),
+        &Me::LstLambdaSur_Click};
+    Label LblPuissance{this, "LblPuissance", colonne_4.caption(0, "Puissance utilisée en Watts")};
+    TextBox TxtPuissance{this, "TxtPuissance", colonne_4.input(LblPuissance), &Me::TxtPuissance_Change};
+    CommandButton BtnCalculer{
+        this, "BtnCalculer", {.Caption = "Calculer", .at = {2820, 6705, 1320, 375}}, &Me::BtnCalculer_Click};
 
-    Frame         FrmFreqMin     {this, "FrmFreqMin",      {.Caption = "Fonctionnement à la fréquence minimum", .at = {9480, 180, 4380, 3360}}};
-    Label         LblQ_FreqMin   {this, "LblQ_FreqMin",    {.Caption = "Q", .at = {180, 375, 1560, 255}, .container = &FrmFreqMin}};
-    TextBox       TxtQ_FreqMin   {this, "TxtQ_FreqMin",    champ({1800, 345, 2400, 315}, &LblQ_FreqMin, &FrmFreqMin)};
-    Label         LblXL_FreqMin  {this, "LblXL_FreqMin",   {.Caption = "XL", .at = {180, 735, 1560, 255}, .container = &FrmFreqMin}};
-    TextBox       TxtXL_FreqMin  {this, "TxtXL_FreqMin",   champ({1800, 705, 2400, 315}, &LblXL_FreqMin, &FrmFreqMin)};
-    Label         LblRR_FreqMin  {this, "LblRR_FreqMin",   {.Caption = "RR", .at = {180, 1095, 1560, 255}, .container = &FrmFreqMin}};
-    TextBox       TxtRR_FreqMin  {this, "TxtRR_FreqMin",   champ({1800, 1065, 2400, 315}, &LblRR_FreqMin, &FrmFreqMin)};
-    Label         LblRL_FreqMin  {this, "LblRL_FreqMin",   {.Caption = "RL", .at = {180, 1455, 1560, 255}, .container = &FrmFreqMin}};
-    TextBox       TxtRL_FreqMin  {this, "TxtRL_FreqMin",   champ({1800, 1425, 2400, 315}, &LblRL_FreqMin, &FrmFreqMin)};
-    Label         LblVC_FreqMin  {this, "LblVC_FreqMin",   {.Caption = "Vc", .at = {180, 1815, 1560, 255}, .container = &FrmFreqMin}};
-    TextBox       TxtVC_FreqMin  {this, "TxtVC_FreqMin",   champ({1800, 1785, 2400, 315}, &LblVC_FreqMin, &FrmFreqMin)};
-    Label         LblIL_FreqMin  {this, "LblIL_FreqMin",   {.Caption = "IL", .at = {180, 2175, 1560, 255}, .container = &FrmFreqMin}};
-    TextBox       TxtIL_FreqMin  {this, "TxtIL_FreqMin",   champ({1800, 2145, 2400, 315}, &LblIL_FreqMin, &FrmFreqMin)};
-    Label         LblNeta_FreqMin{this, "LblNeta_FreqMin", {.Caption = "Efficacite", .at = {180, 2535, 1560, 255}, .container = &FrmFreqMin}};
-    TextBox       TxtNeta_FreqMin{this, "TxtNeta_FreqMin", champ({1800, 2505, 2400, 315}, &LblNeta_FreqMin, &FrmFreqMin)};
-    Label         LblCf_FreqMin  {this, "LblCf_FreqMin",   {.Caption = "Condensateur F", .at = {180, 2895, 1560, 255}, .container = &FrmFreqMin}};
-    TextBox       TxtCf_FreqMin  {this, "TxtCf_FreqMin",   champ({1800, 2865, 2400, 315}, &LblCf_FreqMin, &FrmFreqMin)};
+    Label LblFreqMoy{this, "LblFreqMoy", colonne2.caption(0, "Fréquence Moy en MHz")};
+    TextBox TxtFreqMoy{this, "TxtFreqMoy", colonne2.result(LblFreqMoy)};
+    Label LblDeltaFMoy{this, "LblDeltaFMoy", colonne2.caption(1, "DeltaF Moy en kHz")};
+    TextBox TxtDeltaFMoy{this, "TxtDeltaFMoy", colonne2.result(LblDeltaFMoy)};
+    Label LblLambdaMoy{this, "LblLambdaMoy", colonne2.caption(2, "Lambda moy en m")};
+    TextBox TxtLambdaMoy{this, "TxtLambdaMoy", colonne2.result(LblLambdaMoy)};
+    Label LblLongueurCote{this, "LblLongueurCote", colonne2.caption(3, "Longueur cote en cm")};
+    TextBox TxtLongueurCote{this, "TxtLongueurCote", colonne2.result(LblLongueurCote)};
+    Label LblRayon{this, "LblRayon", colonne2.caption(4, "Rayon de la loop en cm")};
+    TextBox TxtRayon{this, "TxtRayon", colonne2.result(LblRayon)};
+    Label LblSurface{this, "LblSurface", colonne2.caption(5, "Surface de la loop en m²")};
+    TextBox TxtSurface{this, "TxtSurface", colonne2.result(LblSurface)};
+    Label LblInductance{this, "LblInductance", colonne2.caption(6, "Inductance en µH")};
+    TextBox TxtInductance{this, "TxtInductance", colonne2.result(LblInductance)};
+    PictureBox Picture2{this, "Picture2", {.picture = "high-q-loop", .at = {4440, 2955, 4680, 4065}}};
 
-    Frame         FrmFreqMax     {this, "FrmFreqMax",      {.Caption = "Fonctionnement à la fréquence maximum", .at = {9480, 3720, 4380, 3360}}};
-    Label         LblQ_FreqMax   {this, "LblQ_FreqMax",    {.Caption = "Q", .at = {180, 375, 1560, 255}, .container = &FrmFreqMax}};
-    TextBox       TxtQ_FreqMax   {this, "TxtQ_FreqMax",    champ({1800, 345, 2400, 315}, &LblQ_FreqMax, &FrmFreqMax)};
-    Label         LblXL_FreqMax  {this, "LblXL_FreqMax",   {.Caption = "XL", .at = {180, 735, 1560, 255}, .container = &FrmFreqMax}};
-    TextBox       TxtXL_FreqMax  {this, "TxtXL_FreqMax",   champ({1800, 705, 2400, 315}, &LblXL_FreqMax, &FrmFreqMax)};
-    Label         LblRR_FreqMax  {this, "LblRR_FreqMax",   {.Caption = "RR", .at = {180, 1095, 1560, 255}, .container = &FrmFreqMax}};
-    TextBox       TxtRR_FreqMax  {this, "TxtRR_FreqMax",   champ({1800, 1065, 2400, 315}, &LblRR_FreqMax, &FrmFreqMax)};
-    Label         LblRL_FreqMax  {this, "LblRL_FreqMax",   {.Caption = "RL", .at = {180, 1455, 1560, 255}, .container = &FrmFreqMax}};
-    TextBox       TxtRL_FreqMax  {this, "TxtRL_FreqMax",   champ({1800, 1425, 2400, 315}, &LblRL_FreqMax, &FrmFreqMax)};
-    Label         LblVC_FreqMax  {this, "LblVC_FreqMax",   {.Caption = "Vc", .at = {180, 1815, 1560, 255}, .container = &FrmFreqMax}};
-    TextBox       TxtVC_FreqMax  {this, "TxtVC_FreqMax",   champ({1800, 1785, 2400, 315}, &LblVC_FreqMax, &FrmFreqMax)};
-    Label         LblIL_FreqMax  {this, "LblIL_FreqMax",   {.Caption = "IL", .at = {180, 2175, 1560, 255}, .container = &FrmFreqMax}};
-    TextBox       TxtIL_FreqMax  {this, "TxtIL_FreqMax",   champ({1800, 2145, 2400, 315}, &LblIL_FreqMax, &FrmFreqMax)};
-    Label         LblNeta_FreqMax{this, "LblNeta_FreqMax", {.Caption = "Efficacite", .at = {180, 2535, 1560, 255}, .container = &FrmFreqMax}};
-    TextBox       TxtNeta_FreqMax{this, "TxtNeta_FreqMax", champ({1800, 2505, 2400, 315}, &LblNeta_FreqMax, &FrmFreqMax)};
-    Label         LblCf_FreqMax  {this, "LblCf_FreqMax",   {.Caption = "Condensateur F", .at = {180, 2895, 1560, 255}, .container = &FrmFreqMax}};
-    TextBox       TxtCf_FreqMax  {this, "TxtCf_FreqMax",   champ({1800, 2865, 2400, 315}, &LblCf_FreqMax, &FrmFreqMax)};
-    // clang-format on
+    Frame FrmFreqMin{
+        this, "FrmFreqMin", {.Caption = "Fonctionnement à la fréquence minimum", .at = {9480, 180, 4380, 3360}}};
+    Label LblQ_FreqMin{this, "LblQ_FreqMin", colonne3.caption(0, "Q", &FrmFreqMin)};
+    TextBox TxtQ_FreqMin{this, "TxtQ_FreqMin", colonne3.result(LblQ_FreqMin)};
+    Label LblXL_FreqMin{this, "LblXL_FreqMin", colonne3.caption(1, "XL", &FrmFreqMin)};
+    TextBox TxtXL_FreqMin{this, "TxtXL_FreqMin", colonne3.result(LblXL_FreqMin)};
+    Label LblRR_FreqMin{this, "LblRR_FreqMin", colonne3.caption(2, "RR", &FrmFreqMin)};
+    TextBox TxtRR_FreqMin{this, "TxtRR_FreqMin", colonne3.result(LblRR_FreqMin)};
+    Label LblRL_FreqMin{this, "LblRL_FreqMin", colonne3.caption(3, "RL", &FrmFreqMin)};
+    TextBox TxtRL_FreqMin{this, "TxtRL_FreqMin", colonne3.result(LblRL_FreqMin)};
+    Label LblVC_FreqMin{this, "LblVC_FreqMin", colonne3.caption(4, "Vc", &FrmFreqMin)};
+    TextBox TxtVC_FreqMin{this, "TxtVC_FreqMin", colonne3.result(LblVC_FreqMin)};
+    Label LblIL_FreqMin{this, "LblIL_FreqMin", colonne3.caption(5, "IL", &FrmFreqMin)};
+    TextBox TxtIL_FreqMin{this, "TxtIL_FreqMin", colonne3.result(LblIL_FreqMin)};
+    Label LblNeta_FreqMin{this, "LblNeta_FreqMin", colonne3.caption(6, "Efficacite", &FrmFreqMin)};
+    TextBox TxtNeta_FreqMin{this, "TxtNeta_FreqMin", colonne3.result(LblNeta_FreqMin)};
+    Label LblCf_FreqMin{this, "LblCf_FreqMin", colonne3.caption(7, "Condensateur F", &FrmFreqMin)};
+    TextBox TxtCf_FreqMin{this, "TxtCf_FreqMin", colonne3.result(LblCf_FreqMin)};
+
+    Frame FrmFreqMax{
+        this, "FrmFreqMax", {.Caption = "Fonctionnement à la fréquence maximum", .at = {9480, 3720, 4380, 3360}}};
+    Label LblQ_FreqMax{this, "LblQ_FreqMax", colonne3.caption(0, "Q", &FrmFreqMax)};
+    TextBox TxtQ_FreqMax{this, "TxtQ_FreqMax", colonne3.result(LblQ_FreqMax)};
+    Label LblXL_FreqMax{this, "LblXL_FreqMax", colonne3.caption(1, "XL", &FrmFreqMax)};
+    TextBox TxtXL_FreqMax{this, "TxtXL_FreqMax", colonne3.result(LblXL_FreqMax)};
+    Label LblRR_FreqMax{this, "LblRR_FreqMax", colonne3.caption(2, "RR", &FrmFreqMax)};
+    TextBox TxtRR_FreqMax{this, "TxtRR_FreqMax", colonne3.result(LblRR_FreqMax)};
+    Label LblRL_FreqMax{this, "LblRL_FreqMax", colonne3.caption(3, "RL", &FrmFreqMax)};
+    TextBox TxtRL_FreqMax{this, "TxtRL_FreqMax", colonne3.result(LblRL_FreqMax)};
+    Label LblVC_FreqMax{this, "LblVC_FreqMax", colonne3.caption(4, "Vc", &FrmFreqMax)};
+    TextBox TxtVC_FreqMax{this, "TxtVC_FreqMax", colonne3.result(LblVC_FreqMax)};
+    Label LblIL_FreqMax{this, "LblIL_FreqMax", colonne3.caption(5, "IL", &FrmFreqMax)};
+    TextBox TxtIL_FreqMax{this, "TxtIL_FreqMax", colonne3.result(LblIL_FreqMax)};
+    Label LblNeta_FreqMax{this, "LblNeta_FreqMax", colonne3.caption(6, "Efficacite", &FrmFreqMax)};
+    TextBox TxtNeta_FreqMax{this, "TxtNeta_FreqMax", colonne3.result(LblNeta_FreqMax)};
+    Label LblCf_FreqMax{this, "LblCf_FreqMax", colonne3.caption(7, "Condensateur F", &FrmFreqMax)};
+    TextBox TxtCf_FreqMax{this, "TxtCf_FreqMax", colonne3.result(LblCf_FreqMax)};
 
     Double FreqMin; ///< Hz, as the two below: edges and centre of the band
     Double FreqMax;
@@ -99,7 +116,6 @@ public:
 
 private:
     /// A result, on the light yellow of this panel.
-    static TextBox::Design champ(Box at, Label* label, Frame* bloc = nullptr);
 
     void Form_Load() override;
     void TxtFreqMin_Change();

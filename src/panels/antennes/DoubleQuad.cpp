@@ -5,11 +5,6 @@
 
 namespace ondelis {
 
-DoubleQuad::DoubleQuad(Desk& desk)
-    : FeuilleCalcul{desk, {.name = "DoubleQuad", .Caption = "Double Quad", .Width = 11580, .Height = 3555}}
-{
-}
-
 void DoubleQuad::Form_Load()
 {
     resumeNext([&] { TxtFreq.Text = "1280"; });
@@ -21,10 +16,10 @@ void DoubleQuad::TxtFreq_Change()
     LambdaDq = 300 / FreqDq * 1000;
     TxtLambda.Text = CStr(LambdaDq);
     QuartLambda = LambdaDq / 4;
-    TxtL4.Text = CStr(Fix(QuartLambda * 100) / 100);
-    Txt45L4.Text = CStr(Fix(QuartLambda * 4.5 * 100) / 100);
-    Txt3L4.Text = CStr(Fix(QuartLambda * 3 * 100) / 100);
-    Txt0136L.Text = CStr(Fix(LambdaDq * 0.136 * 100) / 100);
+    TxtL4.Text = CStr(Cut(QuartLambda, 100));
+    Txt45L4.Text = CStr(Cut(QuartLambda * 4.5, 100));
+    Txt3L4.Text = CStr(Cut(QuartLambda * 3, 100));
+    Txt0136L.Text = CStr(Cut(LambdaDq * 0.136, 100));
 }
 
 } // namespace ondelis

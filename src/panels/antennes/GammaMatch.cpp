@@ -8,8 +8,8 @@
 namespace ondelis {
 namespace {
 
-constexpr Color choisie = 0x0000FF; // red: the chosen option
-constexpr Color delaissee = 0x000000;
+constexpr Color choisie = red; // red: the chosen option
+constexpr Color delaissee = black;
 
 // The message of the frequency serves for the resistances too.
 const std::string frequenceRefusee = "La valeur de frequence doit être positive et supérieure à zéro";
@@ -29,11 +29,6 @@ Double Inches(Double x)
 }
 
 } // namespace
-
-GammaMatch::GammaMatch(Desk& desk)
-    : FeuilleCalcul{desk, {.name = "GammaMatch", .Caption = "Gamma Match", .Width = 12240, .Height = 7755}}
-{
-}
 
 void GammaMatch::Form_Load()
 {
@@ -148,7 +143,7 @@ void GammaMatch::BtnCalculer_Click()
         RA = RA / 2;
         XA = XA / 2;
     }
-    TxtLongPilote.Text = CStr(Fix(300000 / Freq * 0.97 / 2 * 100) / 100);
+    TxtLongPilote.Text = CStr(Cut(300000 / Freq * 0.97 / 2, 100));
 
     const Double a = FNCSH((4 * Pow(S, 2) - Pow(DE, 2) + Pow(DR, 2)) / (4 * S * DR));
     const Double b = FNCSH((4 * Pow(S, 2) + Pow(DE, 2) - Pow(DR, 2)) / (4 * S * DE));
@@ -166,9 +161,9 @@ void GammaMatch::BtnCalculer_Click()
     const Double Xc1 = (Pow(RA, 2) + Pow(XA, 2)) / X * (R0 / RA);
     const Double Xc2 = XA * (R0 / RA);
     const Double Lg = 305 * (G / 360 * (948 / Freq)); // mm
-    TxtGamma.Text = CStr(Fix(Lg * 100) / 100);
+    TxtGamma.Text = CStr(Cut(Lg, 100));
     const Double C = 1000000 / (Freq * ((Xc2 + Xc1) * (2 * Pi()))); // pF
-    TxtCapa.Text = CStr(Fix(C * 100) / 100);
+    TxtCapa.Text = CStr(Cut(C, 100));
 }
 
 } // namespace ondelis

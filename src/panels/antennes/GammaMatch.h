@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "forms/Column.h"
 #include "forms/Controls.h"
 #include "forms/FeuilleCalcul.h"
 
@@ -11,44 +12,54 @@ namespace ondelis {
 /// ARRL Antenna Book, 1985.
 class GammaMatch final : public FeuilleCalcul {
 public:
-    explicit GammaMatch(Desk& desk);
+    explicit GammaMatch(Desk& desk)
+        : FeuilleCalcul{desk, {.name = "GammaMatch", .Caption = "Gamma Match", .Width = 12240, .Height = 7755}}
+    {
+    }
 
-    // clang-format off
-    OptionButton  OptMonopole  {this, "OptMonopole",   {.Caption = "Monopôle", .at = {240, 240, 1800, 300}}, &GammaMatch::OptMonopole_Click};
-    OptionButton  OptDipôle    {this, "OptDipôle",     {.Caption = "Dipôle", .at = {2160, 240, 1800, 300}}, &GammaMatch::OptDipôle_Click};
+    using Me = GammaMatch;
+    static constexpr Column colonne{.left = 240, .captions = 3120, .results = 2355, .top = 900};
+    static constexpr Column colonne_2 = colonne.from(2640);
+    static constexpr Column colonne_3 = colonne.from(240);
 
-    Label         LblFreq      {this, "LblFreq",       {.Caption = "Frequence (MHz)", .at = {240, 930, 3150, 255}}};
-    TextBox       TxtFreq      {this, "TxtFreq",       {.at = {3420, 900, 1320, 315}, .label = &LblFreq}, &GammaMatch::TxtFreq_Change};
-    Label         LblRA        {this, "LblRA",         {.Caption = "Feed Point Résistance RA  (Ohms)", .at = {240, 1290, 3150, 255}}};
-    TextBox       TxtRA        {this, "TxtRA",         {.at = {3420, 1260, 1320, 315}, .label = &LblRA}, &GammaMatch::TxtRA_Change};
-    Label         LblXa        {this, "LblXa",         {.Caption = "Feed Point Réactance  XA (Ohms)", .at = {240, 1650, 3150, 255}}};
-    TextBox       TxtXa        {this, "TxtXa",         {.at = {3420, 1620, 1320, 315}, .label = &LblXa}, &GammaMatch::TxtXa_Change};
-    Label         LblR0        {this, "LblR0",         {.Caption = "Feed Line impédance R0 (Ohms)", .at = {240, 2010, 3150, 255}}};
-    TextBox       TxtR0        {this, "TxtR0",         {.at = {3420, 1980, 1320, 315}, .label = &LblR0}, &GammaMatch::TxtR0_Change};
+    OptionButton OptMonopole{
+        this, "OptMonopole", {.Caption = "Monopôle", .at = {240, 240, 1800, 300}}, &Me::OptMonopole_Click};
+    OptionButton OptDipôle{
+        this, "OptDipôle", {.Caption = "Dipôle", .at = {2160, 240, 1800, 300}}, &Me::OptDipôle_Click};
 
-    Label         LblDE        {this, "LblDE",         {.Caption = "Diamètre Elément Piloté DE (mm)", .at = {240, 2670, 3150, 255}}};
-    TextBox       TxtDE        {this, "TxtDE",         {.at = {3420, 2640, 1320, 315}, .label = &LblDE}, &GammaMatch::TxtDE_Change};
-    Label         LblDR        {this, "LblDR",         {.Caption = "Diamètre du Gamma DR (mm)", .at = {240, 3030, 3150, 255}}};
-    TextBox       TxtDR        {this, "TxtDR",         {.at = {3420, 3000, 1320, 315}, .label = &LblDR}, &GammaMatch::TxtDR_Change};
-    Label         LblS         {this, "LblS",          {.Caption = "Entre axes S (mm)", .at = {240, 3390, 3150, 255}}};
-    TextBox       TxtS         {this, "TxtS",          {.at = {3420, 3360, 1320, 315}, .label = &LblS}, &GammaMatch::TxtS_Change};
-    Label         Label4       {this, "Label4",        {.Caption = "Entre-axes conseillé", .at = {240, 3750, 5490, 255}}};
+    Label LblFreq{this, "LblFreq", colonne.caption(0, "Frequence (MHz)")};
+    TextBox TxtFreq{this, "TxtFreq", colonne.input(LblFreq), &Me::TxtFreq_Change};
+    Label LblRA{this, "LblRA", colonne.caption(1, "Feed Point Résistance RA  (Ohms)")};
+    TextBox TxtRA{this, "TxtRA", colonne.input(LblRA), &Me::TxtRA_Change};
+    Label LblXa{this, "LblXa", colonne.caption(2, "Feed Point Réactance  XA (Ohms)")};
+    TextBox TxtXa{this, "TxtXa", colonne.input(LblXa), &Me::TxtXa_Change};
+    Label LblR0{this, "LblR0", colonne.caption(3, "Feed Line impédance R0 (Ohms)")};
+    TextBox TxtR0{this, "TxtR0", colonne.input(LblR0), &Me::TxtR0_Change};
 
-    CommandButton BtnCalculer  {this, "BtnCalculer",   {.Caption = "Calculer", .at = {3420, 4350, 1320, 375}}, &GammaMatch::BtnCalculer_Click};
+    Label LblDE{this, "LblDE", colonne_2.caption(0, "Diamètre Elément Piloté DE (mm)")};
+    TextBox TxtDE{this, "TxtDE", colonne_2.input(LblDE), &Me::TxtDE_Change};
+    Label LblDR{this, "LblDR", colonne_2.caption(1, "Diamètre du Gamma DR (mm)")};
+    TextBox TxtDR{this, "TxtDR", colonne_2.input(LblDR), &Me::TxtDR_Change};
+    Label LblS{this, "LblS", colonne_2.caption(2, "Entre axes S (mm)")};
+    TextBox TxtS{this, "TxtS", colonne_2.input(LblS), &Me::TxtS_Change};
+    Label Label4{this, "Label4", {.Caption = "Entre-axes conseillé", .at = {240, 3750, 5490, 255}}};
 
-    Label         LblLongPilote{this, "LblLongPilote", {.Caption = "Longueur de brin piloté (mm)", .at = {240, 5130, 3150, 255}}};
-    TextBox       TxtLongPilote{this, "TxtLongPilote", resultField({3420, 5100, 2355, 315}, &LblLongPilote)};
-    Label         LblGamma     {this, "LblGamma",      {.Caption = "Longueur du Gamma Match (mm)", .at = {240, 5490, 3150, 255}}};
-    TextBox       TxtGamma     {this, "TxtGamma",      resultField({3420, 5460, 2355, 315}, &LblGamma)};
-    Label         LblCapa      {this, "LblCapa",       {.Caption = "Capacité du Gamma (pF)", .at = {240, 5850, 3150, 255}}};
-    TextBox       TxtCapa      {this, "TxtCapa",       resultField({3420, 5820, 2355, 315}, &LblCapa)};
+    CommandButton BtnCalculer{
+        this, "BtnCalculer", {.Caption = "Calculer", .at = {3420, 4350, 1320, 375}}, &Me::BtnCalculer_Click};
 
-    Label         LblReference {this, "LblReference",  {.Caption = "Référence :  The ARRL ANTENNA BOOK 1985", .at = {240, 6840, 5490, 255}}};
+    Label LblLongPilote{this, "LblLongPilote", colonne_3.caption(13.5, "Longueur de brin piloté (mm)")};
+    TextBox TxtLongPilote{this, "TxtLongPilote", colonne_3.result(LblLongPilote)};
+    Label LblGamma{this, "LblGamma", colonne_3.caption(14.5, "Longueur du Gamma Match (mm)")};
+    TextBox TxtGamma{this, "TxtGamma", colonne_3.result(LblGamma)};
+    Label LblCapa{this, "LblCapa", colonne_3.caption(15.5, "Capacité du Gamma (pF)")};
+    TextBox TxtCapa{this, "TxtCapa", colonne_3.result(LblCapa)};
+
+    Label LblReference{
+        this, "LblReference", {.Caption = "Référence :  The ARRL ANTENNA BOOK 1985", .at = {240, 6840, 5490, 255}}};
 
     // One at a time, at one place.
-    Image         Image1       {this, "Image1",        {.picture = "gamma-monopole", .at = {5790, 360, 6300, 6600}}};
-    Image         Image2       {this, "Image2",        {.picture = "gamma-dipole", .at = {5790, 360, 6300, 6600}, .Visible = false}};
-    // clang-format on
+    Image Image1{this, "Image1", {.picture = "gamma-monopole", .at = {5790, 360, 6300, 6600}}};
+    Image Image2{this, "Image2", {.picture = "gamma-dipole", .at = {5790, 360, 6300, 6600}, .Visible = false}};
 
 private:
     void Form_Load() override;

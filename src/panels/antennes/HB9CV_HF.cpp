@@ -2,14 +2,8 @@
 
 #include "kit/Conversions.h"
 #include "kit/Maths.h"
-#include "panels/antennes/LongueurHB9CV.h"
 
 namespace ondelis {
-
-HB9CV_HF::HB9CV_HF(Desk& desk)
-    : FeuilleCalcul{desk, {.name = "HB9CV_HF", .Caption = "HB9CV pour bandes HF", .Width = 12150, .Height = 5175}}
-{
-}
 
 void HB9CV_HF::Form_Load()
 {
@@ -63,14 +57,14 @@ void HB9CV_HF::Calculer()
         return;
     // The factors cross the captions 0.25 and 0.30, and 0.32 stands under the caption 0.92: the panel's own figures.
     if (Option1.Value)
-        TxtTmatch.Text = LongueurHB9CV(LambdaHb * 0.3 / 2);
+        TxtTmatch.Text = CStr(Cut(LambdaHb * 0.3 / 2, 1000));
     else
-        TxtTmatch.Text = LongueurHB9CV(LambdaHb * 0.25 / 2);
-    Txt092.Text = LongueurHB9CV(LambdaHb * 0.32 / 2);
-    Txt200.Text = LongueurHB9CV(LambdaHb / 200);
-    Txt8.Text = LongueurHB9CV(LambdaHb / 8);
-    Txt2.Text = LongueurHB9CV(LambdaHb / 2);
-    TxtDiam.Text = LongueurHB9CV(LambdaHb / CoeffHb);
+        TxtTmatch.Text = CStr(Cut(LambdaHb * 0.25 / 2, 1000));
+    Txt092.Text = CStr(Cut(LambdaHb * 0.32 / 2, 1000));
+    Txt200.Text = CStr(Cut(LambdaHb / 200, 1000));
+    Txt8.Text = CStr(Cut(LambdaHb / 8, 1000));
+    Txt2.Text = CStr(Cut(LambdaHb / 2, 1000));
+    TxtDiam.Text = CStr(Cut(LambdaHb / CoeffHb, 1000));
 }
 
 } // namespace ondelis

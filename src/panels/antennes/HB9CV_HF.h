@@ -1,5 +1,6 @@
 #pragma once
 
+#include "forms/Column.h"
 #include "forms/Controls.h"
 #include "forms/FeuilleCalcul.h"
 
@@ -8,37 +9,54 @@ namespace ondelis {
 /// Dimensions of a two-element phased beam of the HB9CV kind for the HF bands.
 class HB9CV_HF final : public FeuilleCalcul {
 public:
-    explicit HB9CV_HF(Desk& desk);
+    explicit HB9CV_HF(Desk& desk)
+        : FeuilleCalcul{desk, {.name = "HB9CV_HF", .Caption = "HB9CV pour bandes HF", .Width = 12150, .Height = 5175}}
+    {
+    }
 
-    // clang-format off
-    Label        LblFreq  {this, "LblFreq",   {.Caption = "Fréquence centrale (MHz)",   .at = {240, ligne(0) + 30, 2820, 255}}};
-    TextBox      TxtFreq  {this, "TxtFreq",   {.at = {3120, ligne(0), 1860, 315}, .label = &LblFreq}, &HB9CV_HF::TxtFreq_Change};
-    OptionButton Option1  {this, "Option1",   {.Caption = "Zc = 150 Ohms", .at = {240, ligne(1) + 15, 2340, 300}}, &HB9CV_HF::Option1_Click};
-    OptionButton Option2  {this, "Option2",   {.Caption = "Zc = 300 Ohms", .at = {2640, ligne(1) + 15, 2340, 300}}, &HB9CV_HF::Option2_Click};
-    Label        Label1   {this, "Label1",    {.Caption = "Coefficient  diamètre tube", .at = {240, ligne(2) + 30, 2820, 255}}};
-    TextBox      TxtCoeff {this, "TxtCoeff",  resultField({3120, ligne(2), 1860, 315}, &Label1)};
-    HScrollBar   HScroll1 {this, "HScroll1",  {.Min = 400, .Max = 700, .Value = 400, .SmallChange = 10, .LargeChange = 100,
-                                               .at = {240, ligne(3) + 45, 4740, 255}, .label = &Label1}, &HB9CV_HF::HScroll1_Change};
+    using Me = HB9CV_HF;
+    static constexpr Column colonne{.left = 240, .captions = 2820, .inputs = 1860, .results = 1860};
 
-    Label        Label2   {this, "Label2",    {.Caption = "Balun",                      .at = {240, ligne(5) + 30, 2820, 255}}};
-    TextBox      TxtBalun {this, "TxtBalun",  resultField({3120, ligne(5), 1860, 315}, &Label2)};
-    Label        Lbl092   {this, "Lbl092",    {.Caption = "0.92 * Lambda / 2 (m)",      .at = {240, ligne(6) + 30, 2820, 255}}};
-    TextBox      Txt092   {this, "Txt092",    resultField({3120, ligne(6), 1860, 315}, &Lbl092)};
-    Label        Lbl025   {this, "Lbl025",    {.Caption = "0.25 * Lambda / 2 (m)",      .at = {240, ligne(7) + 30, 2820, 255}}};
-    Label        Lbl030   {this, "Lbl030",    {.Caption = "0.30 * Lambda / 2 (m)",      .at = {240, ligne(7) + 30, 2820, 255}, .Visible = false}};
-    TextBox      TxtTmatch{this, "TxtTmatch", {.at = {3120, ligne(7), 1860, 315}, .BackColor = 0xFFFFC0, .Locked = true, .label = &Lbl025,
-                                               .otherLabel = &Lbl030}};
-    Label        Lbl200   {this, "Lbl200",    {.Caption = "Lambda / 200 (m)",           .at = {240, ligne(8) + 30, 2820, 255}}};
-    TextBox      Txt200   {this, "Txt200",    resultField({3120, ligne(8), 1860, 315}, &Lbl200)};
-    Label        Label3   {this, "Label3",    {.Caption = "Lambda / 8 (m)",             .at = {240, ligne(9) + 30, 2820, 255}}};
-    TextBox      Txt8     {this, "Txt8",      resultField({3120, ligne(9), 1860, 315}, &Label3)};
-    Label        Label4   {this, "Label4",    {.Caption = "Lambda / 2 (m)",             .at = {240, ligne(10) + 30, 2820, 255}}};
-    TextBox      Txt2     {this, "Txt2",      resultField({3120, ligne(10), 1860, 315}, &Label4)};
-    Label        Label5   {this, "Label5",    {.Caption = "Lambda / Coeff (m)",         .at = {240, ligne(11) + 30, 2820, 255}}};
-    TextBox      TxtDiam  {this, "TxtDiam",   resultField({3120, ligne(11), 1860, 315}, &Label5)};
+    Label LblFreq{this, "LblFreq", colonne.caption(0, "Fréquence centrale (MHz)")};
+    TextBox TxtFreq{this, "TxtFreq", colonne.input(LblFreq), &Me::TxtFreq_Change};
+    OptionButton Option1{
+        this, "Option1", {.Caption = "Zc = 150 Ohms", .at = {240, rowTop(1) + 15, 2340, 300}}, &Me::Option1_Click};
+    OptionButton Option2{
+        this, "Option2", {.Caption = "Zc = 300 Ohms", .at = {2640, rowTop(1) + 15, 2340, 300}}, &Me::Option2_Click};
+    Label Label1{this, "Label1", colonne.caption(2, "Coefficient  diamètre tube")};
+    TextBox TxtCoeff{this, "TxtCoeff", colonne.result(Label1)};
+    HScrollBar HScroll1{this, "HScroll1",
+        {.Min = 400,
+            .Max = 700,
+            .Value = 400,
+            .SmallChange = 10,
+            .LargeChange = 100,
+            .at = {240, rowTop(3) + 45, 4740, 255},
+            .label = &Label1},
+        &Me::HScroll1_Change};
 
-    PictureBox   Picture1 {this, "Picture1",  {.picture = "hb9cv-hf", .at = {5280, 240, 6450, 4215}}};
-    // clang-format on
+    Label Label2{this, "Label2", colonne.caption(5, "Balun")};
+    TextBox TxtBalun{this, "TxtBalun", colonne.result(Label2)};
+    Label Lbl092{this, "Lbl092", colonne.caption(6, "0.92 * Lambda / 2 (m)")};
+    TextBox Txt092{this, "Txt092", colonne.result(Lbl092)};
+    Label Lbl025{this, "Lbl025", colonne.caption(7, "0.25 * Lambda / 2 (m)")};
+    Label Lbl030{this, "Lbl030", {.Caption = "0.30 * Lambda / 2 (m)", .at = colonne.at(7), .Visible = false}};
+    TextBox TxtTmatch{this, "TxtTmatch",
+        {.at = beside(Lbl025, 1860),
+            .BackColor = resultColor,
+            .Locked = true,
+            .label = &Lbl025,
+            .otherLabel = &Lbl030}};
+    Label Lbl200{this, "Lbl200", colonne.caption(8, "Lambda / 200 (m)")};
+    TextBox Txt200{this, "Txt200", colonne.result(Lbl200)};
+    Label Label3{this, "Label3", colonne.caption(9, "Lambda / 8 (m)")};
+    TextBox Txt8{this, "Txt8", colonne.result(Label3)};
+    Label Label4{this, "Label4", colonne.caption(10, "Lambda / 2 (m)")};
+    TextBox Txt2{this, "Txt2", colonne.result(Label4)};
+    Label Label5{this, "Label5", colonne.caption(11, "Lambda / Coeff (m)")};
+    TextBox TxtDiam{this, "TxtDiam", colonne.result(Label5)};
+
+    PictureBox Picture1{this, "Picture1", {.picture = "hb9cv-hf", .at = {5280, 240, 6450, 4215}}};
 
 private:
     void Form_Load() override;

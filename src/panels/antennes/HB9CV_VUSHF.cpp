@@ -2,14 +2,8 @@
 
 #include "kit/Conversions.h"
 #include "kit/Maths.h"
-#include "panels/antennes/LongueurHB9CV.h"
 
 namespace ondelis {
-
-HB9CV_VUSHF::HB9CV_VUSHF(Desk& desk)
-    : FeuilleCalcul{desk, {.name = "HB9CV_VUSHF", .Caption = "HB9CV VHF-UHF-SHF", .Width = 13230, .Height = 5175}}
-{
-}
 
 void HB9CV_VUSHF::Form_Load()
 {
@@ -22,7 +16,7 @@ void HB9CV_VUSHF::TxtFreq_Change()
 {
     FreqHz = Pow(10, 6) * Val(TxtFreq.Text);
     LambdaVu = 3 * Pow(10, 8) / FreqHz;
-    TxtLambda.Text = LongueurHB9CV(LambdaVu);
+    TxtLambda.Text = CStr(Cut(LambdaVu, 1000));
     Calculer();
 }
 
@@ -39,11 +33,11 @@ void HB9CV_VUSHF::Calculer()
     if (TxtFreq.Text == "" || TxtCoeff.Text == "")
         return;
     TxtDiam.Text = CStr(Fix(LambdaVu / CoeffVu * Pow(10, 6)) / 1000);
-    Txt092.Text = LongueurHB9CV(LambdaVu * 0.92 / 2);
-    Txt0125.Text = LongueurHB9CV(LambdaVu / 16);
-    TxtL8.Text = LongueurHB9CV(LambdaVu / 8);
-    TxtL16_2.Text = LongueurHB9CV(LambdaVu / 16);
-    TxtL2.Text = LongueurHB9CV(LambdaVu / 2);
+    Txt092.Text = CStr(Cut(LambdaVu * 0.92 / 2, 1000));
+    Txt0125.Text = CStr(Cut(LambdaVu / 16, 1000));
+    TxtL8.Text = CStr(Cut(LambdaVu / 8, 1000));
+    TxtL16_2.Text = CStr(Cut(LambdaVu / 16, 1000));
+    TxtL2.Text = CStr(Cut(LambdaVu / 2, 1000));
 }
 
 } // namespace ondelis

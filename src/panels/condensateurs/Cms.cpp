@@ -9,10 +9,6 @@
 
 namespace ondelis {
 
-Cms::Cms(Desk& desk) : FeuilleCalcul{desk, {.name = "Cms", .Caption = "Résistances CMS", .Width = 8760, .Height = 4320}}
-{
-}
-
 void Cms::Form_Load()
 {
     resumeNext([&] { LstCms.ListIndex = 3; });

@@ -52,11 +52,11 @@ void CondensateurEnergie::Calculer()
 {
     if (Capa == 0 || Courant == 0 || Joules == 0)
         return;
-    Tension = Fix(Sqr((Joules * 2) / Capa) * 100) / 100;
+    Tension = Cut(Sqr((Joules * 2) / Capa), 100);
     TxtTension.Text = TraitementMultiplicateur(Tension);
-    Charge = Fix(100 * (Tension * Capa)) / 100;
+    Charge = Cut(Tension * Capa, 100);
     TxtCoulombs.Text = TraitementMultiplicateur(Charge);
-    Temps = Fix(100 * (Charge / Courant)) / 100;
+    Temps = Cut(Charge / Courant, 100);
     TxtTemps.Text = TraitementMultiplicateur(Temps);
 }
 

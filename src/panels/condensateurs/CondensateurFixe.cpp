@@ -45,12 +45,6 @@ const Dielectrique& dielectrique(const std::string& nom)
 
 } // namespace
 
-CondensateurFixe::CondensateurFixe(Desk& desk)
-    : FeuilleCalcul{
-        desk, {.name = "CondensateurFixe", .Caption = "Condensateurs fixes", .Width = 10050, .Height = 6480}}
-{
-}
-
 void CondensateurFixe::Form_Load()
 {
     resumeNext([&] { DiviseursSurface(0) = 1; });

@@ -6,12 +6,6 @@
 
 namespace ondelis {
 
-CondensateurVariable::CondensateurVariable(Desk& desk)
-    : FeuilleCalcul{
-        desk, {.name = "CondensateurVariable", .Caption = "Condensateur variable", .Width = 9120, .Height = 5520}}
-{
-}
-
 Line::Design CondensateurVariable::lameMobile(int index)
 {
     const double x = 5940 + 600 * index;
@@ -154,7 +148,7 @@ void CondensateurVariable::Calculer()
     const Double A0 = (Pow(RayonExt, 2) - Pow(RayonInt, 2)) * Pi(); // cm²
     const Double A1 = f * A0; // one pair of faces
     const Double A2 = NbIntervalles * A1; // all of them
-    TxtSurfUtile.Text = Str(Fix(10 * A2) / 10) + " cm²";
+    TxtSurfUtile.Text = Str(Cut(A2, 10)) + " cm²";
     const Double C = ((0.0885 * A2) / Espacement) / Pow(10, 12); // F
     TxtCapacite.Text = TraitementMultiplicateur(C);
 }

@@ -5,12 +5,6 @@
 
 namespace ondelis {
 
-Decibels::Decibels(Desk& desk)
-    : FeuilleCalcul{
-        desk, {.name = "Decibels", .Caption = "Les dB en Puissance et en Tesnsion", .Width = 11040, .Height = 3600}}
-{
-}
-
 void Decibels::Form_Load()
 {
     resumeNext([&] { TxtPe.Text = CStr(2.5); });

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "forms/Column.h"
 #include "forms/Controls.h"
 #include "forms/FeuilleCalcul.h"
 
@@ -10,13 +11,15 @@ class SectionDiametre final : public FeuilleCalcul {
 public:
     explicit SectionDiametre(Desk& desk);
 
-    // clang-format off
-    Label   Label1  {this, "Label1",   {.Caption = "Section du fil", .at = {240, 270, 1440, 255}}};
-    TextBox TxtS    {this, "TxtS",     {.at = {1740, 240, 1410, 315}, .label = &Label1}, &SectionDiametre::TxtS_Change};
-    Label   Label2  {this, "Label2",   {.Caption = "Diametre du fil", .at = {240, 750, 1440, 255}}};
-    TextBox TxtD    {this, "TxtD",     resultField({1740, 720, 1410, 315}, &Label2)};
-    Image   ImageFil{this, "ImageFil", {.picture = "section-diametre", .at = {3270, 278, 720, 720}}};
-    // clang-format on
+    using Me = SectionDiametre;
+    static constexpr Column colonne{.left = 240, .captions = 1440, .inputs = 1410, .results = 1410};
+    static constexpr Column colonne_2 = colonne.from(720);
+
+    Label Label1{this, "Label1", colonne.caption(0, "Section du fil")};
+    TextBox TxtS{this, "TxtS", colonne.input(Label1), &Me::TxtS_Change};
+    Label Label2{this, "Label2", colonne_2.caption(0, "Diametre du fil")};
+    TextBox TxtD{this, "TxtD", colonne_2.result(Label2)};
+    Image ImageFil{this, "ImageFil", {.picture = "section-diametre", .at = {3270, 278, 720, 720}}};
 
 private:
     void Form_Load() override;

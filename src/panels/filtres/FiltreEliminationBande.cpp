@@ -9,11 +9,11 @@ FiltreEliminationBande::FiltreEliminationBande(Desk& desk)
         {.picture = "elimination-bande",
             .captionF1 = "Fréquence de début en Hz",
             .captionF2 = "Fréquence de fin en Hz",
-            .letterL1 = lettre(drawing, 0.632, 0.459),
-            .letterC1 = lettre(drawing, 0.649, 0.767),
-            .letterL2 = lettre(drawing, 0.333, 0.108),
-            .letterC2 = lettre(drawing, 0.333, 0.526),
-            .letterZ = lettre(drawing, 0.934, 0.610)}}
+            .letterL1 = letterBox(drawing, 0.632, 0.459),
+            .letterC1 = letterBox(drawing, 0.649, 0.767),
+            .letterL2 = letterBox(drawing, 0.333, 0.108),
+            .letterC2 = letterBox(drawing, 0.333, 0.526),
+            .letterZ = letterBox(drawing, 0.934, 0.610)}}
 {
 }
 

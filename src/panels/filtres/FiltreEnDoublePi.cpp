@@ -9,12 +9,6 @@
 
 namespace ondelis {
 
-FiltreEnDoublePi::FiltreEnDoublePi(Desk& desk)
-    : FeuilleCalcul{
-        desk, {.name = "FiltreEnDoublePi", .Caption = "Filtre en douple Pi", .Width = 13050, .Height = 3450}}
-{
-}
-
 TextBox::Design FiltreEnDoublePi::resultat(const char* text, Box at, Label* label)
 {
     TextBox::Design design = resultField(at, label);

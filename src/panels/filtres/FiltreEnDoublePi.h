@@ -1,5 +1,6 @@
 #pragma once
 
+#include "forms/Column.h"
 #include "forms/Controls.h"
 #include "forms/FeuilleCalcul.h"
 
@@ -10,28 +11,39 @@ class FiltreEnDoublePi final : public FeuilleCalcul {
 public:
     static constexpr Box drawing{4320, 600, 8370, 1800};
 
-    explicit FiltreEnDoublePi(Desk& desk);
+    explicit FiltreEnDoublePi(Desk& desk)
+        : FeuilleCalcul{
+            desk, {.name = "FiltreEnDoublePi", .Caption = "Filtre en douple Pi", .Width = 13050, .Height = 3450}}
+    {
+    }
 
-    // clang-format off
-    Label   Label19{this, "Label19", {.Caption = "Entrer vos valeurs dans les champs sur fond vert", .at = {240, ligne(0) + 30, 5040, 255}}};
-    Label   Label8 {this, "Label8",  {.Caption = "Fréquence centrale", .at = {240, ligne(2) + 30, 1860, 255}}};
-    TextBox TxtF0  {this, "TxtF0",   {.at = {2160, ligne(2), 1320, 315}, .BackColor = entree, .label = &Label8}, &FiltreEnDoublePi::TxtF0_Change};
-    Label   Label10{this, "Label10", {.Caption = "MHz", .at = {3540, ligne(2) + 30, 540, 255}}};
-    Label   Label9 {this, "Label9",  {.Caption = "Bande passante", .at = {240, ligne(3) + 30, 1860, 255}}};
-    TextBox TxtBP  {this, "TxtBP",   {.at = {2160, ligne(3), 1320, 315}, .BackColor = entree, .label = &Label9}, &FiltreEnDoublePi::TxtBP_Change};
-    Label   Label11{this, "Label11", {.Caption = "MHz", .at = {3540, ligne(3) + 30, 540, 255}}};
-    Label   Label1 {this, "Label1",  {.Caption = "Z in en Ohms", .at = {240, ligne(4) + 30, 1860, 255}}};
-    TextBox TxtZin {this, "TxtZin",  {.at = {2160, ligne(4), 1320, 315}, .BackColor = entree, .label = &Label1}, &FiltreEnDoublePi::TxtZin_Change};
-    Label   Label7 {this, "Label7",  {.Caption = "Z out en Ohms", .at = {240, ligne(5) + 30, 1860, 255}}};
-    TextBox TxtZout{this, "TxtZout", {.at = {2160, ligne(5), 1320, 315}, .BackColor = entree, .label = &Label7}, &FiltreEnDoublePi::TxtZout_Change};
+    using Me = FiltreEnDoublePi;
+    static constexpr Column colonne{.left = 240, .captions = 1860};
 
-    Image   Schema {this, "Schema",  {.picture = "double-pi", .at = drawing}};
-    Label   Label2 {this, "Label2",  {.Caption = "C1", .at = lettre(drawing, 0.159, 0.567), .align = Align::Center}};
-    Label   Label3 {this, "Label3",  {.Caption = "C2", .at = lettre(drawing, 0.416, 0.567), .align = Align::Center}};
-    Label   Label4 {this, "Label4",  {.Caption = "L1", .at = lettre(drawing, 0.246, 0.071), .align = Align::Center}};
-    Label   Label6 {this, "Label6",  {.Caption = "C3", .at = lettre(drawing, 0.671, 0.567), .align = Align::Center}};
-    Label   Label5 {this, "Label5",  {.Caption = "L2", .at = lettre(drawing, 0.754, 0.071), .align = Align::Center}};
-    Label   Label12{this, "Label12", {.Caption = "C4", .at = lettre(drawing, 0.925, 0.567), .align = Align::Center}};
+    Label Label19{this, "Label19",
+        {.Caption = "Entrer vos valeurs dans les champs sur fond vert", .at = {240, rowTop(0) + 30, 5040, 255}}};
+    Label Label8{this, "Label8", colonne.caption(2, "Fréquence centrale")};
+    TextBox TxtF0{
+        this, "TxtF0", {.at = beside(Label8, 1320), .BackColor = entree, .label = &Label8}, &Me::TxtF0_Change};
+    Label Label10{this, "Label10", unitOf(TxtF0, "MHz", 540)};
+    Label Label9{this, "Label9", colonne.caption(3, "Bande passante")};
+    TextBox TxtBP{
+        this, "TxtBP", {.at = beside(Label9, 1320), .BackColor = entree, .label = &Label9}, &Me::TxtBP_Change};
+    Label Label11{this, "Label11", unitOf(TxtBP, "MHz", 540)};
+    Label Label1{this, "Label1", colonne.caption(4, "Z in en Ohms")};
+    TextBox TxtZin{
+        this, "TxtZin", {.at = beside(Label1, 1320), .BackColor = entree, .label = &Label1}, &Me::TxtZin_Change};
+    Label Label7{this, "Label7", colonne.caption(5, "Z out en Ohms")};
+    TextBox TxtZout{
+        this, "TxtZout", {.at = beside(Label7, 1320), .BackColor = entree, .label = &Label7}, &Me::TxtZout_Change};
+
+    Image Schema{this, "Schema", {.picture = "double-pi", .at = drawing}};
+    Label Label2{this, "Label2", letter("C1", drawing, 0.159, 0.567)};
+    Label Label3{this, "Label3", letter("C2", drawing, 0.416, 0.567)};
+    Label Label4{this, "Label4", letter("L1", drawing, 0.246, 0.071)};
+    Label Label6{this, "Label6", letter("C3", drawing, 0.671, 0.567)};
+    Label Label5{this, "Label5", letter("L2", drawing, 0.754, 0.071)};
+    Label Label12{this, "Label12", letter("C4", drawing, 0.925, 0.567)};
 
     // Each result stands over or under its part.
     TextBox TxtL1{this, "TxtL1", resultat("L1", {5385, 240, 1980, 315}, &Label4)};
@@ -40,10 +52,9 @@ public:
     TextBox TxtC2{this, "TxtC2", resultat("C2", {6450, 2460, 1980, 315}, &Label3)};
     TextBox TxtC3{this, "TxtC3", resultat("C3", {8580, 2460, 1980, 315}, &Label6)};
     TextBox TxtC4{this, "TxtC4", resultat("C4", {10710, 2460, 1980, 315}, &Label12)};
-    // clang-format on
 
 private:
-    static constexpr Color entree = 0xC0FFC0;
+    static constexpr Color entree = givenColor;
 
     static TextBox::Design resultat(const char* text, Box at, Label* label);
 

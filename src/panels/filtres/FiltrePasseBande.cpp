@@ -9,11 +9,11 @@ FiltrePasseBande::FiltrePasseBande(Desk& desk)
         {.picture = "passe-bande",
             .captionF1 = "Fréquence d'ouverture en Hz",
             .captionF2 = "Fréquence de coupure en Hz",
-            .letterL1 = lettre(drawing, 0.512, 0.587),
-            .letterC1 = lettre(drawing, 0.735, 0.587),
-            .letterL2 = lettre(drawing, 0.200, 0.166),
-            .letterC2 = lettre(drawing, 0.407, 0.137),
-            .letterZ = lettre(drawing, 0.934, 0.587)}}
+            .letterL1 = letterBox(drawing, 0.512, 0.587),
+            .letterC1 = letterBox(drawing, 0.735, 0.587),
+            .letterL2 = letterBox(drawing, 0.200, 0.166),
+            .letterC2 = letterBox(drawing, 0.407, 0.137),
+            .letterZ = letterBox(drawing, 0.934, 0.587)}}
 {
 }
 

@@ -26,7 +26,7 @@ const std::string promptL = "Un filtre en L nécessite que P = Pm et Q = Qm.\n\n
 /// Shows a number with three decimals, cut.
 void Afficher(TextBox& champ, Double x)
 {
-    champ.Text = CStr(Fix(x * 1000) / 1000);
+    champ.Text = CStr(Cut(x, 1000));
 }
 
 /// Shows a component; its value passes once through its text of 15 digits.
@@ -39,15 +39,9 @@ void Afficher(Label& label, const char* legende, TextBox& champ, Double valeur)
 
 } // namespace
 
-FiltrePasseBasEnPi::FiltrePasseBasEnPi(Desk& desk)
-    : FeuilleCalcul{
-        desk, {.name = "FiltrePasseBasEnPi", .Caption = "Filtre passe bas Pi T L", .Width = 7500, .Height = 7200}}
-{
-}
-
 TextBox::Design FiltrePasseBasEnPi::champ(double top, Label* label)
 {
-    return {.at = {1800, top, 1080, 315}, .BackColor = 0xC0FFC0, .label = label};
+    return {.at = {1800, top, 1080, 315}, .BackColor = givenColor, .label = label};
 }
 
 Picture::Design FiltrePasseBasEnPi::schema(const char* dessin)

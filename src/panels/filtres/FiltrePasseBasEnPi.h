@@ -1,5 +1,6 @@
 #pragma once
 
+#include "forms/Column.h"
 #include "forms/Controls.h"
 #include "forms/FeuilleCalcul.h"
 
@@ -9,76 +10,90 @@ namespace ondelis {
 /// its quality Q and its phase shift P. Formulas: The ARRL Antenna Compendium, 1989, vol. 2, p. 187.
 class FiltrePasseBasEnPi final : public FeuilleCalcul {
 public:
-    explicit FiltrePasseBasEnPi(Desk& desk);
+    explicit FiltrePasseBasEnPi(Desk& desk)
+        : FeuilleCalcul{
+            desk, {.name = "FiltrePasseBasEnPi", .Caption = "Filtre passe bas Pi T L", .Width = 7500, .Height = 7200}}
+    {
+    }
 
-    // clang-format off
-    Label      LblFreq {this, "LblFreq", {.Caption = "Frequence MHz", .at = {240, 270, 1500, 255}}};
-    TextBox    TxtFreq {this, "TxtFreq", champ(240, &LblFreq), &FiltrePasseBasEnPi::TxtFreq_Change};
-    Label      LblRin  {this, "LblRin",  {.Caption = "R entree", .at = {240, 630, 900, 255}}};
-    TextBox    TxtRin  {this, "TxtRin",  champ(600, &LblRin), &FiltrePasseBasEnPi::TxtRin_Change};
-    Label      LblRout {this, "LblRout", {.Caption = "r sortie", .at = {240, 990, 900, 255}}};
-    TextBox    TxtRout {this, "TxtRout", champ(960, &LblRout), &FiltrePasseBasEnPi::TxtRout_Change};
-    Label      Label21 {this, "Label21", {.Caption = "R > r", .at = {1140, 990, 600, 255}, .ForeColor = 0x0000FF, .align = Align::Center}};
+    using Me = FiltrePasseBasEnPi;
+    static constexpr Column colonne{.left = 5880, .captions = 240, .results = 960, .top = 2610};
+    static constexpr Column colonne2{.left = 240, .captions = 900};
+    static constexpr Column colonne2_2 = colonne2.from(3420);
+    static constexpr Column colonne3{.left = 3780, .captions = 900, .top = 3420};
+    static constexpr Column colonne3_2 = colonne3.from(240);
 
-    Label      Label22 {this, "Label22", {.Caption = "Choix du type de filtre", .at = {240, 1410, 2640, 255}}};
-    ListBox    LstType {this, "LstType", {.Items = {"Filtre en Pi", "Filtre en T", "Filtre en L"}, .at = {240, 1670, 2640, 780}, .label = &Label22},
-                        &FiltrePasseBasEnPi::LstType_Click};
+    Label LblFreq{this, "LblFreq", {.Caption = "Frequence MHz", .at = {240, 270, 1500, 255}}};
+    TextBox TxtFreq{this, "TxtFreq", champ(240, &LblFreq), &Me::TxtFreq_Change};
+    Label LblRin{this, "LblRin", colonne2.caption(1, "R entree")};
+    TextBox TxtRin{this, "TxtRin", champ(600, &LblRin), &Me::TxtRin_Change};
+    Label LblRout{this, "LblRout", colonne2.caption(2, "r sortie")};
+    TextBox TxtRout{this, "TxtRout", champ(960, &LblRout), &Me::TxtRout_Change};
+    Label Label21{
+        this, "Label21", {.Caption = "R > r", .at = {1140, 990, 600, 255}, .ForeColor = red, .align = Align::Center}};
 
-    PictureBox ConvPi  {this, "ConvPi",   schema("conv-pi")};
+    Label Label22{this, "Label22", {.Caption = "Choix du type de filtre", .at = {240, 1410, 2640, 255}}};
+    ListBox LstType{this, "LstType",
+        {.Items = {"Filtre en Pi", "Filtre en T", "Filtre en L"}, .at = {240, 1670, 2640, 780}, .label = &Label22},
+        &Me::LstType_Click};
+
+    PictureBox ConvPi{this, "ConvPi", schema("conv-pi")};
     PictureBox UnconvPi{this, "UnconvPi", schema("unconv-pi")};
-    PictureBox ConvT   {this, "ConvT",    schema("conv-t")};
-    PictureBox UnconvT {this, "UnconvT",  schema("unconv-t")};
-    PictureBox Lnet    {this, "Lnet",     schema("filtre-l")};
-    Label      LblInfo {this, "LblInfo",  {.Caption = "Pas de solution", .at = {3060, 1215, 4080, 255}, .align = Align::Center, .Visible = false}};
+    PictureBox ConvT{this, "ConvT", schema("conv-t")};
+    PictureBox UnconvT{this, "UnconvT", schema("unconv-t")};
+    PictureBox Lnet{this, "Lnet", schema("filtre-l")};
+    Label LblInfo{this, "LblInfo",
+        {.Caption = "Pas de solution", .at = {3060, 1215, 4080, 255}, .align = Align::Center, .Visible = false}};
 
-    Label      LblQQ   {this, "LblQQ",   {.Caption = "Q", .at = {240, 2640, 1050, 255}}};
-    HScrollBar Qscroll {this, "Qscroll", {.Min = 10, .Max = 1000, .Value = 10, .LargeChange = 10, .at = {1320, 2640, 4440, 255}, .label = &LblQQ},
-                        &FiltrePasseBasEnPi::Qscroll_Change};
-    Label      LblQ    {this, "LblQ",    {.Caption = "Q", .at = {5880, 2640, 240, 255}}};
-    TextBox    TxtQ    {this, "TxtQ",    resultField({6180, 2610, 960, 315}, &LblQ)};
-    Label      LblP    {this, "LblP",    {.Caption = "P désiré", .at = {240, 3000, 1050, 255}}};
-    HScrollBar Pscroll {this, "Pscroll", {.Min = 1, .Max = 17999, .Value = 100, .LargeChange = 100, .at = {1320, 3000, 4440, 255}, .label = &LblP},
-                        &FiltrePasseBasEnPi::Pscroll_Change};
+    Label LblQQ{this, "LblQQ", {.Caption = "Q", .at = {240, 2640, 1050, 255}}};
+    HScrollBar Qscroll{this, "Qscroll",
+        {.Min = 10, .Max = 1000, .Value = 10, .LargeChange = 10, .at = {1320, 2640, 4440, 255}, .label = &LblQQ},
+        &Me::Qscroll_Change};
+    Label LblQ{this, "LblQ", colonne.caption(0, "Q")};
+    TextBox TxtQ{this, "TxtQ", colonne.result(LblQ)};
+    Label LblP{this, "LblP", {.Caption = "P désiré", .at = {240, 3000, 1050, 255}}};
+    HScrollBar Pscroll{this, "Pscroll",
+        {.Min = 1, .Max = 17999, .Value = 100, .LargeChange = 100, .at = {1320, 3000, 4440, 255}, .label = &LblP},
+        &Me::Pscroll_Change};
 
-    Label      LblN    {this, "LblN",  {.Caption = "N", .at = {240, 3450, 900, 255}}};
-    TextBox    TxtN    {this, "TxtN",  resultField({1200, 3420, 2400, 315}, &LblN)};
-    Label      LblT    {this, "LblT",  {.Caption = "T", .at = {3780, 3450, 900, 255}}};
-    TextBox    TxtT    {this, "TxtT",  resultField({4740, 3420, 2400, 315}, &LblT)};
-    Label      LblPm   {this, "LblPm", {.Caption = "Pm", .at = {240, 3810, 900, 255}}};
-    TextBox    TxtPm   {this, "TxtPm", resultField({1200, 3780, 2400, 315}, &LblPm)};
-    Label      LblQm   {this, "LblQm", {.Caption = "Qm", .at = {3780, 3810, 900, 255}}};
-    TextBox    TxtQm   {this, "TxtQm", resultField({4740, 3780, 2400, 315}, &LblQm)};
-    Label      LblPc   {this, "LblPc", {.Caption = "P conv", .at = {240, 4170, 900, 255}}};
-    TextBox    TxtPc   {this, "TxtPc", resultField({1200, 4140, 2400, 315}, &LblPc)};
-    Label      LblQc   {this, "LblQc", {.Caption = "Q conv", .at = {3780, 4170, 900, 255}}};
-    TextBox    TxtQc   {this, "TxtQc", openResultField({4740, 4140, 2400, 315}, &LblQc)};
-    Label      LblPu   {this, "LblPu", {.Caption = "P unconv", .at = {240, 4530, 900, 255}}};
-    TextBox    TxtPu   {this, "TxtPu", resultField({1200, 4500, 2400, 315}, &LblPu)};
-    Label      LblQu   {this, "LblQu", {.Caption = "Q unconv", .at = {3780, 4530, 900, 255}}};
-    TextBox    TxtQu   {this, "TxtQu", openResultField({4740, 4500, 2400, 315}, &LblQu)};
+    Label LblN{this, "LblN", colonne2_2.caption(0, "N")};
+    TextBox TxtN{this, "TxtN", colonne2_2.result(LblN)};
+    Label LblT{this, "LblT", colonne3.caption(0, "T")};
+    TextBox TxtT{this, "TxtT", colonne3.result(LblT)};
+    Label LblPm{this, "LblPm", colonne2_2.caption(1, "Pm")};
+    TextBox TxtPm{this, "TxtPm", colonne2_2.result(LblPm)};
+    Label LblQm{this, "LblQm", colonne3.caption(1, "Qm")};
+    TextBox TxtQm{this, "TxtQm", colonne3.result(LblQm)};
+    Label LblPc{this, "LblPc", colonne2_2.caption(2, "P conv")};
+    TextBox TxtPc{this, "TxtPc", colonne2_2.result(LblPc)};
+    Label LblQc{this, "LblQc", colonne3.caption(2, "Q conv")};
+    TextBox TxtQc{this, "TxtQc", colonne3.openResult(LblQc)};
+    Label LblPu{this, "LblPu", colonne2_2.caption(3, "P unconv")};
+    TextBox TxtPu{this, "TxtPu", colonne2_2.result(LblPu)};
+    Label LblQu{this, "LblQu", colonne3.caption(3, "Q unconv")};
+    TextBox TxtQu{this, "TxtQu", colonne3.openResult(LblQu)};
 
     // The reactances of the Pi and of the T share one place: only one of them is ever shown.
-    Label      LblXa   {this, "LblXa", {.Caption = "Xa", .at = {240, 5040, 900, 255}}};
-    TextBox    TxtXa   {this, "TxtXa", resultField({1200, 5010, 2400, 315}, &LblXa)};
-    Label      LblX1   {this, "LblX1", {.Caption = "X1", .at = {240, 5040, 900, 255}}};
-    TextBox    TxtX1   {this, "TxtX1", resultField({1200, 5010, 2400, 315}, &LblX1)};
-    Label      LblC1   {this, "LblC1", {.Caption = "C1 pF", .at = {3780, 5040, 900, 255}}};
-    TextBox    TxtC1   {this, "TxtC1", resultField({4740, 5010, 2400, 315}, &LblC1)};
-    Label      LblXb   {this, "LblXb", {.Caption = "Xb", .at = {240, 5400, 900, 255}}};
-    TextBox    TxtXb   {this, "TxtXb", resultField({1200, 5370, 2400, 315}, &LblXb)};
-    Label      LblX2   {this, "LblX2", {.Caption = "X2", .at = {240, 5400, 900, 255}}};
-    TextBox    TxtX2   {this, "TxtX2", resultField({1200, 5370, 2400, 315}, &LblX2)};
-    Label      LblL1   {this, "LblL1", {.Caption = "L1 µH", .at = {3780, 5400, 900, 255}}};
-    TextBox    TxtL1   {this, "TxtL1", resultField({4740, 5370, 2400, 315}, &LblL1)};
-    Label      LblXc   {this, "LblXc", {.Caption = "Xc", .at = {240, 5760, 900, 255}}};
-    TextBox    TxtXc   {this, "TxtXc", resultField({1200, 5730, 2400, 315}, &LblXc)};
-    Label      LblX3   {this, "LblX3", {.Caption = "X3", .at = {240, 5760, 900, 255}}};
-    TextBox    TxtX3   {this, "TxtX3", resultField({1200, 5730, 2400, 315}, &LblX3)};
-    Label      LblC2   {this, "LblC2", {.Caption = "C2 pF", .at = {3780, 5760, 900, 255}}};
-    TextBox    TxtC2   {this, "TxtC2", resultField({4740, 5730, 2400, 315}, &LblC2)};
+    Label LblXa{this, "LblXa", colonne2.caption(13.25, "Xa")};
+    TextBox TxtXa{this, "TxtXa", colonne2.result(LblXa)};
+    Label LblX1{this, "LblX1", colonne2.caption(13.25, "X1")};
+    TextBox TxtX1{this, "TxtX1", colonne2.result(LblX1)};
+    Label LblC1{this, "LblC1", colonne3_2.caption(13.25, "C1 pF")};
+    TextBox TxtC1{this, "TxtC1", colonne3_2.result(LblC1)};
+    Label LblXb{this, "LblXb", colonne2.caption(14.25, "Xb")};
+    TextBox TxtXb{this, "TxtXb", colonne2.result(LblXb)};
+    Label LblX2{this, "LblX2", colonne2.caption(14.25, "X2")};
+    TextBox TxtX2{this, "TxtX2", colonne2.result(LblX2)};
+    Label LblL1{this, "LblL1", colonne3_2.caption(14.25, "L1 µH")};
+    TextBox TxtL1{this, "TxtL1", colonne3_2.result(LblL1)};
+    Label LblXc{this, "LblXc", colonne2.caption(15.25, "Xc")};
+    TextBox TxtXc{this, "TxtXc", colonne2.result(LblXc)};
+    Label LblX3{this, "LblX3", colonne2.caption(15.25, "X3")};
+    TextBox TxtX3{this, "TxtX3", colonne2.result(LblX3)};
+    Label LblC2{this, "LblC2", colonne3_2.caption(15.25, "C2 pF")};
+    TextBox TxtC2{this, "TxtC2", colonne3_2.result(LblC2)};
 
-    Label      Label23 {this, "Label23", {.at = {240, 6210, 6900, 255}}};
-    // clang-format on
+    Label Label23{this, "Label23", {.at = {240, 6210, 6900, 255}}};
 
 private:
     /// The cases that the signs of the reactances of the Pi make.

@@ -3,6 +3,7 @@
 #include <string>
 #include <utility>
 
+#include "forms/Column.h"
 #include "forms/Controls.h"
 #include "forms/FeuilleCalcul.h"
 
@@ -26,49 +27,39 @@ public:
 
     static constexpr Box drawing{675, 150, 4500, 2580};
 
-    SectionBande(Desk& desk, std::string name, std::string caption, const Texts& texts)
-        // clang-format off
+    SectionBande(Desk& desk, std::string name, std::string caption, Texts texts)
         : FeuilleCalcul{desk, {.name = std::move(name), .Caption = std::move(caption), .Width = 5970, .Height = 6255}},
-          Schema    {this, "Schema",     {.picture = texts.picture, .at = drawing}},
-          Label1    {this, "Label1",     {.Caption = "L1", .at = texts.letterL1, .align = Align::Center}},
-          Label5    {this, "Label5",     {.Caption = "C1", .at = texts.letterC1, .align = Align::Center}},
-          Label10   {this, "Label10",    {.Caption = "L2", .at = texts.letterL2, .align = Align::Center}},
-          Label11   {this, "Label11",    {.Caption = "C2", .at = texts.letterC2, .align = Align::Center}},
-          Label4    {this, "Label4",     {.Caption = "Z",  .at = texts.letterZ,  .align = Align::Center}},
-          Label6    {this, "Label6",     {.Caption = texts.captionF1, .at = {240, ligne(7.5) + 30, 2880, 255}}},
-          TxtFreq1  {this, "TxtFreq1",   {.at = {3180, ligne(7.5), 1320, 315}, .label = &Label6}, &SectionBande::TxtFreq1_Change},
-          Label2    {this, "Label2",     {.Caption = texts.captionF2, .at = {240, ligne(8.5) + 30, 2880, 255}}},
-          TxtFreq2  {this, "TxtFreq2",   {.at = {3180, ligne(8.5), 1320, 315}, .label = &Label2}, &SectionBande::TxtFreq2_Change},
-          Label7    {this, "Label7",     {.Caption = "Impédance de charge", .at = {240, ligne(9.5) + 30, 2880, 255}}},
-          TxtZCharge{this, "TxtZCharge", {.at = {3180, ligne(9.5), 1320, 315}, .label = &Label7}, &SectionBande::TxtZCharge_Change},
-          Label9    {this, "Label9",     {.Caption = "Self1 en Henry", .at = {240, ligne(11) + 30, 2880, 255}}},
-          TxtSelf1  {this, "TxtSelf1",   resultField({3180, ligne(11), 2400, 315}, &Label9, 0xFFFF80)},
-          Label8    {this, "Label8",     {.Caption = "Capacité1 en Farad", .at = {240, ligne(12) + 30, 2880, 255}}},
-          TxtCapa1  {this, "TxtCapa1",   resultField({3180, ligne(12), 2400, 315}, &Label8, 0xFFFF80)},
-          Label15   {this, "Label15",    {.Caption = "Self2 en Henry", .at = {240, ligne(13) + 30, 2880, 255}}},
-          TxtSelf2  {this, "TxtSelf2",   resultField({3180, ligne(13), 2400, 315}, &Label15, 0xFFFF80)},
-          Label14   {this, "Label14",    {.Caption = "Capacité2 en Farad", .at = {240, ligne(14) + 30, 2880, 255}}},
-          TxtCapa2  {this, "TxtCapa2",   resultField({3180, ligne(14), 2400, 315}, &Label14, 0xFFFF80)}
-    // clang-format on
+          texts_{std::move(texts)}
     {
     }
 
-    Image Schema;
-    Label Label1, Label5, Label10, Label11, Label4;
-    Label Label6;
-    TextBox TxtFreq1;
-    Label Label2;
-    TextBox TxtFreq2;
-    Label Label7;
-    TextBox TxtZCharge;
-    Label Label9;
-    TextBox TxtSelf1;
-    Label Label8;
-    TextBox TxtCapa1;
-    Label Label15;
-    TextBox TxtSelf2;
-    Label Label14;
-    TextBox TxtCapa2;
+private:
+    const Texts texts_;
+
+public:
+    using Me = SectionBande;
+    static constexpr Column colonne{.left = 240, .captions = 2880, .resultBackground = mainResultColor};
+
+    Image Schema{this, "Schema", {.picture = texts_.picture, .at = drawing}};
+    Label Label1{this, "Label1", {.Caption = "L1", .at = texts_.letterL1, .align = Align::Center}};
+    Label Label5{this, "Label5", {.Caption = "C1", .at = texts_.letterC1, .align = Align::Center}};
+    Label Label10{this, "Label10", {.Caption = "L2", .at = texts_.letterL2, .align = Align::Center}};
+    Label Label11{this, "Label11", {.Caption = "C2", .at = texts_.letterC2, .align = Align::Center}};
+    Label Label4{this, "Label4", {.Caption = "Z", .at = texts_.letterZ, .align = Align::Center}};
+    Label Label6{this, "Label6", colonne.caption(7.5, texts_.captionF1)};
+    TextBox TxtFreq1{this, "TxtFreq1", colonne.input(Label6), &Me::TxtFreq1_Change};
+    Label Label2{this, "Label2", colonne.caption(8.5, texts_.captionF2)};
+    TextBox TxtFreq2{this, "TxtFreq2", colonne.input(Label2), &Me::TxtFreq2_Change};
+    Label Label7{this, "Label7", colonne.caption(9.5, "Impédance de charge")};
+    TextBox TxtZCharge{this, "TxtZCharge", colonne.input(Label7), &Me::TxtZCharge_Change};
+    Label Label9{this, "Label9", colonne.caption(11, "Self1 en Henry")};
+    TextBox TxtSelf1{this, "TxtSelf1", colonne.result(Label9)};
+    Label Label8{this, "Label8", colonne.caption(12, "Capacité1 en Farad")};
+    TextBox TxtCapa1{this, "TxtCapa1", colonne.result(Label8)};
+    Label Label15{this, "Label15", colonne.caption(13, "Self2 en Henry")};
+    TextBox TxtSelf2{this, "TxtSelf2", colonne.result(Label15)};
+    Label Label14{this, "Label14", colonne.caption(14, "Capacité2 en Farad")};
+    TextBox TxtCapa2{this, "TxtCapa2", colonne.result(Label14)};
 
 protected:
     Double F1; ///< Hz

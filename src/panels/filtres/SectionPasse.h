@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "forms/Column.h"
 #include "forms/Controls.h"
 #include "forms/FeuilleCalcul.h"
 
@@ -22,37 +23,33 @@ public:
 
     static constexpr Box drawing{675, 150, 4500, 2220};
 
-    SectionPasse(Desk& desk, std::string name, std::string caption, const Texts& texts)
-        // clang-format off
+    SectionPasse(Desk& desk, std::string name, std::string caption, Texts texts)
         : FeuilleCalcul{desk, {.name = std::move(name), .Caption = std::move(caption), .Width = 5970, .Height = 4980}},
-          Schema    {this, "Schema",     {.picture = texts.picture, .at = drawing}},
-          Label1    {this, "Label1",     {.Caption = "L", .at = texts.letterL, .align = Align::Center}},
-          Label5    {this, "Label5",     {.Caption = "C", .at = texts.letterC, .align = Align::Center}},
-          Label4    {this, "Label4",     {.Caption = "Z", .at = lettre(drawing, 0.934, 0.601), .align = Align::Center}},
-          Label2    {this, "Label2",     {.Caption = texts.formulaL, .at = {240, ligne(6) + 30, 2880, 255}}},
-          Label3    {this, "Label3",     {.Caption = texts.formulaC, .at = {3180, ligne(6) + 30, 2430, 255}}},
-          Label6    {this, "Label6",     {.Caption = "Fréquence de coupure en Hz", .at = {240, ligne(7) + 30, 2880, 255}}},
-          TxtFreq   {this, "TxtFreq",    {.at = {3180, ligne(7), 1320, 315}, .label = &Label6}, &SectionPasse::TxtFreq_Change},
-          Label7    {this, "Label7",     {.Caption = "Impédance de charge en Ohms", .at = {240, ligne(8) + 30, 2880, 255}}},
-          TxtZCharge{this, "TxtZCharge", {.at = {3180, ligne(8), 1320, 315}, .label = &Label7}, &SectionPasse::TxtZCharge_Change},
-          Label9    {this, "Label9",     {.Caption = "Self en Henry", .at = {240, ligne(9.5) + 30, 2880, 255}}},
-          TxtSelf   {this, "TxtSelf",    resultField({3180, ligne(9.5), 2400, 315}, &Label9, 0xFFFF80)},
-          Label8    {this, "Label8",     {.Caption = "Capacité en Farad", .at = {240, ligne(10.5) + 30, 2880, 255}}},
-          TxtCapa   {this, "TxtCapa",    resultField({3180, ligne(10.5), 2400, 315}, &Label8, 0xFFFF80)}
-    // clang-format on
+          texts_{std::move(texts)}
     {
     }
 
-    Image Schema;
-    Label Label1, Label5, Label4, Label2, Label3;
-    Label Label6;
-    TextBox TxtFreq;
-    Label Label7;
-    TextBox TxtZCharge;
-    Label Label9;
-    TextBox TxtSelf;
-    Label Label8;
-    TextBox TxtCapa;
+private:
+    const Texts texts_;
+
+public:
+    using Me = SectionPasse;
+    static constexpr Column colonne{.left = 240, .captions = 2880, .resultBackground = mainResultColor};
+
+    Image Schema{this, "Schema", {.picture = texts_.picture, .at = drawing}};
+    Label Label1{this, "Label1", {.Caption = "L", .at = texts_.letterL, .align = Align::Center}};
+    Label Label5{this, "Label5", {.Caption = "C", .at = texts_.letterC, .align = Align::Center}};
+    Label Label4{this, "Label4", letter("Z", drawing, 0.934, 0.601)};
+    Label Label2{this, "Label2", colonne.caption(6, texts_.formulaL)};
+    Label Label3{this, "Label3", {.Caption = texts_.formulaC, .at = {3180, rowTop(6) + 30, 2430, 255}}};
+    Label Label6{this, "Label6", colonne.caption(7, "Fréquence de coupure en Hz")};
+    TextBox TxtFreq{this, "TxtFreq", colonne.input(Label6), &Me::TxtFreq_Change};
+    Label Label7{this, "Label7", colonne.caption(8, "Impédance de charge en Ohms")};
+    TextBox TxtZCharge{this, "TxtZCharge", colonne.input(Label7), &Me::TxtZCharge_Change};
+    Label Label9{this, "Label9", colonne.caption(9.5, "Self en Henry")};
+    TextBox TxtSelf{this, "TxtSelf", colonne.result(Label9)};
+    Label Label8{this, "Label8", colonne.caption(10.5, "Capacité en Farad")};
+    TextBox TxtCapa{this, "TxtCapa", colonne.result(Label8)};
 
 protected:
     Double F; ///< Hz

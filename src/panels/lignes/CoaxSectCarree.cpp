@@ -5,12 +5,6 @@
 
 namespace ondelis {
 
-CoaxSectCarree::CoaxSectCarree(Desk& desk)
-    : FeuilleCalcul{
-        desk, {.name = "CoaxSectCarree", .Caption = "Coaxial section carrée", .Width = 4860, .Height = 5415}}
-{
-}
-
 void CoaxSectCarree::Form_Load()
 {
     resumeNext([&] { TxtZ.Text = "50"; });
@@ -21,27 +15,27 @@ void CoaxSectCarree::Form_Load()
 void CoaxSectCarree::OptD_Click()
 {
     OptZ.Value = false;
-    TxtCote.BackColor = 0xFFFFC0;
+    TxtCote.BackColor = resultColor;
     TxtCote.Locked = true;
     TxtZ.BackColor = windowColor;
     TxtZ.Locked = false;
-    Label4.Top = 2640;
-    TxtZ.Top = 2880;
-    Label2.Top = 4200;
-    TxtCote.Top = 4440;
+    Label4.Top = haut;
+    TxtZ.Top = haut + hauteurLegende;
+    Label2.Top = bas;
+    TxtCote.Top = bas + hauteurLegende;
 }
 
 void CoaxSectCarree::OptZ_Click()
 {
     OptD.Value = false;
-    TxtZ.BackColor = 0xFFFFC0;
+    TxtZ.BackColor = resultColor;
     TxtZ.Locked = true;
     TxtCote.BackColor = windowColor;
     TxtCote.Locked = false;
-    Label2.Top = 2640;
-    TxtCote.Top = 2880;
-    Label4.Top = 4200;
-    TxtZ.Top = 4440;
+    Label2.Top = haut;
+    TxtCote.Top = haut + hauteurLegende;
+    Label4.Top = bas;
+    TxtZ.Top = bas + hauteurLegende;
 }
 
 void CoaxSectCarree::TxtCote_Change()

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "forms/Column.h"
 #include "forms/Controls.h"
 #include "forms/FeuilleCalcul.h"
 
@@ -9,24 +10,39 @@ namespace ondelis {
 /// square for a wanted impedance. The result always stands last.
 class CoaxSectCarree final : public FeuilleCalcul {
 public:
-    explicit CoaxSectCarree(Desk& desk);
+    explicit CoaxSectCarree(Desk& desk)
+        : FeuilleCalcul{
+            desk, {.name = "CoaxSectCarree", .Caption = "Coaxial section carrée", .Width = 4860, .Height = 5415}}
+    {
+    }
 
-    // clang-format off
-    OptionButton OptZ      {this, "OptZ",       {.Caption = "Calcul de Z", .at = {2940, 2895, 1560, 300}}, &CoaxSectCarree::OptZ_Click};
-    OptionButton OptD      {this, "OptD",       {.Caption = "Calcul de D", .at = {2940, 3255, 1560, 300}}, &CoaxSectCarree::OptD_Click};
+    using Me = CoaxSectCarree;
+    static constexpr Column choix{.left = 2940, .captions = 1560, .top = 2895};
+    // The given one of D and Z stands on top, the sought one at the bottom.
+    static constexpr double haut = 2640;
+    static constexpr double milieu = 3420;
+    static constexpr double bas = 4200;
 
-    // As it opens, D stands above d and the impedance under it.
-    Label        Label2    {this, "Label2",     {.Caption = "D (mm)", .at = {240, 2640, 2640, 240}}};
-    TextBox      TxtCote   {this, "TxtCote",    resultField({240, 2880, 2400, 315}, &Label2), &CoaxSectCarree::TxtCote_Change};
-    Label        Label1    {this, "Label1",     {.Caption = "d  (mm)", .at = {240, 3420, 2640, 240}}};
-    TextBox      TxtDiamAme{this, "TxtDiamAme", {.at = {240, 3660, 2400, 315}, .label = &Label1}, &CoaxSectCarree::TxtDiamAme_Change};
-    Label        Label4    {this, "Label4",     {.Caption = "Impédance carecteristique", .at = {240, 4200, 2640, 240}}};
-    TextBox      TxtZ      {this, "TxtZ",       {.at = {240, 4440, 2400, 315}, .label = &Label4}, &CoaxSectCarree::TxtZ_Change};
+    OptionButton OptZ{this, "OptZ", choix.option(0, "Calcul de Z"), &Me::OptZ_Click};
+    OptionButton OptD{this, "OptD", choix.option(1, "Calcul de D"), &Me::OptD_Click};
 
-    Image        Image1    {this, "Image1",     {.picture = "coaxial-carre", .at = {240, 240, 4260, 2340}}};
-    // clang-format on
+    Label Label2{this, "Label2", legende(haut, "D (mm)")};
+    TextBox TxtCote{this, "TxtCote", resultField(sous(Label2), &Label2), &Me::TxtCote_Change};
+    Label Label1{this, "Label1", legende(milieu, "d  (mm)")};
+    TextBox TxtDiamAme{this, "TxtDiamAme", {.at = sous(Label1), .label = &Label1}, &Me::TxtDiamAme_Change};
+    Label Label4{this, "Label4", legende(bas, "Impédance carecteristique")};
+    TextBox TxtZ{this, "TxtZ", {.at = sous(Label4), .label = &Label4}, &Me::TxtZ_Change};
+
+    Image Image1{this, "Image1", {.picture = "coaxial-carre", .at = {240, 240, 4260, 2340}}};
 
 private:
+    static constexpr double hauteurLegende = 240;
+    static Label::Design legende(double top, const char* texte)
+    {
+        return {.Caption = texte, .at = {240, top, 2640, hauteurLegende}};
+    }
+    static Box sous(const Label& legende) { return under(legende, 2400, 315, 0); }
+
     void Form_Load() override;
     void OptD_Click();
     void OptZ_Click();

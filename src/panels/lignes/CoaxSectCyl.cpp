@@ -5,12 +5,6 @@
 
 namespace ondelis {
 
-CoaxSectCyl::CoaxSectCyl(Desk& desk)
-    : FeuilleCalcul{
-        desk, {.name = "CoaxSectCyl", .Caption = "Coaxial section cylindrique", .Width = 8820, .Height = 3480}}
-{
-}
-
 void CoaxSectCyl::Form_Load()
 {
     resumeNext([&] { LstEpsilon.ListIndex = 0; });

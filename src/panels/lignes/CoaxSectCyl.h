@@ -1,5 +1,6 @@
 #pragma once
 
+#include "forms/Column.h"
 #include "forms/Controls.h"
 #include "forms/FeuilleCalcul.h"
 
@@ -8,20 +9,30 @@ namespace ondelis {
 /// The characteristic impedance of a coaxial line with a round outer conductor.
 class CoaxSectCyl final : public FeuilleCalcul {
 public:
-    explicit CoaxSectCyl(Desk& desk);
+    explicit CoaxSectCyl(Desk& desk)
+        : FeuilleCalcul{
+            desk, {.name = "CoaxSectCyl", .Caption = "Coaxial section cylindrique", .Width = 8820, .Height = 3480}}
+    {
+    }
 
-    // clang-format off
-    Label   Label1      {this, "Label1",       {.Caption = "d (mm)", .at = {240, 270, 2580, 255}}};
-    TextBox TxtDiamAme  {this, "TxtDiamAme",   {.at = {2880, 240, 2400, 315}, .label = &Label1}, &CoaxSectCyl::TxtDiamAme_Change};
-    Label   Label2      {this, "Label2",       {.Caption = "D (mm)", .at = {240, 630, 2580, 255}}};
-    TextBox TxtDiamCorps{this, "TxtDiamCorps", {.at = {2880, 600, 2400, 315}, .BackColor = 0xFFFFFF, .label = &Label2}, &CoaxSectCyl::TxtDiamCorps_Change};
-    Label   Label3      {this, "Label3",       {.Caption = "Dielectrique", .at = {240, 1170, 2580, 255}}};
-    ListBox LstEpsilon  {this, "LstEpsilon",   {.Items = {"Vide ou Air", "PTFE", "Polyéthylène"}, .at = {2880, 1140, 2400, 780}, .label = &Label3}, &CoaxSectCyl::LstEpsilon_Click};
-    Label   Label4      {this, "Label4",       {.Caption = "Impédance carecteristique", .at = {240, 2310, 2580, 255}}};
-    TextBox TxtZ        {this, "TxtZ",         openResultField({2880, 2280, 2400, 315}, &Label4, 0xFFFF80)};
+    using Me = CoaxSectCyl;
+    static constexpr Column saisies{.left = 240, .captions = 2580, .inputs = 2400};
+    static constexpr Column resultat{
+        .left = 240, .captions = 2580, .results = 2400, .top = 2280, .resultBackground = mainResultColor};
 
-    Image   Image1      {this, "Image1",       {.picture = "coaxial-rond", .at = {5700, 240, 2760, 2580}}};
-    // clang-format on
+    Label Label1{this, "Label1", saisies.caption(0, "d (mm)")};
+    TextBox TxtDiamAme{this, "TxtDiamAme", saisies.input(Label1), &Me::TxtDiamAme_Change};
+    Label Label2{this, "Label2", saisies.caption(1, "D (mm)")};
+    TextBox TxtDiamCorps{
+        this, "TxtDiamCorps", openResultField(Label2, saisies.inputs, white), &Me::TxtDiamCorps_Change};
+    Label Label3{this, "Label3", saisies.caption(2.5, "Dielectrique")};
+    ListBox LstEpsilon{
+        this, "LstEpsilon", saisies.list(Label3, {"Vide ou Air", "PTFE", "Polyéthylène"}), &Me::LstEpsilon_Click};
+
+    Label Label4{this, "Label4", resultat.caption(0, "Impédance carecteristique")};
+    TextBox TxtZ{this, "TxtZ", resultat.openResult(Label4)};
+
+    Image Image1{this, "Image1", {.picture = "coaxial-rond", .at = {5700, 240, 2760, 2580}}};
 
 private:
     void Form_Load() override;

@@ -5,12 +5,6 @@
 
 namespace ondelis {
 
-EchelleGrenouille::EchelleGrenouille(Desk& desk)
-    : FeuilleCalcul{
-        desk, {.name = "EchelleGrenouille", .Caption = "Echelle a grenouille", .Width = 10440, .Height = 3045}}
-{
-}
-
 void EchelleGrenouille::Form_Load()
 {
     resumeNext([&] { OptZ.Value = true; });
@@ -22,7 +16,7 @@ void EchelleGrenouille::Form_Load()
 
 void EchelleGrenouille::OptZ_Click()
 {
-    TxtZ.BackColor = 0xFFFFC0;
+    TxtZ.BackColor = resultColor;
     TxtZ.Locked = true;
     TxtCote.BackColor = windowColor;
     TxtCote.Locked = false;
@@ -35,7 +29,7 @@ void EchelleGrenouille::OptD_Click()
 {
     TxtZ.BackColor = windowColor;
     TxtZ.Locked = false;
-    TxtCote.BackColor = 0xFFFFC0;
+    TxtCote.BackColor = resultColor;
     TxtCote.Locked = true;
     Presenter(false);
     TxtZ.Text = "400";

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "forms/Column.h"
 #include "forms/Controls.h"
 #include "forms/FeuilleCalcul.h"
 
@@ -9,28 +10,34 @@ namespace ondelis {
 /// fields of its own, at one place.
 class EchelleGrenouille final : public FeuilleCalcul {
 public:
-    explicit EchelleGrenouille(Desk& desk);
+    explicit EchelleGrenouille(Desk& desk)
+        : FeuilleCalcul{
+            desk, {.name = "EchelleGrenouille", .Caption = "Echelle a grenouille", .Width = 10440, .Height = 3045}}
+    {
+    }
 
-    // clang-format off
-    OptionButton OptZ        {this, "OptZ",         {.Caption = "Calcul de l'impédance", .at = {240, 240, 2760, 300}}, &EchelleGrenouille::OptZ_Click};
-    OptionButton OptD        {this, "OptD",         {.Caption = "Calcul de l'écartement", .at = {240, 600, 2760, 300}}, &EchelleGrenouille::OptD_Click};
+    using Me = EchelleGrenouille;
+    static constexpr Column choix{.left = 240, .captions = 2760};
+    static constexpr Column valeurs{.left = 240, .captions = 2580, .inputs = 2400};
 
-    Label        Label1      {this, "Label1",       {.Caption = "d (mm)", .at = {240, 1170, 2580, 255}}};
-    TextBox      TxtDiamBrin {this, "TxtDiamBrin",  {.at = {2880, 1140, 2400, 315}, .label = &Label1}, &EchelleGrenouille::TxtDiamBrin_Change};
-    Label        Label2      {this, "Label2",       {.Caption = "D (mm)", .at = {240, 1530, 2580, 255}}};
-    TextBox      TxtEcartBrin{this, "TxtEcartBrin", {.at = {2880, 1500, 2400, 315}, .label = &Label2}, &EchelleGrenouille::TxtEcartBrin_Change};
-    Label        Label3      {this, "Label3",       {.Caption = "Impédance", .at = {240, 2070, 2580, 255}}};
-    TextBox      TxtImpedance{this, "TxtImpedance", resultField({2880, 2040, 2400, 315}, &Label3)};
+    OptionButton OptZ{this, "OptZ", choix.option(0, "Calcul de l'impédance"), &Me::OptZ_Click};
+    OptionButton OptD{this, "OptD", choix.option(1, "Calcul de l'écartement"), &Me::OptD_Click};
 
-    Label        LblZ        {this, "LblZ",         {.Caption = "Impédance carecteristique", .at = {240, 1170, 2580, 255}}};
-    TextBox      TxtZ        {this, "TxtZ",         {.at = {2880, 1140, 2400, 315}, .label = &LblZ}, &EchelleGrenouille::TxtZ_Change};
-    Label        LblAme      {this, "LblAme",       {.Caption = "d (mm)", .at = {240, 1530, 2580, 255}}};
-    TextBox      TxtDiamAme  {this, "TxtDiamAme",   {.at = {2880, 1500, 2400, 315}, .label = &LblAme}, &EchelleGrenouille::TxtDiamAme_Change};
-    Label        LblEcart    {this, "LblEcart",     {.Caption = "D  (mm)", .at = {240, 2070, 2580, 255}}};
-    TextBox      TxtCote     {this, "TxtCote",      resultField({2880, 2040, 2400, 315}, &LblEcart)};
+    Label Label1{this, "Label1", valeurs.caption(2.5, "d (mm)")};
+    TextBox TxtDiamBrin{this, "TxtDiamBrin", valeurs.input(Label1), &Me::TxtDiamBrin_Change};
+    Label Label2{this, "Label2", valeurs.caption(3.5, "D (mm)")};
+    TextBox TxtEcartBrin{this, "TxtEcartBrin", valeurs.input(Label2), &Me::TxtEcartBrin_Change};
+    Label Label3{this, "Label3", valeurs.caption(5, "Impédance")};
+    TextBox TxtImpedance{this, "TxtImpedance", valeurs.result(Label3)};
 
-    Image        Image1      {this, "Image1",       {.picture = "echelle-grenouille", .at = {5580, 240, 4500, 2145}}};
-    // clang-format on
+    Label LblZ{this, "LblZ", valeurs.caption(2.5, "Impédance carecteristique")};
+    TextBox TxtZ{this, "TxtZ", valeurs.input(LblZ), &Me::TxtZ_Change};
+    Label LblAme{this, "LblAme", valeurs.caption(3.5, "d (mm)")};
+    TextBox TxtDiamAme{this, "TxtDiamAme", valeurs.input(LblAme), &Me::TxtDiamAme_Change};
+    Label LblEcart{this, "LblEcart", valeurs.caption(5, "D  (mm)")};
+    TextBox TxtCote{this, "TxtCote", valeurs.result(LblEcart)};
+
+    Image Image1{this, "Image1", {.picture = "echelle-grenouille", .at = {5580, 240, 4500, 2145}}};
 
 private:
     void Form_Load() override;

@@ -9,28 +9,16 @@ namespace {
 /// pF/m from pF per foot, truncated to two decimals.
 std::string pFParMetre(Double parPied)
 {
-    return Str(Fix(parPied / 0.3048 * 100) / 100);
+    return Str(Cut(parPied / 0.3048, 100));
 }
 
 /// mm from inches, truncated to two decimals.
 std::string millimetres(Double pouces)
 {
-    return Str(Fix(pouces * 25.4 * 100) / 100);
+    return Str(Cut(pouces * 25.4, 100));
 }
 
 } // namespace
-
-RVListeCoaxiaux::RVListeCoaxiaux(Desk& desk)
-    : FeuilleCalcul{desk,
-        {.name = "RVListeCoaxiaux", .Caption = "Caractéristiques des coaxiaux usuels", .Width = 8520, .Height = 6840}}
-{
-}
-
-TextBox::Design RVListeCoaxiaux::champ(int rang, Label* label)
-{
-    return {
-        .at = {6600, 1800 + 360.0 * rang, 1560, 315}, .BackColor = 0xFFFFC0, .align = Align::Center, .label = label};
-}
 
 void RVListeCoaxiaux::Form_Load()
 {

@@ -4,6 +4,7 @@
 #include <string>
 #include <vector>
 
+#include "forms/Column.h"
 #include "forms/Controls.h"
 #include "forms/FeuilleCalcul.h"
 
@@ -13,44 +14,67 @@ namespace ondelis {
 /// search compares texts: the blank in front of a computed number is part of a match.
 class RVListeCoaxiaux final : public FeuilleCalcul {
 public:
-    explicit RVListeCoaxiaux(Desk& desk);
+    explicit RVListeCoaxiaux(Desk& desk)
+        : FeuilleCalcul{desk,
+            {.name = "RVListeCoaxiaux",
+                .Caption = "Caractéristiques des coaxiaux usuels",
+                .Width = 8520,
+                .Height = 6840}}
+    {
+    }
 
-    // clang-format off
-    OptionButton OptZ      {this, "OptZ",       {.Caption = "Recherche sur l'impédance", .at = {240, 240, 3240, 300}}, &RVListeCoaxiaux::OptZ_Click};
-    OptionButton OptVF     {this, "OptVF",      {.Caption = "Recherche sur le coeff de vélocité", .at = {3540, 240, 3540, 300}}, &RVListeCoaxiaux::OptVF_Click};
-    OptionButton OptpF     {this, "OptpF",      {.Caption = "Recherche sur la capa linéaire", .at = {240, 600, 3240, 300}}, &RVListeCoaxiaux::OptpF_Click};
-    OptionButton OptDiam   {this, "OptDiam",    {.Caption = "Recherche sur le diamètre", .at = {3540, 600, 3540, 300}}, &RVListeCoaxiaux::OptDiam_Click};
-    OptionButton OptIsolant{this, "OptIsolant", {.Caption = "Recherche sur le diélectrique", .at = {240, 960, 3240, 300}}, &RVListeCoaxiaux::OptIsolant_Click};
-    OptionButton OptVmax   {this, "OptVmax",    {.Caption = "Recherche sur l'isolement", .at = {3540, 960, 3540, 300}}, &RVListeCoaxiaux::OptVmax_Click};
-    PictureBox   Picture1  {this, "Picture1",   {.picture = "coaxial-icone", .at = {7200, 240, 960, 960}}};
+    using Me = RVListeCoaxiaux;
+    static constexpr Column recherches{.left = 240, .captions = 3240};
+    static constexpr Column autresRecherches{.left = 3540, .captions = 3540};
+    static constexpr Column listeCriteres{.left = 240, .captions = 2160, .top = 1470};
+    static constexpr Column listeReferences{.left = 2640, .captions = 2160, .top = 1470};
+    static constexpr Column fiche{.left = 5040, .captions = 1500, .results = 1560, .top = 1800};
 
-    Label   LblResultat{this, "LblResultat", {.Caption = "Références coaxiaux", .at = {2640, 1500, 2160, 255}}};
-    ListBox LstResultat{this, "LstResultat", {.at = {2640, 1800, 2040, 4380}, .Visible = false, .label = &LblResultat}, &RVListeCoaxiaux::LstResultat_Click, &RVListeCoaxiaux::LstResultat_GotFocus};
-    Label   LblCriteres{this, "LblCriteres", {.Caption = "Label11", .at = {240, 1500, 2160, 255}}};
-    ListBox LstCritere {this, "LstCritere",  {.at = {240, 1800, 2040, 4380}, .label = &LblCriteres}, &RVListeCoaxiaux::LstCritere_Click};
+    OptionButton OptZ{this, "OptZ", recherches.option(0, "Recherche sur l'impédance"), &Me::OptZ_Click};
+    OptionButton OptVF{
+        this, "OptVF", autresRecherches.option(0, "Recherche sur le coeff de vélocité"), &Me::OptVF_Click};
+    OptionButton OptpF{this, "OptpF", recherches.option(1, "Recherche sur la capa linéaire"), &Me::OptpF_Click};
+    OptionButton OptDiam{this, "OptDiam", autresRecherches.option(1, "Recherche sur le diamètre"), &Me::OptDiam_Click};
+    OptionButton OptIsolant{
+        this, "OptIsolant", recherches.option(2, "Recherche sur le diélectrique"), &Me::OptIsolant_Click};
+    OptionButton OptVmax{this, "OptVmax", autresRecherches.option(2, "Recherche sur l'isolement"), &Me::OptVmax_Click};
+    PictureBox Picture1{this, "Picture1", {.picture = "coaxial-icone", .at = {7200, 240, 960, 960}}};
 
-    Label   Label1 {this, "Label1",  {.Caption = "Référence", .at = {5040, 1830, 1500, 255}}};
-    TextBox TxtRef {this, "TxtRef",  champ(0, &Label1)};
-    Label   Label2 {this, "Label2",  {.Caption = "Impédance", .at = {5040, 2190, 1500, 255}}};
-    TextBox TxtZ   {this, "TxtZ",    champ(1, &Label2)};
-    Label   Label3 {this, "Label3",  {.Caption = "Coeff Vélocité", .at = {5040, 2550, 1500, 255}}};
-    TextBox TxtVF  {this, "TxtVF",   champ(2, &Label3)};
-    Label   Label4 {this, "Label4",  {.Caption = "pF/m", .at = {5040, 2910, 1500, 255}}};
-    TextBox TxtpF  {this, "TxtpF",   champ(3, &Label4)};
-    Label   Label5 {this, "Label5",  {.Caption = "Diamètre", .at = {5040, 3270, 1500, 255}}};
-    TextBox TxtDiam{this, "TxtDiam", champ(4, &Label5)};
-    Label   Label6 {this, "Label6",  {.Caption = "Diélectrique", .at = {5040, 3630, 1500, 255}}};
-    TextBox TxtDiel{this, "TxtDiel", champ(5, &Label6)};
-    Label   Label7 {this, "Label7",  {.Caption = "Umax RMS", .at = {5040, 3990, 1500, 255}}};
-    TextBox TxtRMS {this, "TxtRMS",  champ(6, &Label7)};
+    Label LblResultat{this, "LblResultat", listeReferences.caption(0, "Références coaxiaux")};
+    ListBox LstResultat{this, "LstResultat", {.at = liste(LblResultat), .Visible = false, .label = &LblResultat},
+        &Me::LstResultat_Click, &Me::LstResultat_GotFocus};
+    Label LblCriteres{this, "LblCriteres", listeCriteres.caption(0, "Label11")};
+    ListBox LstCritere{this, "LstCritere", {.at = liste(LblCriteres), .label = &LblCriteres}, &Me::LstCritere_Click};
+
+    Label Label1{this, "Label1", fiche.caption(0, "Référence")};
+    TextBox TxtRef{this, "TxtRef", valeur(Label1)};
+    Label Label2{this, "Label2", fiche.caption(1, "Impédance")};
+    TextBox TxtZ{this, "TxtZ", valeur(Label2)};
+    Label Label3{this, "Label3", fiche.caption(2, "Coeff Vélocité")};
+    TextBox TxtVF{this, "TxtVF", valeur(Label3)};
+    Label Label4{this, "Label4", fiche.caption(3, "pF/m")};
+    TextBox TxtpF{this, "TxtpF", valeur(Label4)};
+    Label Label5{this, "Label5", fiche.caption(4, "Diamètre")};
+    TextBox TxtDiam{this, "TxtDiam", valeur(Label5)};
+    Label Label6{this, "Label6", fiche.caption(5, "Diélectrique")};
+    TextBox TxtDiel{this, "TxtDiel", valeur(Label6)};
+    Label Label7{this, "Label7", fiche.caption(6, "Umax RMS")};
+    TextBox TxtRMS{this, "TxtRMS", valeur(Label7)};
+
     // One note at a time, all at one place.
-    Label   Label8 {this, "Label8",  {.Caption = "PE : Polyéthylène (-65° à +80°)", .at = {5040, 4500, 3120, 765}}};
-    Label   Label9 {this, "Label9",  {.Caption = "Foam PE : Foamed polyéthylène  (-65° à +80°)", .at = {5040, 4500, 3120, 765}}};
-    Label   Label10{this, "Label10", {.Caption = "PTFE : Polytétrafluoroéthylène (Teflon) (-250° à +250°)", .at = {5040, 4500, 3120, 765}}};
-    // clang-format on
+    static constexpr Box note{5040, 4500, 3120, 765};
+    Label Label8{this, "Label8", {.Caption = "PE : Polyéthylène (-65° à +80°)", .at = note}};
+    Label Label9{this, "Label9", {.Caption = "Foam PE : Foamed polyéthylène  (-65° à +80°)", .at = note}};
+    Label Label10{this, "Label10", {.Caption = "PTFE : Polytétrafluoroéthylène (Teflon) (-250° à +250°)", .at = note}};
 
 private:
-    static TextBox::Design champ(int rang, Label* label);
+    static Box liste(const Label& legende) { return under(legende, 2040, listHeight(18), 45); }
+    static TextBox::Design valeur(Label& legende)
+    {
+        TextBox::Design design = fiche.openResult(legende);
+        design.align = Align::Center;
+        return design;
+    }
 
     void Form_Load() override;
     void OptZ_Click();

@@ -6,11 +6,6 @@
 
 namespace ondelis {
 
-StripLine::StripLine(Desk& desk)
-    : FeuilleCalcul{desk, {.name = "StripLine", .Caption = "Strip line", .Width = 9900, .Height = 3090}}
-{
-}
-
 void StripLine::Form_Load()
 {
     resumeNext([&] { PouceMm = 25.4; });

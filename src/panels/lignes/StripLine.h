@@ -1,5 +1,6 @@
 #pragma once
 
+#include "forms/Column.h"
 #include "forms/Controls.h"
 #include "forms/FeuilleCalcul.h"
 
@@ -8,20 +9,25 @@ namespace ondelis {
 /// The inductance of a flat conductor.
 class StripLine final : public FeuilleCalcul {
 public:
-    explicit StripLine(Desk& desk);
+    explicit StripLine(Desk& desk)
+        : FeuilleCalcul{desk, {.name = "StripLine", .Caption = "Strip line", .Width = 9900, .Height = 3090}}
+    {
+    }
 
-    // clang-format off
-    Label   Label1{this, "Label1", {.Caption = "Largeur (mm)", .at = {240, ligne(0) + 30, 2580, 255}}};
-    TextBox TxtW  {this, "TxtW",   {.at = {2880, ligne(0), 1860, 315}, .label = &Label1}, &StripLine::TxtW_Change};
-    Label   LblB  {this, "LblB",   {.Caption = "Hauteur (mm)", .at = {240, ligne(1) + 30, 2580, 255}}};
-    TextBox TxtB  {this, "TxtB",   {.at = {2880, ligne(1), 1860, 315}, .label = &LblB}, &StripLine::TxtB_Change};
-    Label   Label2{this, "Label2", {.Caption = "Epaisseur du support (mm)", .at = {240, ligne(2) + 30, 2580, 255}}};
-    TextBox TxtH  {this, "TxtH",   {.at = {2880, ligne(2), 1860, 315}, .label = &Label2}, &StripLine::TxtH_Change};
-    Label   Label3{this, "Label3", {.Caption = "L (H)", .at = {240, ligne(4) + 30, 2580, 255}}};
-    TextBox TxtL  {this, "TxtL",   resultField({2880, ligne(4), 1860, 315}, &Label3)};
+    using Me = StripLine;
+    static constexpr Column valeurs{.left = 240, .captions = 2580, .inputs = 1860, .results = 1860};
 
-    Image   Image1{this, "Image1", {.picture = "ruban", .at = {5040, 240, 4500, 2190}}};
-    // clang-format on
+    Label Label1{this, "Label1", valeurs.caption(0, "Largeur (mm)")};
+    TextBox TxtW{this, "TxtW", valeurs.input(Label1), &Me::TxtW_Change};
+    Label LblB{this, "LblB", valeurs.caption(1, "Hauteur (mm)")};
+    TextBox TxtB{this, "TxtB", valeurs.input(LblB), &Me::TxtB_Change};
+    Label Label2{this, "Label2", valeurs.caption(2, "Epaisseur du support (mm)")};
+    TextBox TxtH{this, "TxtH", valeurs.input(Label2), &Me::TxtH_Change};
+
+    Label Label3{this, "Label3", valeurs.caption(4, "L (H)")};
+    TextBox TxtL{this, "TxtL", valeurs.result(Label3)};
+
+    Image Image1{this, "Image1", {.picture = "ruban", .at = {5040, 240, 4500, 2190}}};
 
 private:
     void Form_Load() override;

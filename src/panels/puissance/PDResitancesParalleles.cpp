@@ -5,12 +5,6 @@
 
 namespace ondelis {
 
-PDResitancesParalleles::PDResitancesParalleles(Desk& desk)
-    : FeuilleCalcul{desk,
-        {.name = "PDResitancesParalleles", .Caption = "1 Calcul de ponts diviseurs", .Width = 10920, .Height = 4560}}
-{
-}
-
 void PDResitancesParalleles::Form_Load()
 {
     resumeNext([&] { Init(); });
@@ -84,14 +78,14 @@ void PDResitancesParalleles::Calculer()
     const Double BrancheBasse = ValR2 + PotBas;
     const Double Rp = (BrancheBasse * ValRc) / (BrancheBasse + ValRc);
     const Double Rt = Rp + BrancheHaute;
-    TxtRAlim.Text = CStr(Fix(100 * Rt) / 100);
-    TxtPotR2Rc.Text = CStr(Fix(100 * Rp) / 100);
+    TxtRAlim.Text = CStr(Cut(Rt, 100));
+    TxtPotR2Rc.Text = CStr(Cut(Rp, 100));
     const Double Ip = Alim / Rt;
-    MebIp.Text = CStr(Fix(100 * Ip) / 100);
+    MebIp.Text = CStr(Cut(Ip, 100));
     const Double Us = Rp * Ip;
-    MebUs.Text = CStr(Fix(100 * Us) / 100);
-    const Double Ic = Fix(100 * (Us / ValRc)) / 100;
-    MebIc.Text = CStr(Fix(100 * Ic) / 100); // cut a second time: 0.29 becomes 0.28
+    MebUs.Text = CStr(Cut(Us, 100));
+    const Double Ic = Cut(Us / ValRc, 100);
+    MebIc.Text = CStr(Cut(Ic, 100)); // cut a second time: 0.29 becomes 0.28
 }
 
 } // namespace ondelis

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "forms/Column.h"
 #include "forms/Controls.h"
 #include "forms/FeuilleCalcul.h"
 
@@ -9,39 +10,64 @@ namespace ondelis {
 /// the region.
 class PDResitancesParalleles final : public FeuilleCalcul {
 public:
-    explicit PDResitancesParalleles(Desk& desk);
+    explicit PDResitancesParalleles(Desk& desk)
+        : FeuilleCalcul{desk,
+            {.name = "PDResitancesParalleles",
+                .Caption = "1 Calcul de ponts diviseurs",
+                .Width = 10920,
+                .Height = 4560}}
+    {
+    }
 
-    // clang-format off
-    Label      LblAlim   {this, "LblAlim",    {.Caption = "Alimentation", .at = {240, ligne(0) + 30, 1590, 255}}};
-    TextBox    TxtAlim   {this, "TxtAlim",    {.at = {1860, ligne(0), 1920, 315}, .label = &LblAlim}, &PDResitancesParalleles::TxtAlim_Change};
-    Label      LblR1     {this, "LblR1",      {.Caption = "Valeur R1", .at = {240, ligne(1) + 30, 1590, 255}}};
-    TextBox    TxtR1     {this, "TxtR1",      {.at = {1860, ligne(1), 1920, 315}, .label = &LblR1}, &PDResitancesParalleles::TxtR1_Change};
-    Label      LblPot    {this, "LblPot",     {.Caption = "Valeur Pot", .at = {240, ligne(2) + 30, 1590, 255}}};
-    TextBox    TxtPot    {this, "TxtPot",     {.at = {1860, ligne(2), 1920, 315}, .label = &LblPot}, &PDResitancesParalleles::TxtPot_Change};
-    Label      LblR2     {this, "LblR2",      {.Caption = "ValeurR2", .at = {240, ligne(3) + 30, 1590, 255}}};
-    TextBox    TxtR2     {this, "TxtR2",      {.at = {1860, ligne(3), 1920, 315}, .label = &LblR2}, &PDResitancesParalleles::TxtR2_Change};
-    Label      LblRc     {this, "LblRc",      {.Caption = "Valeur Rc", .at = {240, ligne(4) + 30, 1590, 255}}};
-    TextBox    TxtRc     {this, "TxtRc",      {.at = {1860, ligne(4), 1920, 315}, .label = &LblRc}, &PDResitancesParalleles::TxtRc_Change};
+    using Me = PDResitancesParalleles;
+    static constexpr Column saisies{.left = 240, .captions = 1560, .inputs = 1920};
+
+    Label LblAlim{this, "LblAlim", saisies.caption(0, "Alimentation")};
+    TextBox TxtAlim{this, "TxtAlim", saisies.input(LblAlim), &Me::TxtAlim_Change};
+    Label LblR1{this, "LblR1", saisies.caption(1, "Valeur R1")};
+    TextBox TxtR1{this, "TxtR1", saisies.input(LblR1), &Me::TxtR1_Change};
+    Label LblPot{this, "LblPot", saisies.caption(2, "Valeur Pot")};
+    TextBox TxtPot{this, "TxtPot", saisies.input(LblPot), &Me::TxtPot_Change};
+    Label LblR2{this, "LblR2", saisies.caption(3, "ValeurR2")};
+    TextBox TxtR2{this, "TxtR2", saisies.input(LblR2), &Me::TxtR2_Change};
+    Label LblRc{this, "LblRc", saisies.caption(4, "Valeur Rc")};
+    TextBox TxtRc{this, "TxtRc", saisies.input(LblRc), &Me::TxtRc_Change};
 
     // The circuit carries its wiper, its currents and its voltage where they are.
-    Image      Schema    {this, "Schema",     {.picture = "pont-potentiometre", .at = {4080, 330, 4800, 3540}}};
-    VScrollBar VScrollPot{this, "VScrollPot", {.Min = 100, .Max = 0, .Value = 50, .LargeChange = 10, .at = {5295, 870, 255, 1590}, .label = &LblPot}, &PDResitancesParalleles::VScrollPot_Change};
-    TextBox    TxtPPot   {this, "TxtPPot",    {.at = {5145, 2520, 555, 315}, .BackColor = 0xE0E0E0, .ForeColor = 0x0000FF, .label = &Label1}};
-    Label      Label1    {this, "Label1",     {.Caption = "%", .at = {5730, 2550, 240, 255}}};
-    MaskEdBox  MebIp     {this, "MebIp",      {.at = {5940, ligne(0), 1260, 315}, .BackColor = 0xFFFFC0, .label = &LblA}};
-    Label      LblA      {this, "LblA",       {.Caption = "Ampères", .at = {7260, ligne(0) + 30, 900, 255}}};
-    MaskEdBox  MebIc     {this, "MebIc",      {.at = {7920, 1680, 1260, 315}, .BackColor = 0xFFFFC0, .label = &Lbl2A}};
-    Label      Lbl2A     {this, "Lbl2A",      {.Caption = "Ampères", .at = {9240, 1710, 900, 255}}};
-    MaskEdBox  MebUs     {this, "MebUs",      {.at = {8700, 2580, 1260, 315}, .BackColor = 0xFFFFC0, .label = &Label2}};
-    Label      Label2    {this, "Label2",     {.Caption = "Volts", .at = {10020, 2610, 540, 255}}};
+    Image Schema{this, "Schema", {.picture = "pont-potentiometre", .at = {4080, 330, 4800, 3540}}};
+    VScrollBar VScrollPot{this, "VScrollPot",
+        {.Min = 100, .Max = 0, .Value = 50, .LargeChange = 10, .at = {5295, 870, 255, 1590}, .label = &LblPot},
+        &Me::VScrollPot_Change};
+    TextBox TxtPPot{
+        this, "TxtPPot", {.at = {5145, 2520, 555, 315}, .BackColor = 0xE0E0E0, .ForeColor = red, .label = &Label1}};
+    Label Label1{this, "Label1", {.Caption = "%", .at = {5730, 2550, 240, 255}}};
+    MaskEdBox MebIp{this, "MebIp", mesure(5940, 240, LblA)};
+    Label LblA{this, "LblA", unitOf(MebIp, "Ampères", 900)};
+    MaskEdBox MebIc{this, "MebIc", mesure(7920, 1680, Lbl2A)};
+    Label Lbl2A{this, "Lbl2A", unitOf(MebIc, "Ampères", 900)};
+    MaskEdBox MebUs{this, "MebUs", mesure(8700, 2580, Label2)};
+    Label Label2{this, "Label2", unitOf(MebUs, "Volts", 540)};
 
-    Label      LblRvrai  {this, "LblRvrai",   {.Caption = "Résitance vue de l'alimentation", .at = {240, 2400, 1590, 510}}};
-    TextBox    TxtRAlim  {this, "TxtRAlim",   resultField({1860, 2490, 1920, 315}, &LblRvrai)};
-    Label      Label4    {this, "Label4",     {.Caption = "R équivalente Pot-R2-Rc", .at = {240, 3000, 1590, 510}}};
-    TextBox    TxtPotR2Rc{this, "TxtPotR2Rc", resultField({1860, 3090, 1920, 315}, &Label4)};
-    // clang-format on
+    Label LblRvrai{this, "LblRvrai", deuxLignes(2400, "Résitance vue de l'alimentation")};
+    TextBox TxtRAlim{this, "TxtRAlim", resultat(LblRvrai)};
+    Label Label4{this, "Label4", deuxLignes(3000, "R équivalente Pot-R2-Rc")};
+    TextBox TxtPotR2Rc{this, "TxtPotR2Rc", resultat(Label4)};
 
 private:
+    static MaskEdBox::Design mesure(double left, double top, Label& unite)
+    {
+        return {.at = {left, top, 1260, 315}, .BackColor = resultColor, .label = &unite};
+    }
+    static Label::Design deuxLignes(double top, const char* legende)
+    {
+        return {.Caption = legende, .at = {240, top, 1590, 510}};
+    }
+    /// Level with the middle of the two lines, under the inputs.
+    static TextBox::Design resultat(Label& legende)
+    {
+        return resultField({1860, legende.at().Top + 90, 1920, 315}, &legende);
+    }
+
     void Form_Load() override;
     void TxtAlim_Change();
     void TxtR1_Change();

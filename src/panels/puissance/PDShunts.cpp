@@ -5,11 +5,6 @@
 
 namespace ondelis {
 
-PDShunts::PDShunts(Desk& desk)
-    : FeuilleCalcul{desk, {.name = "PDShunts", .Caption = "Calculs des Shunts", .Width = 10260, .Height = 5820}}
-{
-}
-
 void PDShunts::Form_Load()
 {
     resumeNext([&] { TxtResInt.Text = CStr(1000); });

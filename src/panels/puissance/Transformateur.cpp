@@ -2,7 +2,6 @@
 
 #include "kit/Conversions.h"
 #include "kit/Maths.h"
-#include "panels/CouleursDessins.h"
 
 namespace ondelis {
 namespace {
@@ -29,40 +28,7 @@ Double interpole(Double P, const Table<Double, 8>& puissances, const Table<Doubl
         / 100;
 }
 
-/// A number cut, never rounded, to the `parts` of a unit: 10, 100 or 1000.
-std::string tronque(Double x, int parts)
-{
-    return CStr(Fix(x * parts) / parts);
-}
-
 } // namespace
-
-Transformateur::Transformateur(Desk& desk)
-    : FeuilleCalcul{
-        desk, {.name = "Transformateur", .Caption = "Calcul de transformateur à 50Hz", .Width = 11280, .Height = 7140}}
-{
-    tabAlongRows(Label17, TxtUSec, Label18, TxtIsec, Label19, TxtPap, Label7, TxtSpires, Label25, TxtDiamFil);
-}
-
-Label::Design Transformateur::legende(const char* texte, int i, double left, double width)
-{
-    return {.Caption = texte, .at = {left, ligne(1.5 + i) + 30, width, 255}};
-}
-
-TextBox::Design Transformateur::saisie(int i, double left, Label& legende)
-{
-    return {.at = {left, ligne(1.5 + i), 1080, 315}, .label = &legende};
-}
-
-TextBox::Design Transformateur::resultat(int i, double left, Label& legende)
-{
-    return openResultField({left, ligne(1.5 + i), 1080, 315}, &legende, cyan);
-}
-
-Label::Design Transformateur::cote(const char* texte, double x, double y)
-{
-    return dessin::lettreDeCote(texte, {4470, 2430, 6450, 3480}, x, y);
-}
 
 void Transformateur::Form_Load()
 {
@@ -141,7 +107,7 @@ void Transformateur::LireSecondaires()
         IsecVal(i) = Val(TxtIsec(i).Text);
         if (UsecVal(i) != 0 && IsecVal(i) != 0) {
             PappVal(i) = UsecVal(i) * IsecVal(i);
-            TxtPap(i).Text = tronque(PappVal(i), 100);
+            TxtPap(i).Text = CStr(Cut(PappVal(i), 100));
         }
     }
     PuissApparente();
@@ -156,8 +122,8 @@ void Transformateur::PuissApparente()
         SommePapp = SommePapp + PappVal(i);
         TxtPuissApp.Text = CStr(SommePapp);
         PuissancePrimaire = SommePapp / NetaTransfo(SommePapp);
-        TxtPuisPrim.Text = tronque(PuissancePrimaire, 100);
-        LstTole.BackColor = 0xFFFFFF; // the list can now be clicked
+        TxtPuisPrim.Text = CStr(Cut(PuissancePrimaire, 100));
+        LstTole.BackColor = white; // the list can now be clicked
     }
 }
 
@@ -188,23 +154,23 @@ void Transformateur::LstTole_Click()
     TxtPertes.Text = tole.pertes;
     const Double Beta = 1; // T
     SectionBrute = Sqr(PuissancePrimaire) * 1.1;
-    TxtSec.Text = tronque(SectionBrute, 100);
+    TxtSec.Text = CStr(Cut(SectionBrute, 100));
     SectionCorrigee = Val(CStr(tole.coefficient)) * SectionBrute; // Val takes a point only
-    TxtSecBrute.Text = tronque(SectionCorrigee, 100);
+    TxtSecBrute.Text = CStr(Cut(SectionCorrigee, 100));
     CoteA = Sqr(SectionCorrigee) / 2;
-    Txta.Text = tronque(CoteA, 100);
+    Txta.Text = CStr(Cut(CoteA, 100));
     SpiresParVolt = Pow(10, 4) / (Beta * 222.00000000000003 * SectionCorrigee);
     SpiresParVolt = SpiresParVolt + PerteFil(PuissancePrimaire); // added as a plain number
 
     for (int i = 0; i < NbreEnrSec.value(); ++i)
-        TxtSpires(i).Text = tronque(UsecVal(i) * SpiresParVolt, 10);
-    TxtSpiresPrimaire.Text = tronque(SpiresParVolt * 220, 10);
+        TxtSpires(i).Text = CStr(Cut(UsecVal(i) * SpiresParVolt, 10));
+    TxtSpiresPrimaire.Text = CStr(Cut(SpiresParVolt * 220, 10));
 
     for (int i = 0; i < NbreEnrSec.value(); ++i) {
         const Double I = Val(TxtPap(i).Text) / Val(TxtUSec(i).Text);
-        TxtDiamFil(i).Text = tronque(DiametreFil(PappVal(i), I), 1000);
+        TxtDiamFil(i).Text = CStr(Cut(DiametreFil(PappVal(i), I), 1000));
     }
-    TxtDiamFilPrim.Text = tronque(DiametreFil(PuissancePrimaire, PuissancePrimaire / 220), 1000);
+    TxtDiamFilPrim.Text = CStr(Cut(DiametreFil(PuissancePrimaire, PuissancePrimaire / 220), 1000));
 }
 
 /// Wire diameter, mm, of a winding of P VA that carries I amperes. Above 1000 VA the section stays that of the wire

@@ -1,73 +1,103 @@
 #pragma once
 
+#include "forms/Column.h"
 #include "forms/ControlArray.h"
 #include "forms/Controls.h"
 #include "forms/FeuilleCalcul.h"
 #include "kit/Table.h"
+#include "panels/CouleursDessins.h"
 
 namespace ondelis {
 
 /// A mains transformer, 220 V and 50 Hz at the primary, with up to four secondaries: core, turns and wires.
 class Transformateur final : public FeuilleCalcul {
 public:
-    explicit Transformateur(Desk& desk);
+    explicit Transformateur(Desk& desk)
+        : FeuilleCalcul{desk,
+            {.name = "Transformateur", .Caption = "Calcul de transformateur à 50Hz", .Width = 11280, .Height = 7140}}
+    {
+        tabAlongRows(Label17, TxtUSec, Label18, TxtIsec, Label19, TxtPap, Label7, TxtSpires, Label25, TxtDiamFil);
+    }
 
-    // clang-format off
-    Label   Label16      {this, "Label16",       {.Caption = "Nombre d'enroulements au secondaires (4 maxi)", .at = {240, 270, 4560, 255}}};
-    TextBox TxtNbreEnrSec{this, "TxtNbreEnrSec", {.at = {4860, 240, 480, 315}, .label = &Label16}, &Transformateur::TxtNbreEnrSec_Change};
-    Label   Label6       {this, "Label6",        {.Caption = "Puissance max 500 VA", .at = {6450, 270, 2340, 255}}};
+    using Me = Transformateur;
+    static constexpr Color cyan = 0xFFFF00;
+    static constexpr Column enroulements{.left = 240, .captions = 4560, .inputs = 480};
+    // The table of the secondaries: a row for each.
+    static constexpr double secondaires = 780;
+    static constexpr Column tensions{.left = 240, .captions = 720, .inputs = 1080, .top = secondaires};
+    static constexpr Column courants{.left = 2310, .captions = 720, .inputs = 1080, .top = secondaires};
+    static constexpr Column puissances{
+        .left = 4380, .captions = 720, .results = 1080, .top = secondaires, .resultBackground = cyan};
+    static constexpr Column spires{
+        .left = 6450, .captions = 720, .results = 1080, .top = secondaires, .resultBackground = cyan};
+    static constexpr Column fils{
+        .left = 8520, .captions = 1260, .results = 1080, .top = secondaires, .resultBackground = cyan};
+    static constexpr Column totaux{
+        .left = 240, .captions = 2280, .inputs = 1620, .results = 1620, .top = 2460, .resultBackground = cyan};
+    static constexpr Column noyau = totaux.from(3240);
+    static constexpr Column primaire = totaux.from(5760);
 
-    // One row a secondary.
-    ControlArray<Label>   Label17   {this, "Label17",    4, [](int i) { return legende("Usec(i)", i, 240, 750); }};
-    ControlArray<TextBox> TxtUSec   {this, "TxtUSec",    4, [this](int i) { return saisie(i, 1020, Label17(i)); }, &Transformateur::TxtUSec_Change};
-    ControlArray<Label>   Label18   {this, "Label18",    4, [](int i) { return legende("Isec(i)", i, 2310, 750); }};
-    ControlArray<TextBox> TxtIsec   {this, "TxtIsec",    4, [this](int i) { return saisie(i, 3090, Label18(i)); }, &Transformateur::TxtIsec_Change};
-    ControlArray<Label>   Label19   {this, "Label19",    4, [](int i) { return legende("Papp(i)", i, 4380, 750); }};
-    ControlArray<TextBox> TxtPap    {this, "TxtPap",     4, [this](int i) { return resultat(i, 5160, Label19(i)); }};
-    ControlArray<Label>   Label7    {this, "Label7",     4, [](int i) { return legende("Spires ", i, 6450, 750); }};
-    ControlArray<TextBox> TxtSpires {this, "TxtSpires",  4, [this](int i) { return resultat(i, 7230, Label7(i)); }};
-    ControlArray<Label>   Label25   {this, "Label25",    4, [](int i) { return legende("Diamètre mm", i, 8520, 1290); }};
-    ControlArray<TextBox> TxtDiamFil{this, "TxtDiamFil", 4, [this](int i) { return resultat(i, 9840, Label25(i)); }};
+    Label Label16{this, "Label16", enroulements.caption(0, "Nombre d'enroulements au secondaires (4 maxi)")};
+    TextBox TxtNbreEnrSec{this, "TxtNbreEnrSec", enroulements.input(Label16), &Me::TxtNbreEnrSec_Change};
+    Label Label6{
+        this, "Label6", {.Caption = "Puissance max 500 VA", .at = {spires.left, enroulements.at(0).Top, 2340, 255}}};
 
-    Label   Label1           {this, "Label1",            {.Caption = "Puissance app totale", .at = {240, 2490, 2280, 255}}};
-    TextBox TxtPuissApp      {this, "TxtPuissApp",       openResultField({2580, 2460, 1620, 315}, &Label1, cyan)};
-    Label   Label2           {this, "Label2",            {.Caption = "Puissance au primaire", .at = {240, 2850, 2280, 255}}};
-    TextBox TxtPuisPrim      {this, "TxtPuisPrim",       openResultField({2580, 2820, 1620, 315}, &Label2, cyan)};
-    Label   Label3           {this, "Label3",            {.Caption = "Qualité de la tôle", .at = {240, 3270, 2280, 255}}};
-    ListBox LstTole          {this, "LstTole",           {.Items = {"Ordinaire", "Faible pertes", "Orientée"}, .at = {2580, 3240, 1620, 780}, .clickOnChosenRow = true, .label = &Label3}, &Transformateur::LstTole_Click};
-    Label   Label9           {this, "Label9",            {.Caption = "Perte dans les tôles", .at = {240, 4170, 2280, 255}}};
-    TextBox TxtPertes        {this, "TxtPertes",         openResultField({2580, 4140, 1620, 315}, &Label9, cyan)};
-    Label   Label4           {this, "Label4",            {.Caption = "Section brute en cm²", .at = {240, 4530, 2280, 255}}};
-    TextBox TxtSec           {this, "TxtSec",            openResultField({2580, 4500, 1620, 315}, &Label4, cyan)};
-    Label   Label5           {this, "Label5",            {.Caption = "Section corrigée en cm²", .at = {240, 4890, 2280, 255}}};
-    TextBox TxtSecBrute      {this, "TxtSecBrute",       openResultField({2580, 4860, 1620, 315}, &Label5, cyan)};
-    Label   TxtCoefficient   {this, "TxtCoefficient",    {.Caption = "a", .at = {240, 5250, 2280, 255}}};
-    TextBox Txta             {this, "Txta",              openResultField({2580, 5220, 1620, 315}, &TxtCoefficient, cyan)};
-    Label   Label23          {this, "Label23",           {.Caption = "Spires au primaire", .at = {240, 5790, 2280, 255}}};
-    TextBox TxtSpiresPrimaire{this, "TxtSpiresPrimaire", openResultField({2580, 5760, 1620, 315}, &Label23, cyan)};
-    Label   Label24          {this, "Label24",           {.Caption = "Diamètre du fill mm", .at = {240, 6150, 2280, 255}}};
-    TextBox TxtDiamFilPrim   {this, "TxtDiamFilPrim",    openResultField({2580, 6120, 1620, 315}, &Label24, cyan)};
+    ControlArray<Label> Label17{this, "Label17", 4, [](int i) { return tensions.caption(i, "Usec(i)"); }};
+    ControlArray<TextBox> TxtUSec{
+        this, "TxtUSec", 4, [this](int i) { return tensions.input(Label17(i)); }, &Me::TxtUSec_Change};
+    ControlArray<Label> Label18{this, "Label18", 4, [](int i) { return courants.caption(i, "Isec(i)"); }};
+    ControlArray<TextBox> TxtIsec{
+        this, "TxtIsec", 4, [this](int i) { return courants.input(Label18(i)); }, &Me::TxtIsec_Change};
+    ControlArray<Label> Label19{this, "Label19", 4, [](int i) { return puissances.caption(i, "Papp(i)"); }};
+    ControlArray<TextBox> TxtPap{this, "TxtPap", 4, [this](int i) { return puissances.openResult(Label19(i)); }};
+    ControlArray<Label> Label7{this, "Label7", 4, [](int i) { return spires.caption(i, "Spires "); }};
+    ControlArray<TextBox> TxtSpires{this, "TxtSpires", 4, [this](int i) { return spires.openResult(Label7(i)); }};
+    ControlArray<Label> Label25{this, "Label25", 4, [](int i) { return fils.caption(i, "Diamètre mm"); }};
+    ControlArray<TextBox> TxtDiamFil{this, "TxtDiamFil", 4, [this](int i) { return fils.openResult(Label25(i)); }};
 
-    Image   Schema {this, "Schema",  {.picture = "transformateur", .at = {4470, 2430, 6450, 3480}}};
-    Label   Label11{this, "Label11", cote("a", 0.278, 0.147)};
-    Label   Label12{this, "Label12", cote("2a", 0.512, 0.147)};
-    Label   Label10{this, "Label10", cote("3a", 0.602, 0.487)};
-    Label   Label13{this, "Label13", cote("5a", 0.730, 0.487)};
-    Label   Label21{this, "Label21", cote("6a", 0.512, 0.836)};
-    Label   Label14{this, "Label14", cote("2a", 0.874, 0.668)};
-    Label   Label20{this, "Label20", cote("2a", 0.972, 0.487)};
-    Label   Label22{this, "Label22", {.Caption = "Beta est fixé à 1 Tesla", .at = {6570, 6150, 2400, 255}, .ForeColor = 0x0000FF, .align = Align::Center}};
-    CommandButton BtnReset{this, "BtnReset", {.Caption = "Reset", .at = {9720, 210, 1200, 375}}, &Transformateur::BtnReset_Click};
-    // clang-format on
+    Label Label1{this, "Label1", totaux.caption(0, "Puissance app totale")};
+    TextBox TxtPuissApp{this, "TxtPuissApp", totaux.openResult(Label1)};
+    Label Label2{this, "Label2", totaux.caption(1, "Puissance au primaire")};
+    TextBox TxtPuisPrim{this, "TxtPuisPrim", totaux.openResult(Label2)};
+
+    Label Label3{this, "Label3", noyau.caption(0, "Qualité de la tôle")};
+    ListBox LstTole{this, "LstTole", qualites(Label3), &Me::LstTole_Click};
+    Label Label9{this, "Label9", noyau.caption(2.5, "Perte dans les tôles")};
+    TextBox TxtPertes{this, "TxtPertes", noyau.openResult(Label9)};
+    Label Label4{this, "Label4", noyau.caption(3.5, "Section brute en cm²")};
+    TextBox TxtSec{this, "TxtSec", noyau.openResult(Label4)};
+    Label Label5{this, "Label5", noyau.caption(4.5, "Section corrigée en cm²")};
+    TextBox TxtSecBrute{this, "TxtSecBrute", noyau.openResult(Label5)};
+    Label TxtCoefficient{this, "TxtCoefficient", noyau.caption(5.5, "a")};
+    TextBox Txta{this, "Txta", noyau.openResult(TxtCoefficient)};
+
+    Label Label23{this, "Label23", primaire.caption(0, "Spires au primaire")};
+    TextBox TxtSpiresPrimaire{this, "TxtSpiresPrimaire", primaire.openResult(Label23)};
+    Label Label24{this, "Label24", primaire.caption(1, "Diamètre du fill mm")};
+    TextBox TxtDiamFilPrim{this, "TxtDiamFilPrim", primaire.openResult(Label24)};
+
+    Image Schema{this, "Schema", {.picture = "transformateur", .at = {4470, 2430, 6450, 3480}}};
+    Label Label11{this, "Label11", dessin::lettreDeCote("a", Schema.at(), 0.278, 0.147)};
+    Label Label12{this, "Label12", dessin::lettreDeCote("2a", Schema.at(), 0.512, 0.147)};
+    Label Label10{this, "Label10", dessin::lettreDeCote("3a", Schema.at(), 0.602, 0.487)};
+    Label Label13{this, "Label13", dessin::lettreDeCote("5a", Schema.at(), 0.730, 0.487)};
+    Label Label21{this, "Label21", dessin::lettreDeCote("6a", Schema.at(), 0.512, 0.836)};
+    Label Label14{this, "Label14", dessin::lettreDeCote("2a", Schema.at(), 0.874, 0.668)};
+    Label Label20{this, "Label20", dessin::lettreDeCote("2a", Schema.at(), 0.972, 0.487)};
+    Label Label22{this, "Label22",
+        {.Caption = "Beta est fixé à 1 Tesla",
+            .at = {6570, 6150, 2400, 255},
+            .ForeColor = red,
+            .align = Align::Center}};
+    CommandButton BtnReset{this, "BtnReset", {.Caption = "Reset", .at = {9720, 210, 1200, 375}}, &Me::BtnReset_Click};
 
 private:
-    static constexpr Color cyan = 0xFFFF00;
-
-    static Label::Design legende(const char* texte, int i, double left, double width);
-    static TextBox::Design saisie(int i, double left, Label& legende);
-    static TextBox::Design resultat(int i, double left, Label& legende);
-    /// A dimension on the drawing; its centre in fractions of the drawing's size.
-    static Label::Design cote(const char* texte, double x, double y);
+    static ListBox::Design qualites(Label& legende)
+    {
+        ListBox::Design design = noyau.list(legende, {"Ordinaire", "Faible pertes", "Orientée"});
+        design.clickOnChosenRow = true;
+        return design;
+    }
 
     void Form_Load() override;
     void TxtNbreEnrSec_Change();

@@ -5,15 +5,6 @@
 
 namespace ondelis {
 
-CalculNombreSpires::CalculNombreSpires(Desk& desk)
-    : FeuilleCalcul{desk,
-        {.name = "CalculNombreSpires",
-            .Caption = "N = SQR((18 D + 40 L) / D²) par Kervane",
-            .Width = 10260,
-            .Height = 6675}}
-{
-}
-
 void CalculNombreSpires::Form_Load()
 {
     resumeNext([&] { Height = 6675; });

@@ -6,11 +6,6 @@
 
 namespace ondelis {
 
-CalculSelf::CalculSelf(Desk& desk)
-    : FeuilleCalcul{desk, {.name = "CalculSelf", .Caption = "Valeur Self", .Width = 10575, .Height = 5970}}
-{
-}
-
 void CalculSelf::Form_Load()
 {
     resumeNext([&] { Caption = "Calcul de la valeur d'une self"; });

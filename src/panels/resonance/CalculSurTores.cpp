@@ -6,17 +6,11 @@
 
 namespace ondelis {
 
-CalculSurTores::CalculSurTores(Desk& desk)
-    : FeuilleCalcul{
-        desk, {.name = "CalculSurTores", .Caption = "Calcul des inductances sur tores", .Width = 14940, .Height = 4020}}
-{
-}
-
 void CalculSurTores::Form_Load()
 {
     for (TextBox* champ : {&TxtAlFerPulverise, &TxtEpFePul, &TxtDiamIntFerPul, &TxtDiamExtFerPul, &TxtSpiresFerPul}) {
-        resumeNext([&] { champ->BackColor = 0xFFFFFF; });
-        resumeNext([&] { champ->ForeColor = 0x000000; });
+        resumeNext([&] { champ->BackColor = white; });
+        resumeNext([&] { champ->ForeColor = black; });
     }
     resumeNext([&] { TxtAlFerPulverise.Text = "20"; });
     resumeNext([&] { TxtDiamIntFerPul.Text = "23"; });

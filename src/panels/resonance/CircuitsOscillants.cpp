@@ -1,5 +1,7 @@
 #include "panels/resonance/CircuitsOscillants.h"
 
+#include <utility>
+
 #include "kit/Conversions.h"
 #include "kit/Maths.h"
 #include "kit/TraitementMultiplicateur.h"
@@ -40,10 +42,12 @@ Double facteur(const std::string& unite, Double present)
 
 } // namespace
 
-CircuitsOscillants::CircuitsOscillants(Desk& desk)
-    : FeuilleCalcul{
-        desk, {.name = "CircuitsOscillants", .Caption = "Circuits résonants", .Width = 9720, .Height = 6900}}
+/// The units of a field, right of it.
+ListBox::Design CircuitsOscillants::unites(const TextBox& champ, Label& legende, std::vector<std::string> items)
 {
+    const Box& at = champ.at();
+    const double height = listHeight(static_cast<int>(items.size()));
+    return {.Items = std::move(items), .at = {at.Left + at.Width + ecart, at.Top - 30, 960, height}, .label = &legende};
 }
 
 Frame::Design CircuitsOscillants::frmCircuitDesign(int index)
@@ -62,7 +66,7 @@ Frame::Design CircuitsOscillants::frmCircuitDesign(int index)
         {"Circuit LC Série", "circuit-lc-serie"},
     }};
     const Row& row = table.at(static_cast<std::size_t>(index));
-    return {.Caption = row.Caption, .at = {5040, 180, 4320, 3840}, .picture = row.picture};
+    return {.Caption = row.Caption, .at = {resultats.left, 180, 4320, 3840}, .picture = row.picture};
 }
 
 void CircuitsOscillants::Form_Load()
@@ -184,13 +188,13 @@ void CircuitsOscillants::LstCalcul_Click()
 void CircuitsOscillants::Ouvrir(TextBox& champ)
 {
     champ.Locked = false;
-    champ.BackColor = ouvert;
+    champ.BackColor = white;
 }
 
 void CircuitsOscillants::Fermer(TextBox& champ)
 {
     champ.Locked = true;
-    champ.BackColor = ferme;
+    champ.BackColor = mainResultColor;
 }
 
 void CircuitsOscillants::AfficherCircuit(int index)
@@ -330,7 +334,7 @@ void CircuitsOscillants::AfficherResonance(Double hertz)
 {
     TxtResonance.Visible = true;
     LblResonance.Visible = true;
-    TxtResonance.Text = CStr(Fix(hertz * 100) / 100);
+    TxtResonance.Text = CStr(Cut(hertz, 100));
 }
 
 } // namespace ondelis

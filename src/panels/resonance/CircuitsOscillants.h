@@ -2,7 +2,9 @@
 
 #include <array>
 #include <string>
+#include <vector>
 
+#include "forms/Column.h"
 #include "forms/ControlArray.h"
 #include "forms/Controls.h"
 #include "forms/FeuilleCalcul.h"
@@ -13,45 +15,61 @@ namespace ondelis {
 /// Impedance, phase and resonance of seven simple circuits at one frequency.
 class CircuitsOscillants final : public FeuilleCalcul {
 public:
-    explicit CircuitsOscillants(Desk& desk);
+    explicit CircuitsOscillants(Desk& desk)
+        : FeuilleCalcul{
+            desk, {.name = "CircuitsOscillants", .Caption = "Circuits résonants", .Width = 9720, .Height = 6900}}
+    {
+    }
 
-    // clang-format off
-    ListBox LstCalcul {this, "LstCalcul", {.Items = {"RC Série", "RC Parallèle", "RL Parallèle", "RLC Série",
-                                                     "RLC Parallèle", "RL Série C Parallèle", "LC Série"},
-                                           .at = {240, 240, 4440, 1740}}, &CircuitsOscillants::LstCalcul_Click};
+    using Me = CircuitsOscillants;
+    // Each quantity is as high as the list of its units.
+    static constexpr double ecart = 120; ///< between a list and its neighbours
+    static constexpr Column frequence{.left = 240, .captions = 1980, .top = 2250};
+    static constexpr Column resistance = frequence.from(frequence.top + listHeight(4) + ecart);
+    static constexpr Column inductance = frequence.from(resistance.top + listHeight(3) + ecart);
+    static constexpr Column capacite = frequence.from(inductance.top + listHeight(4) + ecart);
+    static constexpr Column resultats{.left = 5040, .captions = 1860, .top = 4290};
 
-    Label   LblFreq   {this, "LblFreq",   {.Caption = "Fréquence en ...", .at = {240, 2280, 1920, 255}}};
-    TextBox TxtFreq   {this, "TxtFreq",   {.at = {2280, 2250, 1320, 315}, .label = &LblFreq}, &CircuitsOscillants::TxtFreq_Change};
-    ListBox LstFreq   {this, "LstFreq",   {.Items = {"GHz", "MHz", "KHz", "Hz"}, .at = {3720, 2220, 960, 1020}, .label = &LblFreq}, &CircuitsOscillants::LstFreq_Click};
+    ListBox LstCalcul{this, "LstCalcul",
+        {.Items = {"RC Série", "RC Parallèle", "RL Parallèle", "RLC Série", "RLC Parallèle", "RL Série C Parallèle",
+             "LC Série"},
+            .at = {240, 240, 4440, listHeight(7)}},
+        &Me::LstCalcul_Click};
 
-    Label   LblRes    {this, "LblRes",    {.Caption = "Résitance en ...", .at = {240, 3420, 1920, 255}}};
-    TextBox TxtRes    {this, "TxtRes",    {.at = {2280, 3390, 1320, 315}, .label = &LblRes}, &CircuitsOscillants::TxtRes_Change};
-    ListBox LstRes    {this, "LstRes",    {.Items = {"MOhms", "KOhms", "Ohms"}, .at = {3720, 3360, 960, 780}, .label = &LblRes}, &CircuitsOscillants::LstRes_Click};
+    Label LblFreq{this, "LblFreq", frequence.caption(0, "Fréquence en ...")};
+    TextBox TxtFreq{this, "TxtFreq", frequence.input(LblFreq), &Me::TxtFreq_Change};
+    ListBox LstFreq{this, "LstFreq", unites(TxtFreq, LblFreq, {"GHz", "MHz", "KHz", "Hz"}), &Me::LstFreq_Click};
 
-    Label   LblInd    {this, "LblInd",    {.Caption = "Inductance en ...", .at = {240, 4320, 1920, 255}}};
-    TextBox TxtInd    {this, "TxtInd",    {.at = {2280, 4290, 1320, 315}, .label = &LblInd}, &CircuitsOscillants::TxtInd_Change};
-    ListBox LstInd    {this, "LstInd",    {.Items = {"mH", "µH", "nH", "pH"}, .at = {3720, 4260, 960, 1020}, .label = &LblInd}, &CircuitsOscillants::LstInd_Click};
+    Label LblRes{this, "LblRes", resistance.caption(0, "Résitance en ...")};
+    TextBox TxtRes{this, "TxtRes", resistance.input(LblRes), &Me::TxtRes_Change};
+    ListBox LstRes{this, "LstRes", unites(TxtRes, LblRes, {"MOhms", "KOhms", "Ohms"}), &Me::LstRes_Click};
 
-    Label   LblCapa   {this, "LblCapa",   {.Caption = "Capacite en ...", .at = {240, 5460, 1920, 255}}};
-    TextBox TxtCapa   {this, "TxtCapa",   {.at = {2280, 5430, 1320, 315}, .label = &LblCapa}, &CircuitsOscillants::TxtCapa_Change};
-    ListBox LstCapa   {this, "LstCapa",   {.Items = {"µF", "nF", "pF"}, .at = {3720, 5400, 960, 780}, .label = &LblCapa}, &CircuitsOscillants::LstCapa_Click};
+    Label LblInd{this, "LblInd", inductance.caption(0, "Inductance en ...")};
+    TextBox TxtInd{this, "TxtInd", inductance.input(LblInd), &Me::TxtInd_Change};
+    ListBox LstInd{this, "LstInd", unites(TxtInd, LblInd, {"mH", "µH", "nH", "pH"}), &Me::LstInd_Click};
 
-    ControlArray<Frame> frmCircuit{this, "frmCircuit", 7, &CircuitsOscillants::frmCircuitDesign};
+    Label LblCapa{this, "LblCapa", capacite.caption(0, "Capacite en ...")};
+    TextBox TxtCapa{this, "TxtCapa", capacite.input(LblCapa), &Me::TxtCapa_Change};
+    ListBox LstCapa{this, "LstCapa", unites(TxtCapa, LblCapa, {"µF", "nF", "pF"}), &Me::LstCapa_Click};
 
-    Label   LblImp      {this, "LblImp",       {.Caption = "Impédance", .at = {5040, 4320, 1860, 255}}};
-    TextBox TxtImp      {this, "TxtImp",       resultField({6960, 4290, 2400, 315}, &LblImp)};
-    Label   LblDephase  {this, "LblDephase",   {.Caption = "Déphasage en °", .at = {5040, 4680, 1860, 255}}};
-    TextBox TxtDephase  {this, "TxtDephase",   resultField({6960, 4650, 2400, 315}, &LblDephase)};
-    Label   LblPuiss    {this, "LblPuiss",     {.Caption = "Puissance en Watts", .at = {5040, 5040, 1860, 255}}};
-    TextBox TxtPuiss    {this, "TxtPuiss",     resultField({6960, 5010, 2400, 315}, &LblPuiss)};
-    Label   LblResonance{this, "LblResonance", {.Caption = "Résonance", .at = {5040, 5400, 1860, 255}, .Visible = false}};
-    TextBox TxtResonance{this, "TxtResonance", {.at = {6960, 5370, 2400, 315}, .BackColor = 0xFFFFC0, .Locked = true, .Visible = false, .label = &LblResonance}};
-    // clang-format on
+    ControlArray<Frame> frmCircuit{this, "frmCircuit", 7, &Me::frmCircuitDesign};
+
+    Label LblImp{this, "LblImp", resultats.caption(0, "Impédance")};
+    TextBox TxtImp{this, "TxtImp", resultats.result(LblImp)};
+    Label LblDephase{this, "LblDephase", resultats.caption(1, "Déphasage en °")};
+    TextBox TxtDephase{this, "TxtDephase", resultats.result(LblDephase)};
+    Label LblPuiss{this, "LblPuiss", resultats.caption(2, "Puissance en Watts")};
+    TextBox TxtPuiss{this, "TxtPuiss", resultats.result(LblPuiss)};
+    Label LblResonance{this, "LblResonance", {.Caption = "Résonance", .at = resultats.at(3), .Visible = false}};
+    TextBox TxtResonance{this, "TxtResonance",
+        {.at = beside(LblResonance, resultats.results),
+            .BackColor = resultColor,
+            .Locked = true,
+            .Visible = false,
+            .label = &LblResonance}};
 
 private:
-    static constexpr Color ouvert = 0xFFFFFF;
-    static constexpr Color ferme = 0xFFFF80;
-
+    static ListBox::Design unites(const TextBox& champ, Label& legende, std::vector<std::string> items);
     static Frame::Design frmCircuitDesign(int index);
 
     void Form_Load() override;

@@ -7,11 +7,6 @@
 
 namespace ondelis {
 
-FormuleDeThomson::FormuleDeThomson(Desk& desk)
-    : FeuilleCalcul{desk, {.name = "FormuleDeThomson", .Caption = "Formule de Thomson", .Width = 6540, .Height = 3585}}
-{
-}
-
 void FormuleDeThomson::Form_Load()
 {
     resumeNext([&] { OptF.Value = true; });
@@ -95,13 +90,13 @@ void FormuleDeThomson::Calculer()
 
 void FormuleDeThomson::Chercher(TextBox& champ)
 {
-    champ.BackColor = cherche;
+    champ.BackColor = soughtColor;
     champ.Locked = true;
 }
 
 void FormuleDeThomson::Donner(TextBox& champ)
 {
-    champ.BackColor = donne;
+    champ.BackColor = givenColor;
     champ.Locked = false;
 }
 

@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "forms/Column.h"
 #include "forms/Controls.h"
 #include "forms/FeuilleCalcul.h"
 
@@ -10,46 +11,63 @@ namespace ondelis {
 /// The resonance of an LC circuit, solved for the frequency, the inductance or the capacitance.
 class FormuleDeThomson final : public FeuilleCalcul {
 public:
-    explicit FormuleDeThomson(Desk& desk);
+    explicit FormuleDeThomson(Desk& desk)
+        : FeuilleCalcul{
+            desk, {.name = "FormuleDeThomson", .Caption = "Formule de Thomson", .Width = 6540, .Height = 3585}}
+    {
+    }
 
-    // clang-format off
-    OptionButton OptF    {this, "OptF",     {.at = {240, 517, 300, 300}, .label = &LblFrequ}, &FormuleDeThomson::OptF_Click};
-    Label        LblFrequ{this, "LblFrequ", {.Caption = "Fréquence en MHz", .at = {600, 240, 2550, 255}}};
-    TextBox      TxtFreq {this, "TxtFreq",  {.at = {600, 510, 2550, 315}, .label = &LblFrequ}, &FormuleDeThomson::TxtFreq_Change};
-    OptionButton OptL    {this, "OptL",     {.at = {240, 1477, 300, 300}, .label = &Label12}, &FormuleDeThomson::OptL_Click};
-    Label        Label12 {this, "Label12",  {.Caption = "Inductance en µH", .at = {600, 1200, 2550, 255}}};
-    TextBox      TxtSelf {this, "TxtSelf",  {.at = {600, 1470, 2550, 315}, .label = &Label12}, &FormuleDeThomson::TxtSelf_Change};
-    OptionButton OptC    {this, "OptC",     {.at = {240, 2437, 300, 300}, .label = &LblCapa}, &FormuleDeThomson::OptC_Click};
-    Label        LblCapa {this, "LblCapa",  {.Caption = "Capacitance en pF", .at = {600, 2160, 2550, 255}}};
-    TextBox      TxtCapa {this, "TxtCapa",  {.at = {600, 2430, 2550, 315}, .label = &LblCapa}, &FormuleDeThomson::TxtCapa_Change};
+    using Me = FormuleDeThomson;
+
+    static constexpr Column choix{.left = 240, .captions = 300, .top = 517, .pitch = 960};
+    static constexpr Column grandeurs{.left = 600, .captions = 2550, .top = 210, .pitch = 960};
+    static constexpr Column egalites{.left = 3210, .captions = 420, .top = 510, .pitch = 960};
+    static constexpr Column numerateurs{.left = 3660, .captions = 1710, .top = 330, .pitch = 960};
+    static constexpr Column denominateurs = numerateurs.from(690);
+
+    OptionButton OptF{this, "OptF", {.at = choix.optionAt(0), .label = &LblFrequ}, &Me::OptF_Click};
+    Label LblFrequ{this, "LblFrequ", grandeurs.caption(0, "Fréquence en MHz")};
+    TextBox TxtFreq{this, "TxtFreq", {.at = under(LblFrequ, 2550), .label = &LblFrequ}, &Me::TxtFreq_Change};
+    OptionButton OptL{this, "OptL", {.at = choix.optionAt(1), .label = &Label12}, &Me::OptL_Click};
+    Label Label12{this, "Label12", grandeurs.caption(1, "Inductance en µH")};
+    TextBox TxtSelf{this, "TxtSelf", {.at = under(Label12, 2550), .label = &Label12}, &Me::TxtSelf_Change};
+    OptionButton OptC{this, "OptC", {.at = choix.optionAt(2), .label = &LblCapa}, &Me::OptC_Click};
+    Label LblCapa{this, "LblCapa", grandeurs.caption(2, "Capacitance en pF")};
+    TextBox TxtCapa{this, "TxtCapa", {.at = under(LblCapa, 2550), .label = &LblCapa}, &Me::TxtCapa_Change};
 
     // The formulas: F = 1 / (2 Pi root(L C)), L = 1 / ((2 Pi F)² C), C = 1 / ((2 Pi F)² L).
-    Label LblF       {this, "LblF",        {.Caption = "F = ", .at = {3210, 540, 420, 255}, .align = Align::Right}};
-    Label LblFHaut   {this, "LblFHaut",    {.Caption = "1", .at = {3660, 360, 1710, 255}, .align = Align::Center}};
-    Line  BarreF     {this, "BarreF",      {.X1 = 3660, .Y1 = 667, .X2 = 5370, .Y2 = 667}};
-    Label LblFBas    {this, "LblFBas",     {.Caption = "2 * Pi *", .at = {3645, 735, 840, 255}, .align = Align::Right}};
-    Line  RacineF1   {this, "RacineF1",    {.X1 = 4545, .Y1 = 897, .X2 = 4590, .Y2 = 867}};
-    Line  RacineF2   {this, "RacineF2",    {.X1 = 4590, .Y1 = 867, .X2 = 4665, .Y2 = 1000, .BorderWidth = 2}};
-    Line  RacineF3   {this, "RacineF3",    {.X1 = 4665, .Y1 = 1000, .X2 = 4740, .Y2 = 742}};
-    Line  RacineF4   {this, "RacineF4",    {.X1 = 4740, .Y1 = 742, .X2 = 5190, .Y2 = 742}};
-    Label LblFRacine {this, "LblFRacine",  {.Caption = "L C", .at = {4755, 757, 420, 255}, .align = Align::Center}};
+    Label LblF{this, "LblF", {.Caption = "F = ", .at = egalites.at(0), .align = Align::Right}};
+    Label LblFHaut{this, "LblFHaut", {.Caption = "1", .at = numerateurs.at(0), .align = Align::Center}};
+    Line BarreF{this, "BarreF", barre(0)};
+    Label LblFBas{this, "LblFBas", {.Caption = "2 * Pi *", .at = {3645, 735, 840, 255}, .align = Align::Right}};
+    Line RacineF1{this, "RacineF1", {.X1 = 4545, .Y1 = 897, .X2 = 4590, .Y2 = 867}};
+    Line RacineF2{this, "RacineF2", {.X1 = 4590, .Y1 = 867, .X2 = 4665, .Y2 = 1000, .BorderWidth = 2}};
+    Line RacineF3{this, "RacineF3", {.X1 = 4665, .Y1 = 1000, .X2 = 4740, .Y2 = 742}};
+    Line RacineF4{this, "RacineF4", {.X1 = 4740, .Y1 = 742, .X2 = 5190, .Y2 = 742}};
+    Label LblFRacine{this, "LblFRacine", {.Caption = "L C", .at = {4755, 757, 420, 255}, .align = Align::Center}};
 
-    Label LblL       {this, "LblL",        {.Caption = "L = ", .at = {3210, 1500, 420, 255}, .align = Align::Right}};
-    Label LblLHaut   {this, "LblLHaut",    {.Caption = "1", .at = {3660, 1320, 1710, 255}, .align = Align::Center}};
-    Line  BarreL     {this, "BarreL",      {.X1 = 3660, .Y1 = 1627, .X2 = 5370, .Y2 = 1627}};
-    Label LblLBas    {this, "LblLBas",     {.Caption = "( 2 * Pi * F )² * C", .at = {3660, 1680, 1710, 255}, .align = Align::Center}};
+    Label LblL{this, "LblL", {.Caption = "L = ", .at = egalites.at(1), .align = Align::Right}};
+    Label LblLHaut{this, "LblLHaut", {.Caption = "1", .at = numerateurs.at(1), .align = Align::Center}};
+    Line BarreL{this, "BarreL", barre(1)};
+    Label LblLBas{
+        this, "LblLBas", {.Caption = "( 2 * Pi * F )² * C", .at = denominateurs.at(1), .align = Align::Center}};
 
-    Label LblC       {this, "LblC",        {.Caption = "C = ", .at = {3210, 2460, 420, 255}, .align = Align::Right}};
-    Label LblCHaut   {this, "LblCHaut",    {.Caption = "1", .at = {3660, 2280, 1710, 255}, .align = Align::Center}};
-    Line  BarreC     {this, "BarreC",      {.X1 = 3660, .Y1 = 2587, .X2 = 5370, .Y2 = 2587}};
-    Label LblCBas    {this, "LblCBas",     {.Caption = "( 2 * Pi * F )² * L", .at = {3660, 2640, 1710, 255}, .align = Align::Center}};
+    Label LblC{this, "LblC", {.Caption = "C = ", .at = egalites.at(2), .align = Align::Right}};
+    Label LblCHaut{this, "LblCHaut", {.Caption = "1", .at = numerateurs.at(2), .align = Align::Center}};
+    Line BarreC{this, "BarreC", barre(2)};
+    Label LblCBas{
+        this, "LblCBas", {.Caption = "( 2 * Pi * F )² * L", .at = denominateurs.at(2), .align = Align::Center}};
 
     PictureBox Picture1{this, "Picture1", {.picture = "thomson-icone", .at = {5490, 240, 690, 690}}};
-    // clang-format on
 
 private:
-    static constexpr Color cherche = 0xC0E0FF; ///< orange: the field to be solved
-    static constexpr Color donne = 0xC0FFC0; ///< green: an input
+    /// The bar of a fraction, under its numerator.
+    static Line::Design barre(double row)
+    {
+        const Box numerateur = numerateurs.at(row);
+        const double y = numerateur.Top + 307;
+        return {.X1 = numerateur.Left, .Y1 = y, .X2 = numerateur.Left + numerateur.Width, .Y2 = y};
+    }
 
     void Form_Load() override;
     void OptF_Click();

@@ -5,12 +5,6 @@
 
 namespace ondelis {
 
-RLCParallele::RLCParallele(Desk& desk)
-    : FeuilleCalcul{
-        desk, {.name = "RLCParallele", .Caption = "Resolution graphique RLC parallele", .Width = 8325, .Height = 7680}}
-{
-}
-
 void RLCParallele::Form_Load()
 {
     resumeNext([&] { Pi = Atn(1) * 4; });
@@ -78,11 +72,11 @@ void RLCParallele::Calculer()
     const Double dy = Single{LRes.Y2 - LRes.Y1};
 
     // The length of the resultant on the screen, in twips.
-    TxtZ.Text = CStr(Fix(Sqr(Pow(dx, 2) + Pow(dy, 2)) * 1000) / 1000);
-    TxtXl.Text = CStr(Fix(Zl * 100) / 100);
-    TxtXc.Text = CStr(Fix(100 * Xc) / 100);
+    TxtZ.Text = CStr(Cut(Sqr(Pow(dx, 2) + Pow(dy, 2)), 1000));
+    TxtXl.Text = CStr(Cut(Zl, 100));
+    TxtXc.Text = CStr(Cut(Xc, 100));
     if (dx > 0)
-        TxtPhi.Text = CStr(Fix(Atn(dy / dx) * 180 / Pi * 100) / 100);
+        TxtPhi.Text = CStr(Cut(Atn(dy / dx) * 180 / Pi, 100));
     else if (I1 > I2)
         TxtPhi.Text = "90";
     else if (I1 == I2)

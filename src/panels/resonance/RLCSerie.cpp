@@ -5,12 +5,6 @@
 
 namespace ondelis {
 
-RLCSerie::RLCSerie(Desk& desk)
-    : FeuilleCalcul{
-        desk, {.name = "RLCSerie", .Caption = "Résolution graphique RLC série", .Width = 9315, .Height = 7560}}
-{
-}
-
 void RLCSerie::Form_Load()
 {
     resumeNext([&] { TxtR.Text = "40"; });
@@ -76,7 +70,7 @@ void RLCSerie::Calculer()
     Tracer(Xl, Xc);
 
     const Double Z = Sqr(Pow(R, 2) + Pow(Xl - Xc, 2));
-    TxtZ.Text = CStr(Fix(100 * Z) / 100);
+    TxtZ.Text = CStr(Cut(Z, 100));
     Double Phi;
     if (R > 0)
         Phi = Atn((Xl - Xc) / R);
@@ -84,7 +78,7 @@ void RLCSerie::Calculer()
         Phi = Pi() / 2; // the sign opposite to the limit of the phase above, as below
     else
         Phi = -Pi() / 2;
-    TxtPhi.Text = CStr(Fix(180 * Phi / Pi() * 100) / 100);
+    TxtPhi.Text = CStr(Cut(180 * Phi / Pi(), 100));
 }
 
 void RLCSerie::Tracer(Double Xl, Double Xc)

@@ -1,8 +1,9 @@
 #pragma once
 
+#include "forms/Column.h"
 #include "forms/Controls.h"
 #include "forms/FeuilleCalcul.h"
-#include "panels/resonance/CouleursDiagramme.h"
+#include "panels/resonance/Diagramme.h"
 
 namespace ondelis {
 
@@ -10,59 +11,70 @@ namespace ondelis {
 /// of the impedances.
 class RLCSerie final : public FeuilleCalcul {
 public:
-    explicit RLCSerie(Desk& desk);
+    explicit RLCSerie(Desk& desk)
+        : FeuilleCalcul{
+            desk, {.name = "RLCSerie", .Caption = "Résolution graphique RLC série", .Width = 9315, .Height = 7560}}
+    {
+    }
 
-    // clang-format off
-    Label      LblR      {this, "LblR",       {.Caption = "R en Ohms", .at = {240, ligne(0) + 30, 2100, 255}}};
-    TextBox    TxtR      {this, "TxtR",       {.at = {2400, ligne(0), 1320, 315}, .label = &LblR}, &RLCSerie::TxtR_Change};
-    Label      LblL      {this, "LblL",       {.Caption = "L en µH", .at = {240, ligne(1) + 30, 2100, 255}}};
-    TextBox    TxtL      {this, "TxtL",       {.at = {2400, ligne(1), 1320, 315}, .label = &LblL}, &RLCSerie::TxtL_Change};
-    Label      LblC      {this, "LblC",       {.Caption = "C en pF", .at = {240, ligne(2) + 30, 2100, 255}}};
-    TextBox    TxtC      {this, "TxtC",       {.at = {2400, ligne(2), 1320, 315}, .label = &LblC}, &RLCSerie::TxtC_Change};
-    Label      LblFreqDeb{this, "LblFreqDeb", {.Caption = "Fréq de début en MHz", .at = {240, ligne(3) + 30, 2100, 255}}};
-    TextBox    TxtFreqDeb{this, "TxtFreqDeb", {.at = {2400, ligne(3), 1320, 315}, .label = &LblFreqDeb}, &RLCSerie::TxtFreqDeb_Change};
-    Label      LblFreqFin{this, "LblFreqFin", {.Caption = "Fréq de fin en MHz", .at = {240, ligne(4) + 30, 2100, 255}}};
-    TextBox    TxtFreqFin{this, "TxtFreqFin", {.at = {2400, ligne(4), 1320, 315}, .label = &LblFreqFin}, &RLCSerie::TxtFreqFin_Change};
-    Label      Label18   {this, "Label18",    {.Caption = "Fréquence active", .at = {240, ligne(5.5) + 30, 2100, 255}}};
-    HScrollBar HScroll1  {this, "HScroll1",   {.LargeChange = 10, .at = {240, ligne(6.5) + 30, 4710, 255}, .label = &Label18}, &RLCSerie::HScroll1_Change};
-    TextBox    TxtFreq   {this, "TxtFreq",    resultField({2400, ligne(5.5), 1320, 315}, &Label18)};
+    using Me = RLCSerie;
+    static constexpr Column saisies{.left = 240, .captions = 2100, .results = 1320};
+    static constexpr Column resultats{.left = 240, .captions = 2100, .results = 2550, .top = 3120};
+    static constexpr Column formules{.left = 240, .captions = 4710, .top = 5250};
+    static constexpr diagramme::Legende legende{
+        .traits = 7860, .noms = {.left = 8250, .captions = 600, .top = 3030, .pitch = 270}};
 
-    Label      LblXl     {this, "LblXl",      {.Caption = "Xl en Ohms", .at = {240, ligne(8) + 30, 2100, 255}}};
-    TextBox    TxtXl     {this, "TxtXl",      resultField({2400, ligne(8), 2550, 315}, &LblXl)};
-    Label      LblXc     {this, "LblXc",      {.Caption = "Xc en Ohms", .at = {240, ligne(9) + 30, 2100, 255}}};
-    TextBox    TxtXc     {this, "TxtXc",      resultField({2400, ligne(9), 2550, 315}, &LblXc)};
-    Label      Label15   {this, "Label15",    {.Caption = "Impédance", .at = {240, ligne(10) + 30, 2100, 255}}};
-    TextBox    TxtZ      {this, "TxtZ",       resultField({2400, ligne(10), 2550, 315}, &Label15)};
-    Label      Label14   {this, "Label14",    {.Caption = "Déphasage", .at = {240, ligne(11) + 30, 2100, 255}}};
-    TextBox    TxtPhi    {this, "TxtPhi",     resultField({2400, ligne(11), 2550, 315}, &Label14)};
-    Label      Label4    {this, "Label4",     {.Caption = "I commun", .at = {240, ligne(12) + 30, 2100, 255}}};
-    Label      Label19   {this, "Label19",    {.at = {2445, ligne(12) + 30, 2505, 255}}};
+    Label LblR{this, "LblR", saisies.caption(0, "R en Ohms")};
+    TextBox TxtR{this, "TxtR", saisies.input(LblR), &Me::TxtR_Change};
+    Label LblL{this, "LblL", saisies.caption(1, "L en µH")};
+    TextBox TxtL{this, "TxtL", saisies.input(LblL), &Me::TxtL_Change};
+    Label LblC{this, "LblC", saisies.caption(2, "C en pF")};
+    TextBox TxtC{this, "TxtC", saisies.input(LblC), &Me::TxtC_Change};
+    Label LblFreqDeb{this, "LblFreqDeb", saisies.caption(3, "Fréq de début en MHz")};
+    TextBox TxtFreqDeb{this, "TxtFreqDeb", saisies.input(LblFreqDeb), &Me::TxtFreqDeb_Change};
+    Label LblFreqFin{this, "LblFreqFin", saisies.caption(4, "Fréq de fin en MHz")};
+    TextBox TxtFreqFin{this, "TxtFreqFin", saisies.input(LblFreqFin), &Me::TxtFreqFin_Change};
 
-    Label      LblFormuleXl {this, "LblFormuleXl",  {.Caption = "Xl = L * 2 * Pi * F", .at = {240, ligne(14), 4710, 255}}};
-    Label      LblFormuleXc {this, "LblFormuleXc",  {.Caption = "Xc = 1 / (C * 2 * Pi * F)", .at = {240, ligne(15), 4710, 255}}};
-    Label      LblFormuleZ  {this, "LblFormuleZ",   {.Caption = "Z = racine [ R² + (Xl - Xc)²]", .at = {240, ligne(16), 4710, 255}}};
-    Label      LblFormulePhi{this, "LblFormulePhi", {.Caption = "Phi = atn[ (Xl-Xc) / (R) ]", .at = {240, ligne(17), 4710, 255}}};
+    Label Label18{this, "Label18", saisies.caption(5.5, "Fréquence active")};
+    HScrollBar HScroll1{
+        this, "HScroll1", {.LargeChange = 10, .at = resultats.across(-1.5), .label = &Label18}, &Me::HScroll1_Change};
+    TextBox TxtFreq{this, "TxtFreq", saisies.result(Label18)};
 
-    Image      Schema    {this, "Schema",     {.picture = "rlc-serie", .at = {5190, 120, 3765, 2580}}};
+    Label LblXl{this, "LblXl", resultats.caption(0, "Xl en Ohms")};
+    TextBox TxtXl{this, "TxtXl", resultats.result(LblXl)};
+    Label LblXc{this, "LblXc", resultats.caption(1, "Xc en Ohms")};
+    TextBox TxtXc{this, "TxtXc", resultats.result(LblXc)};
+    Label Label15{this, "Label15", resultats.caption(2, "Impédance")};
+    TextBox TxtZ{this, "TxtZ", resultats.result(Label15)};
+    Label Label14{this, "Label14", resultats.caption(3, "Déphasage")};
+    TextBox TxtPhi{this, "TxtPhi", resultats.result(Label14)};
+    Label Label4{this, "Label4", resultats.caption(4, "I commun")};
+    Label Label19{this, "Label19", {.at = {2445, resultats.at(4).Top, 2505, 255}}};
+
+    Label LblFormuleXl{this, "LblFormuleXl", formules.caption(0, "Xl = L * 2 * Pi * F")};
+    Label LblFormuleXc{this, "LblFormuleXc", formules.caption(1, "Xc = 1 / (C * 2 * Pi * F)")};
+    Label LblFormuleZ{this, "LblFormuleZ", formules.caption(2, "Z = racine [ R² + (Xl - Xc)²]")};
+    Label LblFormulePhi{this, "LblFormulePhi", formules.caption(3, "Phi = atn[ (Xl-Xc) / (R) ]")};
+
+    Image Schema{this, "Schema", {.picture = "rlc-serie", .at = {5190, 120, 3765, 2580}}};
 
     // The diagram: its longest side takes a fifth of the width of the panel, up or down from the origin, or to its
     // right. Lines may lie on one another: the later ones are the thinner.
-    Shape      Cadre      {this, "Cadre",       {.at = {5190, 2940, 3765, 3900}}};
-    Line       Line3      {this, "Line3",       {.X1 = 5655, .Y1 = 4890, .X2 = 8655, .Y2 = 4890, .BorderColor = diagramme::axe}};
-    Line       LXl        {this, "LXl",         {.BorderColor = diagramme::bleu, .BorderWidth = 7, .within = &Cadre}};
-    Line       LR         {this, "LR",          {.BorderColor = diagramme::ocre, .BorderWidth = 5, .within = &Cadre}};
-    Line       LXc        {this, "LXc",         {.BorderColor = diagramme::vert, .BorderWidth = 4, .within = &Cadre}};
-    Line       LResultante{this, "LResultante", {.BorderColor = diagramme::rouge, .BorderWidth = 2, .within = &Cadre}};
+    Shape Cadre{this, "Cadre", {.at = under(Schema, 3765, 3900, 240)}};
+    Line Line3{this, "Line3", {.X1 = 5655, .Y1 = 4890, .X2 = 8655, .Y2 = 4890, .BorderColor = diagramme::axe}};
+    Line LXl{this, "LXl", {.BorderColor = diagramme::bleu, .BorderWidth = 7, .within = &Cadre}};
+    Line LR{this, "LR", {.BorderColor = diagramme::ocre, .BorderWidth = 5, .within = &Cadre}};
+    Line LXc{this, "LXc", {.BorderColor = diagramme::vert, .BorderWidth = 4, .within = &Cadre}};
+    Line LResultante{this, "LResultante", {.BorderColor = diagramme::rouge, .BorderWidth = 2, .within = &Cadre}};
 
-    Line       LegendeR         {this, "LegendeR",          {.X1 = 7860, .Y1 = 3187, .X2 = 8160, .Y2 = 3187, .BorderColor = diagramme::ocre, .BorderWidth = 5}};
-    Label      LblLegendeR      {this, "LblLegendeR",       {.Caption = "R", .at = {8250, 3060, 600, 255}}};
-    Line       LegendeXl        {this, "LegendeXl",         {.X1 = 7860, .Y1 = 3457, .X2 = 8160, .Y2 = 3457, .BorderColor = diagramme::bleu, .BorderWidth = 7}};
-    Label      LblLegendeXl     {this, "LblLegendeXl",      {.Caption = "Xl", .at = {8250, 3330, 600, 255}}};
-    Line       LegendeXc        {this, "LegendeXc",         {.X1 = 7860, .Y1 = 3727, .X2 = 8160, .Y2 = 3727, .BorderColor = diagramme::vert, .BorderWidth = 4}};
-    Label      LblLegendeXc     {this, "LblLegendeXc",      {.Caption = "Xc", .at = {8250, 3600, 600, 255}}};
-    Line       LegendeResultante{this, "LegendeResultante", {.X1 = 7860, .Y1 = 3997, .X2 = 8160, .Y2 = 3997, .BorderColor = diagramme::rouge, .BorderWidth = 2}};
-    Label      LblLegendeZ      {this, "LblLegendeZ",       {.Caption = "Z", .at = {8250, 3870, 600, 255}}};
-    // clang-format on
+    Line LegendeR{this, "LegendeR", legende.trait(0, diagramme::ocre, 5)};
+    Label LblLegendeR{this, "LblLegendeR", legende.nom(0, "R")};
+    Line LegendeXl{this, "LegendeXl", legende.trait(1, diagramme::bleu, 7)};
+    Label LblLegendeXl{this, "LblLegendeXl", legende.nom(1, "Xl")};
+    Line LegendeXc{this, "LegendeXc", legende.trait(2, diagramme::vert, 4)};
+    Label LblLegendeXc{this, "LblLegendeXc", legende.nom(2, "Xc")};
+    Line LegendeResultante{this, "LegendeResultante", legende.trait(3, diagramme::rouge, 2)};
+    Label LblLegendeZ{this, "LblLegendeZ", legende.nom(3, "Z")};
 
 private:
     void Form_Load() override;

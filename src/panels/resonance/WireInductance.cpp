@@ -6,12 +6,6 @@
 
 namespace ondelis {
 
-WireInductance::WireInductance(Desk& desk)
-    : FeuilleCalcul{
-        desk, {.name = "WireInductance", .Caption = "Inductance d'une épingle", .Width = 10050, .Height = 3150}}
-{
-}
-
 void WireInductance::Form_Load()
 {
     resumeNext([&] { PouceMm = 25.4; });

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "forms/Column.h"
 #include "forms/Controls.h"
 #include "forms/FeuilleCalcul.h"
 
@@ -8,20 +9,26 @@ namespace ondelis {
 /// The inductance of a hairpin: a wire bent into a long U.
 class WireInductance final : public FeuilleCalcul {
 public:
-    explicit WireInductance(Desk& desk);
+    explicit WireInductance(Desk& desk)
+        : FeuilleCalcul{
+            desk, {.name = "WireInductance", .Caption = "Inductance d'une épingle", .Width = 10050, .Height = 3150}}
+    {
+    }
 
-    // clang-format off
-    Label   LblDiametre  {this, "LblDiametre",   {.Caption = "Diamètre du fil en mm", .at = {240, ligne(0) + 30, 2580, 255}}};
-    TextBox TxtDiam      {this, "TxtDiam",       {.at = {2880, ligne(0), 1320, 315}, .label = &LblDiametre}, &WireInductance::TxtDiam_Change};
-    Label   LblHaut      {this, "LblHaut",       {.Caption = "Hauteur en mm",         .at = {240, ligne(1) + 30, 2580, 255}}};
-    TextBox TxtHaut      {this, "TxtHaut",       {.at = {2880, ligne(1), 1320, 315}, .label = &LblHaut}, &WireInductance::TxtHaut_Change};
-    Label   LblLength    {this, "LblLength",     {.Caption = "Longueur en mm",        .at = {240, ligne(2) + 30, 2580, 255}}};
-    TextBox TxtLong      {this, "TxtLong",       {.at = {2880, ligne(2), 1320, 315}, .label = &LblLength}, &WireInductance::TxtLong_Change};
-    Label   LblSelf      {this, "LblSelf",       {.Caption = "Inductance en H",       .at = {240, ligne(4) + 30, 2580, 255}}};
-    TextBox TxtInductance{this, "TxtInductance", resultField({2880, ligne(4), 2040, 315}, &LblSelf)};
+    using Me = WireInductance;
+    static constexpr Column valeurs{.left = 240, .captions = 2580, .results = 2040};
 
-    Image   Image2       {this, "Image2",        {.picture = "epingle", .at = {5160, 180, 4500, 2250}}};
-    // clang-format on
+    Label LblDiametre{this, "LblDiametre", valeurs.caption(0, "Diamètre du fil en mm")};
+    TextBox TxtDiam{this, "TxtDiam", valeurs.input(LblDiametre), &Me::TxtDiam_Change};
+    Label LblHaut{this, "LblHaut", valeurs.caption(1, "Hauteur en mm")};
+    TextBox TxtHaut{this, "TxtHaut", valeurs.input(LblHaut), &Me::TxtHaut_Change};
+    Label LblLength{this, "LblLength", valeurs.caption(2, "Longueur en mm")};
+    TextBox TxtLong{this, "TxtLong", valeurs.input(LblLength), &Me::TxtLong_Change};
+
+    Label LblSelf{this, "LblSelf", valeurs.caption(4, "Inductance en H")};
+    TextBox TxtInductance{this, "TxtInductance", valeurs.result(LblSelf)};
+
+    Image Image2{this, "Image2", {.picture = "epingle", .at = {5160, 180, 4500, 2250}}};
 
 private:
     void Form_Load() override;

@@ -5,10 +5,6 @@
 
 namespace ondelis {
 
-Z1Z2::Z1Z2(Desk& desk) : FeuilleCalcul{desk, {.name = "Z1Z2", .Caption = "Z1 vers Z2", .Width = 9930, .Height = 3105}}
-{
-}
-
 void Z1Z2::Form_Load()
 {
     resumeNext([&] { TxtZ1.Text = "50"; });
@@ -37,7 +33,7 @@ void Z1Z2::TxtNbSpZ1_Change()
 void Z1Z2::Calculer()
 {
     if (Z1 != 0 && Z2 != 0 && N1 != 0)
-        TxtNbSpZ2.Text = CStr(Fix(Sqr(Pow(N1, 2) * Z2 / Z1) * 10) / 10);
+        TxtNbSpZ2.Text = CStr(Cut(Sqr(Pow(N1, 2) * Z2 / Z1), 10));
 }
 
 } // namespace ondelis

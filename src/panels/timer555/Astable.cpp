@@ -5,11 +5,6 @@
 
 namespace ondelis {
 
-Astable::Astable(Desk& desk)
-    : FeuilleCalcul{desk, {.name = "Astable", .Caption = "Montage astable", .Width = 7245, .Height = 8400}}
-{
-}
-
 void Astable::Form_Load()
 {
     resumeNext([&] { HscrCapa.Value = 10; });
@@ -50,8 +45,8 @@ void Astable::CalculResistances()
     const Double SommeR = Periode / (Capacite * 0.693); // R1 + R2, the whole of the timing
     const Double R1 = SommeR / 4;
     const Double R2 = (SommeR * 3) / 4;
-    LblR1.Caption = "Résistance R1 = " + Str(Fix(100 * R1) / 100) + " Ohms";
-    LblR2.Caption = "Résistance R2 = " + Str(Fix(100 * R2) / 100) + " Ohms";
+    LblR1.Caption = "Résistance R1 = " + Str(Cut(R1, 100)) + " Ohms";
+    LblR2.Caption = "Résistance R2 = " + Str(Cut(R2, 100)) + " Ohms";
 }
 
 } // namespace ondelis

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "forms/Column.h"
 #include "forms/Controls.h"
 #include "forms/FeuilleCalcul.h"
 #include "panels/timer555/Reglages.h"
@@ -9,28 +10,33 @@ namespace ondelis {
 /// The two resistors of a 555 timer in astable connection for a wanted frequency and a given capacitor.
 class Astable final : public FeuilleCalcul {
 public:
-    explicit Astable(Desk& desk);
+    explicit Astable(Desk& desk)
+        : FeuilleCalcul{desk, {.name = "Astable", .Caption = "Montage astable", .Width = 7245, .Height = 8400}}
+    {
+    }
 
-    // clang-format off
-    PictureBox Picture1 {this, "Picture1",  {.picture = "astable-555", .at = {240, 240, 6645, 3840}}};
+    using Me = Astable;
+    static constexpr Column reglages{.left = 240, .captions = 5580, .top = 4440, .pitch = 1020};
+    static constexpr Column resistances{.left = 420, .captions = 4440, .top = 6750};
 
-    Label      LblFreq  {this, "LblFreq",   {.Caption = "Fréquence", .at = {240, 4470, 5580, 255}}};
-    Label      Label2   {this, "Label2",    {.Caption = "1", .at = {240, 4755, 180, 255}}};
-    HScrollBar HscrFreq {this, "HscrFreq",  barre({480, 4755, 4740, 255}, 50, &LblFreq), &Astable::HscrFreq_Change};
-    Label      Label3   {this, "Label3",    {.Caption = "1000", .at = {5280, 4755, 540, 255}}};
-    ListBox    LstFreq  {this, "LstFreq",   {.Items = {"Hz", "KHz"}, .at = {5925, 4470, 960, 540}, .label = &LblFreq}, &Astable::LstFreq_Click};
+    PictureBox Picture1{this, "Picture1", {.picture = "astable-555", .at = {240, 240, 6645, 3840}}};
 
-    Label      LblCapa  {this, "LblCapa",   {.Caption = "Condensateur", .at = {240, 5490, 5580, 255}}};
-    Label      Label4   {this, "Label4",    {.Caption = "1", .at = {240, 5775, 180, 255}}};
-    HScrollBar HscrCapa {this, "HscrCapa",  barre({480, 5775, 4740, 255}, 10, &LblCapa), &Astable::HscrCapa_Change};
-    Label      Label5   {this, "Label5",    {.Caption = "1000", .at = {5280, 5775, 540, 255}}};
-    ListBox    LstCapa  {this, "LstCapa",   {.Items = {"µF", "nF", "pF"}, .at = {5925, 5370, 960, 780}, .label = &LblCapa}, &Astable::LstCapa_Click};
+    Label LblFreq{this, "LblFreq", reglages.caption(0, "Fréquence")};
+    Label Label2{this, "Label2", {.Caption = "1", .at = sousLegende(LblFreq, 180)}};
+    HScrollBar HscrFreq{this, "HscrFreq", barre(rightOf(Label2, 4740), 50, LblFreq), &Me::HscrFreq_Change};
+    Label Label3{this, "Label3", {.Caption = "1000", .at = rightOf(HscrFreq, 540)}};
+    ListBox LstFreq{this, "LstFreq", unites(LblFreq, {"Hz", "KHz"}), &Me::LstFreq_Click};
 
-    Shape      Cadre1   {this, "Cadre1",    {.at = {240, 6510, 6645, 1155}}};
-    Label      LblR1    {this, "LblR1",     {.Caption = "R1", .at = {420, 6780, 4440, 255}}};
-    Label      LblR2    {this, "LblR2",     {.Caption = "R2", .at = {420, 7140, 4440, 255}}};
-    Label      Label1   {this, "Label1",    {.Caption = "R2 = 3 x R1", .at = {5340, 6960, 1365, 255}}};
-    // clang-format on
+    Label LblCapa{this, "LblCapa", reglages.caption(1, "Condensateur")};
+    Label Label4{this, "Label4", {.Caption = "1", .at = sousLegende(LblCapa, 180)}};
+    HScrollBar HscrCapa{this, "HscrCapa", barre(rightOf(Label4, 4740), 10, LblCapa), &Me::HscrCapa_Change};
+    Label Label5{this, "Label5", {.Caption = "1000", .at = rightOf(HscrCapa, 540)}};
+    ListBox LstCapa{this, "LstCapa", unites(LblCapa, {"µF", "nF", "pF"}), &Me::LstCapa_Click};
+
+    Shape Cadre1{this, "Cadre1", {.at = {240, 6510, 6645, 1155}}};
+    Label LblR1{this, "LblR1", resistances.caption(0, "R1")};
+    Label LblR2{this, "LblR2", resistances.caption(1, "R2")};
+    Label Label1{this, "Label1", {.Caption = "R2 = 3 x R1", .at = {5340, resistances.at(0.5).Top, 1365, 255}}};
 
 private:
     void Form_Load() override;

@@ -5,11 +5,6 @@
 
 namespace ondelis {
 
-Monostable::Monostable(Desk& desk)
-    : FeuilleCalcul{desk, {.name = "Monostable", .Caption = "Montage en monostable", .Width = 7245, .Height = 7785}}
-{
-}
-
 void Monostable::Form_Load()
 {
     resumeNext([&] { HscrRes.Value = 541; });
@@ -48,7 +43,7 @@ void Monostable::CalculMonostable()
         return;
     const Double Duree = Capacite * 0.693 * Resistance; // s
     if (Duree >= 1)
-        LblDuree.Caption = "Durée " + Str(Fix(Duree * 100) / 100) + " s";
+        LblDuree.Caption = "Durée " + Str(Cut(Duree, 100)) + " s";
     else if (Duree >= 0.001)
         LblDuree.Caption = "Durée " + Str(Fix(Duree * 1e5) / 100) + " ms";
     else if (Duree >= 1e-6)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "forms/Column.h"
 #include "forms/Controls.h"
 #include "forms/FeuilleCalcul.h"
 #include "panels/timer555/Reglages.h"
@@ -9,22 +10,26 @@ namespace ondelis {
 /// The pulse of a 555 timer in monostable connection, from its resistor and its capacitor.
 class Monostable final : public FeuilleCalcul {
 public:
-    explicit Monostable(Desk& desk);
+    explicit Monostable(Desk& desk)
+        : FeuilleCalcul{desk, {.name = "Monostable", .Caption = "Montage en monostable", .Width = 7245, .Height = 7785}}
+    {
+    }
 
-    // clang-format off
-    PictureBox Picture1 {this, "Picture1",  {.picture = "monostable-555", .at = {240, 240, 6645, 3840}}};
+    using Me = Monostable;
+    static constexpr Column reglages{.left = 240, .captions = 5580, .top = 4440, .pitch = 1020};
 
-    Label      LblRes   {this, "LblRes",    {.Caption = "Résistance", .at = {240, 4470, 5580, 255}}};
-    HScrollBar HscrRes  {this, "HscrRes",   barre({240, 4755, 5580, 255}, 1, &LblRes), &Monostable::HscrRes_Change};
-    ListBox    LstRes   {this, "LstRes",    {.Items = {"Ohms", "KOhms", "MOhms"}, .at = {5925, 4350, 960, 780}, .label = &LblRes}, &Monostable::LstRes_Click};
+    PictureBox Picture1{this, "Picture1", {.picture = "monostable-555", .at = {240, 240, 6645, 3840}}};
 
-    Label      LblCapa  {this, "LblCapa",   {.Caption = "Condensateur", .at = {240, 5490, 5580, 255}}};
-    HScrollBar HscrCapa {this, "HscrCapa",  barre({240, 5775, 5580, 255}, 1, &LblCapa), &Monostable::HscrCapa_Change};
-    ListBox    LstCapa  {this, "LstCapa",   {.Items = {"µF", "nF", "pF"}, .at = {5925, 5370, 960, 780}, .label = &LblCapa}, &Monostable::LstCapa_Click};
+    Label LblRes{this, "LblRes", reglages.caption(0, "Résistance")};
+    HScrollBar HscrRes{this, "HscrRes", barre(sousLegende(LblRes, 5580), 1, LblRes), &Me::HscrRes_Change};
+    ListBox LstRes{this, "LstRes", unites(LblRes, {"Ohms", "KOhms", "MOhms"}), &Me::LstRes_Click};
 
-    Shape      Cadre1   {this, "Cadre1",    {.at = {240, 6390, 6645, 675}}};
-    Label      LblDuree {this, "LblDuree",  {.Caption = "Durée en secondes", .at = {420, 6600, 6285, 255}}};
-    // clang-format on
+    Label LblCapa{this, "LblCapa", reglages.caption(1, "Condensateur")};
+    HScrollBar HscrCapa{this, "HscrCapa", barre(sousLegende(LblCapa, 5580), 1, LblCapa), &Me::HscrCapa_Change};
+    ListBox LstCapa{this, "LstCapa", unites(LblCapa, {"µF", "nF", "pF"}), &Me::LstCapa_Click};
+
+    Shape Cadre1{this, "Cadre1", {.at = {240, 6390, 6645, 675}}};
+    Label LblDuree{this, "LblDuree", {.Caption = "Durée en secondes", .at = {420, 6600, 6285, 255}}};
 
 private:
     void Form_Load() override;

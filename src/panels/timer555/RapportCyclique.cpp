@@ -5,15 +5,6 @@
 
 namespace ondelis {
 
-RapportCyclique::RapportCyclique(Desk& desk)
-    : FeuilleCalcul{desk,
-        {.name = "RapportCyclique",
-            .Caption = "Le 555 : Rapport Cyclique variable à fréquence constante",
-            .Width = 6555,
-            .Height = 8085}}
-{
-}
-
 void RapportCyclique::Form_Load()
 {
     // A unit must be chosen before its bar moves.
@@ -84,10 +75,10 @@ void RapportCyclique::Calculer()
 void RapportCyclique::TracerOnde(Double LargeurA, Integer LargeurB)
 {
     // The rising edge.
-    Line1.X1 = 3960;
-    Line1.X2 = 3960;
-    Line1.Y1 = 6240;
-    Line1.Y2 = 5640;
+    Line1.X1 = debut;
+    Line1.X2 = debut;
+    Line1.Y1 = bas;
+    Line1.Y2 = haut;
     // The low part.
     Line2.X1 = Line1.X1;
     Line2.X2 = Line1.X2 + LargeurA;

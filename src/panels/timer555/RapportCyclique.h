@@ -1,5 +1,6 @@
 #pragma once
 
+#include "forms/Column.h"
 #include "forms/Controls.h"
 #include "forms/FeuilleCalcul.h"
 #include "panels/CouleursDessins.h"
@@ -11,43 +12,65 @@ namespace ondelis {
 /// of the potentiometer, and the wave.
 class RapportCyclique final : public FeuilleCalcul {
 public:
-    explicit RapportCyclique(Desk& desk);
+    explicit RapportCyclique(Desk& desk)
+        : FeuilleCalcul{desk,
+            {.name = "RapportCyclique",
+                .Caption = "Le 555 : Rapport Cyclique variable à fréquence constante",
+                .Width = 6555,
+                .Height = 8085}}
+    {
+    }
 
-    // clang-format off
-    PictureBox Picture1            {this, "Picture1", {.picture = "rapport-cyclique-555", .at = {240, 180, 5955, 3840}}};
+    using Me = RapportCyclique;
+    static constexpr Column reglages{.left = 240, .captions = 4890, .top = 4140, .pitch = 720};
+    static constexpr Column rapport{.left = 240, .captions = 3480, .top = 5640};
+    static constexpr Column resultats{.left = 420, .captions = 5595, .top = 6375, .pitch = 270};
 
-    Label      LblFreq             {this, "LblFreq",              {.Caption = "Fréquence", .at = {240, 4170, 4890, 255}}};
-    Label      Label1              {this, "Label1",               {.Caption = "1", .at = {240, 4455, 180, 255}}};
-    HScrollBar HScrlFreq           {this, "HScrlFreq",            barre({480, 4455, 4050, 255}, 1, &LblFreq), &RapportCyclique::HScrlFreq_Change};
-    Label      Label2              {this, "Label2",               {.Caption = "1000", .at = {4590, 4455, 540, 255}}};
-    ListBox    LstFreq             {this, "LstFreq",              {.Items = {"Hz", "KHz"}, .at = {5235, 4170, 960, 540}, .label = &LblFreq}, &RapportCyclique::LstFreq_Click};
+    PictureBox Picture1{this, "Picture1", {.picture = "rapport-cyclique-555", .at = {240, 180, 5955, 3840}}};
 
-    Label      LblCondo            {this, "LblCondo",             {.Caption = "Condensateur", .at = {240, 4890, 4890, 255}}};
-    Label      Label4              {this, "Label4",               {.Caption = "1", .at = {240, 5175, 180, 255}}};
-    HScrollBar HScrlCondo          {this, "HScrlCondo",           barre({480, 5175, 4050, 255}, 1, &LblCondo), &RapportCyclique::HScrlCondo_Change};
-    Label      Label3              {this, "Label3",               {.Caption = "1000", .at = {4590, 5175, 540, 255}}};
-    ListBox    LstCondo            {this, "LstCondo",             {.Items = {"µF", "nF", "pF"}, .at = {5235, 4770, 960, 780}, .label = &LblCondo}, &RapportCyclique::LstCondo_Click};
+    Label LblFreq{this, "LblFreq", reglages.caption(0, "Fréquence")};
+    Label Label1{this, "Label1", {.Caption = "1", .at = sousLegende(LblFreq, 180)}};
+    HScrollBar HScrlFreq{this, "HScrlFreq", barre(rightOf(Label1, 4050), 1, LblFreq), &Me::HScrlFreq_Change};
+    Label Label2{this, "Label2", {.Caption = "1000", .at = rightOf(HScrlFreq, 540)}};
+    ListBox LstFreq{this, "LstFreq", unites(LblFreq, {"Hz", "KHz"}), &Me::LstFreq_Click};
 
-    Label      LblRapportCyclique  {this, "LblRapportCyclique",   {.Caption = "Rapport cyclique", .at = {240, 5670, 3480, 255}}};
-    Label      Label5              {this, "Label5",               {.Caption = "1%", .at = {240, 5955, 360, 255}}};
-    HScrollBar HScrlRapportCyclique{this, "HScrlRapportCyclique", {.Min = 1, .Max = 99, .Value = 1, .LargeChange = 10, .at = {660, 5955, 2520, 255}, .label = &LblRapportCyclique}, &RapportCyclique::HScrlRapportCyclique_Change};
-    Label      Label6              {this, "Label6",               {.Caption = "99%", .at = {3240, 5955, 480, 255}}};
+    Label LblCondo{this, "LblCondo", reglages.caption(1, "Condensateur")};
+    Label Label4{this, "Label4", {.Caption = "1", .at = sousLegende(LblCondo, 180)}};
+    HScrollBar HScrlCondo{this, "HScrlCondo", barre(rightOf(Label4, 4050), 1, LblCondo), &Me::HScrlCondo_Change};
+    Label Label3{this, "Label3", {.Caption = "1000", .at = rightOf(HScrlCondo, 540)}};
+    ListBox LstCondo{this, "LstCondo", unites(LblCondo, {"µF", "nF", "pF"}), &Me::LstCondo_Click};
+
+    Label LblRapportCyclique{this, "LblRapportCyclique", rapport.caption(0, "Rapport cyclique")};
+    Label Label5{this, "Label5", {.Caption = "1%", .at = sousLegende(LblRapportCyclique, 360)}};
+    HScrollBar HScrlRapportCyclique{this, "HScrlRapportCyclique",
+        {.Min = 1, .Max = 99, .Value = 1, .LargeChange = 10, .at = rightOf(Label5, 2520), .label = &LblRapportCyclique},
+        &Me::HScrlRapportCyclique_Change};
+    Label Label6{this, "Label6", {.Caption = "99%", .at = rightOf(HScrlRapportCyclique, 480)}};
 
     // The wave, as at 50 percent.
-    Line       Line1               {this, "Line1", {.X1 = 3960, .Y1 = 6240, .X2 = 3960, .Y2 = 5640, .BorderColor = dessin::encre, .BorderWidth = 2}};
-    Line       Line2               {this, "Line2", {.X1 = 3960, .Y1 = 6240, .X2 = 4940, .Y2 = 6240, .BorderColor = dessin::encre, .BorderWidth = 2}};
-    Line       Line3               {this, "Line3", {.X1 = 4940, .Y1 = 6240, .X2 = 4940, .Y2 = 5640, .BorderColor = dessin::encre, .BorderWidth = 2}};
-    Line       Line4               {this, "Line4", {.X1 = 4940, .Y1 = 5640, .X2 = 5960, .Y2 = 5640, .BorderColor = dessin::encre, .BorderWidth = 2}};
-    Line       Line5               {this, "Line5", {.X1 = 5960, .Y1 = 5640, .X2 = 5960, .Y2 = 6240, .BorderColor = dessin::encre, .BorderWidth = 2}};
+    static constexpr double debut = 3960;
+    static constexpr double milieu = 4940;
+    static constexpr double fin = 5960;
+    static constexpr double haut = 5640;
+    static constexpr double bas = 6240;
+    Line Line1{this, "Line1", onde(debut, bas, debut, haut)};
+    Line Line2{this, "Line2", onde(debut, bas, milieu, bas)};
+    Line Line3{this, "Line3", onde(milieu, bas, milieu, haut)};
+    Line Line4{this, "Line4", onde(milieu, haut, fin, haut)};
+    Line Line5{this, "Line5", onde(fin, haut, fin, bas)};
 
-    Shape      Cadre1              {this, "Cadre1",   {.at = {240, 6345, 5955, 1185}}};
-    Label      LblR1               {this, "LblR1",    {.Caption = "R1", .at = {420, 6405, 5595, 255}}};
-    Label      LblP1a              {this, "LblP1a",   {.Caption = "P1a", .at = {420, 6675, 5595, 255}}};
-    Label      LblP1b              {this, "LblP1b",   {.Caption = "P1b", .at = {420, 6945, 5595, 255}}};
-    Label      LblPotar            {this, "LblPotar", {.Caption = "Potentiometre", .at = {420, 7215, 5595, 255}}};
-    // clang-format on
+    Shape Cadre1{this, "Cadre1", {.at = {240, 6345, 5955, 1185}}};
+    Label LblR1{this, "LblR1", resultats.caption(0, "R1")};
+    Label LblP1a{this, "LblP1a", resultats.caption(1, "P1a")};
+    Label LblP1b{this, "LblP1b", resultats.caption(2, "P1b")};
+    Label LblPotar{this, "LblPotar", resultats.caption(3, "Potentiometre")};
 
 private:
+    static Line::Design onde(double x1, double y1, double x2, double y2)
+    {
+        return {.X1 = x1, .Y1 = y1, .X2 = x2, .Y2 = y2, .BorderColor = dessin::encre, .BorderWidth = 2};
+    }
+
     void Form_Load() override;
     void LstFreq_Click();
     void HScrlFreq_Change();

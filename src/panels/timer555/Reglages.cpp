@@ -1,10 +1,30 @@
 #include "panels/timer555/Reglages.h"
 
+#include <utility>
+
+#include "forms/Column.h"
+
 namespace ondelis {
 
-HScrollBar::Design barre(Box at, Integer Value, Label* label)
+Box sousLegende(const Label& legende, double width)
 {
-    return {.Min = 1, .Max = 1000, .Value = Value, .LargeChange = 10, .at = at, .label = label};
+    return under(legende, width, legende.at().Height, 30);
+}
+
+HScrollBar::Design barre(Box at, Integer Value, Label& legende)
+{
+    return {.Min = 1, .Max = 1000, .Value = Value, .LargeChange = 10, .at = at, .label = &legende};
+}
+
+ListBox::Design unites(Label& legende, std::vector<std::string> items)
+{
+    constexpr double gap = 105;
+    constexpr double middle = 270;
+    const Box& at = legende.at();
+    const double height = listHeight(static_cast<int>(items.size()));
+    return {.Items = std::move(items),
+        .at = {at.Left + at.Width + gap, at.Top + middle - height / 2, 960, height},
+        .label = &legende};
 }
 
 Double facteurFrequence(Integer rang)

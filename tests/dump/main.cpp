@@ -1,0 +1,47 @@
+#include <iostream>
+#include <set>
+
+#include "Headless.h"
+#include "State.h"
+#include "shell/MDIOndelis.h"
+#include "shell/Menu.h"
+
+namespace ondelis {
+namespace {
+
+using pilote::Json;
+
+/// Each control as it stands: all that the driver tells of it, its place, and what is no more than design.
+Json formOf(const FeuilleCalcul& panel)
+{
+    const pilote::State eyes;
+    Json controls = Json::array();
+    for (Control* const control : panel.controls()) {
+        Json one = eyes.see(*control);
+        one["name"] = control->name();
+        one["box"] = {control->at().Left, control->at().Top, control->at().Width, control->at().Height};
+        one["focusable"] = control->focusable();
+        controls.push_back(std::move(one));
+    }
+    Json form = eyes.see(panel);
+    form["controls"] = std::move(controls);
+    return form;
+}
+
+} // namespace
+} // namespace ondelis
+
+/// Writes each panel as it opens, with every control in the order of the form.
+int main()
+{
+    using namespace ondelis;
+    std::set<std::string> written;
+    for (const MenuEntry* const entry : panelEntries()) {
+        pilote::Headless program;
+        program.start();
+        static_cast<void>(program.hands().menu(std::string{entry->control}));
+        for (const FeuilleCalcul* const panel : program.frame().desk().loadedPanels())
+            if (written.insert(panel->design().name).second)
+                std::cout << panel->design().name << ' ' << formOf(*panel).dump(1) << '\n';
+    }
+}
