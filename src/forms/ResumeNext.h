@@ -1,17 +1,21 @@
 #pragma once
 
+#include <functional>
+#include <initializer_list>
+
 #include "kit/Fault.h"
 
 namespace ondelis {
 
-/// Runs one statement of `Form_Load` or `MDIForm_Load`: a fault anywhere inside it, nested handlers included, ends the
-/// statement, and the next one runs. No other handler passes over a fault.
-template <class Statement>
-void resumeNext(Statement&& statement)
+/// Runs the statements of `Form_Load` or `MDIForm_Load`: a fault anywhere inside one, nested handlers included, ends
+/// it, and the next one runs. No other handler passes over a fault.
+inline void resumeNext(std::initializer_list<std::function<void()>> statements)
 {
-    try {
-        statement();
-    } catch (const Fault&) { // passing over it is the rule
+    for (const auto& statement : statements) {
+        try {
+            statement();
+        } catch (const Fault&) { // passing over it is the rule
+        }
     }
 }
 

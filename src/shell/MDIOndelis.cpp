@@ -49,11 +49,13 @@ void MDIOndelis::changed()
 
 void MDIOndelis::MDIForm_Load()
 {
-    resumeNext([this] { Width = 19470; });
-    resumeNext([this] { Height = 15000; });
-    resumeNext([this] { Caption = "Kervane : Veloris divers V21.5.0 du 20 Janvier 2021"; });
-    resumeNext([this] { CentrerEcran(desk_.surroundings().screen(), *this); });
-    resumeNext([this] { CacherFeuilles(); });
+    resumeNext({
+        [this] { Width = 19470; },
+        [this] { Height = 15000; },
+        [this] { Caption = "Kervane : Veloris divers V21.5.0 du 20 Janvier 2021"; },
+        [this] { CentrerEcran(desk_.surroundings().screen(), *this); },
+        [this] { CacherFeuilles(); },
+    });
 }
 
 void MDIOndelis::CacherFeuilles()

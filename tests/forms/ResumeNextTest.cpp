@@ -23,13 +23,15 @@ public:
 private:
     void Form_Load() override
     {
-        resumeNext([this] { log.emplace_back("first"); });
-        resumeNext([this] { LstA.ListIndex = 7; });
-        resumeNext([this] {
-            TxtA.Text = "x";
-            log.emplace_back("never: the statement has ended");
+        resumeNext({
+            [this] { log.emplace_back("first"); },
+            [this] { LstA.ListIndex = 7; },
+            [this] {
+                TxtA.Text = "x";
+                log.emplace_back("never: the statement has ended");
+            },
+            [this] { log.emplace_back("last"); },
         });
-        resumeNext([this] { log.emplace_back("last"); });
     }
     void TxtA_Change()
     {

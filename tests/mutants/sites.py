@@ -24,6 +24,7 @@ ALIGN = {"Left": "Right", "Right": "Center", "Center": "Left"}
 KEYWORDS = {"if", "else", "for", "while", "do", "switch", "case", "default", "const", "constexpr", "static", "auto",
             "using", "namespace", "template", "class", "struct", "enum", "friend", "virtual", "explicit", "inline",
             "public", "private", "protected", "typedef", "operator", "try", "catch", "throw", "static_assert", "extern"}
+STATEMENT_BEGINS = re.compile(r"\s*|\s*(?:resumeNext\(\{)?\[(?:&|this)\] \{ ")  # a line, or one of a list of statements
 # Where a control stands is our own layout, stated nowhere: the form checks of the view judge it.
 PLACES = re.compile(r"\.at = \{|(?<=[ {])\.(?:Width|Height) = |\bBox(?: \w+)?\{|\(\{(?=[\w.]+, [^{}]+, [^{}]+, [^{}]+\})"
                     r"|\b(?:ligne|lettre|lettreDeCote|cote|legende|saisie|resultat)\(")
@@ -171,7 +172,7 @@ def statements(text, toks):
     for index, token in enumerate(toks):
         start = token.start()
         line = text[text.rfind("\n", 0, start) + 1:start]
-        if line.strip() or not line or token.group() in KEYWORDS:
+        if not line or not STATEMENT_BEGINS.fullmatch(line) or token.group() in KEYWORDS:
             continue
         if index == 0 or toks[index - 1].group() not in (";", "{", "}", ")", ":", "else"):
             continue

@@ -10,17 +10,21 @@ namespace ondelis {
 
 void AntennesDipolesRaccourcis::Form_Load()
 {
-    resumeNext([&] { TxtA.Text = "15"; });
-    resumeNext([&] { TxtB.Text = "5"; });
-    resumeNext([&] { TxtDiam.Text = "3"; });
-    resumeNext([&] { TxtF.Text = CStr(3.5); });
+    resumeNext({
+        [&] { TxtA.Text = "15"; },
+        [&] { TxtB.Text = "5"; },
+        [&] { TxtDiam.Text = "3"; },
+        [&] { TxtF.Text = CStr(3.5); },
+    });
 
     auto& spires = desk().get<CalculNombreSpires>();
-    resumeNext([&] { spires.OptmmH.Value = true; });
-    resumeNext([&] { spires.TxtS.Text = CStr(85.205); });
-    resumeNext([&] { spires.TxtF.Text = "3"; });
-    resumeNext([&] { spires.TxtD.Text = "100"; });
-    resumeNext([&] { spires.TxtE.Text = CStr(0.3); });
+    resumeNext({
+        [&] { spires.OptmmH.Value = true; },
+        [&] { spires.TxtS.Text = CStr(85.205); },
+        [&] { spires.TxtF.Text = "3"; },
+        [&] { spires.TxtD.Text = "100"; },
+        [&] { spires.TxtE.Text = CStr(0.3); },
+    });
 }
 
 void AntennesDipolesRaccourcis::TxtA_Change()

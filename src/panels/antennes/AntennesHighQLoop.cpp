@@ -11,15 +11,17 @@ namespace ondelis {
 
 void AntennesHighQLoop::Form_Load()
 {
-    resumeNext([&] { NbSpires = 1.0; });
-    resumeNext([&] { TxtFreqMin.Text = CStr(3.5); });
-    resumeNext([&] { TxtFreqMax.Text = CStr(10.15); });
-    resumeNext([&] { TxtDeltaFMin.Text = CStr(4.2); });
-    resumeNext([&] { TxtDeltaFMax.Text = CStr(7.6); });
-    resumeNext([&] { LstNbreCotes.ListIndex = 3; });
-    resumeNext([&] { LstLambdaSur.ListIndex = 9; });
-    resumeNext([&] { TxtPuissance.Text = "100"; });
-    resumeNext([&] { BtnCalculer.Value = true; });
+    resumeNext({
+        [&] { NbSpires = 1.0; },
+        [&] { TxtFreqMin.Text = CStr(3.5); },
+        [&] { TxtFreqMax.Text = CStr(10.15); },
+        [&] { TxtDeltaFMin.Text = CStr(4.2); },
+        [&] { TxtDeltaFMax.Text = CStr(7.6); },
+        [&] { LstNbreCotes.ListIndex = 3; },
+        [&] { LstLambdaSur.ListIndex = 9; },
+        [&] { TxtPuissance.Text = "100"; },
+        [&] { BtnCalculer.Value = true; },
+    });
 }
 
 void AntennesHighQLoop::TxtFreqMin_Change()

@@ -17,28 +17,30 @@ AntennesLPDA1::AntennesLPDA1(Desk& desk)
 
 void AntennesLPDA1::Form_Load()
 {
-    resumeNext([&] { OptRhoOpt.Value = false; });
-    resumeNext([&] { OptRho.Value = true; });
-    resumeNext([&] { BtnSuite1.Visible = false; });
-    resumeNext([&] { BtnSuite2.Visible = false; });
-    resumeNext([&] { BtnSuite3.Visible = false; });
-    resumeNext([&] { BtnRetour1.Visible = false; });
-    resumeNext([&] { BtnRetour2.Visible = false; });
-    resumeNext([&] { BtnRetour3.Visible = false; });
-    resumeNext([&] { BtnRetour4.Visible = false; });
-    resumeNext([&] { BtnPrecedent.Visible = false; });
-    resumeNext([&] { BtnSuivant.Visible = false; });
-    resumeNext([&] { BtnAfficher.Visible = false; });
-    resumeNext([&] { Text1.Visible = false; });
-    resumeNext([&] { Text2.Visible = false; });
-    resumeNext([&] { Frame1.Visible = true; });
-    resumeNext([&] { TxtFreqMin.Text = "10"; });
-    resumeNext([&] { TxtFreqMax.Text = "30"; });
-    resumeNext([&] { TxtTheta.Text = CStr(0.8); });
-    resumeNext([&] { TxtRho.Text = CStr(0.1); });
-    resumeNext([&] { TxtRZero.Text = "150"; });
-    resumeNext([&] { TxtDiamElement1.Text = "5"; });
-    resumeNext([&] { TxtDiamExtBoom.Text = "50"; });
+    resumeNext({
+        [&] { OptRhoOpt.Value = false; },
+        [&] { OptRho.Value = true; },
+        [&] { BtnSuite1.Visible = false; },
+        [&] { BtnSuite2.Visible = false; },
+        [&] { BtnSuite3.Visible = false; },
+        [&] { BtnRetour1.Visible = false; },
+        [&] { BtnRetour2.Visible = false; },
+        [&] { BtnRetour3.Visible = false; },
+        [&] { BtnRetour4.Visible = false; },
+        [&] { BtnPrecedent.Visible = false; },
+        [&] { BtnSuivant.Visible = false; },
+        [&] { BtnAfficher.Visible = false; },
+        [&] { Text1.Visible = false; },
+        [&] { Text2.Visible = false; },
+        [&] { Frame1.Visible = true; },
+        [&] { TxtFreqMin.Text = "10"; },
+        [&] { TxtFreqMax.Text = "30"; },
+        [&] { TxtTheta.Text = CStr(0.8); },
+        [&] { TxtRho.Text = CStr(0.1); },
+        [&] { TxtRZero.Text = "150"; },
+        [&] { TxtDiamElement1.Text = "5"; },
+        [&] { TxtDiamExtBoom.Text = "50"; },
+    });
 
     // The whole sequence on the defaults and back to step 1, before the panel is seen. A fault here is not passed over.
     BtnCalculer1.Value = true;

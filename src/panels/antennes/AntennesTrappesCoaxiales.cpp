@@ -91,14 +91,16 @@ std::vector<std::string> AntennesTrappesCoaxiales::Coaxiaux()
 
 void AntennesTrappesCoaxiales::Form_Load()
 {
-    resumeNext([&] { TxtDiamCoax.Text = ""; });
-    resumeNext([&] { TxtDiamMandrin.Text = ""; });
-    resumeNext([&] { TxtCapacitParMetre.Text = ""; });
-    resumeNext([&] { LstCoax.ListIndex = 0; });
-    resumeNext([&] { TxtFrequence.Text = CStr(7.1); });
-    resumeNext([&] { TxtDiamMandrin.Text = "50"; });
-    resumeNext([&] { BtnCalculer.Value = true; });
-    resumeNext([&] { Label19.Caption = "Référence : The ARRL ANTENNA COMPENDIUM Vol.2 Ed.1989 p.100"; });
+    resumeNext({
+        [&] { TxtDiamCoax.Text = ""; },
+        [&] { TxtDiamMandrin.Text = ""; },
+        [&] { TxtCapacitParMetre.Text = ""; },
+        [&] { LstCoax.ListIndex = 0; },
+        [&] { TxtFrequence.Text = CStr(7.1); },
+        [&] { TxtDiamMandrin.Text = "50"; },
+        [&] { BtnCalculer.Value = true; },
+        [&] { Label19.Caption = "Référence : The ARRL ANTENNA COMPENDIUM Vol.2 Ed.1989 p.100"; },
+    });
 }
 
 void AntennesTrappesCoaxiales::LstCoax_Click()

@@ -7,7 +7,7 @@ namespace ondelis {
 
 void DoubleQuad::Form_Load()
 {
-    resumeNext([&] { TxtFreq.Text = "1280"; });
+    resumeNext({[&] { TxtFreq.Text = "1280"; }});
 }
 
 void DoubleQuad::TxtFreq_Change()

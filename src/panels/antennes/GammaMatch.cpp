@@ -32,15 +32,17 @@ Double Inches(Double x)
 
 void GammaMatch::Form_Load()
 {
-    resumeNext([&] { Image1.Visible = true; });
-    resumeNext([&] { OptMonopole.Value = true; });
-    resumeNext([&] { TxtFreq.Text = "145"; });
-    resumeNext([&] { TxtRA.Text = "25"; });
-    resumeNext([&] { TxtXa.Text = "-25"; });
-    resumeNext([&] { TxtR0.Text = "50"; });
-    resumeNext([&] { TxtDE.Text = "20"; });
-    resumeNext([&] { TxtDR.Text = "5"; });
-    resumeNext([&] { TxtS.Text = "20"; });
+    resumeNext({
+        [&] { Image1.Visible = true; },
+        [&] { OptMonopole.Value = true; },
+        [&] { TxtFreq.Text = "145"; },
+        [&] { TxtRA.Text = "25"; },
+        [&] { TxtXa.Text = "-25"; },
+        [&] { TxtR0.Text = "50"; },
+        [&] { TxtDE.Text = "20"; },
+        [&] { TxtDR.Text = "5"; },
+        [&] { TxtS.Text = "20"; },
+    });
 }
 
 void GammaMatch::OptMonopole_Click()

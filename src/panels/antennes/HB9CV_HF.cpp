@@ -7,13 +7,17 @@ namespace ondelis {
 
 void HB9CV_HF::Form_Load()
 {
-    resumeNext([&] { Option1.Value = true; });
-    resumeNext([&] { Option2.Value = false; });
-    resumeNext([&] { Lbl030.Visible = false; });
-    resumeNext([&] { Lbl025.Visible = true; });
+    resumeNext({
+        [&] { Option1.Value = true; },
+        [&] { Option2.Value = false; },
+        [&] { Lbl030.Visible = false; },
+        [&] { Lbl025.Visible = true; },
+    });
     // The bar stands there already: nothing is raised, and the coefficient stays unknown until the bar moves.
-    resumeNext([&] { HScroll1.Value = 400; });
-    resumeNext([&] { TxtFreq.Text = CStr(50.13); });
+    resumeNext({
+        [&] { HScroll1.Value = 400; },
+        [&] { TxtFreq.Text = CStr(50.13); },
+    });
 }
 
 void HB9CV_HF::TxtFreq_Change()

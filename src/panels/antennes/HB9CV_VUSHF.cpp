@@ -7,9 +7,11 @@ namespace ondelis {
 
 void HB9CV_VUSHF::Form_Load()
 {
-    resumeNext([&] { TxtFreq.Text = "1280"; });
-    resumeNext([&] { TxtCoeff.Text = "400"; });
-    resumeNext([&] { Calculer(); });
+    resumeNext({
+        [&] { TxtFreq.Text = "1280"; },
+        [&] { TxtCoeff.Text = "400"; },
+        [&] { Calculer(); },
+    });
 }
 
 void HB9CV_VUSHF::TxtFreq_Change()

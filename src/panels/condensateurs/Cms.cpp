@@ -11,8 +11,10 @@ namespace ondelis {
 
 void Cms::Form_Load()
 {
-    resumeNext([&] { LstCms.ListIndex = 3; });
-    resumeNext([&] { Opt3Digits.Value = true; });
+    resumeNext({
+        [&] { LstCms.ListIndex = 3; },
+        [&] { Opt3Digits.Value = true; },
+    });
 }
 
 void Cms::LstCms_Click()

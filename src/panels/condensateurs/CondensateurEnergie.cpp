@@ -17,10 +17,12 @@ CondensateurEnergie::CondensateurEnergie(Desk& desk)
 
 void CondensateurEnergie::Form_Load()
 {
-    resumeNext([&] { TxtJoules.Text = CStr(100); });
-    resumeNext([&] { TxtCapa.Text = CStr(470); });
-    resumeNext([&] { TxtCourant.Text = CStr(0.2); });
-    resumeNext([&] { TxtDecharge.Text = CStr(0.1); });
+    resumeNext({
+        [&] { TxtJoules.Text = CStr(100); },
+        [&] { TxtCapa.Text = CStr(470); },
+        [&] { TxtCourant.Text = CStr(0.2); },
+        [&] { TxtDecharge.Text = CStr(0.1); },
+    });
 }
 
 void CondensateurEnergie::TxtJoules_Change()

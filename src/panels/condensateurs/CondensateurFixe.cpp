@@ -47,21 +47,23 @@ const Dielectrique& dielectrique(const std::string& nom)
 
 void CondensateurFixe::Form_Load()
 {
-    resumeNext([&] { DiviseursSurface(0) = 1; });
-    resumeNext([&] { DiviseursSurface(1) = 100; });
-    resumeNext([&] { DiviseursSurface(2) = 10000; });
-    resumeNext([&] { DiviseursSurface(3) = 1000000; });
-    resumeNext([&] { DiviseursEpaisseur(0) = 1; });
-    resumeNext([&] { DiviseursEpaisseur(1) = 10; });
-    resumeNext([&] { DiviseursEpaisseur(2) = 100; });
-    resumeNext([&] { DiviseursEpaisseur(3) = 1000; });
-    resumeNext([&] { TxtCapacite.Visible = false; });
-    resumeNext([&] { Lbl_Capacité.Visible = false; });
-    resumeNext([&] { LstDielectrique.ListIndex = 11; });
-    resumeNext([&] { TxtSurface.Text = CStr(10); });
-    resumeNext([&] { LstUnités.ListIndex = 2; });
-    resumeNext([&] { TxtEpaisseur.Text = CStr(2); });
-    resumeNext([&] { LstUniteE.ListIndex = 3; });
+    resumeNext({
+        [&] { DiviseursSurface(0) = 1; },
+        [&] { DiviseursSurface(1) = 100; },
+        [&] { DiviseursSurface(2) = 10000; },
+        [&] { DiviseursSurface(3) = 1000000; },
+        [&] { DiviseursEpaisseur(0) = 1; },
+        [&] { DiviseursEpaisseur(1) = 10; },
+        [&] { DiviseursEpaisseur(2) = 100; },
+        [&] { DiviseursEpaisseur(3) = 1000; },
+        [&] { TxtCapacite.Visible = false; },
+        [&] { Lbl_Capacité.Visible = false; },
+        [&] { LstDielectrique.ListIndex = 11; },
+        [&] { TxtSurface.Text = CStr(10); },
+        [&] { LstUnités.ListIndex = 2; },
+        [&] { TxtEpaisseur.Text = CStr(2); },
+        [&] { LstUniteE.ListIndex = 3; },
+    });
 }
 
 void CondensateurFixe::LstDielectrique_Click()

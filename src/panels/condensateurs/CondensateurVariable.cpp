@@ -20,19 +20,25 @@ Line::Design CondensateurVariable::lameFixe(int index)
 
 void CondensateurVariable::Form_Load()
 {
-    resumeNext([&] { OptClassique.Value = true; });
-    resumeNext([&] { OptPapSer.Value = false; });
-    resumeNext([&] { OptPapPar.Value = false; });
+    resumeNext({
+        [&] { OptClassique.Value = true; },
+        [&] { OptPapSer.Value = false; },
+        [&] { OptPapPar.Value = false; },
+    });
     for (int i = 0; i <= 4; ++i) {
-        resumeNext([&] { LM1(i).Visible = false; });
-        resumeNext([&] { LF1(i).Visible = false; });
+        resumeNext({
+            [&] { LM1(i).Visible = false; },
+            [&] { LF1(i).Visible = false; },
+        });
     }
-    resumeNext([&] { TxtMobiles.Text = "3"; });
-    resumeNext([&] { TxtFixes.Text = "4"; });
-    resumeNext([&] { TxtEspacement.Text = CStr(0.5); });
-    resumeNext([&] { TxtAngle.Text = "179"; });
-    resumeNext([&] { TxtRayExt.Text = "80"; });
-    resumeNext([&] { TxtRayInt.Text = "12"; });
+    resumeNext({
+        [&] { TxtMobiles.Text = "3"; },
+        [&] { TxtFixes.Text = "4"; },
+        [&] { TxtEspacement.Text = CStr(0.5); },
+        [&] { TxtAngle.Text = "179"; },
+        [&] { TxtRayExt.Text = "80"; },
+        [&] { TxtRayInt.Text = "12"; },
+    });
 }
 
 void CondensateurVariable::OptClassique_Click()

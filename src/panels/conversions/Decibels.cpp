@@ -7,10 +7,12 @@ namespace ondelis {
 
 void Decibels::Form_Load()
 {
-    resumeNext([&] { TxtPe.Text = CStr(2.5); });
-    resumeNext([&] { TxtPs.Text = "25"; });
-    resumeNext([&] { TxtUe.Text = "5"; });
-    resumeNext([&] { TxtUs.Text = CStr(0.05); });
+    resumeNext({
+        [&] { TxtPe.Text = CStr(2.5); },
+        [&] { TxtPs.Text = "25"; },
+        [&] { TxtUe.Text = "5"; },
+        [&] { TxtUs.Text = CStr(0.05); },
+    });
 }
 
 void Decibels::TxtPe_Change()

@@ -18,11 +18,13 @@ ListBox::Design RVConvUnitesPression::vers(std::vector<std::string> unites)
 
 void RVConvUnitesPression::Form_Load()
 {
-    resumeNext([&] { LsthPa.Visible = false; });
-    resumeNext([&] { LstmmH2O.Visible = false; });
-    resumeNext([&] { LstmmHg.Visible = false; });
-    resumeNext([&] { LstKgcm2.Visible = false; });
-    resumeNext([&] { LstNm2.Visible = false; });
+    resumeNext({
+        [&] { LsthPa.Visible = false; },
+        [&] { LstmmH2O.Visible = false; },
+        [&] { LstmmHg.Visible = false; },
+        [&] { LstKgcm2.Visible = false; },
+        [&] { LstNm2.Visible = false; },
+    });
 }
 
 void RVConvUnitesPression::LstConversions_Click()

@@ -13,9 +13,11 @@ SectionDiametre::SectionDiametre(Desk& desk)
 
 void SectionDiametre::Form_Load()
 {
-    resumeNext([&] { Width = 4350; });
-    resumeNext([&] { Height = 1725; });
-    resumeNext([&] { TxtS.Text = "1"; });
+    resumeNext({
+        [&] { Width = 4350; },
+        [&] { Height = 1725; },
+        [&] { TxtS.Text = "1"; },
+    });
 }
 
 void SectionDiametre::TxtS_Change()

@@ -19,9 +19,11 @@ FiltreEliminationBande::FiltreEliminationBande(Desk& desk)
 
 void FiltreEliminationBande::Form_Load()
 {
-    resumeNext([&] { TxtZCharge.Text = "2500"; });
-    resumeNext([&] { TxtFreq1.Text = "5000"; });
-    resumeNext([&] { TxtFreq2.Text = "20000"; });
+    resumeNext({
+        [&] { TxtZCharge.Text = "2500"; },
+        [&] { TxtFreq1.Text = "5000"; },
+        [&] { TxtFreq2.Text = "20000"; },
+    });
 }
 
 bool FiltreEliminationBande::Calculable() const

@@ -18,11 +18,13 @@ TextBox::Design FiltreEnDoublePi::resultat(const char* text, Box at, Label* labe
 
 void FiltreEnDoublePi::Form_Load()
 {
-    resumeNext([&] { Echelle = 1000000; });
-    resumeNext([&] { TxtF0.Text = CStr(7.1); });
-    resumeNext([&] { TxtBP.Text = "1"; });
-    resumeNext([&] { TxtZin.Text = "50"; });
-    resumeNext([&] { TxtZout.Text = "50"; });
+    resumeNext({
+        [&] { Echelle = 1000000; },
+        [&] { TxtF0.Text = CStr(7.1); },
+        [&] { TxtBP.Text = "1"; },
+        [&] { TxtZin.Text = "50"; },
+        [&] { TxtZout.Text = "50"; },
+    });
 }
 
 void FiltreEnDoublePi::TxtF0_Change()

@@ -19,9 +19,11 @@ FiltrePasseBande::FiltrePasseBande(Desk& desk)
 
 void FiltrePasseBande::Form_Load()
 {
-    resumeNext([&] { TxtZCharge.Text = "2500"; });
-    resumeNext([&] { TxtFreq1.Text = "1000"; });
-    resumeNext([&] { TxtFreq2.Text = "5000"; });
+    resumeNext({
+        [&] { TxtZCharge.Text = "2500"; },
+        [&] { TxtFreq1.Text = "1000"; },
+        [&] { TxtFreq2.Text = "5000"; },
+    });
 }
 
 bool FiltrePasseBande::Calculable() const

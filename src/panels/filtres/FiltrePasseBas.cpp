@@ -19,8 +19,10 @@ FiltrePasseBas::FiltrePasseBas(Desk& desk)
 
 void FiltrePasseBas::Form_Load()
 {
-    resumeNext([&] { TxtZCharge.Text = "2500"; });
-    resumeNext([&] { TxtFreq.Text = "3000"; });
+    resumeNext({
+        [&] { TxtZCharge.Text = "2500"; },
+        [&] { TxtFreq.Text = "3000"; },
+    });
 }
 
 Double FiltrePasseBas::L() const

@@ -51,16 +51,18 @@ Picture::Design FiltrePasseBasEnPi::schema(const char* dessin)
 
 void FiltrePasseBasEnPi::Form_Load()
 {
-    resumeNext([&] { Caption = "Filtres Passes Bas en Pi, T ou L"; });
-    resumeNext([&] { Label23.Caption = "Référence : The ARRL ANTENNA COMPENDIUM 1989 Vol.2 p.187"; });
-    resumeNext([&] { K = 4 * Atn(1); });
-    resumeNext([&] { D = K / 180; });
-    resumeNext([&] { TxtFreq.Text = CStr(3.665); });
-    resumeNext([&] { TxtRin.Text = "200"; });
-    resumeNext([&] { TxtRout.Text = "50"; });
-    resumeNext([&] { LstType.ListIndex = 0; });
-    resumeNext([&] { LblP.Caption = "f(P)"; });
-    resumeNext([&] { Calculer(); });
+    resumeNext({
+        [&] { Caption = "Filtres Passes Bas en Pi, T ou L"; },
+        [&] { Label23.Caption = "Référence : The ARRL ANTENNA COMPENDIUM 1989 Vol.2 p.187"; },
+        [&] { K = 4 * Atn(1); },
+        [&] { D = K / 180; },
+        [&] { TxtFreq.Text = CStr(3.665); },
+        [&] { TxtRin.Text = "200"; },
+        [&] { TxtRout.Text = "50"; },
+        [&] { LstType.ListIndex = 0; },
+        [&] { LblP.Caption = "f(P)"; },
+        [&] { Calculer(); },
+    });
 }
 
 void FiltrePasseBasEnPi::TxtFreq_Change()

@@ -19,8 +19,10 @@ FiltrePasseHaut::FiltrePasseHaut(Desk& desk)
 
 void FiltrePasseHaut::Form_Load()
 {
-    resumeNext([&] { TxtZCharge.Text = "2500"; });
-    resumeNext([&] { TxtFreq.Text = "10000"; });
+    resumeNext({
+        [&] { TxtZCharge.Text = "2500"; },
+        [&] { TxtFreq.Text = "10000"; },
+    });
 }
 
 Double FiltrePasseHaut::L() const

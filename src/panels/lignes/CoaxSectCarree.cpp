@@ -7,9 +7,11 @@ namespace ondelis {
 
 void CoaxSectCarree::Form_Load()
 {
-    resumeNext([&] { TxtZ.Text = "50"; });
-    resumeNext([&] { TxtDiamAme.Text = CStr(2.5); }); // no option is chosen yet: the side is computed
-    resumeNext([&] { OptZ.Value = true; });
+    resumeNext({
+        [&] { TxtZ.Text = "50"; },
+        [&] { TxtDiamAme.Text = CStr(2.5); }, // no option is chosen yet: the side is computed
+        [&] { OptZ.Value = true; },
+    });
 }
 
 void CoaxSectCarree::OptD_Click()

@@ -7,9 +7,11 @@ namespace ondelis {
 
 void CoaxSectCyl::Form_Load()
 {
-    resumeNext([&] { LstEpsilon.ListIndex = 0; });
-    resumeNext([&] { TxtDiamCorps.Text = CStr(5.6); });
-    resumeNext([&] { TxtDiamAme.Text = "2"; });
+    resumeNext({
+        [&] { LstEpsilon.ListIndex = 0; },
+        [&] { TxtDiamCorps.Text = CStr(5.6); },
+        [&] { TxtDiamAme.Text = "2"; },
+    });
 }
 
 void CoaxSectCyl::LstEpsilon_Click()

@@ -7,11 +7,13 @@ namespace ondelis {
 
 void EchelleGrenouille::Form_Load()
 {
-    resumeNext([&] { OptZ.Value = true; });
-    resumeNext([&] { TxtZ.Text = "400"; });
-    resumeNext([&] { TxtDiamAme.Text = CStr(1.2); });
-    resumeNext([&] { TxtDiamBrin.Text = CStr(1.2); });
-    resumeNext([&] { TxtEcartBrin.Text = "16"; });
+    resumeNext({
+        [&] { OptZ.Value = true; },
+        [&] { TxtZ.Text = "400"; },
+        [&] { TxtDiamAme.Text = CStr(1.2); },
+        [&] { TxtDiamBrin.Text = CStr(1.2); },
+        [&] { TxtEcartBrin.Text = "16"; },
+    });
 }
 
 void EchelleGrenouille::OptZ_Click()

@@ -22,11 +22,13 @@ std::string millimetres(Double pouces)
 
 void RVListeCoaxiaux::Form_Load()
 {
-    resumeNext([&] { RemplirTable(); });
-    resumeNext([&] { LstResultat.Clear(); });
-    resumeNext([&] { OptZ.Value = true; });
-    resumeNext([&] { LstCritere.ListIndex = 3; });
-    resumeNext([&] { LstResultat.ListIndex = 2; });
+    resumeNext({
+        [&] { RemplirTable(); },
+        [&] { LstResultat.Clear(); },
+        [&] { OptZ.Value = true; },
+        [&] { LstCritere.ListIndex = 3; },
+        [&] { LstResultat.ListIndex = 2; },
+    });
 }
 
 void RVListeCoaxiaux::OptZ_Click()

@@ -8,10 +8,12 @@ namespace ondelis {
 
 void StripLine::Form_Load()
 {
-    resumeNext([&] { PouceMm = 25.4; });
-    resumeNext([&] { TxtW.Text = "4"; });
-    resumeNext([&] { TxtB.Text = "100"; });
-    resumeNext([&] { TxtH.Text = "1"; });
+    resumeNext({
+        [&] { PouceMm = 25.4; },
+        [&] { TxtW.Text = "4"; },
+        [&] { TxtB.Text = "100"; },
+        [&] { TxtH.Text = "1"; },
+    });
 }
 
 void StripLine::TxtW_Change()

@@ -7,7 +7,7 @@ namespace ondelis {
 
 void PDResitancesParalleles::Form_Load()
 {
-    resumeNext([&] { Init(); });
+    resumeNext({[&] { Init(); }});
 }
 
 void PDResitancesParalleles::Init()

@@ -7,10 +7,12 @@ namespace ondelis {
 
 void PDShunts::Form_Load()
 {
-    resumeNext([&] { TxtResInt.Text = CStr(1000); });
-    resumeNext([&] { TxtDevTot.Text = CStr(50); });
-    resumeNext([&] { OptCourant.Value = true; });
-    resumeNext([&] { TxtImax.Text = CStr(10); });
+    resumeNext({
+        [&] { TxtResInt.Text = CStr(1000); },
+        [&] { TxtDevTot.Text = CStr(50); },
+        [&] { OptCourant.Value = true; },
+        [&] { TxtImax.Text = CStr(10); },
+    });
 }
 
 void PDShunts::OptCourant_Click()

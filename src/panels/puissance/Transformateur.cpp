@@ -32,17 +32,21 @@ Double interpole(Double P, const Table<Double, 8>& puissances, const Table<Doubl
 
 void Transformateur::Form_Load()
 {
-    resumeNext([&] { TxtNbreEnrSec.Text = ""; });
-    resumeNext([&] { Pi = 4 * Atn(1); });
+    resumeNext({
+        [&] { TxtNbreEnrSec.Text = ""; },
+        [&] { Pi = 4 * Atn(1); },
+    });
     for (int i = 0; i < secondairesMaxi; ++i)
-        resumeNext([&] { MontrerSecondaire(i, false); });
-    resumeNext([&] { BtnReset_Click(); });
-    resumeNext([&] { TxtNbreEnrSec.Text = "2"; });
-    resumeNext([&] { TxtUSec(0).Text = "18"; });
-    resumeNext([&] { TxtIsec(0).Text = "5"; });
-    resumeNext([&] { TxtUSec(1).Text = "18"; });
-    resumeNext([&] { TxtIsec(1).Text = "5"; });
-    resumeNext([&] { LstTole.ListIndex = 0; });
+        resumeNext({[&] { MontrerSecondaire(i, false); }});
+    resumeNext({
+        [&] { BtnReset_Click(); },
+        [&] { TxtNbreEnrSec.Text = "2"; },
+        [&] { TxtUSec(0).Text = "18"; },
+        [&] { TxtIsec(0).Text = "5"; },
+        [&] { TxtUSec(1).Text = "18"; },
+        [&] { TxtIsec(1).Text = "5"; },
+        [&] { LstTole.ListIndex = 0; },
+    });
 }
 
 void Transformateur::TxtNbreEnrSec_Change()

@@ -7,20 +7,22 @@ namespace ondelis {
 
 void CalculNombreSpires::Form_Load()
 {
-    resumeNext([&] { Height = 6675; });
-    resumeNext([&] { Width = 10260; });
-    resumeNext([&] { Caption = "Calcul du nombre de spires d'une self"; });
-    resumeNext([&] { Label7.Caption = "Référence : The ARRL HANDBOOK 1996 $6.22"; });
-    resumeNext([&] {
-        Label8.Caption
-            = "Dans cette formule, les dimensions sont en inches. Les valeurs de D et L sont donc converties "
-              "avant le calcul. Le diametre moyen de la self est aussi calculer à la valeur D+e .";
+    resumeNext({
+        [&] { Height = 6675; },
+        [&] { Width = 10260; },
+        [&] { Caption = "Calcul du nombre de spires d'une self"; },
+        [&] { Label7.Caption = "Référence : The ARRL HANDBOOK 1996 $6.22"; },
+        [&] {
+            Label8.Caption
+                = "Dans cette formule, les dimensions sont en inches. Les valeurs de D et L sont donc converties "
+                  "avant le calcul. Le diametre moyen de la self est aussi calculer à la valeur D+e .";
+        },
+        [&] { OptmmH.Value = true; },
+        [&] { TxtS.Text = "10"; },
+        [&] { TxtF.Text = CStr(1.75); },
+        [&] { HscrlE.Value = 3; },
+        [&] { TxtD.Text = "100"; },
     });
-    resumeNext([&] { OptmmH.Value = true; });
-    resumeNext([&] { TxtS.Text = "10"; });
-    resumeNext([&] { TxtF.Text = CStr(1.75); });
-    resumeNext([&] { HscrlE.Value = 3; });
-    resumeNext([&] { TxtD.Text = "100"; });
 }
 
 void CalculNombreSpires::OptmH_Click()

@@ -8,19 +8,21 @@ namespace ondelis {
 
 void CalculSelf::Form_Load()
 {
-    resumeNext([&] { Caption = "Calcul de la valeur d'une self"; });
-    resumeNext([&] {
-        Label3.Caption
-            = "Dans cette formule, les dimensions sont en inches. Les valeurs de D et L sont donc converties "
-              "avant le calcul. Le diametre moyen de la self est aussi calculer à la valeur D+e .";
+    resumeNext({
+        [&] { Caption = "Calcul de la valeur d'une self"; },
+        [&] {
+            Label3.Caption
+                = "Dans cette formule, les dimensions sont en inches. Les valeurs de D et L sont donc converties "
+                  "avant le calcul. Le diametre moyen de la self est aussi calculer à la valeur D+e .";
+        },
+        [&] { Label7.Caption = "Référence : The ARRL HANDBOOK 1996 §6.22 "; },
+        [&] { Width = 10575; },
+        [&] { Height = 5970; },
+        [&] { TxtD.Text = "100"; },
+        [&] { TxtL.Text = "312"; },
+        [&] { TxtN.Text = "55"; },
+        [&] { BtnCalculer.Value = true; },
     });
-    resumeNext([&] { Label7.Caption = "Référence : The ARRL HANDBOOK 1996 §6.22 "; });
-    resumeNext([&] { Width = 10575; });
-    resumeNext([&] { Height = 5970; });
-    resumeNext([&] { TxtD.Text = "100"; });
-    resumeNext([&] { TxtL.Text = "312"; });
-    resumeNext([&] { TxtN.Text = "55"; });
-    resumeNext([&] { BtnCalculer.Value = true; });
 }
 
 void CalculSelf::TxtD_Change()

@@ -9,19 +9,23 @@ namespace ondelis {
 void CalculSurTores::Form_Load()
 {
     for (TextBox* champ : {&TxtAlFerPulverise, &TxtEpFePul, &TxtDiamIntFerPul, &TxtDiamExtFerPul, &TxtSpiresFerPul}) {
-        resumeNext([&] { champ->BackColor = white; });
-        resumeNext([&] { champ->ForeColor = black; });
+        resumeNext({
+            [&] { champ->BackColor = white; },
+            [&] { champ->ForeColor = black; },
+        });
     }
-    resumeNext([&] { TxtAlFerPulverise.Text = "20"; });
-    resumeNext([&] { TxtDiamIntFerPul.Text = "23"; });
-    resumeNext([&] { TxtDiamExtFerPul.Text = "36"; });
-    resumeNext([&] { TxtSpiresFerPul.Text = "100"; });
-    resumeNext([&] { TxtEpFePul.Text = "15"; });
-    resumeNext([&] { TxtAlFerrite.Text = "120"; });
-    resumeNext([&] { TxtDiamIntFerrite.Text = "23"; });
-    resumeNext([&] { TxtDiamExtFerrite.Text = "36"; });
-    resumeNext([&] { TxtSpiresFerrite.Text = "1000"; });
-    resumeNext([&] { TxtEpFerrite.Text = "15"; });
+    resumeNext({
+        [&] { TxtAlFerPulverise.Text = "20"; },
+        [&] { TxtDiamIntFerPul.Text = "23"; },
+        [&] { TxtDiamExtFerPul.Text = "36"; },
+        [&] { TxtSpiresFerPul.Text = "100"; },
+        [&] { TxtEpFePul.Text = "15"; },
+        [&] { TxtAlFerrite.Text = "120"; },
+        [&] { TxtDiamIntFerrite.Text = "23"; },
+        [&] { TxtDiamExtFerrite.Text = "36"; },
+        [&] { TxtSpiresFerrite.Text = "1000"; },
+        [&] { TxtEpFerrite.Text = "15"; },
+    });
 }
 
 void CalculSurTores::TxtAlFerPulverise_Change()

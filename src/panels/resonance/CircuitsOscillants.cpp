@@ -71,20 +71,22 @@ Frame::Design CircuitsOscillants::frmCircuitDesign(int index)
 
 void CircuitsOscillants::Form_Load()
 {
-    resumeNext([&] { TypeCircuit = LstCalcul.List(0); });
-    resumeNext([&] { Ouvrir(TxtRes); });
-    resumeNext([&] { Ouvrir(TxtInd); });
-    resumeNext([&] { Ouvrir(TxtCapa); });
-    resumeNext([&] { LstFreq.ListIndex = 1; });
-    resumeNext([&] { UniteFreq = Pow(10, 6); });
-    resumeNext([&] { LstInd.ListIndex = 1; });
-    resumeNext([&] { UniteInd = Pow(10, -6); });
-    resumeNext([&] { LstRes.ListIndex = 2; });
-    resumeNext([&] { UniteRes = 1; });
-    resumeNext([&] { LstCapa.ListIndex = 2; });
-    resumeNext([&] { UniteCapa = Pow(10, -12); });
-    resumeNext([&] { Capacite = 0; });
-    resumeNext([&] { LstCalcul.ListIndex = 0; });
+    resumeNext({
+        [&] { TypeCircuit = LstCalcul.List(0); },
+        [&] { Ouvrir(TxtRes); },
+        [&] { Ouvrir(TxtInd); },
+        [&] { Ouvrir(TxtCapa); },
+        [&] { LstFreq.ListIndex = 1; },
+        [&] { UniteFreq = Pow(10, 6); },
+        [&] { LstInd.ListIndex = 1; },
+        [&] { UniteInd = Pow(10, -6); },
+        [&] { LstRes.ListIndex = 2; },
+        [&] { UniteRes = 1; },
+        [&] { LstCapa.ListIndex = 2; },
+        [&] { UniteCapa = Pow(10, -12); },
+        [&] { Capacite = 0; },
+        [&] { LstCalcul.ListIndex = 0; },
+    });
 }
 
 void CircuitsOscillants::TxtFreq_Change()

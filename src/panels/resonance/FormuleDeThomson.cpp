@@ -9,9 +9,11 @@ namespace ondelis {
 
 void FormuleDeThomson::Form_Load()
 {
-    resumeNext([&] { OptF.Value = true; });
-    resumeNext([&] { OptL.Value = false; });
-    resumeNext([&] { OptC.Value = false; });
+    resumeNext({
+        [&] { OptF.Value = true; },
+        [&] { OptL.Value = false; },
+        [&] { OptC.Value = false; },
+    });
 }
 
 void FormuleDeThomson::OptF_Click()

@@ -7,14 +7,16 @@ namespace ondelis {
 
 void RLCParallele::Form_Load()
 {
-    resumeNext([&] { Pi = Atn(1) * 4; });
-    resumeNext([&] { TxtFreqDeb.Text = "10"; });
-    resumeNext([&] { TxtFreqFin.Text = "50"; });
-    resumeNext([&] { TxtR.Text = "40"; });
-    resumeNext([&] { TxtL.Text = "3"; });
-    resumeNext([&] { TxtC.Text = "9"; });
-    resumeNext([&] { HScroll1.Value = 306; });
-    resumeNext([&] { Calculer(); });
+    resumeNext({
+        [&] { Pi = Atn(1) * 4; },
+        [&] { TxtFreqDeb.Text = "10"; },
+        [&] { TxtFreqFin.Text = "50"; },
+        [&] { TxtR.Text = "40"; },
+        [&] { TxtL.Text = "3"; },
+        [&] { TxtC.Text = "9"; },
+        [&] { HScroll1.Value = 306; },
+        [&] { Calculer(); },
+    });
 }
 
 void RLCParallele::TxtR_Change()

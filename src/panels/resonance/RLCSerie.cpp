@@ -7,14 +7,16 @@ namespace ondelis {
 
 void RLCSerie::Form_Load()
 {
-    resumeNext([&] { TxtR.Text = "40"; });
-    resumeNext([&] { TxtL.Text = "3"; });
-    resumeNext([&] { TxtC.Text = "9"; });
-    resumeNext([&] { TxtFreqDeb.Text = "1"; });
-    resumeNext([&] { TxtFreqFin.Text = "50"; });
-    resumeNext([&] { HScroll1.Value = 306; });
-    resumeNext([&] { Frequence = 30.6; });
-    resumeNext([&] { Calculer(); });
+    resumeNext({
+        [&] { TxtR.Text = "40"; },
+        [&] { TxtL.Text = "3"; },
+        [&] { TxtC.Text = "9"; },
+        [&] { TxtFreqDeb.Text = "1"; },
+        [&] { TxtFreqFin.Text = "50"; },
+        [&] { HScroll1.Value = 306; },
+        [&] { Frequence = 30.6; },
+        [&] { Calculer(); },
+    });
 }
 
 void RLCSerie::TxtR_Change()

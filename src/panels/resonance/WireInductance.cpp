@@ -8,10 +8,12 @@ namespace ondelis {
 
 void WireInductance::Form_Load()
 {
-    resumeNext([&] { PouceMm = 25.4; });
-    resumeNext([&] { TxtDiam.Text = CStr(4.0005); });
-    resumeNext([&] { TxtHaut.Text = CStr(39.99992); });
-    resumeNext([&] { TxtLong.Text = CStr(99.9998); });
+    resumeNext({
+        [&] { PouceMm = 25.4; },
+        [&] { TxtDiam.Text = CStr(4.0005); },
+        [&] { TxtHaut.Text = CStr(39.99992); },
+        [&] { TxtLong.Text = CStr(99.9998); },
+    });
 }
 
 void WireInductance::TxtDiam_Change()

@@ -7,9 +7,11 @@ namespace ondelis {
 
 void Z1Z2::Form_Load()
 {
-    resumeNext([&] { TxtZ1.Text = "50"; });
-    resumeNext([&] { TxtZ2.Text = "75"; });
-    resumeNext([&] { TxtNbSpZ1.Text = CStr(5.5); });
+    resumeNext({
+        [&] { TxtZ1.Text = "50"; },
+        [&] { TxtZ2.Text = "75"; },
+        [&] { TxtNbSpZ1.Text = CStr(5.5); },
+    });
 }
 
 void Z1Z2::TxtZ1_Change()

@@ -7,10 +7,12 @@ namespace ondelis {
 
 void Astable::Form_Load()
 {
-    resumeNext([&] { HscrCapa.Value = 10; });
-    resumeNext([&] { LstCapa.ListIndex = 0; });
-    resumeNext([&] { HscrFreq.Value = 50; });
-    resumeNext([&] { LstFreq.ListIndex = 0; });
+    resumeNext({
+        [&] { HscrCapa.Value = 10; },
+        [&] { LstCapa.ListIndex = 0; },
+        [&] { HscrFreq.Value = 50; },
+        [&] { LstFreq.ListIndex = 0; },
+    });
 }
 
 void Astable::HscrFreq_Change()

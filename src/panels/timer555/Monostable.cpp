@@ -7,10 +7,12 @@ namespace ondelis {
 
 void Monostable::Form_Load()
 {
-    resumeNext([&] { HscrRes.Value = 541; });
-    resumeNext([&] { LstRes.ListIndex = 1; });
-    resumeNext([&] { HscrCapa.Value = 78; });
-    resumeNext([&] { LstCapa.ListIndex = 1; });
+    resumeNext({
+        [&] { HscrRes.Value = 541; },
+        [&] { LstRes.ListIndex = 1; },
+        [&] { HscrCapa.Value = 78; },
+        [&] { LstCapa.ListIndex = 1; },
+    });
 }
 
 void Monostable::HscrRes_Change()

@@ -8,11 +8,13 @@ namespace ondelis {
 void RapportCyclique::Form_Load()
 {
     // A unit must be chosen before its bar moves.
-    resumeNext([&] { LstFreq.ListIndex = 0; });
-    resumeNext([&] { HScrlFreq.Value = 440; });
-    resumeNext([&] { LstCondo.ListIndex = 1; });
-    resumeNext([&] { HScrlCondo.Value = 330; });
-    resumeNext([&] { HScrlRapportCyclique.Value = 50; });
+    resumeNext({
+        [&] { LstFreq.ListIndex = 0; },
+        [&] { HScrlFreq.Value = 440; },
+        [&] { LstCondo.ListIndex = 1; },
+        [&] { HScrlCondo.Value = 330; },
+        [&] { HScrlRapportCyclique.Value = 50; },
+    });
 }
 
 void RapportCyclique::LstFreq_Click()
