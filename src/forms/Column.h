@@ -69,6 +69,13 @@ inline constexpr double rowGap = 60;
     return {at.Left + at.Width + rowGap, at.Top, width, at.Height};
 }
 
+/// The same place, high enough for so many lines of text.
+[[nodiscard]] constexpr Box lines(Box place, int count)
+{
+    place.Height = 255 * count;
+    return place;
+}
+
 /// The place under a control, so much lower than its bottom, from its left edge on.
 [[nodiscard]] inline Box under(const Control& neighbour, double width, double height = 315, double lower = 15)
 {

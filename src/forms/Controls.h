@@ -290,7 +290,7 @@ public:
 class Line final : public Hideable<Line, LineDesign> {
 public:
     Line(FeuilleCalcul* panel, std::string name, Design design)
-        : Hideable{panel, std::move(name), std::move(design)} { }
+        : Hideable{panel, std::move(name), design} { }
 
     Property<Single> X1{*this};
     Property<Single> Y1{*this};
@@ -303,7 +303,7 @@ public:
 /// A rectangle drawn around what belongs together.
 class Shape final : public Designed<Shape, ShapeDesign> {
 public:
-    Shape(FeuilleCalcul* panel, std::string name, Design design) : Designed{panel, std::move(name), std::move(design)}
+    Shape(FeuilleCalcul* panel, std::string name, Design design) : Designed{panel, std::move(name), design}
     {
     }
 
@@ -314,7 +314,7 @@ public:
 class MaskEdBox final : public Designed<MaskEdBox, MaskEdBoxDesign> {
 public:
     MaskEdBox(FeuilleCalcul* panel, std::string name, Design design)
-        : Designed{panel, std::move(name), std::move(design)}
+        : Designed{panel, std::move(name), design}
     {
     }
 

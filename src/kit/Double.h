@@ -65,7 +65,7 @@ public:
         return value_;
     }
 
-    /// Whether a fault was met; a function gives it on as it is.
+    /// Whether a fault was met; a function of a faulty operand returns it unchanged.
     [[nodiscard]] constexpr bool faulty() const { return fault_ != none; }
 
     friend constexpr Term operator+(Term a, Term b) { return result(a, b, a.value_ + b.value_); }

@@ -9,10 +9,7 @@ void Apropos::Form_Load()
             Label2.Caption = "Il a été écrit au fil des années, pour les calculs de tous les jours d'une station,\n"
                              "puis mis à la disposition des amis radioamateurs.";
         },
-    });
-    resumeNext(
-        [&] { Label3.Caption = "Merci aux bêta-testeurs pour leur patience, leurs essais et leurs remarques."; });
-    resumeNext({
+        [&] { Label3.Caption = "Merci aux bêta-testeurs pour leur patience, leurs essais et leurs remarques."; },
         [&] {
             Label6.Caption = "Bibliographie : \n"
                              "The ARRL HANDBOOK 1989\n"

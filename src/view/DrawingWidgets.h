@@ -17,7 +17,7 @@ public:
     explicit Drawing(std::string_view name);
 
     /// A drawing for dark windows, from its source for light ones. Colours that it writes as rgb(...) are those of
-    /// things that look the same at night, and stay.
+    /// things that look the same on them, and stay.
     [[nodiscard]] static QByteArray darkened(const QByteArray& svg, const QColor& ground);
 
     /// Paints the drawing as large as it fits, in the middle of a part of the widget.

@@ -78,7 +78,7 @@ void View::perform(const std::function<void(User&)>& action)
         action(user);
     }
     show();
-    bury();
+    deleteClosedWindows();
 }
 
 void View::close()
@@ -264,7 +264,7 @@ void View::tellFocus()
         }
 }
 
-void View::bury()
+void View::deleteClosedWindows()
 {
     if (actions_ > 0)
         return;

@@ -67,7 +67,7 @@ private:
     /// Tells the desk which control has got the keyboard by all this: one that was shown, or the one after a hidden
     /// one.
     void tellFocus();
-    void bury();
+    void deleteClosedWindows();
 
     std::unique_ptr<MainWindow> mainWindow_;
     MDIOndelis* frame_ = nullptr;

@@ -33,10 +33,10 @@ std::string RandomUser::next(const Desk& desk)
         return toWindows(desk);
     const bool mayWait = std::ranges::any_of(desk.loadedPanels(),
         [](const FeuilleCalcul* panel) { return std::ranges::find(waiting, panel->design().name) != waiting.end(); });
-    return (dice_.percent(mayWait ? 15 : 1) ? "meanwhile " : "") + deed(desk);
+    return (dice_.percent(mayWait ? 15 : 1) ? "meanwhile " : "") + gesture(desk);
 }
 
-std::string RandomUser::deed(const Desk& desk)
+std::string RandomUser::gesture(const Desk& desk)
 {
     const auto& panels = desk.loadedPanels();
     if (panels.empty() || dice_.percent(3))

@@ -25,7 +25,7 @@ private:
     static constexpr std::array<std::size_t, 4> oddities{2, 10, 30, 80};
 
     /// What the user does to what is on screen.
-    std::string deed(const Desk& desk);
+    std::string gesture(const Desk& desk);
     std::string menuEntry();
     /// What the user does to a window, or to the screen.
     std::string toWindows(const Desk& desk);

@@ -30,11 +30,11 @@ struct Aim {
     double longestStep; ///< seconds of the session's own processor time
     bool digests;
 };
-constexpr Aim findings{.longestStep = 2, .digests = false};
+constexpr Aim findings{.longestStep = 10, .digests = false};
 constexpr Aim comparison{.longestStep = 60, .digests = true};
 
 /// A step that waits so long, and keeps the processor free, waits for ever.
-constexpr std::chrono::seconds longestWait{60};
+constexpr std::chrono::seconds longestWait{300};
 
 /// What the session's process tells of itself. It begins as zeros.
 struct Log { // NOLINT(cppcoreguidelines-pro-type-member-init): the memory that it is made in is all zeros

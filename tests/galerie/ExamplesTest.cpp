@@ -103,9 +103,9 @@ private slots:
     void noExampleCutsAResult()
     {
         const Subject shown = subject();
-        Sitting sitting;
-        sitting.play("menu " + shown.entry);
-        const Desk& desk = sitting.frame().desk();
+        Player player;
+        player.play("menu " + shown.entry);
+        const Desk& desk = player.frame().desk();
         Typed typed;
         QStringList faults;
         std::ifstream in{std::filesystem::path{EXAMPLES} / (shown.panel + ".txt")};
@@ -114,13 +114,13 @@ private slots:
             if (words.atEnd())
                 continue;
             if (words.next() != "picture") {
-                sitting.play(line);
+                player.play(line);
                 if (const auto* const box = dynamic_cast<const TextBox*>(desk.focused()))
                     typed[box] = toQString(box->Text.get());
                 continue;
             }
             for (const FeuilleCalcul* panel : desk.loadedPanels())
-                if (const PanelWindow* const window = sitting.view().find(*panel))
+                if (const PanelWindow* const window = player.view().find(*panel))
                     for (const FormFault& fault : faultsOf(*window, typed))
                         faults.append(QString::fromStdString(line) + QStringLiteral(": ") + fault.line());
         }
@@ -132,19 +132,19 @@ private slots:
     void everyDiagramStaysInside()
     {
         const Subject shown = subject();
-        Sitting sitting;
-        sitting.play("menu " + shown.entry);
-        QStringList beyond = cutLines(sitting.frame().desk());
+        Player player;
+        player.play("menu " + shown.entry);
+        QStringList beyond = cutLines(player.frame().desk());
         std::ifstream in{std::filesystem::path{EXAMPLES} / (shown.panel + ".txt")};
         for (std::string line; std::getline(in, line);) {
             pilote::Words words{line};
             if (words.atEnd())
                 continue;
             if (words.next() == "picture")
-                for (const QString& name : cutLines(sitting.frame().desk()))
+                for (const QString& name : cutLines(player.frame().desk()))
                     beyond.append(QString::fromStdString(line) + QStringLiteral(": ") + name);
             else
-                sitting.play(line);
+                player.play(line);
         }
         QCOMPARE(beyond.join(QLatin1Char{'\n'}), QString{});
     }

@@ -28,7 +28,7 @@ TEST_F(MeanwhileTest, WhileEventsRunAPanelCanBeClosed)
     EXPECT_TRUE(ok("expect AntennesTrappesCoaxiales unloaded"));
 }
 
-TEST_F(MeanwhileTest, SeveralDeedsFollowOneAnother)
+TEST_F(MeanwhileTest, SeveralGesturesFollowOneAnother)
 {
     say("start");
     say("menu mnuTrappesCoaxiales");

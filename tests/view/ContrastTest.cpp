@@ -7,7 +7,7 @@
 #include <QStyleOptionSlider>
 
 #include "Contrast.h"
-#include "Look.h"
+#include "Desktop.h"
 #include "Program.h"
 #include "TestPanel.h"
 #include "Walk.h"
@@ -26,7 +26,7 @@ class ContrastTest final : public QObject {
         QTest::newRow("dark") << true;
     }
 
-    static ScopedLook palette(bool dark) { return {QStringLiteral("DejaVu Sans"), 9, dark}; }
+    static ScopedDesktop palette(bool dark) { return {QStringLiteral("DejaVu Sans"), 9, dark}; }
 
     static void report(const QStringList& faults)
     {
@@ -106,7 +106,7 @@ private slots:
 
     void theCheckFindsAPoorTitleAndMenu()
     {
-        const ScopedLook look = palette(false);
+        const ScopedDesktop look = palette(false);
         QPalette poor = QApplication::palette();
         poor.setColor(QPalette::Text, poor.color(QPalette::Base));
         QApplication::setPalette(poor);
@@ -135,7 +135,7 @@ private slots:
 
     void colorsAreTurnedOnDarkPalettes()
     {
-        const ScopedLook look = palette(true);
+        const ScopedDesktop look = palette(true);
         const QPalette system = QApplication::palette();
         Program program;
         auto& panel = program.open<TestPanel>();
@@ -157,7 +157,7 @@ private slots:
 
     void aHueIsKeptOnDarkPalettes()
     {
-        const ScopedLook look = palette(true);
+        const ScopedDesktop look = palette(true);
         Program program;
         auto& panel = program.open<TestPanel>();
         program.store([&] {
@@ -173,7 +173,7 @@ private slots:
 
     void allColoredFieldsHaveWhiteTextOnDarkPalettes()
     {
-        const ScopedLook look = palette(true);
+        const ScopedDesktop look = palette(true);
         Program program;
         auto& panel = program.open<TestPanel>();
         for (const Color ground : {0xFFFFC0U, 0xFFFF80U, 0xFFFF00U, 0xC0FFC0U, 0xC0E0FFU, 0xE0E0E0U}) {
@@ -189,7 +189,7 @@ private slots:
     void theCloseBoxIsSeen()
     {
         QFETCH(bool, dark);
-        const ScopedLook look = palette(dark);
+        const ScopedDesktop look = palette(dark);
         Program program;
         program.pick("MenuThomson"); // two panels, one of which has no keyboard
         for (const FeuilleCalcul* panel : program.desk.loadedPanels())
@@ -201,7 +201,7 @@ private slots:
     void theSliderIsSeen()
     {
         QFETCH(bool, dark);
-        const ScopedLook look = palette(dark);
+        const ScopedDesktop look = palette(dark);
         Program program;
         auto& panel = program.open<TestPanel>();
         auto& bar = program.widget<QScrollBar>(panel.HscrA);
@@ -227,7 +227,7 @@ private slots:
     void menus()
     {
         QFETCH(bool, dark);
-        const ScopedLook look = palette(dark);
+        const ScopedDesktop look = palette(dark);
         const Program program;
         report(contrastFaultsOfMenus(*program.view.mainWindow().menuBar()));
     }
@@ -237,7 +237,7 @@ private slots:
     void boxes()
     {
         QFETCH(bool, dark);
-        const ScopedLook look = palette(dark);
+        const ScopedDesktop look = palette(dark);
         Program program;
         Reader reader{{QStringLiteral("Oui")}};
         QStringList faults;
@@ -259,7 +259,7 @@ private slots:
     void panels()
     {
         QFETCH(bool, dark);
-        const ScopedLook look = palette(dark);
+        const ScopedDesktop look = palette(dark);
         QStringList faults;
         Walk walk;
         for (const MenuEntry* entry : panelEntries()) {

@@ -8,7 +8,7 @@
 #include <algorithm>
 #include <cstring>
 
-#include "Look.h"
+#include "Desktop.h"
 #include "view/Application.h"
 #include "view/Colors.h"
 #include "view/DrawingWidgets.h"
@@ -111,7 +111,7 @@ class DrawingsTest final : public QObject {
     }
 
     static QColor lightWindow() { return QApplication::palette().color(QPalette::Window); }
-    static QColor darkWindow() { return darkPalette().color(QPalette::Window); }
+    static QColor darkWindow() { return poorDarkPalette().color(QPalette::Window); }
 
     /// How a panel shows a drawing with that font.
     static QImage shown(std::string_view name, const QString& family)

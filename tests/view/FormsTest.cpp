@@ -3,8 +3,8 @@
 #include <set>
 
 #include "CrookedPanel.h"
+#include "Desktop.h"
 #include "FormCheck.h"
-#include "Look.h"
 #include "Program.h"
 #include "Walk.h"
 
@@ -69,7 +69,7 @@ private slots:
     {
         QFETCH(QString, family);
         QFETCH(int, points);
-        const ScopedLook look{family, points, false};
+        const ScopedDesktop look{family, points, false};
         QCOMPARE(QFontInfo{QApplication::font()}.family(), family);
         std::set<QString> faults;
         Walk walk;
@@ -91,7 +91,7 @@ private slots:
     {
         QFETCH(QString, family);
         QFETCH(int, points);
-        const ScopedLook look{family, points, false};
+        const ScopedDesktop look{family, points, false};
         const Program program;
         QMenuBar& bar = *program.view.mainWindow().menuBar();
         for (QAction* const heading : bar.actions()) {

@@ -76,7 +76,7 @@ private slots:
     void tabWalksThroughEveryPanel()
     {
         QFETCH(QString, entry);
-        const Patient patient;
+        const BoxCloser closer;
         Program program;
         program.pick(entry.toUtf8().constData());
         program.view.mainWindow().activateWindow(); // a box may have been before it, and there is no window manager

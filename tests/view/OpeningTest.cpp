@@ -86,7 +86,7 @@ private slots:
     void aPanelThatOpensIsSeen()
     {
         QFETCH(QString, entry);
-        const Patient patient;
+        const BoxCloser closer;
         Program program;
         open(program, entry);
         const PanelWindow& panel = *windows(program).first();
@@ -110,7 +110,7 @@ private slots:
     void itsPlaceStaysAsComputed()
     {
         QFETCH(QString, entry);
-        const Patient patient;
+        const BoxCloser closer;
         Program program;
         open(program, entry);
         const double left = Double{windows(program).first()->panel().Left}.value();
@@ -130,7 +130,7 @@ private slots:
     void itHasTheKeyboard()
     {
         QFETCH(QString, entry);
-        const Patient patient;
+        const BoxCloser closer;
         Program program;
         open(program, entry);
         const PanelWindow& panel = *windows(program).first();

@@ -105,9 +105,9 @@ private:
 };
 
 /// A person who presses the first button of each box that comes.
-class Patient {
+class BoxCloser {
 public:
-    Patient()
+    BoxCloser()
     {
         timer_.callOnTimeout([] {
             if (auto* const box = dynamic_cast<QMessageBox*>(QApplication::activeModalWidget()))

@@ -211,7 +211,7 @@ private slots:
     void everyPanelIsRead()
     {
         QFETCH(QString, entry);
-        const Patient patient;
+        const BoxCloser closer;
         Program program;
         program.pick(entry.toUtf8().constData());
         // Some captions stand twice in their panel, on purpose; the order of the fields tells them apart.

@@ -107,7 +107,7 @@ private slots:
     void everythingCanBeReached()
     {
         QFETCH(QString, entry);
-        const Patient patient;
+        const BoxCloser closer;
         Program program;
         MainWindow& window = program.view.mainWindow();
         program.pick(entry.toUtf8().constData());

@@ -32,7 +32,7 @@ private:
     void reopen();
 
     std::function<void(Program&)> opening_;
-    Patient patient_;
+    BoxCloser patient_;
     std::unique_ptr<Program> program_ = std::make_unique<Program>();
 };
 

@@ -208,7 +208,7 @@ private slots:
 
     void openingAllPanelsLeavesNoWidgetBehind()
     {
-        const Patient patient;
+        const BoxCloser closer;
         Program program;
         const auto openAll = [&] {
             for (const MenuEntry* entry : panelEntries())

@@ -28,7 +28,7 @@ public:
     pilote::Hands::Refusal setScreen(const Extent& size) override;
     void answer(Answer answer) override { answers_.push_back(answer); }
     void onChange(std::function<void(const Control&)> action) override { onlooker_.onChange = std::move(action); }
-    void meanwhile(pilote::Deed deed) override { meanwhile_.add(std::move(deed)); }
+    void meanwhile(pilote::Gesture gesture) override { meanwhile_.add(std::move(gesture)); }
 
     [[nodiscard]] const std::vector<MessageBox>& boxes() const override { return boxes_; }
     [[nodiscard]] const std::optional<Fault>& fault() const override { return fault_; }

@@ -37,13 +37,13 @@ Gallery::Gallery(std::filesystem::path examples, std::filesystem::path pictures,
 
 void Gallery::draw(const Subject& subject) const
 {
-    Sitting sitting;
-    sitting.play("menu " + subject.entry);
-    take(sitting, subject.panel, subject.panel);
-    playExample(sitting, subject);
+    Player player;
+    player.play("menu " + subject.entry);
+    take(player, subject.panel, subject.panel);
+    playExample(player, subject);
 }
 
-void Gallery::playExample(Sitting& sitting, const Subject& subject) const
+void Gallery::playExample(Player& player, const Subject& subject) const
 {
     const std::filesystem::path file = examples_ / (subject.panel + ".txt");
     if (!exists(file))
@@ -57,7 +57,7 @@ void Gallery::playExample(Sitting& sitting, const Subject& subject) const
             if (words.atEnd())
                 continue;
             if (words.next() != "picture") {
-                sitting.play(line);
+                player.play(line);
                 continue;
             }
             const std::string name = words.next();
@@ -65,7 +65,7 @@ void Gallery::playExample(Sitting& sitting, const Subject& subject) const
             words.finish();
             if (!names.insert(name).second)
                 throw Refused{"a picture of this name has been taken"};
-            take(sitting, window, subject.panel + '-' + name);
+            take(player, window, subject.panel + '-' + name);
         } catch (const std::runtime_error& error) {
             throw Refused{file.string() + ':' + std::to_string(number) + ": " + line + ": " + error.what()};
         }
@@ -74,9 +74,9 @@ void Gallery::playExample(Sitting& sitting, const Subject& subject) const
         throw Refused{file.string() + ": cannot be read"};
 }
 
-void Gallery::take(const Sitting& sitting, std::string_view window, const std::string& name) const
+void Gallery::take(const Player& player, std::string_view window, const std::string& name) const
 {
-    sitting.picture(window, pictures_ / (name + '-' + look_ + ".png"));
+    player.picture(window, pictures_ / (name + '-' + look_ + ".png"));
 }
 
 } // namespace ondelis::galerie

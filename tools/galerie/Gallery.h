@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "Look.h"
-#include "Sitting.h"
+#include "Player.h"
 
 namespace ondelis::galerie {
 
@@ -32,8 +32,8 @@ public:
     void draw(const Subject& subject) const;
 
 private:
-    void playExample(Sitting& sitting, const Subject& subject) const;
-    void take(const Sitting& sitting, std::string_view window, const std::string& name) const;
+    void playExample(Player& player, const Subject& subject) const;
+    void take(const Player& player, std::string_view window, const std::string& name) const;
 
     std::filesystem::path examples_;
     std::filesystem::path pictures_;

@@ -8,7 +8,7 @@ namespace ondelis::galerie {
 /// How a person's screen shows the program.
 struct Look {
     int dpi; ///< logical resolution; Qt takes it once, before the application is made
-    bool dark; ///< light text on dark windows, as a desktop of the night has them
+    bool dark; ///< light text on dark windows, as on a dark desktop
 
     /// What ends the names of its pictures: "96", "sombre-192".
     [[nodiscard]] std::string name() const { return (dark ? "sombre-" : "") + std::to_string(dpi); }

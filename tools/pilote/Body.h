@@ -34,17 +34,17 @@ public:
     /// Is told each control that changes.
     virtual void onChange(std::function<void(const Control&)> action) = 0;
     /// What the person does while the next box waits for its answer, or the next handler lets events through.
-    virtual void meanwhile(Deed deed) = 0;
+    virtual void meanwhile(Gesture gesture) = 0;
 
     // What there was to see since the last `forget`.
     /// The boxes, in order.
     [[nodiscard]] virtual const std::vector<MessageBox>& boxes() const = 0;
     /// The fault that was named.
     [[nodiscard]] virtual const std::optional<Fault>& fault() const = 0;
-    /// Why the first of the deeds was refused that were meant for meanwhile.
+    /// Why the first of the gestures was refused that were meant for meanwhile.
     [[nodiscard]] virtual Hands::Refusal meanwhileRefused() const = 0;
     virtual void forget() = 0;
-    /// The command is over: deeds that were meant for meanwhile and had no occasion are refused.
+    /// The command is over: gestures that were meant for meanwhile and had no occasion are refused.
     virtual void settle() = 0;
 };
 

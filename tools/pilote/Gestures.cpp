@@ -36,17 +36,17 @@ Hands::Target target(Words& words)
     return {.panel = word.substr(0, dot), .control = word.substr(dot + 1)};
 }
 
-Deed menu(Words& words)
+Gesture menu(Words& words)
 {
     return [entry = words.next()](Hands& hands) { return hands.menu(entry); };
 }
 
-Deed close(Words& words)
+Gesture close(Words& words)
 {
     return [window = words.next()](Hands& hands) { return hands.close(window); };
 }
 
-Deed move(Words& words)
+Gesture move(Words& words)
 {
     const std::string window = words.next();
     const double left = readNumber(words.next());
@@ -54,47 +54,47 @@ Deed move(Words& words)
     return [=](Hands& hands) { return hands.move(window, left, top); };
 }
 
-Deed minimise(Words& words)
+Gesture minimise(Words& words)
 {
     return [window = words.next()](Hands& hands) { return hands.minimise(window); };
 }
 
-Deed restore(Words& words)
+Gesture restore(Words& words)
 {
     return [window = words.next()](Hands& hands) { return hands.restore(window); };
 }
 
-Deed type(Words& words)
+Gesture type(Words& words)
 {
     return [field = target(words), text = words.next()](Hands& hands) { return hands.type(field, text); };
 }
 
-Deed backspace(Words& words)
+Gesture backspace(Words& words)
 {
     return [field = target(words)](Hands& hands) { return hands.backspace(field); };
 }
 
-Deed replace(Words& words)
+Gesture replace(Words& words)
 {
     return [field = target(words), text = words.next()](Hands& hands) { return hands.replace(field, text); };
 }
 
-Deed click(Words& words)
+Gesture click(Words& words)
 {
     return [button = target(words)](Hands& hands) { return hands.click(button); };
 }
 
-Deed select(Words& words)
+Gesture select(Words& words)
 {
     return [list = target(words), row = whole(words.next())](Hands& hands) { return hands.select(list, row); };
 }
 
-Deed scroll(Words& words)
+Gesture scroll(Words& words)
 {
     return [bar = target(words), value = whole(words.next())](Hands& hands) { return hands.scroll(bar, value); };
 }
 
-Deed focus(Words& words)
+Gesture focus(Words& words)
 {
     return [control = target(words)](Hands& hands) { return hands.focus(control); };
 }
@@ -112,7 +112,7 @@ Hands::Key keyOf(const std::string& word, bool quoted)
     throw Malformed{"neither a character in quotes nor backspace, back or forward: " + word};
 }
 
-Deed hold(Words& words)
+Gesture hold(Words& words)
 {
     const Hands::Target control = target(words);
     const bool quoted = words.quotedNext();
@@ -124,12 +124,12 @@ Deed hold(Words& words)
     return [=](Hands& hands) { return hands.hold(control, key, word, times); };
 }
 
-struct Gesture {
+struct Reader {
     std::string_view word;
-    Deed (*read)(Words& words);
+    Gesture (*read)(Words& words);
 };
 
-constexpr std::array<Gesture, 13> gestures{{
+constexpr std::array<Reader, 13> gestures{{
     {"menu", menu},
     {"close", close},
     {"move", move},
@@ -147,10 +147,10 @@ constexpr std::array<Gesture, 13> gestures{{
 
 } // namespace
 
-Deed readGesture(std::string_view word, Words& words)
+Gesture readGesture(std::string_view word, Words& words)
 {
-    const auto* const found = std::ranges::find(gestures, word, &Gesture::word);
-    return found == gestures.end() ? Deed{} : found->read(words);
+    const auto* const found = std::ranges::find(gestures, word, &Reader::word);
+    return found == gestures.end() ? Gesture{} : found->read(words);
 }
 
 Answer readAnswer(Words& words)

@@ -8,9 +8,9 @@
 
 namespace ondelis::pilote {
 
-/// Reads the words of a gesture, of what a person does, behind its first one: "menu", "type", "click". Gives no deed,
-/// and reads nothing, where that is the word of none. Throws Malformed.
-[[nodiscard]] Deed readGesture(std::string_view word, Words& words);
+/// Reads the words of a gesture, of what a person does, behind its first one: "menu", "type", "click". Gives no
+/// gesture, and reads nothing, where that is the word of none. Throws Malformed.
+[[nodiscard]] Gesture readGesture(std::string_view word, Words& words);
 
 /// The answer to a box: the next word, "yes" or "no".
 [[nodiscard]] Answer readAnswer(Words& words);

@@ -46,6 +46,6 @@ public:
 };
 
 /// One thing that a person does.
-using Deed = std::function<Hands::Refusal(Hands&)>;
+using Gesture = std::function<Hands::Refusal(Hands&)>;
 
 } // namespace ondelis::pilote

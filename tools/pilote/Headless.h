@@ -21,7 +21,7 @@ public:
     Hands::Refusal setScreen(const Extent& size) override;
     void answer(Answer answer) override { surroundings_.answer(answer); }
     void onChange(std::function<void(const Control&)> action) override { surroundings_.onChange(std::move(action)); }
-    void meanwhile(Deed deed) override { meanwhile_.add(std::move(deed)); }
+    void meanwhile(Gesture gesture) override { meanwhile_.add(std::move(gesture)); }
 
     [[nodiscard]] const std::vector<MessageBox>& boxes() const override { return surroundings_.boxes(); }
     [[nodiscard]] const std::optional<Fault>& fault() const override { return surroundings_.fault(); }

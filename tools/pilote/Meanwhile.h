@@ -10,25 +10,25 @@ namespace ondelis::pilote {
 /// What a person is to do once a box waits, or a handler lets events through.
 class Meanwhile {
 public:
-    void add(Deed deed) { deeds_.push_back(std::move(deed)); }
-    [[nodiscard]] bool empty() const { return deeds_.empty(); }
+    void add(Gesture gesture) { gestures_.push_back(std::move(gesture)); }
+    [[nodiscard]] bool empty() const { return gestures_.empty(); }
 
     /// The occasion is here.
     void act(Hands& hands)
     {
-        while (!deeds_.empty()) {
-            const Deed deed = std::move(deeds_.front());
-            deeds_.pop_front();
-            note(deed(hands));
+        while (!gestures_.empty()) {
+            const Gesture gesture = std::move(gestures_.front());
+            gestures_.pop_front();
+            note(gesture(hands));
         }
     }
 
     /// No occasion comes any more.
     void giveUp()
     {
-        if (!deeds_.empty())
+        if (!gestures_.empty())
             note("nothing waited meanwhile");
-        deeds_.clear();
+        gestures_.clear();
     }
 
     /// Why the first one was refused, of those since the last `forget`.
@@ -42,7 +42,7 @@ private:
             refused_ = std::move(refusal);
     }
 
-    std::deque<Deed> deeds_;
+    std::deque<Gesture> gestures_;
     Hands::Refusal refused_;
 };
 

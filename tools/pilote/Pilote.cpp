@@ -58,15 +58,15 @@ Json Pilote::run(Words& words)
         return state;
     }
     const Command* const command = find(word);
-    const Deed deed = command != nullptr ? (this->*command->read)(words) : readGesture(word, words);
-    if (!deed)
+    const Gesture gesture = command != nullptr ? (this->*command->read)(words) : readGesture(word, words);
+    if (!gesture)
         throw Malformed{"no such command: " + word};
     words.finish();
     body_.forget();
     expectedBoxes_ = 0;
     refusal_ = outOfTime(command != nullptr ? command->when : When::Running);
     if (!refusal_)
-        refusal_ = deed(body_.hands());
+        refusal_ = gesture(body_.hands());
     if (word != "meanwhile")
         body_.settle();
     return done();
@@ -98,7 +98,7 @@ Pilote::Refusal Pilote::outOfTime(When when) const
     return {};
 }
 
-Deed Pilote::region(Words& words)
+Gesture Pilote::region(Words& words)
 {
     Region separators{.decimal = words.next(), .thousands = words.next()};
     if (Len(separators.decimal) != 1 || Len(separators.thousands) > 1 || separators.decimal == separators.thousands)
@@ -109,13 +109,13 @@ Deed Pilote::region(Words& words)
     };
 }
 
-Deed Pilote::screen(Words& words)
+Gesture Pilote::screen(Words& words)
 {
     const Extent size{.Width = extent(words.next()), .Height = extent(words.next())};
     return [this, size](Hands& /*hands*/) { return body_.setScreen(size); };
 }
 
-Deed Pilote::start(Words& /*words*/)
+Gesture Pilote::start(Words& /*words*/)
 {
     return [this](Hands& /*hands*/) -> Refusal {
         started_ = true;
@@ -124,7 +124,7 @@ Deed Pilote::start(Words& /*words*/)
     };
 }
 
-Deed Pilote::answerNext(Words& words)
+Gesture Pilote::answerNext(Words& words)
 {
     return [this, answer = readAnswer(words)](Hands& /*hands*/) -> Refusal {
         body_.answer(answer);
@@ -132,14 +132,14 @@ Deed Pilote::answerNext(Words& words)
     };
 }
 
-Deed Pilote::meanwhile(Words& words)
+Gesture Pilote::meanwhile(Words& words)
 {
     const std::string word = words.next();
-    const Deed deed = readGesture(word, words);
-    if (!deed)
+    const Gesture gesture = readGesture(word, words);
+    if (!gesture)
         throw Malformed{"no such gesture: " + word};
-    return [this, deed](Hands& /*hands*/) -> Refusal {
-        body_.meanwhile(deed);
+    return [this, gesture](Hands& /*hands*/) -> Refusal {
+        body_.meanwhile(gesture);
         return {};
     };
 }

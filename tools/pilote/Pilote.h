@@ -27,7 +27,7 @@ private:
     struct Command {
         std::string_view word;
         When when;
-        Deed (Pilote::*read)(Words& words);
+        Gesture (Pilote::*read)(Words& words);
     };
     static const Command* find(std::string_view word);
 
@@ -35,11 +35,11 @@ private:
     [[nodiscard]] Json done() const;
     [[nodiscard]] Refusal outOfTime(When when) const;
 
-    Deed region(Words& words);
-    Deed screen(Words& words);
-    Deed start(Words& words);
-    Deed answerNext(Words& words);
-    Deed meanwhile(Words& words);
+    Gesture region(Words& words);
+    Gesture screen(Words& words);
+    Gesture start(Words& words);
+    Gesture answerNext(Words& words);
+    Gesture meanwhile(Words& words);
 
     // The expectations, in Expectations.cpp.
     Json expect(Words& words);

@@ -6,15 +6,6 @@
 
 namespace ondelis {
 
-AntennesLPDA1::AntennesLPDA1(Desk& desk)
-    : FeuilleCalcul{desk,
-        {.name = "AntennesLPDA1",
-            .Caption = "Eléments de base pour le calcul de la LPDA",
-            .Width = 15540,
-            .Height = 8145}}
-{
-}
-
 void AntennesLPDA1::Form_Load()
 {
     resumeNext({
@@ -69,7 +60,7 @@ void AntennesLPDA1::OptRhoOpt_Click()
     // Rho itself takes the optimum only at the next accepted change of Theta.
     OptRho.Value = false;
     TxtRho.Locked = true;
-    TxtRho.BackColor = ferme;
+    TxtRho.BackColor = resultColor;
 }
 
 void AntennesLPDA1::TxtTheta_Change()

@@ -13,83 +13,88 @@ namespace ondelis {
 /// step shows the buttons of the next one: which buttons are visible is all the state that the sequence has.
 class AntennesLPDA1 final : public FeuilleCalcul {
 public:
-    explicit AntennesLPDA1(Desk& desk);
+    explicit AntennesLPDA1(Desk& desk)
+        : FeuilleCalcul{desk,
+            {.name = "AntennesLPDA1",
+                .Caption = "Eléments de base pour le calcul de la LPDA",
+                .Width = 15540,
+                .Height = 8145}}
+    {
+    }
 
     using Me = AntennesLPDA1;
-    static constexpr Column colonne{.left = 420, .captions = 3600, .results = 1950, .top = 390};
-    static constexpr Column colonne_2 = colonne.from(240);
-    static constexpr Column colonne_3 = colonne.from(3765);
-    static constexpr Column colonne_4 = colonne.from(4605);
-    static constexpr Column colonne_5 = colonne.from(6660);
-    static constexpr Column colonne2{.left = 9600, .captions = 3420, .inputs = 1920};
+    static constexpr Column bande{.left = 420, .captions = 3600, .results = 1950, .top = 390};
+    static constexpr Column bornes{.left = 5520, .captions = 3540, .top = bande.top};
+    static constexpr Column antenne = bande.from(2310);
+    static constexpr Column alimentation = bande.from(3765);
+    static constexpr Column ligne = bande.from(4605);
+    static constexpr Column booms = bande.from(6660);
+    static constexpr Column brins{.left = 9600, .captions = 3420, .inputs = 1920, .top = 5550};
+    static constexpr Box structure{9420, 240, 5760, 5040};
 
     Shape Cadre1{this, "Cadre1", {.at = {240, 240, 9000, 3255}}};
-    Label LblFreqMin{this, "LblFreqMin", colonne.caption(0, "Fréquence min en MHz")};
-    TextBox TxtFreqMin{this, "TxtFreqMin", colonne.input(LblFreqMin), {}, &Me::TxtFreqMin_KeyPress};
-    Label LblFreqMax{this, "LblFreqMax", colonne.caption(1, "Fréquence max en MHz")};
-    TextBox TxtFreqMax{this, "TxtFreqMax", colonne.input(LblFreqMax), {}, &Me::TxtFreqMax_KeyPress};
-    Label LblTheta{this, "LblTheta", colonne.caption(2, "Définition de Theta")};
-    TextBox TxtTheta{this, "TxtTheta", colonne.input(LblTheta), &Me::TxtTheta_Change};
-    Label LblBornesTheta{this, "LblBornesTheta", {.Caption = "0.8 =< Theta =< 0.98", .at = {5520, 1140, 3540, 255}}};
-    Label LblRhoOpt{this, "LblRhoOpt", colonne.caption(3, "Rho optimum")};
-    TextBox TxtRhoOpt{this, "TxtRhoOpt", colonne.result(LblRhoOpt)};
+    Label LblFreqMin{this, "LblFreqMin", bande.caption(0, "Fréquence min en MHz")};
+    TextBox TxtFreqMin{this, "TxtFreqMin", bande.input(LblFreqMin), {}, &Me::TxtFreqMin_KeyPress};
+    Label LblFreqMax{this, "LblFreqMax", bande.caption(1, "Fréquence max en MHz")};
+    TextBox TxtFreqMax{this, "TxtFreqMax", bande.input(LblFreqMax), {}, &Me::TxtFreqMax_KeyPress};
+    Label LblTheta{this, "LblTheta", bande.caption(2, "Définition de Theta")};
+    TextBox TxtTheta{this, "TxtTheta", bande.input(LblTheta), &Me::TxtTheta_Change};
+    Label LblBornesTheta{this, "LblBornesTheta", bornes.caption(2, "0.8 =< Theta =< 0.98")};
+    Label LblRhoOpt{this, "LblRhoOpt", bande.caption(3, "Rho optimum")};
+    TextBox TxtRhoOpt{this, "TxtRhoOpt", bande.result(LblRhoOpt)};
     OptionButton OptRho{this, "OptRho", {.Caption = "Rho", .at = {6240, 1485, 840, 300}}, &Me::OptRho_Click};
     OptionButton OptRhoOpt{
-        this, "OptRhoOpt", {.Caption = "Rho Optimum", .at = {7260, 1485, 1800, 300}}, &Me::OptRhoOpt_Click};
-    Label LblRho{this, "LblRho", colonne.caption(4, "Définition de Rho")};
-    TextBox TxtRho{this, "TxtRho", colonne.input(LblRho), &Me::TxtRho_Change};
-    Label LblBornesRho{this, "LblBornesRho", {.Caption = "0.05 =< Rho =< Rho Optimum", .at = {5520, 1860, 3540, 255}}};
-    Label LblLonBoom{this, "LblLonBoom", colonne_2.caption(5.75, "Longueur du boom en m")};
-    TextBox TxtLonBoom{this, "TxtLonBoom", colonne_2.result(LblLonBoom)};
-    Label LblNbrElements{this, "LblNbrElements", colonne_2.caption(6.75, "Nombre d'éléments")};
-    TextBox TxtNbrElements{this, "TxtNbrElements", colonne_2.result(LblNbrElements)};
-    Label LblZt{this, "LblZt", colonne_2.caption(7.75, "Stub Zt")};
-    TextBox TxtZt{this, "TxtZt", colonne_2.result(LblZt)};
-    CommandButton BtnRetour1{
-        this, "BtnRetour1", {.Caption = "Retour", .at = {6600, 2970, 1200, 375}}, &Me::BtnRetour1_Click};
-    CommandButton BtnCalculer1{
-        this, "BtnCalculer1", {.Caption = "Calculer", .at = {7860, 2970, 1200, 375}}, &Me::BtnCalculer1_Click};
-    CommandButton BtnSuite1{
-        this, "BtnSuite1", {.Caption = "Suite", .at = {7860, 2970, 1200, 375}}, &Me::BtnSuite1_Click};
+        this, "OptRhoOpt", {.Caption = "Rho Optimum", .at = {7260, OptRho.at().Top, 1800, 300}}, &Me::OptRhoOpt_Click};
+    Label LblRho{this, "LblRho", bande.caption(4, "Définition de Rho")};
+    TextBox TxtRho{this, "TxtRho", bande.input(LblRho), &Me::TxtRho_Change};
+    Label LblBornesRho{this, "LblBornesRho", bornes.caption(4, "0.05 =< Rho =< Rho Optimum")};
 
-    Shape Cadre2{this, "Cadre2", {.at = {240, 3615, 9000, 2775}}};
-    Label LblRZero{this, "LblRZero", colonne_3.caption(0, "R0")};
-    TextBox TxtRZero{this, "TxtRZero", colonne_3.input(LblRZero), &Me::TxtRZero_Change};
-    Label LblDiamElement1{this, "LblDiamElement1", colonne_3.caption(1, "Diamètre du dernier élément mm")};
-    TextBox TxtDiamElement1{this, "TxtDiamElement1", colonne_3.input(LblDiamElement1), &Me::TxtDiamElement1_Change};
-    Label LblRhoPrime{this, "LblRhoPrime", colonne_4.caption(0, "Rho'")};
-    TextBox TxtRhoPrime{this, "TxtRhoPrime", colonne_4.result(LblRhoPrime)};
-    Label LblZ0{this, "LblZ0", colonne_4.caption(1, "Z0")};
-    TextBox TxtZ0{this, "TxtZ0", colonne_4.result(LblZ0)};
-    Label LblBalun{this, "LblBalun", {.at = {4080, 5355, 1950, 255}}};
+    Label LblLonBoom{this, "LblLonBoom", antenne.caption(0, "Longueur du boom en m")};
+    TextBox TxtLonBoom{this, "TxtLonBoom", antenne.result(LblLonBoom)};
+    Label LblNbrElements{this, "LblNbrElements", antenne.caption(1, "Nombre d'éléments")};
+    TextBox TxtNbrElements{this, "TxtNbrElements", antenne.result(LblNbrElements)};
+    Label LblZt{this, "LblZt", antenne.caption(2, "Stub Zt")};
+    TextBox TxtZt{this, "TxtZt", antenne.result(LblZt)};
+
+    CommandButton BtnRetour1{this, "BtnRetour1", bouton(Cadre1, gauche, "Retour"), &Me::BtnRetour1_Click};
+    CommandButton BtnCalculer1{this, "BtnCalculer1", bouton(Cadre1, droite, "Calculer"), &Me::BtnCalculer1_Click};
+    CommandButton BtnSuite1{this, "BtnSuite1", bouton(Cadre1, droite, "Suite"), &Me::BtnSuite1_Click};
+
+    Shape Cadre2{this, "Cadre2", {.at = under(Cadre1, 9000, 2775, 120)}};
+    Label LblRZero{this, "LblRZero", alimentation.caption(0, "R0")};
+    TextBox TxtRZero{this, "TxtRZero", alimentation.input(LblRZero), &Me::TxtRZero_Change};
+    Label LblDiamElement1{this, "LblDiamElement1", alimentation.caption(1, "Diamètre du dernier élément mm")};
+    TextBox TxtDiamElement1{this, "TxtDiamElement1", alimentation.input(LblDiamElement1), &Me::TxtDiamElement1_Change};
+    Label LblRhoPrime{this, "LblRhoPrime", ligne.caption(0, "Rho'")};
+    TextBox TxtRhoPrime{this, "TxtRhoPrime", ligne.result(LblRhoPrime)};
+    Label LblZ0{this, "LblZ0", ligne.caption(1, "Z0")};
+    TextBox TxtZ0{this, "TxtZ0", ligne.result(LblZ0)};
+    Label LblBalun{this, "LblBalun", {.at = under(TxtZ0, ligne.results, 255, 75)}};
     Label Label15{this, "Label15",
         {.Caption = "R0 conditionne l'espacement entre booms. Plus R0 est élevé, plus l'entre-axe des boom est "
                     "important. Le balun ramène à 50 Ohms.",
-            .at = {6240, 3795, 2820, 1530}}};
+            .at = lines({6240, LblRZero.at().Top, 2820}, 6)}};
     Label Label20{this, "Label20",
         {.Caption = "Choix de la combinaison dimensions et espacement des booms pour obtenir cette impédance",
-            .at = {420, 5715, 5610, 510}}};
-    CommandButton BtnRetour2{
-        this, "BtnRetour2", {.Caption = "Retour", .at = {6600, 5865, 1200, 375}}, &Me::BtnRetour2_Click};
-    CommandButton BtnCalculer2{this, "BtnCalculer2",
-        {.Caption = "Calculer", .at = {7860, 5865, 1200, 375}, .Visible = false}, &Me::BtnCalculer2_Click};
-    CommandButton BtnSuite2{
-        this, "BtnSuite2", {.Caption = "Suite", .at = {7860, 5865, 1200, 375}}, &Me::BtnSuite2_Click};
+            .at = lines(ligne.across(3), 2)}};
 
-    Shape Cadre3{this, "Cadre3", {.at = {240, 6510, 9000, 975}}};
-    Label LblDiamExtBoom{this, "LblDiamExtBoom", colonne_5.caption(0, "Diamètre  extérieur des booms en mm")};
-    TextBox TxtDiamExtBoom{this, "TxtDiamExtBoom", colonne_5.input(LblDiamExtBoom)};
-    Label LblS{this, "LblS", colonne_5.caption(1, "Entre-axes des booms")};
+    CommandButton BtnRetour2{this, "BtnRetour2", bouton(Cadre2, gauche, "Retour"), &Me::BtnRetour2_Click};
+    CommandButton BtnCalculer2{
+        this, "BtnCalculer2", bouton(Cadre2, droite, "Calculer", false), &Me::BtnCalculer2_Click};
+    CommandButton BtnSuite2{this, "BtnSuite2", bouton(Cadre2, droite, "Suite"), &Me::BtnSuite2_Click};
+
+    Shape Cadre3{this, "Cadre3", {.at = under(Cadre2, 9000, 975, 120)}};
+    Label LblDiamExtBoom{this, "LblDiamExtBoom", booms.caption(0, "Diamètre  extérieur des booms en mm")};
+    TextBox TxtDiamExtBoom{this, "TxtDiamExtBoom", booms.input(LblDiamExtBoom)};
+    Label LblS{this, "LblS", booms.caption(1, "Entre-axes des booms")};
     TextBox TxtS{this, "TxtS", resultField(LblS, 2460)};
-    CommandButton BtnRetour3{
-        this, "BtnRetour3", {.Caption = "Retour", .at = {6600, 6960, 1200, 375}}, &Me::BtnRetour3_Click};
-    CommandButton BtnCalculer3{this, "BtnCalculer3",
-        {.Caption = "Calculer", .at = {7860, 6960, 1200, 375}, .Visible = false}, &Me::BtnCalculer3_Click};
-    CommandButton BtnSuite3{
-        this, "BtnSuite3", {.Caption = "Suite", .at = {7860, 6960, 1200, 375}}, &Me::BtnSuite3_Click};
 
-    Frame Frame1{this, "Frame1",
-        {.Caption = "Structure de la LPDA", .at = {9420, 240, 5760, 5040}, .picture = "lpda-structure"}};
+    CommandButton BtnRetour3{this, "BtnRetour3", bouton(Cadre3, gauche, "Retour"), &Me::BtnRetour3_Click};
+    CommandButton BtnCalculer3{
+        this, "BtnCalculer3", bouton(Cadre3, droite, "Calculer", false), &Me::BtnCalculer3_Click};
+    CommandButton BtnSuite3{this, "BtnSuite3", bouton(Cadre3, droite, "Suite"), &Me::BtnSuite3_Click};
+
+    Frame Frame1{this, "Frame1", {.Caption = "Structure de la LPDA", .at = structure, .picture = "lpda-structure"}};
     Label LblFrameBalun{this, "LblFrameBalun",
         {.Caption = "Balun", .at = {4470, 2895, 780, 255}, .align = Align::Center, .container = &Frame1}};
     Label LblFrameZt{this, "LblFrameZt",
@@ -97,38 +102,44 @@ public:
     TextBox Text1{this, "Text1",
         {.Text = "Si l'aérien est trop grand :\n\taugmenter FreqMin\n\tou réduire Rho\n\tou réduire Theta\n\nRéduire "
                  "Rho réduit L boom de façon prépondérante",
-            .at = {9420, 240, 5760, 2700},
+            .at = {structure.Left, structure.Top, structure.Width, 2700},
             .Locked = true,
             .multiLine = true}};
     TextBox Text2{this, "Text2",
         {.Text = "En HF, court-circuiter l'élément le plus long par une \népingle de 6\" (1,8288m) de longueur non "
                  "pliée\n\nEn VHF et UHF :  Zt = LambdaMax/8",
-            .at = {9420, 3060, 5760, 2220},
+            .at = under(Text1, structure.Width, 2220, 120),
             .Locked = true,
             .multiLine = true}};
     // These two are never seen: the drawing's frame covers them, and the notes where it is hidden.
     Label Label8{this, "Label8", {.Caption = "Label8", .at = {9600, 1200, 780, 255}}};
     Label Label23{this, "Label23", {.at = {10500, 1200, 780, 255}}};
 
-    Shape Cadre4{this, "Cadre4", {.at = {9420, 5400, 5760, 2085}}};
-    Label LblDimBrin{this, "LblDimBrin", colonne2.caption(14.75, "Longueur des brins ")};
-    TextBox TxtLongBrin{this, "TxtLongBrin", colonne2.input(LblDimBrin)};
-    Label LblEspacement{this, "LblEspacement", colonne2.caption(15.75, "Espacement des brins ")};
-    TextBox TxtEspacement{this, "TxtEspacement", colonne2.input(LblEspacement)};
-    Label LblDiamètre{this, "LblDiamètre", colonne2.caption(16.75, "Diamètre du brin")};
-    TextBox TxtDiamètre{this, "TxtDiamètre", colonne2.input(LblDiamètre)};
-    CommandButton BtnAfficher{
-        this, "BtnAfficher", {.Caption = "Afficher", .at = {9600, 6960, 1200, 375}}, &Me::BtnAfficher_Click};
+    Shape Cadre4{this, "Cadre4", {.at = under(Frame1, structure.Width, 2085, 120)}};
+    Label LblDimBrin{this, "LblDimBrin", brins.caption(0, "Longueur des brins ")};
+    TextBox TxtLongBrin{this, "TxtLongBrin", brins.input(LblDimBrin)};
+    Label LblEspacement{this, "LblEspacement", brins.caption(1, "Espacement des brins ")};
+    TextBox TxtEspacement{this, "TxtEspacement", brins.input(LblEspacement)};
+    Label LblDiamètre{this, "LblDiamètre", brins.caption(2, "Diamètre du brin")};
+    TextBox TxtDiamètre{this, "TxtDiamètre", brins.input(LblDiamètre)};
+
+    CommandButton BtnAfficher{this, "BtnAfficher", bouton(Cadre4, brins.left, "Afficher"), &Me::BtnAfficher_Click};
     CommandButton BtnPrecedent{
-        this, "BtnPrecedent", {.Caption = "Précédent", .at = {11000, 6960, 1200, 375}}, &Me::BtnPrecedent_Click};
-    CommandButton BtnSuivant{
-        this, "BtnSuivant", {.Caption = "Suivant", .at = {12400, 6960, 1200, 375}}, &Me::BtnSuivant_Click};
-    CommandButton BtnRetour4{
-        this, "BtnRetour4", {.Caption = "Retour", .at = {13800, 6960, 1200, 375}}, &Me::BtnRetour4_Click};
+        this, "BtnPrecedent", bouton(Cadre4, brins.left + 1400, "Précédent"), &Me::BtnPrecedent_Click};
+    CommandButton BtnSuivant{this, "BtnSuivant", bouton(Cadre4, brins.left + 2800, "Suivant"), &Me::BtnSuivant_Click};
+    CommandButton BtnRetour4{this, "BtnRetour4", bouton(Cadre4, brins.left + 4200, "Retour"), &Me::BtnRetour4_Click};
 
 private:
-    static constexpr Color ferme = resultColor;
     static constexpr int dernierBrin = 30;
+    static constexpr double gauche = 6600; ///< where a button leads back to the step before
+    static constexpr double droite = 7860; ///< where one leads on
+
+    /// At the bottom of the frame of its step.
+    static CommandButton::Design bouton(const Shape& cadre, double left, const char* texte, bool visible = true)
+    {
+        return {
+            .Caption = texte, .at = {left, cadre.at().Top + cadre.at().Height - 525, 1200, 375}, .Visible = visible};
+    }
 
     void Form_Load() override;
     void OptRho_Click();

@@ -73,12 +73,6 @@ Double arrondi(Double x, Double parts)
 
 } // namespace
 
-AntennesTrappesCoaxiales::AntennesTrappesCoaxiales(Desk& desk)
-    : FeuilleCalcul{desk,
-        {.name = "AntennesTrappesCoaxiales", .Caption = "Calcul de trappes en coaxial", .Width = 14280, .Height = 8685}}
-{
-}
-
 std::vector<std::string> AntennesTrappesCoaxiales::Coaxiaux()
 {
     std::vector<std::string> noms;

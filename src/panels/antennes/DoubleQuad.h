@@ -15,21 +15,21 @@ public:
     }
 
     using Me = DoubleQuad;
-    static constexpr Column colonne{.left = 240, .captions = 2160};
+    static constexpr Column valeurs{.left = 240, .captions = 2160};
 
-    Label Label1{this, "Label1", colonne.caption(0, "Frequence (MHz")};
-    TextBox TxtFreq{this, "TxtFreq", colonne.input(Label1), &Me::TxtFreq_Change};
+    Label Label1{this, "Label1", valeurs.caption(0, "Frequence (MHz")};
+    TextBox TxtFreq{this, "TxtFreq", valeurs.input(Label1), &Me::TxtFreq_Change};
 
-    Label Label2{this, "Label2", colonne.caption(2.5, "Lambda (mm)")};
-    TextBox TxtLambda{this, "TxtLambda", colonne.result(Label2)};
-    Label Label3{this, "Label3", colonne.caption(3.5, "Lambda / 4 (mm)")};
-    TextBox TxtL4{this, "TxtL4", colonne.result(Label3)};
-    Label Label4{this, "Label4", colonne.caption(4.5, "4.5 * Lambda / 4 (mm)")};
-    TextBox Txt45L4{this, "Txt45L4", colonne.result(Label4)};
-    Label Label5{this, "Label5", colonne.caption(5.5, "3 * Lambda / 4 (mm)")};
-    TextBox Txt3L4{this, "Txt3L4", colonne.result(Label5)};
-    Label Label6{this, "Label6", colonne.caption(6.5, "0.136 * Lambda  (mm)")};
-    TextBox Txt0136L{this, "Txt0136L", colonne.result(Label6)};
+    Label Label2{this, "Label2", valeurs.caption(2.5, "Lambda (mm)")};
+    TextBox TxtLambda{this, "TxtLambda", valeurs.result(Label2)};
+    Label Label3{this, "Label3", valeurs.caption(3.5, "Lambda / 4 (mm)")};
+    TextBox TxtL4{this, "TxtL4", valeurs.result(Label3)};
+    Label Label4{this, "Label4", valeurs.caption(4.5, "4.5 * Lambda / 4 (mm)")};
+    TextBox Txt45L4{this, "Txt45L4", valeurs.result(Label4)};
+    Label Label5{this, "Label5", valeurs.caption(5.5, "3 * Lambda / 4 (mm)")};
+    TextBox Txt3L4{this, "Txt3L4", valeurs.result(Label5)};
+    Label Label6{this, "Label6", valeurs.caption(6.5, "0.136 * Lambda  (mm)")};
+    TextBox Txt0136L{this, "Txt0136L", valeurs.result(Label6)};
 
     PictureBox Picture1{this, "Picture1", {.picture = "double-quad", .at = {5160, 240, 6000, 2595}}};
 

@@ -18,48 +18,48 @@ public:
     }
 
     using Me = GammaMatch;
-    static constexpr Column colonne{.left = 240, .captions = 3120, .results = 2355, .top = 900};
-    static constexpr Column colonne_2 = colonne.from(2640);
-    static constexpr Column colonne_3 = colonne.from(240);
+    static constexpr Column monopole{.left = 240, .captions = 1800};
+    static constexpr Column dipole{.left = 2160, .captions = 1800};
+    static constexpr Column antenne{.left = 240, .captions = 3120, .results = 2355, .top = 900};
+    static constexpr Column gamma = antenne.from(2640);
+    static constexpr Column resultats = antenne.from(5100);
+    static constexpr Column remarques{.left = 240, .captions = 5490};
 
-    OptionButton OptMonopole{
-        this, "OptMonopole", {.Caption = "Monopôle", .at = {240, 240, 1800, 300}}, &Me::OptMonopole_Click};
-    OptionButton OptDipôle{
-        this, "OptDipôle", {.Caption = "Dipôle", .at = {2160, 240, 1800, 300}}, &Me::OptDipôle_Click};
+    OptionButton OptMonopole{this, "OptMonopole", monopole.option(0, "Monopôle"), &Me::OptMonopole_Click};
+    OptionButton OptDipôle{this, "OptDipôle", dipole.option(0, "Dipôle"), &Me::OptDipôle_Click};
 
-    Label LblFreq{this, "LblFreq", colonne.caption(0, "Frequence (MHz)")};
-    TextBox TxtFreq{this, "TxtFreq", colonne.input(LblFreq), &Me::TxtFreq_Change};
-    Label LblRA{this, "LblRA", colonne.caption(1, "Feed Point Résistance RA  (Ohms)")};
-    TextBox TxtRA{this, "TxtRA", colonne.input(LblRA), &Me::TxtRA_Change};
-    Label LblXa{this, "LblXa", colonne.caption(2, "Feed Point Réactance  XA (Ohms)")};
-    TextBox TxtXa{this, "TxtXa", colonne.input(LblXa), &Me::TxtXa_Change};
-    Label LblR0{this, "LblR0", colonne.caption(3, "Feed Line impédance R0 (Ohms)")};
-    TextBox TxtR0{this, "TxtR0", colonne.input(LblR0), &Me::TxtR0_Change};
+    Label LblFreq{this, "LblFreq", antenne.caption(0, "Frequence (MHz)")};
+    TextBox TxtFreq{this, "TxtFreq", antenne.input(LblFreq), &Me::TxtFreq_Change};
+    Label LblRA{this, "LblRA", antenne.caption(1, "Feed Point Résistance RA  (Ohms)")};
+    TextBox TxtRA{this, "TxtRA", antenne.input(LblRA), &Me::TxtRA_Change};
+    Label LblXa{this, "LblXa", antenne.caption(2, "Feed Point Réactance  XA (Ohms)")};
+    TextBox TxtXa{this, "TxtXa", antenne.input(LblXa), &Me::TxtXa_Change};
+    Label LblR0{this, "LblR0", antenne.caption(3, "Feed Line impédance R0 (Ohms)")};
+    TextBox TxtR0{this, "TxtR0", antenne.input(LblR0), &Me::TxtR0_Change};
 
-    Label LblDE{this, "LblDE", colonne_2.caption(0, "Diamètre Elément Piloté DE (mm)")};
-    TextBox TxtDE{this, "TxtDE", colonne_2.input(LblDE), &Me::TxtDE_Change};
-    Label LblDR{this, "LblDR", colonne_2.caption(1, "Diamètre du Gamma DR (mm)")};
-    TextBox TxtDR{this, "TxtDR", colonne_2.input(LblDR), &Me::TxtDR_Change};
-    Label LblS{this, "LblS", colonne_2.caption(2, "Entre axes S (mm)")};
-    TextBox TxtS{this, "TxtS", colonne_2.input(LblS), &Me::TxtS_Change};
-    Label Label4{this, "Label4", {.Caption = "Entre-axes conseillé", .at = {240, 3750, 5490, 255}}};
+    Label LblDE{this, "LblDE", gamma.caption(0, "Diamètre Elément Piloté DE (mm)")};
+    TextBox TxtDE{this, "TxtDE", gamma.input(LblDE), &Me::TxtDE_Change};
+    Label LblDR{this, "LblDR", gamma.caption(1, "Diamètre du Gamma DR (mm)")};
+    TextBox TxtDR{this, "TxtDR", gamma.input(LblDR), &Me::TxtDR_Change};
+    Label LblS{this, "LblS", gamma.caption(2, "Entre axes S (mm)")};
+    TextBox TxtS{this, "TxtS", gamma.input(LblS), &Me::TxtS_Change};
+    Label Label4{this, "Label4", remarques.from(gamma.top).caption(3, "Entre-axes conseillé")};
 
-    CommandButton BtnCalculer{
-        this, "BtnCalculer", {.Caption = "Calculer", .at = {3420, 4350, 1320, 375}}, &Me::BtnCalculer_Click};
+    CommandButton BtnCalculer{this, "BtnCalculer", gamma.button(4.75, "Calculer"), &Me::BtnCalculer_Click};
 
-    Label LblLongPilote{this, "LblLongPilote", colonne_3.caption(13.5, "Longueur de brin piloté (mm)")};
-    TextBox TxtLongPilote{this, "TxtLongPilote", colonne_3.result(LblLongPilote)};
-    Label LblGamma{this, "LblGamma", colonne_3.caption(14.5, "Longueur du Gamma Match (mm)")};
-    TextBox TxtGamma{this, "TxtGamma", colonne_3.result(LblGamma)};
-    Label LblCapa{this, "LblCapa", colonne_3.caption(15.5, "Capacité du Gamma (pF)")};
-    TextBox TxtCapa{this, "TxtCapa", colonne_3.result(LblCapa)};
+    Label LblLongPilote{this, "LblLongPilote", resultats.caption(0, "Longueur de brin piloté (mm)")};
+    TextBox TxtLongPilote{this, "TxtLongPilote", resultats.result(LblLongPilote)};
+    Label LblGamma{this, "LblGamma", resultats.caption(1, "Longueur du Gamma Match (mm)")};
+    TextBox TxtGamma{this, "TxtGamma", resultats.result(LblGamma)};
+    Label LblCapa{this, "LblCapa", resultats.caption(2, "Capacité du Gamma (pF)")};
+    TextBox TxtCapa{this, "TxtCapa", resultats.result(LblCapa)};
 
     Label LblReference{
-        this, "LblReference", {.Caption = "Référence :  The ARRL ANTENNA BOOK 1985", .at = {240, 6840, 5490, 255}}};
+        this, "LblReference", remarques.from(resultats.top).caption(4.75, "Référence :  The ARRL ANTENNA BOOK 1985")};
 
     // One at a time, at one place.
     Image Image1{this, "Image1", {.picture = "gamma-monopole", .at = {5790, 360, 6300, 6600}}};
-    Image Image2{this, "Image2", {.picture = "gamma-dipole", .at = {5790, 360, 6300, 6600}, .Visible = false}};
+    Image Image2{this, "Image2", {.picture = "gamma-dipole", .at = Image1.at(), .Visible = false}};
 
 private:
     void Form_Load() override;

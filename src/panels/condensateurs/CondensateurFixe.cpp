@@ -40,7 +40,10 @@ const Dielectrique& dielectrique(const std::string& nom)
         {"Verre",          4,   6.5,   "1KHz à 10GHz",  "0.001",       "Remplace le mica dans toutes les applications HF"},
     }};
     // clang-format on
-    return *std::ranges::find(table, nom, &Dielectrique::nom);
+    const auto* const found = std::ranges::find(table, nom, &Dielectrique::nom);
+    if (found == table.end())
+        throw Fault{FaultKind::SubscriptOutOfRange};
+    return *found;
 }
 
 } // namespace
@@ -128,6 +131,7 @@ void CondensateurFixe::Calculer()
         return;
     const Double S = Surface / DiviseurSurface; // m²
     const Double e = Epaisseur / DiviseurEpaisseur; // m
+    // 8.85 * 10^-12 as it comes out of that product, one step below the number 8.85e-12.
     const Double C = 8.849999999999999e-12 * ((Epsilon * S) / e); // F
     if (C != 0) {
         TxtCapacite.Visible = true;

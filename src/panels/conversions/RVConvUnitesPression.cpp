@@ -71,7 +71,7 @@ void RVConvUnitesPression::Convertir(const ListBox& unites, const std::vector<Do
 {
     LblSortie.Caption = unites.Text;
     const Integer row = unites.ListIndex;
-    const Double valeur = Val(TxtEntree.Text) * facteurs[static_cast<std::size_t>(row.value())];
+    const Double valeur = Val(TxtEntree.Text) * facteurs.at(static_cast<std::size_t>(row.value()));
     const bool entiere = &unites == &LsthPa && row == 0; // hPa to mm H2O alone is not cut to three decimals
     TxtSortie.Text = CStr(entiere ? Term{valeur} : Cut(valeur, 1000));
 }

@@ -163,6 +163,7 @@ void Transformateur::LstTole_Click()
     TxtSecBrute.Text = CStr(Cut(SectionCorrigee, 100));
     CoteA = Sqr(SectionCorrigee) / 2;
     Txta.Text = CStr(Cut(CoteA, 100));
+    // 4.44 * 50 Hz as it comes out of that product, one step above 222.
     SpiresParVolt = Pow(10, 4) / (Beta * 222.00000000000003 * SectionCorrigee);
     SpiresParVolt = SpiresParVolt + PerteFil(PuissancePrimaire); // added as a plain number
 

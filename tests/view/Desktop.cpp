@@ -1,11 +1,11 @@
-#include "Look.h"
+#include "Desktop.h"
 
 #include <QApplication>
 #include <QStyle>
 
 namespace ondelis {
 
-QPalette darkPalette()
+QPalette poorDarkPalette()
 {
     constexpr QColor window{0x35, 0x35, 0x35};
     constexpr QColor base{0x2a, 0x2a, 0x2a};
@@ -25,18 +25,18 @@ QPalette darkPalette()
     return palette;
 }
 
-ScopedLook::ScopedLook(const QString& family, int points, bool dark)
+ScopedDesktop::ScopedDesktop(const QString& family, int points, bool dark)
     : font_{QApplication::font()}, palette_{QApplication::palette()}
 {
     QApplication::setFont(QFont{family, points});
     if (!dark)
         return;
-    QPalette palette = darkPalette();
+    QPalette palette = poorDarkPalette();
     QApplication::style()->polish(palette); // as it does with what the desktop has
     QApplication::setPalette(palette);
 }
 
-ScopedLook::~ScopedLook()
+ScopedDesktop::~ScopedDesktop()
 {
     QApplication::setPalette(palette_);
     QApplication::setFont(font_);

@@ -20,13 +20,13 @@ public:
 };
 
 /// One run of the program in its real windows, which acts as it is told and lets itself be pictured.
-class Sitting {
+class Player {
 public:
-    Sitting();
+    Player();
     /// Closes all panels, so that no window of this program outlives it.
-    ~Sitting();
-    Sitting(const Sitting&) = delete;
-    Sitting& operator=(const Sitting&) = delete;
+    ~Player();
+    Player(const Player&) = delete;
+    Player& operator=(const Player&) = delete;
 
     /// Carries out one line in the driver's language: a gesture, or the answer to the next box that asks one. Throws
     /// Refused where a person could not do it or it ends the program, and Malformed.
@@ -39,7 +39,7 @@ public:
     void picture(std::string_view window, const std::string& file) const;
 
 private:
-    void run(const pilote::Deed& deed);
+    void run(const pilote::Gesture& gesture);
     /// Answers the box that is on screen now, if there is one: as was told, or else by "OK" or "Oui".
     void answerBox();
 

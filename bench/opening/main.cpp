@@ -78,14 +78,14 @@ private:
     std::vector<double> all_;
 };
 
-Times openings(Sitting& sitting, const Subject& subject)
+Times openings(Player& player, const Subject& subject)
 {
     const MenuEntry& entry = *findMenuEntry(subject.entry);
     Times times;
     for (int trial = 0; trial < 15; ++trial) {
         const auto start = Clock::now();
-        sitting.view().act([&](User&) { sitting.frame().click(entry); });
-        Painting{sitting.view().find(*sitting.frame().desk().loadedPanels().front())->form()}.wait();
+        player.view().perform([&](User&) { player.frame().click(entry); });
+        Painting{player.view().find(*player.frame().desk().loadedPanels().front())->form()}.wait();
         times.add(start);
     }
     return times;
@@ -103,9 +103,9 @@ Control* firstField(const FeuilleCalcul& panel)
 
 /// Plays the example of a panel up to its first picture; gives the field, bar or list that it uses last, or else the
 /// panel's first field.
-Control* playExample(Sitting& sitting, const Subject& subject)
+Control* playExample(Player& player, const Subject& subject)
 {
-    const FeuilleCalcul& panel = *sitting.frame().desk().loadedPanels().front();
+    const FeuilleCalcul& panel = *player.frame().desk().loadedPanels().front();
     Control* used = firstField(panel);
     std::ifstream in{EXAMPLES "/" + subject.panel + ".txt"};
     for (std::string line; std::getline(in, line);) {
@@ -115,7 +115,7 @@ Control* playExample(Sitting& sitting, const Subject& subject)
         const std::string gesture = words.next();
         if (gesture == "picture")
             break;
-        sitting.play(line);
+        player.play(line);
         const std::string target = words.next(); // PANEL.CONTROL
         if (Control* const control = panel.find(target.substr(target.find('.') + 1)); control && gesture != "click")
             used = control;
@@ -156,11 +156,11 @@ Times keys(QWidget& widget, const std::array<Key, 2>& pair)
 
 void measure(const Subject& subject)
 {
-    Sitting sitting;
+    Player player;
     std::printf("%-28s", subject.panel.c_str());
-    openings(sitting, subject).print(openingGoal);
-    if (const Control* const control = playExample(sitting, subject)) {
-        keys(sitting.view().find(control->panel())->find(*control)->widget(), keysOf(*control)).print(keyGoal);
+    openings(player, subject).print(openingGoal);
+    if (const Control* const control = playExample(player, subject)) {
+        keys(player.view().find(control->panel())->find(*control)->widget(), keysOf(*control)).print(keyGoal);
         std::printf("  %s", control->name().c_str());
     }
     std::printf("\n");

@@ -1,5 +1,5 @@
 // How long the program takes to its first painted window, and how much memory it has held and then holds, against a
-// bare program of the same size (bench/nu). The two take turns, so that whatever else the machine does meets both.
+// bare program of the same size (bench/bare). The two take turns, so that whatever else the machine does meets both.
 
 #include <algorithm>
 #include <array>

@@ -1,4 +1,4 @@
-#include "Sitting.h"
+#include "Player.h"
 
 #include <QAbstractButton>
 #include <QApplication>
@@ -20,7 +20,7 @@ void settle()
 
 } // namespace
 
-Sitting::Sitting()
+Player::Player()
 {
     QApplication::setCursorFlashTime(0); // the caret stands in every picture
     boxes_.callOnTimeout([this] { answerBox(); });
@@ -29,7 +29,7 @@ Sitting::Sitting()
     settle();
 }
 
-Sitting::~Sitting()
+Player::~Player()
 {
     view_.perform([this](User&) {
         while (!desk_.loadedPanels().empty())
@@ -38,7 +38,7 @@ Sitting::~Sitting()
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete); // no event loop comes to it
 }
 
-void Sitting::play(std::string_view line)
+void Player::play(std::string_view line)
 {
     pilote::Words words{line};
     const std::string word = words.next();
@@ -48,17 +48,17 @@ void Sitting::play(std::string_view line)
         answers_.push_back(answer);
         return;
     }
-    const pilote::Deed deed = pilote::readGesture(word, words);
-    if (!deed)
+    const pilote::Gesture gesture = pilote::readGesture(word, words);
+    if (!gesture)
         throw pilote::Malformed{"no such command: " + word};
     words.finish();
-    run(deed);
+    run(gesture);
 }
 
-void Sitting::run(const pilote::Deed& deed)
+void Player::run(const pilote::Gesture& gesture)
 {
     pilote::Hands::Refusal refusal;
-    view_.perform([&](User&) { refusal = deed(hands_); });
+    view_.perform([&](User&) { refusal = gesture(hands_); });
     if (desk_.ended())
         throw Refused{"the program has ended: " + lastBox_};
     settle();
@@ -66,7 +66,7 @@ void Sitting::run(const pilote::Deed& deed)
         throw Refused{*refusal};
 }
 
-void Sitting::picture(std::string_view window, const std::string& file) const
+void Player::picture(std::string_view window, const std::string& file) const
 {
     const FeuilleCalcul* const panel = pilote::findPanel(frame_, window);
     QWidget* const shown = window == "MDIOndelis" ? static_cast<QWidget*>(&view_.mainWindow())
@@ -78,7 +78,7 @@ void Sitting::picture(std::string_view window, const std::string& file) const
         throw Refused{"cannot write " + file};
 }
 
-void Sitting::answerBox()
+void Player::answerBox()
 {
     const auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
     if (box == nullptr)
