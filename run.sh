@@ -9,7 +9,7 @@ source tools/steps.sh
 
 program=build/program/src/ondelis
 
-# A display of another machine is taken at its word.
+# A display on another machine is assumed to work.
 has_display() {
     [[ -S ${XDG_RUNTIME_DIR:-}/${WAYLAND_DISPLAY:-} ]] && return
     local display=${DISPLAY:-}

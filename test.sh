@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
-# Checks everything: installs what is missing, builds with warnings as errors, checks the code's shape, makes the
-# package and checks what people install, and runs every test twice, the second time with sanitizers. Ends at the first
-# step that fails. What passed before, and has not changed since, is not built, read or run again.
+# Checks everything: installs what is missing, builds with warnings as errors, checks the code's formatting and lints
+# it, makes the package and checks what people install, and runs every test twice, the second time with sanitizers.
+# Stops at the first step that fails. What passed before, and has not changed since, is not built, linted or run again.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")"
 source tools/steps.sh
@@ -17,7 +17,7 @@ check_format() {
         xargs -0 -n40 -P"$jobs" clang-format --dry-run -Werror
 }
 
-# The stored drawings are those that their scripts draw.
+# The stored drawings must be what their scripts draw.
 check_drawings() (
     copy=$(mktemp -d)
     trap 'rm -rf "$copy"' EXIT
@@ -32,7 +32,7 @@ build_release() {
 }
 
 
-# Of the build that was tested, beside it.
+# Made from the build that was tested, beside it.
 make_package() {
     dh_clean && BUILT=build/release dpkg-buildpackage --rules-target=binary
 }
@@ -51,7 +51,7 @@ check_release() {
 
 step "Packages" tools/install-packages.sh program screen checks
 step "Scripts (shellcheck)" check_scripts
-pinned clang-format 14 "Layout (clang-format)" check_format
+pinned clang-format 14 "Formatting (clang-format)" check_format
 step "Drawings" check_drawings
 step "Release build, as for a package, warnings as errors" build_release
 beside check_release

@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # check.sh BUILD
-# Checks what people install from a release build, and the Debian packages made of it, which are there. Ends at the
+# Checks what people install from a release build, and the Debian packages made from it, which must exist. Stops at the
 # first check that fails.
 set -euo pipefail
 
@@ -38,7 +38,7 @@ check() {
     "$@"
 }
 
-# silent COMMAND...: succeeds, and warns of nothing.
+# silent COMMAND...: succeeds, without any warning.
 silent() {
     local said
     if ! said=$("$@" 2>&1) || [[ -n $said ]]; then
@@ -76,7 +76,7 @@ icons() {
     done
 }
 
-# The metainfo says how large the pictures are that it names.
+# The metainfo states the sizes of the pictures that it names.
 screenshots() {
     local metainfo=$here/org.example.ondelis.metainfo.xml width height name
     sed -n 's|.*<image .*width="\(.*\)" height="\(.*\)">.*/pictures/\(.*\)</image>|\1 \2 \3|p' \
@@ -87,7 +87,7 @@ screenshots() {
     done <"$scratch/pictures"
 }
 
-# Every list of releases begins with the version that is built.
+# Every list of releases begins with the version being built.
 releases() {
     local says
     says=$(printf '%s\n' "$(sed -n 's/^## \[\([0-9.]*\)\].*/\1/p' "$here/../CHANGELOG.md" | head -n1)" \
@@ -102,8 +102,8 @@ licence() {
         <(sed '1,/^License: .*$/d' "$debian/copyright" | sed '1,/^License: /d; s/^ \.$//; s/^ //')
 }
 
-# Nothing is found in it but that later versions of the tool want another element for the developers, which Debian 12's
-# does not know.
+# The only complaint allowed: later versions of the tool want another element for the developers, which Debian 12's does
+# not know.
 metainfo() {
     local said
     said=$(appstreamcli validate --no-net "$staged"/share/metainfo/*.xml) || { printf '%s\n' "$said" >&2; return 1; }
@@ -119,7 +119,7 @@ man_pages() {
     done
 }
 
-# The debug package holds the symbols of this very program.
+# The debug package holds the symbols of exactly this program.
 debug_package() {
     local id
     id=$(readelf -n "$unpacked/usr/bin/ondelis" | sed -n 's/.*Build ID: //p')

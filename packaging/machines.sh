@@ -1,11 +1,11 @@
 #!/usr/bin/env bash
 # machines.sh [MACHINE...]
-# On bare systems for each machine (for all where none is named): builds the package and the driver from the last
-# commit, plays all scenarios, installs the package where nothing else is, opens panels, removes it, and checks that
-# nothing stays behind. The packages and pictures of the screens go to build/machines.
+# On bare systems for each machine (for all if none is named): builds the package and the driver from the last commit,
+# plays all scenarios, installs the package where nothing else is, opens panels, removes it, and checks that nothing
+# stays behind. The packages and pictures of the screens go to build/machines.
 #
-# Wants root, the network, 6 GB under /var/tmp and up to an hour a machine: by hand, before a release. docs/machines.md
-# tells what runs where.
+# Needs root, the network, 6 GB under /var/tmp and up to an hour per machine: run by hand, before a release.
+# docs/machines.md says what runs where.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 source tools/steps.sh
@@ -14,7 +14,7 @@ machines=(debian-12-amd64 debian-13-amd64 debian-13-arm64)
 mirror=http://deb.debian.org/debian
 results=$PWD/build/machines
 
-# ---- What must be there before anything is begun
+# ---- What must be there before anything starts
 
 die() {
     echo "$*" >&2
@@ -61,7 +61,7 @@ git_here() {
     git -c safe.directory="$PWD" "$@"
 }
 
-# ---- Two systems a machine: a bare one, and a workshop that builds
+# ---- Two systems per machine: a bare one, and a workshop that builds
 
 finish() {
     local mount
@@ -79,7 +79,7 @@ inside() {
         DEBIAN_FRONTEND=noninteractive "$@"
 }
 
-# quietly COMMAND...: tells what it said only where it fails.
+# quietly COMMAND...: shows its output only if it fails.
 quietly() {
     local said
     said=$("$@" 2>&1) || { printf '%s\n' "$said" >&2; return 1; }
@@ -120,7 +120,7 @@ build_package() {
         cp "$package" "$results/$machine" && echo "The package: $results/$machine/${package##*/}"
 }
 
-# What has no window needs no Qt, and no more than a rule of make; with the flags of Debian's packages.
+# What has no window needs no Qt, and only a make rule; with the flags of Debian's packages.
 build_driver() {
     quietly inside "$workshop" apt-get -y --no-install-recommends install nlohmann-json3-dev &&
         quietly inside "$workshop" dpkg-architecture -a"${machine##*-}" -c \
@@ -139,7 +139,7 @@ play_scenarios() {
         inside "$bare" sh -c 'find /scenarios -name "*.scn" -exec /scenarios/pilote {} +' && rm -r "$bare/scenarios"
 }
 
-# The tests of the desktop, with the program of the package.
+# The desktop tests, with the packaged program.
 use_panels() {
     local tests
     quietly inside "$workshop" apt-get -y install "/${package##*/}" &&
@@ -177,7 +177,7 @@ remove_package() {
     quietly inside "$bare" apt-get -y purge ondelis && diff <(echo "$before") <(files) && echo "Nothing stayed behind."
 }
 
-# ---- One machine after the other
+# ---- One machine after another
 
 if [[ $# -eq 0 ]]; then
     set -- "${machines[@]}"

@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# Shows that no compiler bends a number. Builds what has no window with each compiler at each level, plays there the kit's
-# tests, the scenarios and random users, and compares how each user's session went with the first build's.
+# Shows that no compiler alters a number. Builds what has no window with each compiler at each level, runs the kit's
+# tests, the scenarios and random users there, and compares each user's session with the first build's.
 #
 #   tools/compilers.sh [-l LEVELS] [-u USERS] [-o FOLDER] [COMPILER...]
 #
@@ -10,9 +10,9 @@
 #   -o FOLDER  for the builds; else build/compilers. In FOLDER/ends are the sessions of each build, a line each: those of
 #              two systems can be compared by diff
 #
-# Installs nothing. GoogleTest is built by each compiler from /usr/src/googletest, which libgtest-dev brings: a library
-# that a newer one has compiled may not link. The environment's CMAKE_BUILD_PARALLEL_LEVEL and CMAKE_CXX_COMPILER_LAUNCHER
-# count.
+# Installs nothing. Each compiler builds GoogleTest from /usr/src/googletest, which libgtest-dev installs: a library
+# compiled by a newer one may not link. The environment's CMAKE_BUILD_PARALLEL_LEVEL and CMAKE_CXX_COMPILER_LAUNCHER are
+# honoured.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 
@@ -21,7 +21,7 @@ users=20000
 folder=build/compilers
 googletest=/usr/src/googletest
 jobs=${CMAKE_BUILD_PARALLEL_LEVEL:-$(nproc)}
-# As the preset for tests with sanitizers has it.
+# As in the preset for tests with sanitizers.
 export ASAN_OPTIONS=detect_stack_use_after_return=1:intercept_tls_get_addr=0
 
 refuse() {
@@ -58,7 +58,7 @@ done
 
 mkdir -p "$folder/ends" "$folder/logs"
 
-# build COMPILER LEVEL INTO: GoogleTest once a compiler, then what has no window.
+# build COMPILER LEVEL INTO: GoogleTest once per compiler, then what has no window.
 build() {
     local compiler=$1 level=$2 into=$3 flags=("-DCMAKE_CXX_FLAGS_DEBUG=-$2")
     local tests=$folder/$compiler-googletest
@@ -91,7 +91,7 @@ play() {
         find "$parts" -type f | sort -V | xargs cat >"$2" && rm -r "$parts"
 }
 
-# alike ENDS: how many sessions ended as those of the first build.
+# alike ENDS: how many sessions ended like those of the first build.
 alike() {
     local differing
     differing=$(diff "$first" "$1" | grep -c '^>') || true
@@ -119,5 +119,5 @@ done
 
 printf '\n%-20s %-14s %-14s %s\n' build "kit's tests" scenarios "sessions alike"
 printf '%s\n' "${table[@]}"
-# All is well where each build passed all of all: "N of N", three times.
+# All is well if each build passed everything: "N of N", three times.
 ! printf '%s\n' "${table[@]}" | grep -qvE '^\S+ +([0-9]+) of \1 +([0-9]+) of \2 +([0-9]+) of \3$'

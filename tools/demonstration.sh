@@ -37,7 +37,7 @@ window=$(timeout 20 xdotool search --sync --onlyvisible --pid "${started[1]}" --
     { echo "the window of the program does not appear" >&2; exit 1; }
 xdotool windowfocus --sync "$window"
 
-# A person's pace: the program has painted the answer to a key before the next one comes.
+# At a person's pace: the program has painted the answer to one key before the next comes.
 keys() {
     xdotool key --delay 60 "$@"
 }
@@ -45,8 +45,8 @@ into_next_field() {
     keys Tab
     xdotool type --delay 60 "$1"
 }
-# Copies the whole field that has the keyboard, and prints what then is on the clipboard. From an empty field nothing is
-# copied: the mark stays.
+# Copies the whole field that has the keyboard, and prints what is then on the clipboard. An empty field copies nothing:
+# the marker stays.
 shown() {
     local mark="nothing was copied" copied
     printf '%s' "$mark" | xclip -selection clipboard

@@ -26,7 +26,7 @@ for group; do
             packages+=(clang-format clang-tidy shellcheck)
             # A desktop around the program in its tests, and the eyes of a screen reader
             packages+=(openbox xfwm4 x11-xserver-utils dbus-daemon at-spi2-core gir1.2-atspi-2.0 python3-gi)
-            # The drawings, made anew by tools/dessins
+            # The drawings, made again by tools/dessins
             packages+=(python3)
             # The guide, and what finds fault with its pages
             packages+=(pandoc tidy)

@@ -2,11 +2,11 @@
 """lint.py BUILD [SOURCE...]
 
 Runs clang-tidy on the sources that changed since they last passed, or whose headers, flags or settings did: on all of
-them where nothing is known, and on all that are named. BUILD is a folder that has just been built.
+them if nothing is known, and on all that are named. BUILD is a folder that has just been built.
 
-Most of a run goes into headers. So sources with the same flags are read together, one text after the other, as if they
-were one source. What clang-tidy says of a group does not count: where it objects, the halves of the group are read, and
-in the end single sources, as they are.
+Headers take most of the time. So sources with the same flags are read together, one text after another, as if they were
+one source. What clang-tidy says about a group does not count: if it objects, the halves of the group are read, and in
+the end single sources, as they are.
 """
 
 import concurrent.futures

@@ -1,5 +1,5 @@
-// The least that a program of this kind can be: a main window of the same size, a menu bar with the same
-// entries, an empty client area.
+// The minimal program of this kind: a main window of the same size, a menu bar with the same entries, an empty client
+// area.
 
 #include <QApplication>
 #include <QMainWindow>

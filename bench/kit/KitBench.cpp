@@ -24,8 +24,8 @@ namespace {
 using Numbers = std::vector<double>;
 using Texts = std::vector<std::string>;
 
-// So many that the processor cannot learn the sequence by heart: among a thousand, it foresees each branch of the
-// library's functions, which no real use lets it do.
+// Enough that the processor cannot learn the sequence: with a thousand, it predicts every branch of the library's
+// functions, which it cannot do in real use.
 constexpr int count = 20'000;
 
 /// As people type them: one to four digits from 0.001 to 9999.
@@ -83,7 +83,7 @@ double fromChars(const std::string& text)
     return number;
 }
 
-/// What the library is asked for on the way from a number to its text with a multiplier word.
+/// The library calls needed to get from a number to its text with a multiplier word.
 struct MultiplierCalls {
     double number;
     double fraction;
@@ -137,7 +137,7 @@ void add(const std::string& name, const Region& region, Inputs inputs, Function 
         ->ReportAggregatesOnly();
 }
 
-/// A function of the kit and the calls that are its floor, over inputs that say the same numbers.
+/// A function of the kit and the calls that it cannot beat, on inputs that state the same numbers.
 template <class Inputs, class Function, class FloorInputs, class Floor>
 void compare(const std::string& name, double goal, const Region& region, const Inputs& inputs, Function function,
     const FloorInputs& floorInputs, Floor floor)

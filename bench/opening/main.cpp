@@ -29,7 +29,7 @@ using Clock = std::chrono::steady_clock;
 constexpr double openingGoal = 30; // milliseconds, for the median
 constexpr double keyGoal = 8;
 
-/// Waits until a widget has been painted, with all that is to be painted at the same time.
+/// Waits until a widget has been painted, together with all else that is to be painted.
 class Painting final : public QObject {
 public:
     explicit Painting(QWidget& widget)
@@ -101,7 +101,7 @@ Control* firstField(const FeuilleCalcul& panel)
     return found == panel.controls().end() ? nullptr : *found;
 }
 
-/// Plays the example of a panel up to its first picture; gives the field, bar or list that it uses last, or else the
+/// Plays the example of a panel up to its first picture; returns the field, bar or list that it uses last, or else the
 /// panel's first field.
 Control* playExample(Player& player, const Subject& subject)
 {

@@ -8,17 +8,17 @@
 
 namespace ondelis::bench {
 
-/// A program that runs, in silence; it is ended where its object ends.
+/// A running program, with its output discarded; it is ended when the object is destroyed.
 class Process {
 public:
-    /// `inherited` is a file descriptor that the program gets under the same number; -1 for none.
-    /// Throws std::system_error where the program does not start.
+    /// `inherited` is a file descriptor that the program gets under the same number; -1 for none. Throws
+    /// std::system_error if the program does not start.
     explicit Process(std::vector<std::string> words, int inherited = -1);
     ~Process();
     Process(const Process&) = delete;
     Process& operator=(const Process&) = delete;
 
-    /// Megabytes of memory that it holds now, and the most that it has held.
+    /// The megabytes of memory that it holds now, and the most that it has held.
     [[nodiscard]] double residentMegabytes() const { return megabytes("VmRSS:"); }
     [[nodiscard]] double peakMegabytes() const { return megabytes("VmHWM:"); }
 

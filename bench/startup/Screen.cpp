@@ -38,7 +38,7 @@ const Event& as(const xcb_generic_event_t& event)
     return reinterpret_cast<const Event&>(event); // NOLINT(cppcoreguidelines-pro-type-reinterpret-cast): so X has it
 }
 
-/// Starts a server on a free display, whose number it tells.
+/// Starts a server on a free display, whose number it reports.
 std::unique_ptr<Process> startServer(std::string& display)
 {
     std::array<int, 2> ends{};

@@ -11,24 +11,24 @@
 
 namespace ondelis::bench {
 
-/// An X server of our own with nothing on it, 1920 by 1080 at 96 dpi, and eyes on what programs draw there. While
-/// it lives, DISPLAY names it.
+/// A private X server with nothing on it, 1920 by 1080 at 96 dpi, and a watch on what programs draw there. While it
+/// lives, DISPLAY names it.
 class Screen {
 public:
     using Clock = std::chrono::steady_clock;
 
-    /// Throws std::runtime_error where the server does not start.
+    /// Throws std::runtime_error if the server does not start.
     Screen();
 
-    /// Waits until the first main window on the screen has been painted all over, and gives the time of the
-    /// drawing that did it. Any earlier window must be gone. Throws std::runtime_error after ten seconds.
+    /// Waits until the first main window on the screen has been fully painted, and returns the time of the drawing that
+    /// completed it. Any earlier window must be gone. Throws std::runtime_error after ten seconds.
     [[nodiscard]] Clock::time_point waitForPaintedWindow();
 
 private:
     [[nodiscard]] xcb_screen_t& root() const;
     void watchFor(xcb_window_t window);
     [[nodiscard]] bool painted() const;
-    /// The next event; empty where none came before the time.
+    /// The next event; empty if none came in time.
     [[nodiscard]] std::shared_ptr<xcb_generic_event_t> nextEvent(Clock::time_point deadline) const;
 
     struct Disconnect {

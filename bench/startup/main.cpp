@@ -1,5 +1,5 @@
 // How long the program takes to its first painted window, and how much memory it has held and then holds, against a
-// bare program of the same size (bench/bare). The two take turns, so that whatever else the machine does meets both.
+// bare program of the same size (bench/bare). The two take turns, so that whatever else the machine does affects both.
 
 #include <algorithm>
 #include <array>
@@ -16,7 +16,7 @@ namespace {
 using namespace ondelis::bench;
 
 constexpr int rounds = 12;
-constexpr int startsPerRound = 5; ///< of which the last one also tells its memory
+constexpr int startsPerRound = 5; ///< of which the last also gives its memory
 constexpr std::chrono::seconds settling{2};
 constexpr double paintGoal = 0.95; // times the bare program, at most
 constexpr double residentGoal = 1.08;

@@ -12,9 +12,9 @@ inline constexpr Color windowColor = 0x80000005;
 /// The text on it.
 inline constexpr Color windowTextColor = 0x80000008;
 
-// Fields by their role. Colours that only one panel has stand in that panel.
+// Field colours by role. Colours that only one panel uses are defined in that panel.
 inline constexpr Color resultColor = 0xFFFFC0; ///< light cyan: shows a result
-inline constexpr Color mainResultColor = 0xFFFF80; ///< cyan: shows the result that the panel is for
+inline constexpr Color mainResultColor = 0xFFFF80; ///< cyan: a main result, or an input that does not count now
 inline constexpr Color givenColor = 0xC0FFC0; ///< light green: waits for a value
 inline constexpr Color soughtColor = 0xC0E0FF; ///< light orange: shows what is computed from the others
 
@@ -22,7 +22,7 @@ inline constexpr Color white = 0xFFFFFF;
 inline constexpr Color black = 0x000000;
 inline constexpr Color red = 0x0000FF;
 
-/// Whether the colour is the system's to choose.
+/// Whether the system chooses the colour.
 [[nodiscard]] constexpr bool isSystemColor(Color color)
 {
     return (color & 0x80000000U) != 0;

@@ -62,7 +62,7 @@ inline constexpr double rowGap = 60;
     return {.Caption = std::move(text), .at = letterBox(drawing, x, y), .align = Align::Center};
 }
 
-/// The place right of a control that is as high as it.
+/// The place to the right of a control, as high as the control.
 [[nodiscard]] inline Box rightOf(const Control& neighbour, double width)
 {
     const Box& at = neighbour.at();
@@ -76,15 +76,15 @@ inline constexpr double rowGap = 60;
     return place;
 }
 
-/// The place under a control, so much lower than its bottom, from its left edge on.
+/// The place under a control, a given distance below its bottom, starting at its left edge.
 [[nodiscard]] inline Box under(const Control& neighbour, double width, double height = 315, double lower = 15)
 {
     const Box& at = neighbour.at();
     return {at.Left, at.Top + at.Height + lower, width, height};
 }
 
-/// A column of rows on a form: in each a caption and, right of it, what it names. A row is said once, by its caption:
-/// fields and lists take their places from theirs. Twips from the upper left corner of the panel, or of a frame.
+/// A column of rows on a form, each with a caption and, right of it, what it names. Only the caption states the row:
+/// fields and lists take their places from it. Twips from the upper left corner of the panel, or of a frame.
 struct Column {
     double left = 240;
     double captions = 0; ///< the width of its captions
@@ -94,7 +94,7 @@ struct Column {
     double pitch = 360; ///< from row to row
     Color resultBackground = resultColor;
 
-    /// The same column from another height on.
+    /// The same column, starting at another height.
     [[nodiscard]] constexpr Column from(double height) const
     {
         Column column{*this};
@@ -102,7 +102,7 @@ struct Column {
         return column;
     }
 
-    /// The place of the caption of a row; halves and quarters of rows set groups apart.
+    /// The place of a row's caption; halves and quarters of rows set groups apart.
     [[nodiscard]] constexpr Box at(double row) const
     {
         constexpr double drop = 30;
@@ -140,7 +140,7 @@ struct Column {
         return place;
     }
 
-    /// The place of an option that has a row of the column for itself.
+    /// The place of an option that has a row of the column to itself.
     [[nodiscard]] constexpr Box optionAt(double row) const { return {left, top + pitch * row, captions, 300}; }
     [[nodiscard]] OptionButton::Design option(double row, std::string words) const
     {

@@ -19,12 +19,6 @@ struct Box {
     double Height = 0;
 };
 
-/// The top of a row of the grid that panels are laid out on.
-[[nodiscard]] constexpr double rowTop(double row)
-{
-    return 240 + 360 * row;
-}
-
 /// The place of a letter on a drawing: its centre as fractions of the drawing's width and height.
 [[nodiscard]] constexpr Box letterBox(const Box& drawing, double x, double y)
 {
@@ -33,7 +27,7 @@ struct Box {
     return {drawing.Left + x * drawing.Width - width / 2, drawing.Top + y * drawing.Height - height / 2, width, height};
 }
 
-/// How a text stands in its control.
+/// How a text is aligned in its control.
 enum class Align { Left, Right, Center };
 
 /// The type of a control's text, in points; panels are written in the default one.
@@ -42,7 +36,7 @@ struct Font {
     bool bold = false;
 };
 
-/// What all controls are: an element of one panel, under one name, at one place.
+/// The base of all controls: an element of one panel, with one name, at one place.
 class Control : public Element {
 public:
     Control(FeuilleCalcul* panel, std::string name, Box at, Frame* container);
@@ -59,14 +53,14 @@ public:
     [[nodiscard]] virtual bool focusable() const { return false; }
 
     virtual void accept(ControlVisitor& visitor) = 0;
-    /// Back to the properties of its design.
+    /// Goes back to the properties of its design.
     virtual void reset() = 0;
 
     void touch() final;
     void changed() final;
 
 protected:
-    /// Whether it is shown where the frame around it is.
+    /// Whether it is shown when the frame around it is.
     [[nodiscard]] virtual bool ownVisible() const { return true; }
     /// Runs the procedure that listens to an event of this control.
     void raise(const Handler& handler);

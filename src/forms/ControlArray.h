@@ -8,7 +8,7 @@
 
 namespace ondelis {
 
-/// Controls of one class under one name, numbered from 0. Their one procedure is told the index of the
+/// Controls of one class under one name, numbered from 0. They share one procedure, which is given the index of the
 /// element.
 template <class ControlClass>
 class ControlArray {
@@ -21,7 +21,7 @@ public:
             elements_.emplace_back(panel, name + "(" + std::to_string(i) + ")", design(i), Handler{handlers}.at(i)...);
     }
 
-    /// Throws a subscript out of range where there is no such element.
+    /// Throws a subscript out of range if there is no such element.
     ControlClass& operator()(Integer index)
     {
         if (index < 0 || index >= count())

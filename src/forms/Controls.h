@@ -10,9 +10,8 @@
 
 namespace ondelis {
 
-// The control classes. Each takes its panel, its name, its design, and the procedures that listen to its
-// events. A store into a property that has an event raises it at once, nested, and only where the value is a
-// new one.
+// The control classes. Each takes its panel, its name, its design, and the procedures that listen to its events. A
+// store into a property that has an event raises it at once, nested, and only if the value is new.
 
 /// What all classes of controls share: a design, and a way to be visited.
 template <class Self, class DesignOfSelf>
@@ -76,7 +75,7 @@ public:
     ActiveProperty<Label, std::string, &Label::storeCaption> Caption{*this};
     Property<Single> Top{*this};
 
-    /// Whether its caption is one that code has stored since the panel was loaded, be it the one of its design.
+    /// Whether code has stored its caption since the panel was loaded, even if it is the one of its design.
     [[nodiscard]] bool written() const { return written_; }
 
     void reset() override;
@@ -98,7 +97,7 @@ public:
     Property<bool> Locked{*this};
     Property<Single> Top{*this};
 
-    /// Gives the field the keyboard. Throws an invalid argument where the field is hidden.
+    /// Gives the field the keyboard. Throws an invalid argument if the field is hidden.
     void SetFocus();
 
     /// Shows a key to the panel before it enters the field.
@@ -136,13 +135,13 @@ public:
     Property<Color> BackColor{*this};
 
     void AddItem(std::string text);
-    /// No row is left, and none chosen; raises nothing.
+    /// Removes all rows, and so the choice; raises nothing.
     void Clear();
-    /// The text of a row, "" where there is no such row.
+    /// The text of a row, "" if there is no such row.
     [[nodiscard]] std::string List(Integer row) const;
     [[nodiscard]] Integer ListCount() const;
 
-    /// The text of the chosen row, "" when none.
+    /// The text of the chosen row, "" if there is none.
     class ChosenText {
     public:
         explicit ChosenText(const ListBox& list) : list_{list} { }
@@ -157,7 +156,7 @@ public:
     [[nodiscard]] const std::vector<std::string>& items() const { return items_; }
     /// A person clicks a row.
     void choose(Integer row);
-    /// The list, which did not have the keyboard, has got it.
+    /// The list has just got the keyboard.
     void gotFocus();
 
     [[nodiscard]] bool focusable() const override { return onScreen(); }
@@ -204,8 +203,8 @@ private:
 
 enum class Orientation { Horizontal, Vertical };
 
-/// A bar between two limits. `Min` stands at its left or upper end, `Max` at the other one, and `Min` may be
-/// the larger. Raises `Change` when its value changes.
+/// A bar between two limits. `Min` is at its left or upper end, `Max` at the other, and `Min` may be the larger. Raises
+/// `Change` when its value changes.
 class ScrollBar : public Hideable<ScrollBar, ScrollBarDesign> {
     void storeValue(Integer value);
     void storeMin(Integer limit);
@@ -289,8 +288,7 @@ public:
 /// A straight line on the panel.
 class Line final : public Hideable<Line, LineDesign> {
 public:
-    Line(FeuilleCalcul* panel, std::string name, Design design)
-        : Hideable{panel, std::move(name), design} { }
+    Line(FeuilleCalcul* panel, std::string name, Design design) : Hideable{panel, std::move(name), design} { }
 
     Property<Single> X1{*this};
     Property<Single> Y1{*this};
@@ -303,9 +301,7 @@ public:
 /// A rectangle drawn around what belongs together.
 class Shape final : public Designed<Shape, ShapeDesign> {
 public:
-    Shape(FeuilleCalcul* panel, std::string name, Design design) : Designed{panel, std::move(name), design}
-    {
-    }
+    Shape(FeuilleCalcul* panel, std::string name, Design design) : Designed{panel, std::move(name), design} { }
 
     void reset() override { }
 };
@@ -313,10 +309,7 @@ public:
 /// A read-only display of a number in exponent form with three decimals: "1.200E-01".
 class MaskEdBox final : public Designed<MaskEdBox, MaskEdBoxDesign> {
 public:
-    MaskEdBox(FeuilleCalcul* panel, std::string name, Design design)
-        : Designed{panel, std::move(name), design}
-    {
-    }
+    MaskEdBox(FeuilleCalcul* panel, std::string name, Design design) : Designed{panel, std::move(name), design} { }
 
     Property<std::string> Text{*this};
 
@@ -327,7 +320,7 @@ public:
     void reset() override;
 };
 
-/// Does something by the class of a control: the view builds widgets, the driver writes its state.
+/// Does something that depends on the class of a control: the view builds widgets, the driver writes its state.
 class ControlVisitor {
 public:
     ControlVisitor() = default;

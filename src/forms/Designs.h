@@ -11,7 +11,8 @@ namespace ondelis {
 class Label;
 class Shape;
 
-// What a form says of a control of each class. The control begins each loading of its panel with these values.
+// What a form specifies for a control of each class. The control starts with these values each time its panel is
+// loaded.
 
 struct LabelDesign {
     std::string Caption = {};

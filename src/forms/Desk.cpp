@@ -55,7 +55,7 @@ void Desk::DoEvents()
 
 void Desk::fail(const Fault& fault)
 {
-    ended_ = true; // whatever happens while the fault is read finds the program over
+    ended_ = true; // for whatever happens while the fault is read, the program is over
     surroundings_.showFault(fault);
     surroundings_.programEnded(1);
 }

@@ -12,8 +12,8 @@
 
 namespace ondelis {
 
-/// Owns the panels, runs handlers, and is the one place where a fault or the end of the program ends what
-/// the user's action began.
+/// Owns the panels, runs handlers, and is the one place where a fault or the end of the program stops what the user's
+/// action began.
 class Desk {
 public:
     explicit Desk(Surroundings& surroundings);
@@ -23,7 +23,7 @@ public:
 
     [[nodiscard]] Surroundings& surroundings() const { return surroundings_; }
 
-    /// The one instance of a panel, made at the first reference, which shows nothing.
+    /// The one instance of a panel, made at the first reference, which does not show it.
     template <std::derived_from<FeuilleCalcul> Panel>
     Panel& get()
     {
@@ -33,7 +33,7 @@ public:
         return static_cast<Panel&>(*panel);
     }
 
-    /// Closes a panel: its controls go, its variables stay. Does nothing where it is not loaded.
+    /// Closes a panel: its controls go, its variables stay. Does nothing if it is not loaded.
     template <std::derived_from<FeuilleCalcul> Panel>
     void Unload()
     {
@@ -57,7 +57,7 @@ public:
             action();
         } catch (const Fault& fault) {
             fail(fault);
-        } catch (const Unwinding&) { // it has done its work by coming here
+        } catch (const Unwinding&) { // its work is done once it gets here
         }
         actionBegin_ = outerBegin;
     }
@@ -72,8 +72,8 @@ public:
     void raise(FeuilleCalcul& panel, const Handler& handler);
     void raise(FeuilleCalcul& panel, const KeyHandler& handler, Integer& key);
 
-    /// Shows a box and gives the answer. Where meanwhile the program has ended, or the panel of a handler that
-    /// waits for it is gone, all handlers of the present action are left.
+    /// Shows a box and returns the answer. If meanwhile the program has ended, or the panel of a handler that waits for
+    /// it is gone, abandons all handlers of the present action.
     Answer MsgBox(const MessageBox& box);
     void DoEvents();
 
@@ -87,7 +87,7 @@ private:
     /// Thrown through handlers that must not go on: the program has ended, or their panel is gone.
     struct Unwinding { };
 
-    /// A handler that runs now, and the loading of its panel that it belongs to.
+    /// A running handler, and the loading of its panel that it belongs to.
     struct Running {
         FeuilleCalcul* panel;
         unsigned loading;

@@ -81,7 +81,7 @@ void FeuilleCalcul::load(bool hidden)
         control->reset();
     desk_.surroundings().panelLoaded(*this);
     desk_.raise(*this, Handler{&FeuilleCalcul::Form_Load});
-    // Any reference that loads a panel brings it on screen, unless the panel or the reference hides it.
+    // Any reference that loads a panel shows it, unless the panel or the reference hides it.
     visible_ = !staysHidden_;
     changed();
 }

@@ -12,8 +12,8 @@ namespace ondelis {
 
 class Desk;
 
-/// A panel: controls, panel-level variables, handlers. Its object lives from the first reference to the end
-/// of the program; its controls have their design values at each loading, its variables keep theirs.
+/// A panel: controls, panel-level variables, handlers. Its object lives from the first reference to the end of the
+/// program; each loading resets its controls to their design values, while its variables keep theirs.
 class FeuilleCalcul : public Element {
 public:
     struct Design {
@@ -43,7 +43,7 @@ public:
     [[nodiscard]] unsigned loading() const { return loading_; }
     /// In the order of the form, which is the tab order.
     [[nodiscard]] const std::vector<Control*>& controls() const { return controls_; }
-    /// Null where the panel has no control of that name.
+    /// Null if the panel has no control of that name.
     [[nodiscard]] Control* find(std::string_view name) const;
 
     /// The user has moved the panel; twips.
@@ -53,7 +53,7 @@ public:
     void changed() final;
 
 protected:
-    /// Takes the tab order along the rows of these control arrays, their elements 0 first, then their elements 1, and
+    /// Makes the tab order follow the rows of these control arrays: first their elements 0, then their elements 1, and
     /// so on. The arrays follow one another on the form.
     template <class FirstArray, class... Arrays>
     void tabAlongRows(FirstArray& first, Arrays&... others)

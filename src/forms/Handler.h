@@ -8,8 +8,8 @@ namespace ondelis {
 
 class FeuilleCalcul;
 
-/// The procedure of a panel that an event runs. Empty where nobody listens. In a control array the procedure
-/// takes the index of the element.
+/// The procedure of a panel that an event runs. Empty if nothing listens. In a control array the procedure takes the
+/// index of the element.
 class Handler {
 public:
     Handler() = default;

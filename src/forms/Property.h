@@ -25,7 +25,7 @@ public:
     virtual void changed() = 0;
 };
 
-/// What reading a property of a stored type gives: Single computes as Double.
+/// The type that reading a property gives, by its stored type: Single computes as Double.
 template <class Stored>
 struct ReadAs {
     using type = Stored;
@@ -81,7 +81,7 @@ public:
     void reset(Stored value) { value_ = std::move(value); }
 
 protected:
-    /// Takes the value; tells whether it is a new one.
+    /// Takes the value; returns whether it is a new one.
     template <class Value>
     bool keep(Value&& value)
     {

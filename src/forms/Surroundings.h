@@ -16,7 +16,7 @@ struct MessageBox {
     std::string title = "Ondelis";
 };
 
-/// What `MsgBox` gives back.
+/// What `MsgBox` returns.
 enum class Answer { Ok = 1, Yes = 6, No = 7 };
 
 /// A width and a height in twips.
@@ -25,8 +25,8 @@ struct Extent {
     double Height;
 };
 
-/// All that the engine asks of the world around it. The view serves it with Qt, the driver and the tests with
-/// a script.
+/// All that the engine asks of the world around it. The view implements it with Qt, the driver and the tests with a
+/// script.
 class Surroundings {
 public:
     Surroundings() = default;
@@ -38,7 +38,7 @@ public:
     virtual Answer showBox(const MessageBox& box) = 0;
     /// Names the fault that ends the program, and waits until it has been read.
     virtual void showFault(const Fault& fault) = 0;
-    /// Lets what the user did meanwhile happen.
+    /// Processes what the user did meanwhile.
     virtual void runPendingEvents() = 0;
     [[nodiscard]] virtual Extent screen() const = 0;
 

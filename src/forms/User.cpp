@@ -28,14 +28,13 @@ bool startsCharacter(std::string_view text, std::size_t at)
     return at == text.size() || (static_cast<unsigned char>(text[at]) & 0xC0U) != 0x80U;
 }
 
-/// Where the first line break of a text stands; its end where there is none.
+/// The position of the first line break of a text; its end if there is none.
 std::size_t lineEnd(std::string_view text)
 {
     return std::min(text.find_first_of("\r\n"), text.size());
 }
 
-/// What a person may put into a field where there is room for so many characters: a field of one line takes the first
-/// line of it.
+/// What a person may put into a field that has room for so many characters: a one-line field takes only the first line.
 std::string accepted(const TextBox& box, std::string_view put, int room)
 {
     if (!box.design().multiLine)
@@ -43,8 +42,8 @@ std::string accepted(const TextBox& box, std::string_view put, int room)
     return Left(put, std::max(0, room));
 }
 
-/// What an edit leaves of a text, with the caret behind what it has put in: what stood before and after that stays, and
-/// what was put in as far as the field accepts it.
+/// The text after an edit, with the caret after what was put in: what stood before and after that stays, and what was
+/// put in is kept as far as the field accepts it.
 std::string edited(const TextBox& box, std::string_view toCaret, std::string_view tail, int limit)
 {
     const std::string_view before = box.Text.get();
@@ -56,8 +55,8 @@ std::string edited(const TextBox& box, std::string_view toCaret, std::string_vie
     return std::string{head} + accepted(box, toCaret.substr(start), limit - Len(head) - Len(tail)) + std::string{tail};
 }
 
-/// Whether a key puts that character into a field: the Enter key a line break into one of several lines, no key any
-/// other control character. The Tab key leaves the field.
+/// Whether a key puts that character into a field: Enter puts a line break into a field of several lines, and no key
+/// enters any other control character. The Tab key leaves the field.
 bool isEnteredByKey(const TextBox& box, std::string_view character)
 {
     if (lineEnd(character) == 0)
@@ -65,7 +64,7 @@ bool isEnteredByKey(const TextBox& box, std::string_view character)
     return static_cast<unsigned char>(character[0]) >= ' ';
 }
 
-/// The code of a key as `KeyPress` gets it: "?" for a character that 16 bits do not hold.
+/// The code of a key as `KeyPress` gets it: "?" for a character that does not fit in 16 bits.
 Integer keyCode(char32_t character)
 {
     return character <= 32767 ? static_cast<int>(character) : '?';

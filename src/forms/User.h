@@ -10,18 +10,18 @@
 
 namespace ondelis {
 
-/// What a person does, by mouse and by key, told to the desk: the one road of every user action. Each action
-/// first gives its control the keyboard, and runs the whole chain of handlers before it returns. What a
-/// person could not do changes nothing and is refused with the reason.
+/// What a person does, by mouse and by key, passed on to the desk: the one way in for every user action. Each action
+/// first gives its control the keyboard, and runs the whole chain of handlers before it returns. What a person could
+/// not do changes nothing and is refused with the reason.
 class User {
 public:
     using Refusal = std::optional<std::string>;
 
     explicit User(Desk& desk) : desk_{desk} { }
 
-    /// Types a text key by key at the end of a field: `KeyPress`, then the character lands, unless
-    /// `MaxLength` is reached, and `Change` is raised. No key enters a control character, but a line break into a field
-    /// of several lines.
+    /// Types a text key by key at the end of a field: `KeyPress`, then the character lands, unless `MaxLength` is
+    /// reached, and `Change` is raised. No key enters a control character, except a line break in a field of several
+    /// lines.
     Refusal type(TextBox& box, std::string_view text);
     /// The backspace key at the end of a field: `KeyPress` 8, then, if the handler left the text alone, the
     /// last character goes.
@@ -29,11 +29,11 @@ public:
     /// Pastes a text over the whole of a field, cut to `MaxLength`; into a field of one line, up to its first carriage
     /// return or line feed. No `KeyPress`.
     Refusal replace(TextBox& box, std::string_view text);
-    /// Gives a field the text that an edit anywhere leaves there: that up to the caret, which stands behind what was
-    /// put in, and its tail. What the edit puts in is cut as a paste, to the room that `MaxLength` leaves; what it
-    /// leaves alone, a store may have made longer than that. No `KeyPress`.
+    /// Gives a field the text that results from an edit anywhere in it: the text up to the caret, which stands after
+    /// what was put in, and the tail. What the edit puts in is cut like a paste, to the room that `MaxLength` leaves; a
+    /// store may have made the rest longer than that. No `KeyPress`.
     Refusal edit(TextBox& box, std::string_view toCaret, std::string_view tail);
-    /// A key on its way into a field; tells whether the panel rewrote the text meanwhile.
+    /// A key on its way into a field; returns whether the panel rewrote the text meanwhile.
     bool key(TextBox& box, char32_t character);
 
     Refusal click(OptionButton& option);
@@ -49,7 +49,7 @@ private:
     [[nodiscard]] Refusal unreachable(const Control& control) const;
     [[nodiscard]] Refusal unwritable(const TextBox& box) const;
     void takeFocus(Control& control);
-    /// Gives a field another text, made for so many characters as it takes.
+    /// Gives a field another text, made for the number of characters that it takes.
     Refusal put(TextBox& box, const std::function<std::string(int limit)>& text);
 
     Desk& desk_;

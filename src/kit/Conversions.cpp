@@ -26,7 +26,7 @@ constexpr bool isBlank(char c)
     return c == ' ' || c == '\t' || c == '\n';
 }
 
-/// Drops `word` from the start of a text; tells whether it stood there.
+/// Drops `word` from the start of a text; returns whether it was there.
 bool takes(std::string_view& text, std::string_view word)
 {
     if (word.empty() || !text.starts_with(word))
@@ -49,7 +49,7 @@ std::size_t countDigits(std::string_view text)
     return static_cast<std::size_t>(std::ranges::find_if_not(text, isDigit) - text.begin());
 }
 
-/// A number too large or too small for from_chars, which does not tell which of both it is: infinity or 0.
+/// A number too large or too small for from_chars, which does not say which: infinity or 0.
 double extreme(std::string_view text)
 {
     std::istringstream stream{std::string{text}};
@@ -58,11 +58,11 @@ double extreme(std::string_view text)
     return stream >> value ? value : std::numeric_limits<double>::infinity();
 }
 
-/// Takes the longest unsigned number, with exponent marks e and E, that starts a text; 0 where none does, and
-/// infinity beyond the range, as more of the number may follow.
+/// Takes the longest unsigned number, with exponent marks e and E, that starts a text; 0 if none does, and infinity
+/// beyond the range, as more of the number may follow.
 double takePlainNumber(std::string_view& text)
 {
-    // from_chars by itself takes a sign, "inf" and "nan", too.
+    // from_chars itself also takes a sign, "inf" and "nan".
     if (text.empty() || (!isDigit(text.front()) && text.front() != '.'))
         return 0;
     double value = 0;
@@ -75,7 +75,7 @@ double takePlainNumber(std::string_view& text)
     return value;
 }
 
-/// As `takePlainNumber`, with a sign and any exponent mark.
+/// Like `takePlainNumber`, with a sign and any exponent mark.
 double takeNumber(std::string_view& text)
 {
     const bool minus = takes(text, '-');
@@ -93,7 +93,7 @@ double takeNumber(std::string_view& text)
     return minus ? -magnitude : magnitude;
 }
 
-/// The number that the whole of a text is; nothing where a part is left over, or no number is there.
+/// The number that the whole text is; nothing if a part is left over, or there is no number.
 std::optional<Term> wholly(std::string_view text)
 {
     std::string_view rest = text;
@@ -104,7 +104,7 @@ std::optional<Term> wholly(std::string_view text)
     return Term::checked(number);
 }
 
-/// The whole number of the digits, in a base of 8 or 16, that start a text.
+/// The whole number of the digits, in base 8 or 16, that start a text.
 Term wholeNumber(std::string_view text, int base)
 {
     Term number = 0;
@@ -126,30 +126,30 @@ std::string_view trimmed(std::string_view text)
     return text;
 }
 
-/// The length of the thousands separator that starts a text, in any of its ways; 0 where none does. Groups may have any
+/// The length of the thousands separator that starts a text, in any of its forms; 0 if none does. Groups may have any
 /// length, so that a number can be typed digit by digit.
 std::size_t thousandsLength(std::string_view text, std::string_view separator)
 {
     constexpr std::string_view noBreakBlank = "\u00a0";
     constexpr std::string_view narrowNoBreakBlank = "\u202f";
     constexpr std::string_view typographicApostrophe = "\u2019";
-    // No keyboard types the no-break blanks, and systems differ in which one they use: all blanks are one.
+    // No keyboard types the no-break blanks, and systems differ in which one they use: all blanks count as the same.
     if (separator == noBreakBlank || separator == narrowNoBreakBlank)
         for (const std::string_view blank : {std::string_view{" "}, noBreakBlank, narrowNoBreakBlank})
             if (text.starts_with(blank))
                 return blank.size();
-    // Nor does a key type this one.
+    // No key types this one either.
     if (separator == typographicApostrophe && text.starts_with('\''))
         return 1;
-    // Where commas are decimal, a point is mostly meant as the decimal one of other regions, and no number.
+    // Where the comma is decimal, a point is mostly meant as the decimal point of other regions: that is no number.
     return separator != "." && text.starts_with(separator) ? separator.size() : 0;
 }
 
-/// The text of a number of the region with "." as the decimal point and no thousands separators; "" where it has the
-/// decimal point of other regions. It lasts until the next call.
+/// The text of a number of the region with "." as the decimal point and no thousands separators; "" if it has the
+/// decimal point of other regions. It is valid until the next call.
 const std::string& plain(std::string_view text, const Region& region)
 {
-    thread_local std::string number; // it keeps its memory: to get some takes half as long as to read a number
+    thread_local std::string number; // it keeps its memory: allocating takes half as long as reading a number
     number = text;
     std::size_t at = text.starts_with('-') || text.starts_with('+') ? 1 : 0;
     const auto rest = [&] { return std::string_view{number}.substr(at); };
@@ -169,14 +169,14 @@ const std::string& plain(std::string_view text, const Region& region)
     return number;
 }
 
-/// Writes a number of millionths as a decimal number; gives its end.
+/// Writes a number of millionths as a decimal number; returns its end.
 char* writeMillionths(std::int64_t millionths, char* begin, char* end)
 {
     constexpr std::int64_t one = 1'000'000;
     char* const point = std::to_chars(begin, end, millionths / one).ptr;
     if (millionths % one == 0)
         return point;
-    // The 1 ahead, which keeps the zeros of the decimals, gives its place to the point.
+    // The leading 1, which keeps the zeros of the decimals, makes room for the point.
     char* last = std::to_chars(point, end, one + millionths % one).ptr;
     *point = '.';
     while (last[-1] == '0')
@@ -184,10 +184,10 @@ char* writeMillionths(std::int64_t millionths, char* begin, char* end)
     return last;
 }
 
-/// Writes a number that is not negative in general form with 15 digits; gives its end.
+/// Writes a non-negative number in general form with 15 digits; returns its end.
 char* writeGeneral(double x, char* begin, char* end)
 {
-    // Nearly all numbers shown have six decimals at most. Those that 15 digits hold whole are written by their
+    // Nearly all numbers shown have six decimals at most. Those that fit in 15 digits are written from their
     // millionths, in half the time.
     const double guess = std::min(x * 1e6, 1e15) + 0.5; // proved by the division
     const auto millionths = static_cast<std::int64_t>(guess);
@@ -199,11 +199,11 @@ char* writeGeneral(double x, char* begin, char* end)
     return last;
 }
 
-/// The digits of a number with a "." behind "-", or behind `blanks` where it is not negative.
+/// The digits of a number with a ".", after "-", or after `blanks` if it is not negative.
 std::string digits(Double x, std::size_t blanks)
 {
     constexpr std::size_t longest = 22; // "-1.23456789012345E-308"
-    // The digits are written into the text itself: to copy bytes just written is slow.
+    // The digits are written into the text itself: copying bytes just written is slow.
     std::string text(longest, ' ');
     const bool negative = x < 0;
     if (negative)
@@ -214,7 +214,7 @@ std::string digits(Double x, std::size_t blanks)
     return text;
 }
 
-/// Puts the region's decimal separator in the place of the point.
+/// Puts the region's decimal separator in place of the point.
 void putDecimal(std::string& text, std::size_t point)
 {
     const std::string& decimal = region().decimal;
@@ -228,7 +228,7 @@ void putDecimal(std::string& text, std::size_t point)
 
 Term Val(std::string_view text)
 {
-    // Most texts are a number as they stand, or as `Str` writes it.
+    // Most texts are a plain number, or one as `Str` writes it.
     if (const auto number = wholly(trimmed(text)))
         return *number;
     std::string solid;

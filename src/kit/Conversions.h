@@ -10,13 +10,13 @@ namespace ondelis {
 
 // What gives a `Term` throws where the formula ends.
 
-/// The number that a text starts with, 0 where it starts with none. Blanks, tabs and line feeds count
-/// nowhere; the decimal point is "." in every region; an exponent is marked by E, e, D or d; &H and &O begin
-/// a hexadecimal or octal whole number. Throws an overflow beyond the range of a `Double`, and nothing else.
+/// The number that a text starts with, or 0 if none. Blanks, tabs and line feeds are ignored everywhere; the decimal
+/// point is "." in every region; an exponent is marked by E, e, D or d; &H and &O begin a hexadecimal or octal whole
+/// number. Throws an overflow beyond the range of a `Double`, and nothing else.
 [[nodiscard]] Term Val(std::string_view text);
 
-/// The number that a text is, by the separators of the region. Throws a type mismatch where the whole text,
-/// but for blanks around it, is not a number, and an overflow beyond the range of a `Double`.
+/// The number that a text is, by the separators of the region. Throws a type mismatch if the whole text, apart from
+/// blanks around it, is not a number, and an overflow beyond the range of a `Double`.
 [[nodiscard]] Term CDbl(std::string_view text);
 
 /// `CDbl`, then `CInt` of the number.

@@ -11,9 +11,8 @@ namespace ondelis {
 
 class Term;
 
-/// A finite IEEE 754 binary64 number. Each operation rounds once, to nearest; a result out of range, 0 / 0
-/// and a division by zero are faults, so that no infinity and no not-a-number is ever kept. Underflow passes
-/// in silence.
+/// A finite IEEE 754 binary64 number. Each operation rounds once, to nearest; a result out of range, 0 / 0 and a
+/// division by zero are faults, so that no infinity or NaN is ever kept. Underflow is silent.
 class Double {
 public:
     constexpr Double() = default;
@@ -40,10 +39,10 @@ private:
     double value_ = 0;
 };
 
-/// What an operation gives inside a formula: a number, or the fault that was met first from left to right. It becomes a
-/// `Double` where the formula ends, in a store, an argument, a comparison, and throws its fault there. Were operations
-/// to throw at once, the compiler would choose which of two faults in one formula ends the program: it may compute the
-/// right operand first.
+/// The result of an operation inside a formula: a number, or the fault that was met first from left to right. It
+/// becomes a `Double` where the formula ends, in a store, an argument, a comparison, and throws its fault there. If
+/// operations threw at once, the compiler would choose which of two faults in one formula ends the program: it may
+/// compute the right operand first.
 class [[nodiscard]] Term {
 public:
     template <std::convertible_to<Double> Number>
@@ -53,7 +52,7 @@ public:
     }
     explicit constexpr Term(FaultKind kind) : fault_{kind} { }
 
-    /// The number, or an overflow for an infinity or a not-a-number.
+    /// The number, or an overflow for an infinity or a NaN.
     static constexpr Term checked(double value) { return finite(value) ? Term{value} : Term{FaultKind::Overflow}; }
 
     constexpr operator Double() const { return value(); } // NOLINT(google-explicit-constructor)
@@ -94,15 +93,15 @@ public:
 private:
     static constexpr FaultKind none{-1}; ///< no kind of fault
 
-    /// By the exponent, which all ones make an infinity or a not-a-number. No comparison: of `x * 10 > largest` GCC 13
-    /// and 14 conclude, wrongly, that x is infinite too, and bend what else is computed with x.
+    /// Looks at the exponent, which is all ones for an infinity or a NaN. No comparison: from `x * 10 > largest` GCC 13
+    /// and 14 wrongly conclude that x is infinite too, and miscompile what else is computed with x.
     static constexpr bool finite(double value)
     {
         constexpr std::uint64_t exponent = 0x7FF0'0000'0000'0000;
         return (std::bit_cast<std::uint64_t>(value) & exponent) != exponent;
     }
 
-    /// What an operation gives, unless one of its operands is a fault already: the left one counts first.
+    /// The result of an operation, unless one of its operands is a fault already: the left one counts first.
     static constexpr Term result(Term a, Term b, Term given) { return a.faulty() ? a : b.faulty() ? b : given; }
     /// The same, with one branch where all is well.
     static constexpr Term result(Term a, Term b, double given)

@@ -8,7 +8,7 @@
 namespace ondelis {
 namespace {
 
-/// What `to_chars` writes of a magnitude, which it rounds correctly, a tie to the even neighbour.
+/// What `to_chars` writes for a magnitude, which it rounds correctly, a tie to the even neighbour.
 std::string scientific(double magnitude, int decimals)
 {
     constexpr std::size_t around = 8; // a digit, a point, and an exponent such as "e-308"
@@ -19,7 +19,7 @@ std::string scientific(double magnitude, int decimals)
     return text;
 }
 
-/// Tells whether a magnitude lies exactly in the middle of two texts with three decimals.
+/// Whether a magnitude lies exactly halfway between two texts with three decimals.
 bool isTie(double magnitude)
 {
     constexpr int allDecimals = 766; // of the number with the longest expansion

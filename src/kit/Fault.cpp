@@ -11,7 +11,7 @@ struct Words {
     const char* text;
 };
 
-/// One row a kind, in the order of the enumeration.
+/// One row per kind, in the order of the enumeration.
 constexpr std::array<Words, 7> table{{
     {5, "invalid argument", "Argument ou appel incorrect"},
     {6, "overflow", "Dépassement de capacité"},

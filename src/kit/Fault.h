@@ -4,13 +4,13 @@
 
 namespace ondelis {
 
-/// What can go wrong while a handler runs. Nothing catches a fault but `Form_Load`; any other one ends the
-/// program.
+/// What can go wrong while a handler runs. A fault ends the program: `Desk::perform` catches it and has it shown. Two
+/// places pass over it: `resumeNext`, which goes on with the next statement of `Form_Load`, and `MaskEdBox::display`.
 enum class FaultKind {
     InvalidArgument,
     Overflow,
     SubscriptOutOfRange,
-    DivisionByZero,
+    DivisionByZero, ///< 0 / 0 is an overflow
     TypeMismatch,
     ObjectNotSet,
     InvalidPropertyValue,

@@ -87,8 +87,8 @@ Term Pow(Term x, Term y)
         return x.faulty() ? x : y;
     if ((x < 0 && y != Fix(y)) || (x == 0 && y < 0))
         return Term{FaultKind::InvalidArgument};
-    // A pointer that the compiler has to read each time: were it to see the call, it could make products of squares,
-    // and of powers of ten calls of exp10, which is wrong in the last digit very often.
+    // A pointer that the compiler has to read each time: if it saw the call, it could turn squares into products, and
+    // powers of ten into calls of exp10, which is very often wrong in the last digit.
     // NOLINTNEXTLINE(cppcoreguidelines-avoid-non-const-global-variables): it is const, and volatile
     static double (*const volatile libraryPow)(double, double) = std::pow;
     return Term::checked(libraryPow(x.value(), y.value()));

@@ -10,8 +10,8 @@ namespace ondelis {
 /// Toward zero: `Fix(-2.7)` is -2.
 [[nodiscard]] Term Fix(Term x);
 
-/// A number cut to whole parts, toward zero: `Cut(2.789, 100)` is 2.78, hundredths. The product, then `Fix`, then the
-/// quotient, each rounded: `Cut(0.29, 100)` is 0.28.
+/// A number truncated to whole parts, toward zero: `Cut(2.789, 100)` is 2.78, in hundredths. The product, then `Fix`,
+/// then the quotient, each rounded: `Cut(0.29, 100)` is 0.28.
 [[nodiscard]] Term Cut(Term x, Double parts);
 
 /// Toward minus infinity: `Int(-2.7)` is -3.
@@ -37,12 +37,11 @@ namespace ondelis {
 /// `Log(x) / Log(10)`, divided in `Double`.
 [[nodiscard]] Term Log10(Term x);
 
-/// The power x ^ y by the C library's `pow`, squares too, so that last digits do not depend on the build.
-/// Throws an invalid argument for a negative number to a fractional power and for 0 to a negative one, an
-/// overflow out of range.
+/// The power x ^ y by the C library's `pow`, even squares, so that last digits do not depend on the build. Throws an
+/// invalid argument for a negative number to a fractional power and for 0 to a negative one, an overflow out of range.
 [[nodiscard]] Term Pow(Term x, Term y);
 
-/// In radians, as all angles.
+/// In radians, like all angles.
 [[nodiscard]] Term Atn(Term x);
 [[nodiscard]] Term Sin(Term x);
 [[nodiscard]] Term Cos(Term x);

@@ -32,13 +32,13 @@ bool isAscii(char c)
     return static_cast<unsigned char>(c) < 0x80;
 }
 
-/// A separator of a locale as UTF-8; nothing where it is not text of the encoding, or nobody knows that.
+/// A separator of a locale as UTF-8; nothing if it is not valid in the encoding, or the encoding is unknown.
 std::optional<std::string> toUtf8(std::string text, const char* encoding)
 {
-    if (std::ranges::all_of(text, isAscii)) // it is so in all encodings of locales
+    if (std::ranges::all_of(text, isAscii)) // the same in all locale encodings
         return text;
     iconv_t conversion = iconv_open("UTF-8", encoding);
-    if (conversion == iconv_t(-1)) // NOLINT(performance-no-int-to-ptr): POSIX tells a failure so
+    if (conversion == iconv_t(-1)) // NOLINT(performance-no-int-to-ptr): how POSIX reports a failure
         return {};
     constexpr std::size_t longest = 6; // bytes for one of the encoding; a few make pairs of characters of some
     std::string utf8(longest * text.size(), ' ');
@@ -58,7 +58,7 @@ std::optional<std::string> toUtf8(std::string text, const char* encoding)
 
 Region Region::ofUser()
 {
-    // The encoding of a locale is a matter of LC_CTYPE: that of the same locale, whatever LC_CTYPE the user has.
+    // LC_CTYPE gives the encoding of a locale: it is that of the same locale, whatever LC_CTYPE the user has.
     const locale_t locale = newlocale(LC_NUMERIC_MASK | LC_CTYPE_MASK, nameOfUser(), nullptr);
     if (locale == nullptr)
         return {.decimal = ".", .thousands = ""};

@@ -10,18 +10,18 @@ struct Region {
     std::string decimal = ".";
     std::string thousands = ",";
 
-    /// The separators of the system's user (LC_ALL, LC_NUMERIC, LANG), whatever the encoding of the locale that they
-    /// name; "." and no thousands separator where the system does not know it, or cannot convert one of them.
+    /// The separators of the system's user (LC_ALL, LC_NUMERIC, LANG), whatever the encoding of the locale they name;
+    /// "." and no thousands separator if the system does not know that locale, or cannot convert one of them.
     static Region ofUser();
 };
 
-/// The one setting of the process.
+/// The process-wide setting.
 [[nodiscard]] const Region& region();
 
-/// Replaces the setting of the process.
+/// Replaces the process-wide setting.
 void setRegion(Region region);
 
-/// Another region for the length of a scope: for tests.
+/// Another region for the duration of a scope: for tests.
 class ScopedRegion {
 public:
     explicit ScopedRegion(Region inside);

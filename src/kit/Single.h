@@ -7,8 +7,8 @@
 
 namespace ondelis {
 
-/// A binary32 number, for what is only stored in it: positions and line coordinates. It rounds when it is
-/// stored and computes as a `Double`; beyond its range it is an overflow fault.
+/// A binary32 number, used only for storage: positions and line coordinates. It rounds when it is stored and computes
+/// as a `Double`; a value beyond its range is an overflow fault.
 class Single {
 public:
     constexpr Single() = default;

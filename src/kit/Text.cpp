@@ -29,7 +29,7 @@ void require(bool sound)
         throw Fault{FaultKind::InvalidArgument};
 }
 
-// The letters of two bytes, and in the same place their capitals, of two bytes as well.
+// The letters of two bytes, and at the same positions their capitals, also of two bytes.
 constexpr std::string_view smallLetters = "àáâãäåæçèéêëìíîïðñòóôõöøùúûüýþÿœšž";
 constexpr std::string_view capitalLetters = "ÀÁÂÃÄÅÆÇÈÉÊËÌÍÎÏÐÑÒÓÔÕÖØÙÚÛÜÝÞŸŒŠŽ";
 static_assert(smallLetters.size() == capitalLetters.size());

@@ -11,7 +11,7 @@ struct Multiplier {
     Double p;
 };
 
-/// The first row that holds decides.
+/// The first row that applies decides.
 Multiplier multiplierOf(Double E)
 {
     if (E <= -10)
@@ -39,7 +39,7 @@ std::string TraitementMultiplicateur(Double v)
 {
     if (v == 0)
         return {};
-    // The factor stands a little above 1 / Log(10): that is what shows 0.001 as " 999.999999 micro".
+    // The factor is a little above 1 / Log(10): that is why 0.001 shows as " 999.999999 micro".
     const Double x = Log(v) * 0.434294481903252;
     const Double A = Abs(x);
     const Double I = Fix(A);

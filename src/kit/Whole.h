@@ -27,7 +27,7 @@ public:
     friend constexpr Whole operator+(Whole a, Whole b) { return wide(std::int64_t{a.value_} + b.value_); }
     friend constexpr Whole operator-(Whole a, Whole b) { return wide(std::int64_t{a.value_} - b.value_); }
     friend constexpr Whole operator*(Whole a, Whole b) { return wide(std::int64_t{a.value_} * b.value_); }
-    /// Always with a fraction, between whole numbers too.
+    /// Keeps the fraction, even between whole numbers.
     friend constexpr Term operator/(Whole a, Whole b) { return Term{a.value()} / Term{b.value()}; }
 
     friend constexpr bool operator==(Whole, Whole) = default;

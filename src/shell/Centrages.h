@@ -4,7 +4,7 @@
 
 namespace ondelis {
 
-/// Puts a panel in the middle of the outer size of the frame.
+/// Centres a panel in the outer size of the frame.
 template <class Frame, class Panel>
 void CentrerFeuille(const Frame& frame, Panel& panel)
 {
@@ -12,7 +12,7 @@ void CentrerFeuille(const Frame& frame, Panel& panel)
     panel.Left = (frame.Width - panel.Width) / 2;
 }
 
-/// Puts a window in the middle of the screen.
+/// Centres a window on the screen.
 template <class Form>
 void CentrerEcran(const Extent& screen, Form& form)
 {

@@ -40,7 +40,7 @@ PanelStep height(double twips)
     return [twips](MDIOndelis& /*frame*/, FeuilleCalcul& panel) { panel.Height = Double{twips}; };
 }
 
-/// These steps on one panel, in their order. Its object is there from then on.
+/// These steps on one panel, in order. Its object exists from then on.
 template <class Panel>
 MenuStep on(std::vector<PanelStep> steps)
 {
@@ -56,7 +56,7 @@ MenuStep centred()
     return on<Panel>({show, centre});
 }
 
-/// Other values than those that the panel loads with.
+/// Values other than those that the panel loads with.
 void seedMonostable(MDIOndelis& frame)
 {
     auto& panel = frame.desk().get<Monostable>();

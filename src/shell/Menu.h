@@ -37,7 +37,7 @@ struct Menu {
 /// The entries that open panels, in display order: all but the one that ends the program.
 [[nodiscard]] const std::vector<const MenuEntry*>& panelEntries();
 
-/// The entry of that control; null where there is none.
+/// The entry of that control; null if there is none.
 [[nodiscard]] const MenuEntry* findMenuEntry(std::string_view control);
 
 } // namespace ondelis

@@ -10,7 +10,7 @@ namespace ondelis {
 ChosenStyle::ChosenStyle()
 {
     QApplication::setStyle(new Style);
-    // The toolkit takes any number; with some of them no window has a size.
+    // The toolkit accepts any number; with some, windows have no size.
     bool number = false;
     const double scale = qEnvironmentVariable("QT_SCALE_FACTOR").toDouble(&number);
     if (number && !(scale > 0 && std::isfinite(scale)))
@@ -19,7 +19,7 @@ ChosenStyle::ChosenStyle()
 
 Application::Application(int& argc, char** argv) : QApplication{argc, argv}
 {
-    // Qt has given the C library the user's locale; numbers are written by the kit, which asks its own region.
+    // Qt has set the C library to the user's locale; the kit writes numbers, by its own region.
     std::setlocale(LC_NUMERIC, "C");
     setApplicationName(QStringLiteral("Ondelis"));
     setApplicationVersion(QStringLiteral(ONDELIS_VERSION));

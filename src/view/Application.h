@@ -6,13 +6,13 @@
 
 namespace ondelis {
 
-/// What must be settled before the application is made: the widgets' style, so that no other one is made first, and
-/// that the user's settings ask for no scale which is none.
+/// Settles what must be settled before the application is made: the widgets' style, so that no other one is made first,
+/// and that the user's settings do not ask for an invalid scale.
 struct ChosenStyle {
     ChosenStyle();
 };
 
-/// The application as the toolkit sees it: its style, its name, its words.
+/// Sets the application up for the toolkit: its style, its name, its words.
 class Application final : private ChosenStyle, public QApplication {
 public:
     Application(int& argc, char** argv);

@@ -12,11 +12,11 @@ constexpr QRgb dusk = 0xFF3D4A5D;
 
 constexpr std::chrono::milliseconds idleTime{500};
 
-/// So many drawings in a row do without the whole picture in memory. At the start there are two of them, where a window
-/// manager puts its frame around the window.
+/// This many drawings in a row do without the whole picture in memory. At the start there are two, if a window manager
+/// puts its frame around the window.
 constexpr int fewDrawings = 2;
 
-/// The rows of the picture that are then decoded at a time. Each time begins at the top of the file: fewer rows take
+/// The rows of the picture that are then decoded at a time. Each time starts at the top of the file: fewer rows take
 /// longer in all, more rows take more memory.
 constexpr int bandRows = 189;
 
@@ -25,7 +25,7 @@ QString file()
     return QStringLiteral(":/fond.jpg");
 }
 
-/// Where a picture is that covers an area: its middle in the middle; what is too much of it is cut at both ends.
+/// The place of a picture that covers an area: centred, with the excess cut at both ends.
 QRect covering(const QRect& area, const QSize& picture)
 {
     QRect place{{}, picture.scaled(area.size(), Qt::KeepAspectRatioByExpanding)};
@@ -33,7 +33,7 @@ QRect covering(const QRect& area, const QSize& picture)
     return place;
 }
 
-/// Draws what a region shows of the picture, a band of it after the other; tells whether the toolkit can read it.
+/// Draws what a region shows of the picture, band by band; returns whether the toolkit can read it.
 bool drawInBands(QPainter& painter, const QRect& area, const QRegion& region)
 {
     const QSize size = QImageReader{file()}.size();
@@ -48,8 +48,8 @@ bool drawInBands(QPainter& painter, const QRect& area, const QRegion& region)
         const QRect shown{place.left(), top, place.width(), end - top};
         if (!region.intersects(shown))
             continue;
-        // With one row more at each end, which smooth scaling mixes into the first row and the last. All bands have the
-        // same size, so that each takes the memory of the one before.
+        // With one more row at each end, which smooth scaling mixes into the first and last rows. All bands have the
+        // same size, so that each reuses the memory of the one before.
         const int height = std::min(bandRows + 2, size.height());
         const QRect rows{0, std::clamp(row - 1, 0, size.height() - height), size.width(), height};
         QImageReader reader{file()};

@@ -17,7 +17,7 @@ void OptionButtonWidget::follow()
 {
     place();
     const QSignalBlocker quiet{this};
-    // The desk keeps the options exclusive; here each one just shows its value, none chosen included.
+    // The desk keeps the options exclusive; here each one just shows its value, even if none is chosen.
     setAutoExclusive(false);
     setChecked(control().Value);
     setAutoExclusive(true);

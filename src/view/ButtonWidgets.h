@@ -16,7 +16,7 @@ public:
     void follow() override;
 
 private:
-    /// Lets Tab enter the options at the chosen one, or at the first where none is.
+    /// Makes Tab enter the options at the chosen one, or at the first if none is.
     void followGroup();
 };
 

@@ -12,7 +12,7 @@
 namespace ondelis {
 namespace {
 
-/// Where a length that is seen must begin so that what reaches from `first` to `last` lies in it, or at least begins
+/// Where the visible length must begin so that what reaches from `first` to `last` lies in it, or at least begins
 /// there: as near as possible to where it begins now.
 int revealed(int begin, int first, int last, int seen)
 {
@@ -75,7 +75,7 @@ void ClientArea::paintEvent(QPaintEvent* event)
     painter.setClipRegion(event->region());
     if (std::exchange(onScreen_, true)) {
         background_.draw(painter, viewport()->rect(), event->region());
-    } else { // the window comes on screen, then the picture is decoded
+    } else { // the window appears, then the picture is decoded
         Background::drawPlain(painter, viewport()->rect());
         QTimer::singleShot(0, viewport(), qOverload<>(&QWidget::update));
     }
@@ -84,7 +84,7 @@ void ClientArea::paintEvent(QPaintEvent* event)
 void ClientArea::resizeEvent(QResizeEvent* event)
 {
     QMdiArea::resizeEvent(event);
-    // Not at once: the base class may be placing its scroll bars, and would place them by what it scrolled from.
+    // Not at once: the base class may be placing its scroll bars, and would use the position it scrolled from.
     if (!std::exchange(resized_, true))
         QMetaObject::invokeMethod(
             this, [this] { followResize(); }, Qt::QueuedConnection);
@@ -94,7 +94,7 @@ void ClientArea::scrollContentsBy(int dx, int dy)
 {
     QMdiArea::scrollContentsBy(dx, dy);
     QCoreApplication::postEvent(this, new QEvent{QEvent::LayoutRequest}); // with scroll bars, or without
-    viewport()->update(); // the panels have moved over the picture, which has not
+    viewport()->update(); // the panels have moved over the picture, which has not moved
 }
 
 void ClientArea::followResize()

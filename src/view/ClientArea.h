@@ -15,8 +15,8 @@ public:
 
     /// Scrolls until the widget, which is on a panel, can be seen.
     void bringIntoSight(const QWidget& widget);
-    /// Scrolls until all panels can be seen; where there is no room for that, the active one, or at least where it
-    /// begins; and in any case what has the keyboard.
+    /// Scrolls until all panels can be seen; if there is no room for that, the active one, or at least its beginning;
+    /// and in any case what has the keyboard.
     void bringPanelsIntoSight();
     /// Whether no part of a panel is out of sight.
     [[nodiscard]] bool showsAll() const;
@@ -28,14 +28,14 @@ protected:
 
 private:
     void followResize();
-    /// Where the widget is while nothing is scrolled.
+    /// Where the widget would be if nothing were scrolled.
     [[nodiscard]] QRect placeOf(const QWidget& widget) const;
     /// Its place with a little room around it.
     [[nodiscard]] QRect surroundingsOf(const QWidget& widget) const;
-    /// Scrolls until the places can be seen where so much is seen; of those that have no room together, the later ones.
+    /// Scrolls until the places can be seen in a view of this size; of those that do not fit together, the later ones.
     void reveal(const QList<QRect>& places, const QSize& seen);
 
-    bool resized_ = false; ///< and what is in use may be out of sight since
+    bool resized_ = false; ///< so what is in use may now be out of sight
     Background background_;
     bool onScreen_ = false;
 };

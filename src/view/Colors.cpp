@@ -8,7 +8,7 @@
 namespace ondelis {
 namespace {
 
-/// Relative luminance after WCAG 2.1, from 0 to 1.
+/// Relative luminance according to WCAG 2.1, from 0 to 1.
 double luminance(const QColor& color)
 {
     const auto linear
@@ -63,7 +63,7 @@ QColor readable(const QColor& color, const QColor& background, double enough)
 QColor turned(const QColor& color, const QColor& ground)
 {
     constexpr int brightest = 255;
-    const int luma = (54 * color.red() + 183 * color.green() + 19 * color.blue()) / 256; // after ITU-R BT.709
+    const int luma = (54 * color.red() + 183 * color.green() + 19 * color.blue()) / 256; // by ITU-R BT.709
     const auto turn = [&](int channel, int dark) {
         const int light = std::clamp(channel + brightest - 2 * luma, 0, brightest);
         return light + dark * (brightest - light) / brightest;

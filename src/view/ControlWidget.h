@@ -19,14 +19,13 @@ namespace ondelis {
     return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
 }
 
-/// A caption for a widget that would take "&" for the mark of a shortcut.
+/// A caption for a widget that would take "&" as the mark of a shortcut.
 [[nodiscard]] inline QString withoutShortcut(std::string_view caption)
 {
     return toQString(caption).replace(QLatin1Char{'&'}, QLatin1String{"&&"});
 }
 
-/// What shows a control in a sub-window: it follows the control's properties, and tells the desk what the user does
-/// with it.
+/// Shows a control in a sub-window: follows the control's properties, and tells the desk what the user does with it.
 class ControlWidget {
 public:
     explicit ControlWidget(PanelWindow& window) : window_{window} { }
@@ -37,12 +36,12 @@ public:
     [[nodiscard]] virtual QWidget& widget() = 0;
     /// Shows the properties that the control has now. Called only while the panel is loaded.
     virtual void follow() = 0;
-    /// The system's colours are other ones now.
+    /// The system's colours have changed.
     void forgetColors() { colors_.forget(); }
 
 protected:
     [[nodiscard]] PanelWindow& panelWindow() const { return window_; }
-    /// The panel is closed, or closed and opened anew in another window: reading a property would load it again.
+    /// The panel is closed, or closed and reopened in another window: reading a property would load it again.
     [[nodiscard]] bool gone() const { return window_.gone(); }
 
     [[nodiscard]] Colors& colors() { return colors_; }
@@ -67,7 +66,7 @@ protected:
 
     [[nodiscard]] Shown& control() const { return control_; }
 
-    /// Tells the desk what the user does with the control; shows it anew even where that was refused.
+    /// Tells the desk what the user does with the control; shows it again even if that was refused.
     template <class Action>
     void tell(Action&& action)
     {

@@ -13,8 +13,8 @@ void copyOn(QAction& action, const QString& text)
     QObject::connect(&action, &QAction::triggered, &action, [text] { QGuiApplication::clipboard()->setText(text); });
 }
 
-/// Whether an entry of a context menu is that which copies: other kinds of field have another letter of it underlined,
-/// and the key stands behind it.
+/// Whether an entry of a context menu is the one that copies: which letter is underlined depends on the kind of field,
+/// and the key follows the text.
 bool copies(const QAction* entry)
 {
     const auto plain

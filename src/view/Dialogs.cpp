@@ -20,7 +20,7 @@ void run(QMessageBox& dialog)
     auto& buttons = *dialog.findChild<QDialogButtonBox*>();
     const int across = dialog.style()->pixelMetric(QStyle::PM_FocusFrameHMargin);
     const int down = dialog.style()->pixelMetric(QStyle::PM_FocusFrameVMargin);
-    buttons.setContentsMargins(across, down, across, down); // room for the mark, which is a part of its surroundings
+    buttons.setContentsMargins(across, down, across, down); // room for the mark, which lies around the button
     FocusFrame mark{&buttons};
     QObject::connect(qApp, &QApplication::focusChanged, &mark,
         [&](QWidget* /*before*/, QWidget* now) { mark.setWidget(buttons.isAncestorOf(now) ? now : nullptr); });

@@ -33,7 +33,7 @@ void Drawing::paint(QWidget& widget, const QRect& into)
 
 QByteArray Drawing::darkened(const QByteArray& svg, const QColor& ground)
 {
-    constexpr int length = 7; // of a colour as it is written, "#1f2d3d"
+    constexpr int length = 7; // of a colour as written, "#1f2d3d"
     QByteArray dark = svg;
     for (qsizetype at = dark.indexOf("\"#"); at >= 0; at = dark.indexOf("\"#", at + length)) {
         const QColor light{QString::fromLatin1(dark.mid(at + 1, length))};
@@ -53,7 +53,7 @@ QPixmap Drawing::render(const QSize& pixels) const
     QPixmap pixmap{pixels};
     pixmap.fill(Qt::transparent);
     QPainter painter{&pixmap};
-    painter.setFont(QFont{family_}); // the drawings name no face of their own
+    painter.setFont(QFont{family_}); // the drawings name no font
     renderer.render(&painter);
     return pixmap;
 }

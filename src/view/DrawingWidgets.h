@@ -10,14 +10,14 @@
 namespace ondelis {
 
 /// A vector drawing of resources/dessins, read and rendered when it is first painted, and again when its size, its font
-/// or the system's colours change. Its lettering is of the widget's font. The drawings are made for light windows; on
-/// dark ones light and dark change places, hues stay, and white is the ground of the window.
+/// or the system's colours change. It is lettered in the widget's font. The drawings are made for light windows; on
+/// dark ones light and dark are swapped, hues stay, and white becomes the window's background.
 class Drawing {
 public:
     explicit Drawing(std::string_view name);
 
-    /// A drawing for dark windows, from its source for light ones. Colours that it writes as rgb(...) are those of
-    /// things that look the same on them, and stay.
+    /// A drawing for dark windows, from its source for light ones. Colours that it writes as rgb(...) belong to things
+    /// that look the same on both, and stay.
     [[nodiscard]] static QByteArray darkened(const QByteArray& svg, const QColor& ground);
 
     /// Paints the drawing as large as it fits, in the middle of a part of the widget.
@@ -29,10 +29,10 @@ private:
     QString file_;
     QPixmap rendered_;
     QString family_; ///< of the lettering
-    QColor darkGround_; ///< none on light windows
+    QColor darkGround_; ///< invalid on light windows
 };
 
-/// A titled group of controls, or a titled drawing. Captions and drawings of the panel that lie under it are not seen.
+/// A titled group of controls, or a titled drawing. It hides captions and drawings of the panel that lie under it.
 class FrameWidget final : public WidgetOf<QGroupBox, Frame> {
 public:
     FrameWidget(PanelWindow& window, Frame& frame, QWidget* parent);

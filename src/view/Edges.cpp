@@ -6,7 +6,7 @@
 namespace ondelis {
 namespace {
 
-/// Fills rectangles that are given in pixels of the device.
+/// Fills rectangles given in device pixels.
 class DeviceFiller {
 public:
     explicit DeviceFiller(QPainter& painter) : painter_{painter}, toDevice_{painter.deviceTransform()} { }
@@ -20,7 +20,7 @@ public:
         return {corner, QSize{end.x() - corner.x(), end.y() - corner.y()}};
     }
 
-    /// How many whole pixels lie in a length; at least one. What lies that far inside a rectangle leaves its edge free
+    /// How many whole pixels fit in a length; at least one. What lies that far inside a rectangle leaves its edge free
     /// however both are rounded.
     [[nodiscard]] int pixels(double length) const { return std::max(1, static_cast<int>(length * toDevice_.m11())); }
 

@@ -22,7 +22,7 @@ std::string toText(const QString& text)
     return text.toStdString();
 }
 
-/// The character that a key enters, or 0. Backspace is one of them.
+/// The character that a key enters, or 0. Backspace counts as one.
 char32_t enteredBy(const QKeyEvent& event)
 {
     const Qt::KeyboardModifiers commands
@@ -63,7 +63,7 @@ void TextBoxWidget::followText()
         if (maxLength() != unlimited) // a new limit is announced to screen readers as a new text
             setMaxLength(unlimited);
         setText(stored);
-        // A text shows its start, but the caret of the field that is being typed in stays where typing goes on.
+        // A text shows its start, but in the field being typed in the caret stays where typing continues.
         if (panelWindow().panel().desk().focused() != &control())
             setCursorPosition(0);
     }
@@ -86,7 +86,7 @@ void TextBoxWidget::tellText()
     const QString told = text();
     const QString after = told.mid(cursorPosition());
     tell([&](User& user) { user.edit(control(), toText(told.left(cursorPosition())), toText(after)); });
-    // What was put in may have been cut: typing goes on behind it.
+    // What was put in may have been cut: typing continues after it.
     if (!gone() && text() != told && text().endsWith(after))
         setCursorPosition(static_cast<int>(text().size() - after.size()));
 }
@@ -140,7 +140,7 @@ void TextAreaWidget::follow()
             moveCursor(QTextCursor::End);
     }
     setReadOnly(control().Locked);
-    // Locked, it can still be walked through, selected and copied from by key.
+    // Even locked, its text can be moved through, selected and copied by key.
     setTextInteractionFlags(textInteractionFlags() | Qt::TextSelectableByKeyboard | Qt::TextSelectableByMouse);
     colors().applyToField(*this, control().BackColor, control().ForeColor);
     setVisible(control().Visible);

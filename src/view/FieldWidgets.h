@@ -25,7 +25,7 @@ private:
     /// Typing and pasting stop at the field's limit; a longer text that code has stored stays whole.
     void limitLength();
     void tellText();
-    /// Shows the panel a key before it lands. False where it must not land any more: the handler rewrote the text on a
+    /// Shows the panel a key before it lands. False if it must no longer land: the handler rewrote the text on a
     /// backspace, or the panel is gone.
     bool tellKey(char32_t character);
 };

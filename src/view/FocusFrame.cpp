@@ -13,7 +13,7 @@ FocusFrame::FocusFrame(QWidget* surroundings) : QFocusFrame{surroundings}
 
 void FocusFrame::paintEvent(QPaintEvent* /*event*/)
 {
-    QPainter painter{this}; // the style cuts out the middle, where the widget is
+    QPainter painter{this}; // the style leaves out the middle, where the widget is
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);
     painter.setBrush(readable(palette().color(QPalette::Highlight), palette().color(QPalette::Window), lineContrast));

@@ -18,7 +18,7 @@ QString pathOf(const QString& page)
         + page + QStringLiteral(".html"));
 }
 
-/// The version of the program that a page was made for; empty where it names none.
+/// The version of the program that a page was made for; empty if it names none.
 QString versionOf(QFile& page)
 {
     constexpr qint64 head = 1000;
@@ -26,13 +26,13 @@ QString versionOf(QFile& page)
     return version.match(QString::fromUtf8(page.read(head))).captured(1);
 }
 
-/// Shows a file with the desktop's browser, and calls `failed` where the desktop has none. The toolkit's own way would
-/// not tell: it asks nobody how the desktop's command ended.
+/// Shows a file in the desktop's browser, and calls `failed` if the desktop has none. The toolkit's own function would
+/// not report that: it does not check how the desktop's command ended.
 void browse(QObject& owner, const QString& file, const std::function<void()>& failed)
 {
     constexpr qint64 soon
-        = 15'000; // ms; on some desktops the command lasts as long as the browser, and ends as that does
-    auto* const opener = new QProcess; // nobody's: a browser outlives the program
+        = 15'000; // ms; on some desktops the command lasts as long as the browser, and returns its status
+    auto* const opener = new QProcess; // without a parent: a browser outlives the program
     QElapsedTimer since;
     since.start();
     QObject::connect(opener, &QProcess::finished, &owner, [failed, since](int status) {

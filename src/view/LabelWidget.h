@@ -7,8 +7,8 @@
 
 namespace ondelis {
 
-/// A caption: plain text, over several lines where its box has room for them. One that code has written, a result, can
-/// be copied by its context menu.
+/// A caption: plain text, on several lines where its box has room for them. One that code has written, a result, can be
+/// copied from its context menu.
 class LabelWidget final : public WidgetOf<QLabel, Label> {
 public:
     LabelWidget(PanelWindow& window, Label& label, QWidget* parent);

@@ -8,8 +8,8 @@ namespace ondelis {
 
 bool LineField::event(QEvent* event)
 {
-    // The base class unselects a field that is without the keyboard soon after its window has become active. The one
-    // that has it may only lack it for a moment: drop-downs that have been left still take it, one after the other.
+    // The base class deselects a field that lacks the keyboard soon after its window has become active. But it may lack
+    // it only for a moment: drop-downs that have been left still take it, one after the other.
     if (event->type() == QEvent::WindowActivate && window()->focusWidget() == this)
         return QWidget::event(event); // NOLINT(bugprone-parent-virtual-call)
     return QLineEdit::event(event);
@@ -24,7 +24,7 @@ void LineField::focusInEvent(QFocusEvent* event)
 void LineField::mousePressEvent(QMouseEvent* event)
 {
     QLineEdit::mousePressEvent(event);
-    if (clickedInto_ && event->button() == Qt::RightButton) { // its menu, which comes at once, is about the whole text
+    if (clickedInto_ && event->button() == Qt::RightButton) { // its menu, which opens at once, acts on the whole text
         clickedInto_ = false;
         selectAll();
     }

@@ -17,7 +17,7 @@ protected:
     void mouseReleaseEvent(QMouseEvent* event) override;
 
 private:
-    bool clickedInto_ = false; ///< the button that gave it the keyboard is not let go yet
+    bool clickedInto_ = false; ///< the button that gave it the keyboard is still down
 };
 
 } // namespace ondelis

@@ -9,12 +9,12 @@
 namespace ondelis {
 namespace {
 
-/// The part of a line that runs through an area, if any does. A result can be too long a line for the painter.
+/// The part of a line that runs through an area, if any. A result can give a line too long for the painter.
 std::optional<QLineF> partInside(const QLineF& line, const QRectF& area)
 {
     double from = 0;
     double to = 1;
-    // Along one axis the line is between the edges from the crossing of one of them to that of the other one.
+    // Along one axis the line is between the edges from where it crosses one to where it crosses the other.
     const auto keepBetween = [&](double low, double high, double start, double length) {
         if (length == 0)
             return low <= start && start <= high;

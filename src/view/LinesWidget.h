@@ -10,7 +10,7 @@
 
 namespace ondelis {
 
-/// The lines and shapes of a panel or of a frame, painted over its drawings. The mouse goes through it.
+/// The lines and shapes of a panel or of a frame, painted over its drawings. The mouse passes through it.
 class LinesWidget final : public QWidget, public ControlWidget {
 public:
     LinesWidget(PanelWindow& window, QWidget* parent);
@@ -37,7 +37,7 @@ private:
     };
 
     void draw(const Line& line, const Scale& scale);
-    /// Makes the widget as large as what it paints: it stands from the upper left corner of the panel on.
+    /// Makes the widget as large as what it paints, from the upper left corner of the panel on.
     void cover();
 
     std::vector<const Line*> lines_;

@@ -67,7 +67,7 @@ void ListBoxWidget::mousePressEvent(QMouseEvent* event)
     if (gone())
         return;
     QListWidget::mousePressEvent(event);
-    // A click on the row that is chosen already is told too: some lists listen to it.
+    // A click on the row already chosen is reported too: some lists listen to it.
     chosen_ = chosen_ || itemAt(event->pos()) != nullptr;
 }
 
@@ -81,7 +81,7 @@ void ListBoxWidget::focusInEvent(QFocusEvent* event)
 
 void ListBoxWidget::currentChanged(const QModelIndex& current, const QModelIndex& previous)
 {
-    // The class between would tell screen readers that the keyboard is here now.
+    // The class in between would tell screen readers that the keyboard is here now.
     if (hasFocus())
         QListWidget::currentChanged(current, previous);
     else

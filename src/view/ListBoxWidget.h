@@ -7,7 +7,7 @@
 
 namespace ondelis {
 
-/// A list of texts. Of the mouse only the left button chooses, and only it gives the list the keyboard.
+/// A list of texts. Only the left mouse button chooses a row and gives the list the keyboard.
 class ListBoxWidget final : public WidgetOf<QListWidget, ListBox> {
 public:
     ListBoxWidget(PanelWindow& window, ListBox& list, QWidget* parent);

@@ -39,7 +39,7 @@ MainWindow::MainWindow(View& view, MDIOndelis& frame) : view_{view}, frame_{fram
 {
     setObjectName(QStringLiteral("MDIOndelis"));
     setCentralWidget(area_);
-    // The size is the frame's and the user's business: margins, which move with the window, must not make it larger.
+    // The size is up to the frame and the user: margins, which move with the window, must not make it larger.
     layout()->setSizeConstraint(QLayout::SetNoConstraint);
     makeMenu();
     makeShortcuts();
@@ -57,7 +57,7 @@ bool MainWindow::eventFilter(QObject* watched, QEvent* event)
     const bool key = event->type() == QEvent::KeyPress || event->type() == QEvent::KeyRelease;
     if (dropDown != nullptr && event->type() == QEvent::Close) {
         dropDown->hide();
-        event->ignore(); // a window that is closed is destroyed, and with it the keys that the system still sends it
+        event->ignore(); // a closed window is destroyed, and the keys that the system still sends it are lost
         return true;
     }
     if (dropDown != nullptr && key && dropDown->isHidden() && QApplication::activePopupWidget() == nullptr) {
@@ -148,8 +148,8 @@ void MainWindow::tellPlace()
 {
     if (!isVisible() || isMinimized())
         return;
-    // A window manager puts its border around a window that is on screen already: the outer size must stay, unless the
-    // manager has chosen one too, as some do for a window that is larger than the screen.
+    // A window manager puts its border around a window that is already on screen: the outer size must stay, unless the
+    // manager has also chosen one, as some do for a window larger than the screen.
     if (!bordered_ && !border().isNull()) {
         bordered_ = true;
         if (!isMaximized()) {

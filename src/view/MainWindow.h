@@ -19,7 +19,7 @@ public:
     void follow();
 
 protected:
-    /// Hands on the keys that reach a drop-down which has been left already: to fast typing the system is slow.
+    /// Passes on keys that reach a drop-down after it has been left: fast typing outruns the system.
     bool eventFilter(QObject* watched, QEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
     void paintEvent(QPaintEvent* event) override;

@@ -34,7 +34,7 @@ PanelWindow::PanelWindow(View& view, FeuilleCalcul& panel)
 
 PanelWindow::~PanelWindow()
 {
-    leave(); // widgets that lose the keyboard while they go tell it to nobody
+    leave(); // widgets that lose the keyboard while they are destroyed must not report it
     disconnect(qApp, nullptr, this, nullptr);
 }
 
@@ -88,8 +88,8 @@ void PanelWindow::activate()
     if (first == nullptr)
         return;
     first->setFocus(Qt::TabFocusReason);
-    // It may have had the keyboard already, or get it only when the main window does, which the drop-down that has been
-    // left may still hold up: then its text is not selected as by the Tab key.
+    // It may have had the keyboard already, or get it only when the main window does, which a drop-down that has been
+    // left may still delay: then its text is not selected as by the Tab key.
     if (auto* const field = qobject_cast<QLineEdit*>(first))
         field->selectAll();
 }
@@ -167,8 +167,8 @@ void PanelWindow::markFocus()
 {
     if (gone_)
         return;
-    // Not what the signal says: the window hands the keyboard on to a control inside the signal of its own turn, so
-    // that the last signal to come tells of the window.
+    // Not what the signal says: the window passes the keyboard on to a control inside its own signal, so that the last
+    // signal to arrive is about the window.
     QWidget* const focused = QApplication::focusWidget();
     const bool mine = controlOf(focused) != nullptr;
     focusFrame_->setWidget(mine ? focused : nullptr);

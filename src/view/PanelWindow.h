@@ -20,16 +20,16 @@ public:
     PanelWindow(View& view, FeuilleCalcul& panel);
     ~PanelWindow() override;
 
-    /// The panel is closed. From here on nothing of it is read.
+    /// The panel is closed. From now on nothing of it is read.
     void leave() { gone_ = true; }
     [[nodiscard]] bool gone() const { return gone_; }
 
     [[nodiscard]] FeuilleCalcul& panel() const { return panel_; }
     /// The client area of the panel, in which its controls stand.
     [[nodiscard]] QWidget& form() const { return *widget(); }
-    /// The widget of a control; null where it has none.
+    /// The widget of a control; null if it has none.
     [[nodiscard]] ControlWidget* find(const Control& control) const;
-    /// The control that a widget shows; null where it shows none.
+    /// The control that a widget shows; null if it shows none.
     [[nodiscard]] Control* controlOf(const QWidget* widget) const;
 
     /// Shows caption, place and size of the panel.
@@ -46,8 +46,8 @@ public:
     /// Counts the boxes that have been shown so far.
     [[nodiscard]] unsigned boxesShown() const;
 
-    /// Names a widget, for screen readers, after its label, or after the panel where it has none, whatever their
-    /// captions become.
+    /// Names a widget, for screen readers, after its label, or after the panel if it has none, and keeps up with their
+    /// captions.
     void nameAfter(const Label* label, QWidget& widget);
 
 protected:
@@ -60,13 +60,13 @@ private:
     void makeMenu();
     /// Where the keyboard goes first: the first field to type into, else the first control, else nothing.
     [[nodiscard]] QWidget* firstStop() const;
-    /// Lets the Tab key follow the eye where code has moved fields: they take their turns from top to bottom.
+    /// Makes the Tab key follow the eye where code has moved fields: it goes from top to bottom.
     void orderTabs();
     /// Shows which widget has the keyboard, if it is one of this panel.
     void markFocus();
     /// Gives a new name to the widgets that are named after the label, or after the panel.
     void rename(const Label* label, const std::string& name);
-    /// Writes the title in the system's font, smaller where a large one does not fit.
+    /// Writes the title in the system's font, smaller if it does not fit.
     void fitTitle();
     /// The upper left corner in the client area of the main window, which may be scrolled.
     [[nodiscard]] QPoint corner() const;

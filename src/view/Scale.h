@@ -8,8 +8,8 @@
 
 namespace ondelis {
 
-/// Twips and the pixels of a screen. It is the logical resolution that counts, as for fonts, so that text and
-/// geometry grow together.
+/// Converts between twips and the pixels of a screen. The logical resolution counts, as for fonts, so that text and
+/// geometry scale together.
 class Scale {
 public:
     explicit Scale(int dotsPerInch) : dpi_{dotsPerInch} { }
@@ -20,7 +20,7 @@ public:
     [[nodiscard]] int pixels(double twips) const { return qRound(exact(twips)); }
     [[nodiscard]] double twips(int pixels) const { return double{twipsPerInch} * pixels / dpi_; }
 
-    /// The pixels of a box, edge by edge: boxes that touch in twips touch on screen.
+    /// A box in pixels, edge by edge: boxes that touch in twips touch on screen.
     [[nodiscard]] QRect pixels(const Box& box) const
     {
         const QPoint corner{pixels(box.Left), pixels(box.Top)};

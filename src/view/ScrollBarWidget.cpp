@@ -83,18 +83,18 @@ void ScrollBarWidget::mousePressEvent(QMouseEvent* event)
 
 void ScrollBarWidget::wheelEvent(QWheelEvent* event)
 {
-    // Without the keyboard it is a thing that the wheel passes over on its way through the client area.
+    // Without the keyboard it ignores the wheel, which scrolls the client area.
     if (!hasFocus()) {
         event->ignore();
         return;
     }
     QScrollBar::wheelEvent(event);
-    event->accept(); // at its limit too: the area must not set off under the hand
+    event->accept(); // even at its limit: the area must not start scrolling instead
 }
 
 void ScrollBarWidget::keyPressEvent(QKeyEvent* event)
 {
-    // The base class turns some of the keys round.
+    // The base class reverses some of the keys.
     switch (event->key()) {
     case Qt::Key_Left:
     case Qt::Key_Up:

@@ -7,7 +7,7 @@
 
 namespace ondelis {
 
-/// A bar. `Min` stands at its left or upper end, be it the smaller limit or the larger: the widget counts positions
+/// A bar. `Min` is at its left or upper end, whether it is the smaller or the larger limit: the widget counts positions
 /// from that end. Only the left button, which gives it the keyboard, the keys and, while it has the keyboard, the wheel
 /// change it.
 class ScrollBarWidget final : public WidgetOf<QScrollBar, ScrollBar> {
@@ -16,7 +16,7 @@ public:
 
     void follow() override;
 
-    /// The limits and the value of the control, as a screen reader is told them.
+    /// The limits and the value of the control, as reported to screen readers.
     [[nodiscard]] int limitAtStart() const { return min_; }
     [[nodiscard]] int limitAtEnd() const { return max_; }
     [[nodiscard]] int shownValue() const { return valueAt(value()); }
@@ -31,7 +31,7 @@ private:
     [[nodiscard]] int positionOf(int value) const { return min_ <= max_ ? value - min_ : min_ - value; }
     [[nodiscard]] int valueAt(int position) const { return min_ <= max_ ? min_ + position : min_ - position; }
     void tellValue();
-    /// Lets the mouse button go: it was released over a box.
+    /// Releases the mouse button: it was let go over a box.
     void letGo();
 
     int min_ = 0;

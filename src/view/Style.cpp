@@ -10,14 +10,15 @@
 namespace ondelis {
 namespace {
 
-/// How much lighter Fusion's menus are than fields, in per cent.
+/// How much lighter Fusion's menus are than fields, in percent.
 constexpr int menuLightness = 108;
 /// The row with the keyboard is a little lighter than the highlight.
 constexpr double rowContrast = 4.7;
-/// How much darker than the window Fusion draws edges, and than the highlight that of the field with the keyboard.
+/// How much darker than the window Fusion draws edges, and how much darker than the highlight that of the field with
+/// the keyboard.
 constexpr int edgeDarkness = 140;
 constexpr int focusDarkness = 125;
-/// A title bar's ground is a third more luminous than its colour where it is lightest.
+/// A title bar's background is, at its lightest, a third more luminous than its colour.
 constexpr double titleContrast = 6;
 
 void mend(QPalette& palette, QPalette::ColorGroup group)
@@ -31,7 +32,7 @@ void mend(QPalette& palette, QPalette::ColorGroup group)
     mendRole(QPalette::Text, color(QPalette::Base));
     mendRole(QPalette::Text, color(QPalette::Base).lighter(menuLightness));
     mendRole(QPalette::ToolTipText, color(QPalette::ToolTipBase));
-    // Not its text, which is black or white most often: selected rows are to keep their hue.
+    // Not its text, which is mostly black or white: selected rows should keep their hue.
     palette.setColor(group, QPalette::Highlight,
         readable(color(QPalette::Highlight), color(QPalette::HighlightedText), rowContrast));
 }
@@ -49,7 +50,7 @@ QColor focusColor(const QPalette& palette)
         palette.color(QPalette::Highlight).darker(focusDarkness), palette.color(QPalette::Window), lineContrast);
 }
 
-/// The option of a round edge, with colours from which Fusion makes one that is seen.
+/// The option of a round edge, with colours from which Fusion makes a visible one.
 QStyleOptionButton seen(const QStyleOptionButton& option)
 {
     QStyleOptionButton mended{option};
@@ -58,7 +59,7 @@ QStyleOptionButton seen(const QStyleOptionButton& option)
     return mended;
 }
 
-/// The edge of a field or a list, which tells whether it has the keyboard.
+/// The edge of a field or a list, which shows whether it has the keyboard.
 void drawFieldEdge(QPainter& painter, const QStyleOption& option)
 {
     const bool keyboard = (option.state & QStyle::State_HasFocus) != 0;
@@ -77,7 +78,7 @@ void fillRim(QPainter& painter, const QRectF& bar, const QBrush& ground)
     painter.fillRect(side.translated(bar.width() - across, 0), ground);
 }
 
-/// The ground of a title bar, as Fusion shades it.
+/// The background of a title bar, as Fusion shades it.
 QBrush titleGround(const QRectF& bar, const QColor& color)
 {
     QLinearGradient shades{bar.topLeft(), bar.bottomLeft()};
@@ -85,7 +86,7 @@ QBrush titleGround(const QRectF& bar, const QColor& color)
     return shades;
 }
 
-/// Whether a bar belongs to a list or a text, whose own edge stands around it.
+/// Whether a bar belongs to a list or a text, whose own edge surrounds it.
 bool isInner(const QWidget* bar)
 {
     const QWidget* const holder = bar == nullptr ? nullptr : bar->parentWidget();
@@ -145,7 +146,7 @@ void Style::drawComplexControl(
 {
     if (control == CC_ScrollBar) {
         QProxyStyle::drawComplexControl(control, option, painter, widget);
-        // Of an inner bar three sides fall on the edge around it, and are clipped.
+        // Three sides of an inner bar fall on the edge around it, and are clipped.
         const bool across = (option->state & State_Horizontal) != 0;
         const QMargins beyond = isInner(widget) ? QMargins{across ? 2 : 0, across ? 0 : 2, 2, 2} : QMargins{};
         // On a dark window Fusion's slider is as dark as the groove, which is nearer to the edge's colour than the
@@ -167,8 +168,8 @@ void Style::drawComplexControl(
             fillRim(*painter, option->rect, titleGround(option->rect, option->palette.color(QPalette::Window)));
         return;
     }
-    // Fusion writes an active title in white, on a shadow of the text's colour. Of an inactive one it crosses the
-    // close box in black: on a dark window that one is an active title too, on the window's colour.
+    // Fusion writes an active title in white, on a shadow of the text's colour. In an inactive one it draws the cross
+    // of the close box in black: on a dark window that title is drawn as an active one too, on the window's colour.
     QStyleOptionTitleBar mended{*title};
     const QColor ground = title->palette.color(active ? QPalette::Highlight : QPalette::Window);
     mended.titleBarState |= State_Active;

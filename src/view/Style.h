@@ -4,8 +4,8 @@
 
 namespace ondelis {
 
-/// The widgets' look: Fusion, with what the system's colours leave illegible mended, and edges of our own that stand at
-/// any scale of the screen. Only what needs it changes, and only as far as it needs.
+/// The widgets' look: Fusion, made legible where the system's colours leave it illegible, and with our own edges, which
+/// stay whole at any screen scale. It changes only what it must, and only as far as it must.
 class Style final : public QProxyStyle {
 public:
     Style() : QProxyStyle{QStringLiteral("fusion")} { }
@@ -14,18 +14,18 @@ public:
     void polish(QPalette& palette) override;
     using QProxyStyle::polish;
 
-    /// Leaves the headings of the menu no more than their own margins, so that all of them fit with a large font.
+    /// Gives the headings of the menu only their own margins, so that all of them fit with a large font.
     int pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const override;
 
-    /// Cuts no corners off the windows of panels: their edges meet there.
+    /// Leaves the corners of panel windows square: their edges meet there.
     int styleHint(
         StyleHint hint, const QStyleOption* option, const QWidget* widget, QStyleHintReturn* returned) const override;
 
-    /// Sets the title of a frame off from the edge at its left.
+    /// Sets the title of a frame off from the edge on its left.
     QRect subControlRect(ComplexControl control, const QStyleOptionComplex* option, SubControl part,
         const QWidget* widget) const override;
 
-    /// Marks the heading of the menu that the keyboard is on, even while its menu is not open.
+    /// Marks the menu heading that the keyboard is on, even while its menu is not open.
     void drawControl(
         ControlElement element, const QStyleOption* option, QPainter* painter, const QWidget* widget) const override;
     void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option, QPainter* painter,

@@ -19,7 +19,7 @@
 namespace ondelis {
 namespace {
 
-/// Counts one up for the length of a scope.
+/// Counts up by one for the duration of a scope.
 class Counted {
 public:
     explicit Counted(unsigned& counter) : counter_{++counter} { }
@@ -129,7 +129,7 @@ void View::runPendingEvents()
 
 Extent View::screen() const
 {
-    // Where there was a screen at the start, the toolkit keeps one, or something in its place, to the end.
+    // If there was a screen at the start, the toolkit keeps one, or a substitute for it, to the end.
     const QScreen& screen = *QGuiApplication::primaryScreen();
     const Scale scale{qRound(screen.logicalDotsPerInchY())};
     return {scale.twips(screen.size().width()), scale.twips(screen.size().height())};
@@ -153,7 +153,7 @@ void View::panelChanged(FeuilleCalcul& panel)
 void View::panelRaised(FeuilleCalcul& panel)
 {
     note(notedPanels_, panel);
-    if (raised_ == nullptr) // the first one is what the person asked for, the others are its company
+    if (raised_ == nullptr) // the first one is what the person asked for, the others accompany it
         raised_ = &panel;
 }
 
@@ -214,7 +214,7 @@ void View::showWindows()
     for (FeuilleCalcul* panel : std::exchange(notedPanels_, {}))
         if (panel->loaded())
             showWindow(*panel);
-    // The area activates what comes on screen, also a panel that has only been written to.
+    // The area activates whatever appears, even a panel that has only been written to.
     if (raised_ == nullptr && active != nullptr && !active->isHidden())
         area.setActiveSubWindow(active);
 }
@@ -241,7 +241,7 @@ void View::showControls()
     for (Control* control : std::exchange(notedControls_, {}))
         if (PanelWindow* const window = find(control->panel()))
             window->follow(*control);
-    // A panel that comes on screen has the keyboard in its first control, or where its code has put it.
+    // A panel that appears has the keyboard in its first control, or where its code has put it.
     if (raised != nullptr)
         if (PanelWindow* const window = find(*raised))
             window->activate();

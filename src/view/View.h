@@ -16,30 +16,31 @@ class MainWindow;
 class MDIOndelis;
 class PanelWindow;
 
-/// The world around the desk, by Qt. While handlers run nothing of Qt is touched: what they change is noted, and shown
-/// once the action of the user is over, or before a handler waits.
+/// The world around the desk, implemented with Qt. While handlers run nothing of Qt is touched: what they change is
+/// noted, and shown once the user's action is over, or before a handler waits.
 class View final : public Surroundings {
 public:
     View();
     ~View() override;
 
-    /// Opens the main window and starts the program. The frame and its desk live until the view is told the end.
+    /// Opens the main window and starts the program. The frame and its desk must live until the view is told of the
+    /// end.
     void open(MDIOndelis& frame);
-    /// Runs the program to its end; gives its exit status.
+    /// Runs the program to its end; returns its exit status.
     int run();
 
     [[nodiscard]] MainWindow& mainWindow() const { return *mainWindow_; }
-    /// The window of a panel; null where the panel is not on screen.
+    /// The window of a panel; null if the panel is not on screen.
     [[nodiscard]] PanelWindow* find(const FeuilleCalcul& panel) const;
 
     /// Runs one action of the user and shows what it changed. While a box waits for its answer only `close` gets
-    /// through; what widgets report while they are being changed is nobody's action.
+    /// through; what widgets report while they are being changed is not a user action.
     void perform(const std::function<void(User&)>& action);
     /// The user closes the main window.
     void close();
     /// Opens the page of the guide on the active panel; nothing while a handler or a box waits.
     void showGuide();
-    /// Counts the boxes that were shown: a widget that is held down is let go by them.
+    /// Counts the boxes that were shown: each one releases a widget that is held down.
     [[nodiscard]] unsigned boxesShown() const { return boxesShown_; }
 
     Answer showBox(const MessageBox& box) override;
@@ -64,7 +65,7 @@ private:
     void showWindows();
     void showWindow(FeuilleCalcul& panel);
     void showControls();
-    /// Tells the desk which control has got the keyboard by all this: one that was shown, or the one after a hidden
+    /// Tells the desk which control has got the keyboard as a result: one that was shown, or the one after a hidden
     /// one.
     void tellFocus();
     void deleteClosedWindows();
@@ -81,7 +82,7 @@ private:
     Control* focused_ = nullptr;
 
     bool opened_ = false; ///< a panel has come on screen and may be out of sight there
-    std::vector<PanelWindow*> closedWindows_; ///< kept until no handler runs that one of their widgets has started
+    std::vector<PanelWindow*> closedWindows_; ///< kept until no handler started by one of their widgets is running
     unsigned actions_ = 0; ///< that run now, one inside the other
     bool showing_ = false;
     unsigned waitingBoxes_ = 0;

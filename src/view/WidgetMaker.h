@@ -12,7 +12,7 @@ class ControlWidget;
 class LinesWidget;
 class PanelWindow;
 
-/// Makes the widget of each control of a panel. Made in the order of the form, they have its tab order.
+/// Makes the widget of each control of a panel, in the order of the form, which gives them its tab order.
 class WidgetMaker final : private ControlVisitor {
 public:
     explicit WidgetMaker(PanelWindow& window) : window_{window} { }
@@ -37,7 +37,7 @@ private:
     /// The frame around the control, or the panel.
     [[nodiscard]] QWidget* parentOf(const Control& control) const;
     void take(ControlWidget& made, const Control& control);
-    /// What paints the lines and shapes on the panel, or in the frame.
+    /// The widget that paints the lines and shapes on the panel, or in the frame.
     LinesWidget& linesOn(const Control& control);
 
     PanelWindow& window_;

@@ -24,6 +24,6 @@ class DesktopCase(unittest.TestCase):
         self.person = Person(self.desktop, self.program)
 
     def ends(self, status: int) -> None:
-        """The program ends by itself, with that status and without a word."""
+        """The program ends by itself, with that status and without any output."""
         self.assertEqual(self.program.exit_status(), status)
         self.assertEqual(self.program.complaints(), "")

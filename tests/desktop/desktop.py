@@ -16,14 +16,14 @@ from gi.repository import GLib
 
 T = TypeVar("T")
 
-PATIENCE = 20.0  # seconds; what takes longer does not come any more
+PATIENCE = 20.0  # seconds; what takes longer will not come
 
 
 def until(look: Callable[[], T], what: str | Callable[[], str]) -> T:
-    """Looks again and again until there is something to see, and gives it."""
+    """Looks again and again until there is something to see, and returns it."""
     deadline = time.monotonic() + PATIENCE
     while time.monotonic() < deadline:
-        with contextlib.suppress(GLib.Error):  # what goes while a screen reader looks at it is not there
+        with contextlib.suppress(GLib.Error):  # what disappears while a screen reader looks at it is not there
             if seen := look():
                 return seen
         time.sleep(0.005)
@@ -31,13 +31,13 @@ def until(look: Callable[[], T], what: str | Callable[[], str]) -> T:
 
 
 def start(words: list[str], inherited: tuple[int, ...] = (), **environment: str) -> subprocess.Popen[bytes]:
-    """Starts a program in silence. It gets the file descriptors that are named."""
+    """Starts a program with its output discarded. It gets the file descriptors that are named."""
     return subprocess.Popen(words, env={**os.environ, **environment}, pass_fds=inherited, stdin=subprocess.DEVNULL,
                             stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
 
 
 def start_server(words: Callable[[int], list[str]]) -> tuple[subprocess.Popen[bytes], str]:
-    """Starts a server that writes its address to a file descriptor once it is ready; gives both."""
+    """Starts a server that writes its address to a file descriptor once it is ready; returns both."""
     reading, writing = os.pipe()
     server = start(words(writing), (writing,))
     os.close(writing)
@@ -79,7 +79,7 @@ class Desktop:
     def plug(self, screen: bool) -> None:
         """Plugs the screen in, or pulls it out."""
         state = ["--mode", "1920x1080"] if screen else ["--off"]
-        # Without any screen the tool then fails to give the desktop a size; the screen is off nevertheless.
+        # Without any screen the tool then fails to give the desktop a size; the screen is off all the same.
         subprocess.run(["xrandr", "--output", "screen", *state], env={**os.environ, "DISPLAY": self.display},
                        capture_output=True, check=screen)
 

@@ -20,14 +20,14 @@ Thing = Atspi.Accessible  # what a screen reader sees: a window, a field, an ent
 
 def listen() -> None:
     """Starts the bus on which programs tell screen readers what they show, for this process and all that it starts."""
-    folder = tempfile.TemporaryDirectory()  # nothing of whoever runs the test counts, nor of another test
+    folder = tempfile.TemporaryDirectory()  # unaffected by the settings of whoever runs the test, and by other tests
     atexit.register(folder.cleanup)
     os.environ.update(HOME=folder.name, XDG_RUNTIME_DIR=folder.name)
     bus, address = start_server(lambda end: ["dbus-daemon", "--session", "--nofork", f"--print-address={end}"])
     atexit.register(stop, bus)
     os.environ.update(DBUS_SESSION_BUS_ADDRESS=address, QT_LINUX_ACCESSIBILITY_ALWAYS_ON="1")
     Atspi.init()
-    Atspi.get_desktop(0).set_cache_mask(Atspi.Cache.NONE)  # each look is a new one
+    Atspi.get_desktop(0).set_cache_mask(Atspi.Cache.NONE)  # look afresh each time
 
 
 listen()
@@ -42,7 +42,7 @@ def has(thing: Thing, state: State) -> bool:
 
 
 def on_screen(thing: Thing) -> bool:
-    # The toolkit says of a panel that reaches beyond the main window that it is not there; its contents are.
+    # The toolkit reports a panel that reaches beyond the main window as absent, but not its contents.
     return has(thing, State.VISIBLE) or (
         thing.get_role() == Role.FRAME and any(has(part, State.VISIBLE) for part in children(thing)))
 
@@ -56,7 +56,7 @@ def below(thing: Thing) -> Iterator[Thing]:
 
 
 class Person:
-    """Opens panels, types, clicks and reads. All waits until it is there; what does not come is an AssertionError."""
+    """Opens panels, types, clicks and reads. Everything is waited for; what does not come is an AssertionError."""
 
     def __init__(self, desktop: Desktop, program: Program) -> None:
         self._desktop = desktop
@@ -107,13 +107,13 @@ class Person:
         self._desktop.hands("key", *keys)
 
     def pick(self, menu: str, entry: str) -> None:
-        """Picks an entry of the menu by the mouse."""
+        """Picks an entry of the menu with the mouse."""
         title = self.find(Role.MENU_ITEM, menu, self._menu)
         self.click(title)
         self.click(self.find(Role.MENU_ITEM, entry, title))
 
     def pick_by_key(self, menu: str, entry: str) -> None:
-        """Picks an entry of the menu by the keyboard."""
+        """Picks an entry of the menu with the keyboard."""
         titles = [str(title.get_name()) for title in children(self._menu)]
         title = children(self._menu)[titles.index(menu)]
         entries = [str(one.get_name()) for drop_down in children(title) for one in children(drop_down)]
@@ -135,7 +135,7 @@ class Person:
         self._desktop.hands("type", "--delay", "1", "--", text)
 
     def answer(self, title: str, button: str) -> str:
-        """Clicks a button of the message box of that title; gives what the box said."""
+        """Clicks a button of the message box with that title; returns what the box said."""
         box = self.box(title)
         said = "".join(str(one.get_name()) for one in below(box) if one.get_role() == Role.LABEL)
         self.click(self.find(Role.PUSH_BUTTON, button, box))

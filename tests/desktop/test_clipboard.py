@@ -1,4 +1,4 @@
-"""A person takes results along and pastes: by the mouse, by keys, and between programs."""
+"""A person copies results and pastes: with the mouse, with keys, and between programs."""
 
 from __future__ import annotations
 
@@ -21,7 +21,7 @@ class Clipboard(DesktopCase):
         program = subprocess.Popen(["xclip", "-selection", selection, *words], stdin=subprocess.PIPE, text=True,
                                    stdout=subprocess.DEVNULL if text is not None else subprocess.PIPE,
                                    stderr=subprocess.DEVNULL, env={**os.environ, "DISPLAY": self.desktop.display})
-        return program.communicate(text)[0] or ""  # a text that it keeps for others is its child's business
+        return program.communicate(text)[0] or ""  # the child process serves the text that it keeps for others
 
     def shows(self, field: str, expected: str) -> None:
         until(lambda: self.person.reads(field) == expected,
@@ -32,7 +32,7 @@ class Clipboard(DesktopCase):
               lambda: f'"{expected}" in the clipboard, which holds "{self.xclip("clipboard", "-o")}"')
 
     def copy_by_menu(self) -> None:
-        """Chooses the first entry of the context menu that is open, "Copier"; screen readers are not shown menus."""
+        """Chooses the first entry of the context menu that is open, "Copier"; screen readers do not see menus."""
         self.person.press("Down", "Return")
 
     def test_pastes(self) -> None:

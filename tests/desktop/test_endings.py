@@ -16,7 +16,7 @@ class Boxes(DesktopCase):
         said = self.person.answer("Filtre en Pi", "Oui")
         self.assertIn("P > Pm ==> Pi conventionnel", said)
         self.assertIn("Voulez vous continuer ?", said)
-        # The names of the parts tell which network it is: No leaves that of the Pi, Yes brings that of the T.
+        # The names of the parts show which network it is: No keeps that of the Pi, Yes brings that of the T.
         self.person.find(Role.TEXT, "C1 pF")
         self.person.choose("Choix du type de filtre", "Filtre en T")
         self.person.answer("Filtre en T", "Non")
@@ -61,7 +61,7 @@ class Endings(DesktopCase):
         self.person.write("Fréquence en ...", "1")
         self.person.write("Résitance en ...", "50")
         self.person.write("Inductance en ...", "1")
-        self.person.write("Capacite en ...", "1000")  # with the third 0 a root is taken of a negative number
+        self.person.write("Capacite en ...", "1000")  # the third 0 makes it take the root of a negative number
         said = self.person.answer("Ondelis", "OK")
         self.assertEqual(said, "Erreur 5 : Argument ou appel incorrect.\n\nLe programme va s'arrêter.")
         self.ends(1)

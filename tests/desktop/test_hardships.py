@@ -1,4 +1,4 @@
-"""What goes wrong around the program: it lives on, or it ends at once and says why."""
+"""What goes wrong around the program: it carries on, or it ends at once and says why."""
 
 from __future__ import annotations
 
@@ -17,7 +17,7 @@ DUSK = "3D4A5D"  # the colour that stands for the picture of the client area
 
 
 class Hardships(DesktopCase):
-    """The program lives on."""
+    """The program carries on."""
 
     def open_section(self) -> None:
         self.person.pick_by_key("Rubiques en vrac", "Section vers diamètre")

@@ -1,4 +1,4 @@
-"""A person walks through the menu by the keyboard, and opens each panel by the mouse."""
+"""A person walks through the menu with the keyboard, and opens each panel with the mouse."""
 
 from __future__ import annotations
 

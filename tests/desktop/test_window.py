@@ -35,8 +35,8 @@ class Window(unittest.TestCase):
         return self.geometry()["WIDTH"], self.geometry()["HEIGHT"]
 
     def rest(self) -> dict[str, int]:
-        """Where the window is in a while."""
-        time.sleep(0.4)  # that nothing happens can only be waited for
+        """Where the window is after a while."""
+        time.sleep(0.4)  # the only way to see that nothing happens
         self.assertTrue(self.program.runs(), "the program has ended")
         return self.geometry()
 
@@ -44,7 +44,7 @@ class Window(unittest.TestCase):
         self.desktop.hands("windowmove", self.window, str(x), str(y))
 
     def point_at_title(self, x: int) -> None:
-        """Moves the mouse to the title bar, so far from the left of the window."""
+        """Moves the mouse to the title bar, that far from the left of the window."""
         self.desktop.hands("mousemove", "--window", self.window, "--", str(x), "-12")
 
     def restore(self) -> None:

@@ -14,7 +14,7 @@
 namespace ondelis::fenetre {
 namespace {
 
-/// What the driver tells is on the widgets: where these show something else than the engine says, it tells that.
+/// What the driver reports is on the widgets: if they show something other than the engine says, it reports that.
 class EyesTest : public WindowTest {
 protected:
     void open(const char* entry)

@@ -34,7 +34,7 @@ protected:
         return *mainWindow().findChild<Widget*>(QString::fromUtf8(name));
     }
 
-    /// Does something to a widget of which it tells nobody.
+    /// Does something to a widget without its reporting it.
     template <class Widget, class Act>
     static void behindTheEngine(Widget& widget, Act&& act)
     {

@@ -14,7 +14,7 @@ public:
 
     TextBox Before{this, "Before", {}};
     ControlArray<TextBox> TxtUSec{this, "TxtUSec", 3,
-        [](int i) { return TextBox::Design{.Text = std::to_string(i), .at = {.Top = rowTop(i)}}; },
+        [](int i) { return TextBox::Design{.Text = std::to_string(i), .at = {.Top = 100.0 * i}}; },
         &Tableau::TxtUSec_Change};
     ControlArray<Label> Lbl{this, "Lbl", 3, [](int) { return Label::Design{}; }};
     TextBox After{this, "After", {}};
@@ -37,7 +37,7 @@ TEST_F(ControlArrayTest, HasOneDesignAnElement)
 {
     EXPECT_EQ(panel.TxtUSec.count(), 3);
     EXPECT_EQ(panel.TxtUSec(2).Text, "2");
-    EXPECT_EQ(Double{panel.TxtUSec(2).Top}, 960);
+    EXPECT_EQ(Double{panel.TxtUSec(2).Top}, 200);
 }
 
 TEST_F(ControlArrayTest, TellsItsProcedureTheIndexOfTheElement)

@@ -17,7 +17,7 @@ namespace ondelis::tests {
 
 using Log = std::vector<std::string>;
 
-/// A world that a test looks at, and that acts where the test tells it to.
+/// A world that a test can look at, and that acts where the test tells it to.
 class TestSurroundings final : public Surroundings {
 public:
     /// What happens while a box is open; the answer.
@@ -64,7 +64,7 @@ protected:
     User user{desk};
 };
 
-/// The kind of the fault that an action throws; nothing where it throws none.
+/// The kind of the fault that an action throws; nothing if it throws none.
 template <class Action>
 std::optional<FaultKind> faultOf(Action&& action)
 {

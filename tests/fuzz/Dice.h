@@ -6,7 +6,7 @@
 
 namespace ondelis::fuzz {
 
-/// Chance that is the same for the same seed.
+/// Random choices, the same for the same seed.
 class Dice {
 public:
     explicit Dice(std::uint64_t seed) : engine_{seed} { }
@@ -18,7 +18,7 @@ public:
     {
         return first + static_cast<int>(below(static_cast<std::size_t>(last - first) + 1));
     }
-    /// True so many times in a hundred.
+    /// True that many times in a hundred.
     bool percent(std::size_t chance) { return below(100) < chance; }
     /// One of several things.
     template <class Things>

@@ -113,7 +113,7 @@ std::string RandomUser::write(TextBox& box, const std::string& target)
         return "backspace " + target;
     if (dice_.percent(3))
         return held(target, {"backspace", R"("5")", R"("-")", R"(".")", R"("e")"});
-    // Keys land behind what stands there: a number grows by a key or two before it is written anew.
+    // Keys land after what is there: a number grows by a key or two before it is replaced.
     if (dice_.percent(20) && !std::string{box.Text}.empty())
         return "type " + target + ' ' + std::to_string(dice_.below(10));
     // Each key of a long text is a step of its own: such texts are pasted.

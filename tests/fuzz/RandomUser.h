@@ -10,7 +10,7 @@
 
 namespace ondelis::fuzz {
 
-/// Somebody who uses whatever is on screen, in the driver's language, one command after the other.
+/// A user of whatever is on screen, in the driver's language, one command after another.
 class RandomUser {
 public:
     explicit RandomUser(std::uint64_t seed) : dice_{seed}, oddity_{dice_.one(oddities)} { }
@@ -21,7 +21,7 @@ public:
     std::string next(const Desk& desk);
 
 private:
-    /// How many texts in a hundred are odd: with few of them a session lasts, with many it meets more.
+    /// How many texts in a hundred are odd: with few a session lasts longer, with many it meets more.
     static constexpr std::array<std::size_t, 4> oddities{2, 10, 30, 80};
 
     /// What the user does to what is on screen.

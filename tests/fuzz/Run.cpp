@@ -14,7 +14,7 @@
 namespace ondelis::fuzz {
 namespace {
 
-/// What is wrong with the end of a session; "" where nothing is.
+/// What is wrong with the end of a session; "" if nothing is.
 std::string wrong(const Outcome& outcome)
 {
     if (!outcome.trouble.empty())
@@ -26,7 +26,7 @@ std::string wrong(const Outcome& outcome)
     return "";
 }
 
-/// Writes a finding as a scenario that fails until it is mended.
+/// Writes a finding as a scenario that fails until it is fixed.
 void writeScenario(const std::string& file, const std::string& words, const Outcome& outcome)
 {
     std::ofstream out{file};

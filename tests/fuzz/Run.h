@@ -8,19 +8,19 @@
 
 namespace ondelis::fuzz {
 
-/// How long users are played: for a time, or until they have done so much.
+/// How long users are played: for a time, or until they have done that much.
 struct Length {
     std::chrono::seconds time{};
     std::uint64_t actions = 0;
 };
 
-/// Plays users, and prints and writes down what is found. Gives the number of findings.
+/// Plays users, and prints and writes down what is found. Returns the number of findings.
 int run(const NewSubject& newSubject, const Length& length, std::uint64_t seed);
 
-/// A whole number; throws where the word is none.
+/// A whole number; throws if the word is not one.
 [[nodiscard]] std::uint64_t whole(std::string_view word);
 
-/// The end of a session's process is waited for, and must not be lost before that.
+/// The end of a session's process is waited for, and must not be missed before that.
 void keepEndsOfProcesses();
 
 } // namespace ondelis::fuzz

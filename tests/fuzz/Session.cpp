@@ -33,10 +33,10 @@ struct Aim {
 constexpr Aim findings{.longestStep = 10, .digests = false};
 constexpr Aim comparison{.longestStep = 60, .digests = true};
 
-/// A step that waits so long, and keeps the processor free, waits for ever.
+/// A step that waits this long without using the processor waits for ever.
 constexpr std::chrono::seconds longestWait{300};
 
-/// What the session's process tells of itself. It begins as zeros.
+/// What the session's process reports about itself. It starts as zeros.
 struct Log { // NOLINT(cppcoreguidelines-pro-type-member-init): the memory that it is made in is all zeros
     static constexpr std::size_t capacity = std::size_t{1} << 22U;
 
@@ -50,7 +50,7 @@ struct Log { // NOLINT(cppcoreguidelines-pro-type-member-init): the memory that 
     std::array<char, capacity> lines;
 };
 
-/// A log that the processes made meanwhile share, and that outlives them.
+/// A log shared by the processes made while it lives; it outlives them.
 class SharedLog {
 public:
     SharedLog() : memory_{mmap(nullptr, sizeof(Log), PROT_READ | PROT_WRITE, MAP_SHARED | MAP_ANONYMOUS, -1, 0)}
@@ -160,8 +160,8 @@ private:
     std::unique_ptr<Subject> subject_;
 };
 
-/// Waits for the end of the session's process, and ends it where a step takes too long. Says what was wrong
-/// with its end, "" for nothing.
+/// Waits for the end of the session's process, and ends it if a step takes too long. Returns what was wrong with its
+/// end, or "".
 std::string watch(pid_t child, const Log& log, double longestStep)
 {
     sigset_t ends;

@@ -12,7 +12,7 @@ namespace ondelis::fuzz {
 /// What differs between two programs that do the same.
 struct Difference {
     std::string where; ///< the member, "PANEL.CONTROL.Member"; "" where nothing differs
-    std::string expectation; ///< the line of a scenario that tells the one from the other
+    std::string expectation; ///< the line of a scenario that tells one from the other
 };
 
 /// The program that a session's commands are given to.

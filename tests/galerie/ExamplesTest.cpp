@@ -18,7 +18,7 @@ class ExamplesTest final : public QObject {
 
     QTemporaryDir scratch_;
 
-    /// Draws the panel with that example; gives what was wrong, from the file's name on.
+    /// Draws the panel with that example; returns what was wrong, from the file's name on.
     std::string draw(const std::string& panel, const std::string& example) const
     {
         const std::filesystem::path folder = scratch_.path().toStdString();

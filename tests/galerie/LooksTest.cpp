@@ -12,7 +12,7 @@ class LooksTest final : public QObject {
 
     QTemporaryDir folder_;
 
-    /// Its exit status; `said` gets what it says of errors.
+    /// Its exit status; `said` gets its error messages.
     int run(const QStringList& panels, QString& said) const
     {
         QProcess process;

@@ -1,4 +1,4 @@
-"""A page of the guide is what its panel is: test_page.py PANEL, with the driver in the variable PILOTE."""
+"""A page of the guide matches its panel: test_page.py PANEL, with the driver in the variable PILOTE."""
 
 import os
 import pathlib
@@ -62,7 +62,7 @@ class PageTest(unittest.TestCase):
                 self.assertTrue(outcome.holds, f"{outcome.panel} / {outcome.right} = {outcome.factor}, not {case.factor}")
 
     def has_fields(self):
-        """A panel that only shows words has no figures to be exact."""
+        """A panel that only shows words has no figures to check."""
         return any(control["kind"] in {"TextBox", "ListBox", "HScrollBar"} for control in self.controls.values())
 
 

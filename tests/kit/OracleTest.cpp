@@ -1,5 +1,5 @@
-// The kit against oracles of other makes: MPFR, whose functions are correctly rounded, and printf and strtod of
-// the C library. The values are the same at each run.
+// The kit against independent oracles: MPFR, whose functions are correctly rounded, and printf and strtod of the C
+// library. The values are the same at each run.
 
 #include <gtest/gtest.h>
 #include <mpfr.h>
@@ -98,7 +98,7 @@ std::string exactTraitementMultiplicateur(double v)
     return printedAsStr(t) + " " + row.word;
 }
 
-/// Positive numbers as they come out of formulas: any digits, spread evenly over the decades from 1E-19 to 1E+18.
+/// Positive numbers as formulas produce them: any digits, spread evenly over the decades from 1E-19 to 1E+18.
 std::vector<double> computedNumbers()
 {
     std::mt19937_64 random{20260101};
@@ -172,7 +172,7 @@ TEST(Oracle, traitementMultiplicateurOfTypedNumbers)
 
 TEST(Oracle, powIsThatOfTheLibraryForEveryExponent)
 {
-    // As in the kit: called so that the compiler cannot put anything in its place.
+    // As in the kit: called so that the compiler cannot replace it.
     double (*const volatile libraryPow)(double, double) = std::pow;
     int unlikeAProduct = 0;
     for (const double x : computedNumbers()) {

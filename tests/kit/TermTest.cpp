@@ -16,7 +16,7 @@ namespace {
 
 using test::faultOf;
 
-/// A number that a compiler does not know beforehand, so that it has only its conclusions about it.
+/// A number that the compiler does not know beforehand, so that it can only draw conclusions about it.
 Double unknown(double number)
 {
     const volatile double hidden = number;

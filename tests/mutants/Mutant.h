@@ -4,8 +4,8 @@
 #include <type_traits>
 #include <utility>
 
-// What `mutants.py` writes into a source: each change stands beside the original, and the environment tells which one
-// is on.
+// What `mutants.py` writes into a source: each change stands beside the original, and the environment says which one is
+// on.
 
 namespace ondelis_mutants {
 
@@ -25,7 +25,7 @@ namespace ondelis_mutants {
     return chosen != nullptr && std::atoi(chosen) == number;
 }
 
-/// A literal that is another one while the change is on. No conditional: lists of these take a compiler for ever.
+/// A literal that is another one while the change is on. Not a conditional: compilers take for ever on lists of these.
 template <class Value>
 ONDELIS_CONSTEXPR Value either(int number, Value changed, Value original)
 {

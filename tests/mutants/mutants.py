@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Changes one token of a source at a time, and tells which changes no scenario and no test notices.
+"""Changes one token of a source at a time, and reports which changes no scenario and no test notices.
 
     mutants.py BUILD [FILE...] [--number N] [--files N] [--seed N]
 
@@ -27,7 +27,7 @@ FLOORS = ("kit", "forms", "panels", "shell")
 SCENARIOS = ROOT / "tests/scenarios"
 # What the compiler computes: a variable, and no function.
 CONSTANT = re.compile(r"\b((?:static )?)(?:inline )?constexpr(?= [\w:<>, *]+? \w+(?:\[\w*\])?(?: = |\{))")
-SECONDS = 5  # of the processor; a play takes a fraction of one, a mutant may never end
+SECONDS = 5  # of processor time; a play takes a fraction of one, a mutant may never end
 
 
 @dataclass
@@ -66,7 +66,7 @@ class Unseen:
         return False
 
     def idle(self, paths):
-        """What is listed of these files and answers to no change any more."""
+        """What is listed for these files and no longer matches any change."""
         names = {str(path.relative_to(SOURCES)) for path in paths}
         listed = {(entry["file"], line) for entry in self.entries for line in entry["lines"]}
         return sorted((name, line) for name, line in listed - self.used if name in names)
@@ -86,7 +86,7 @@ class Trial:
         self.plays = [list(map(str, files)) for files in (own, others) if files]
 
     def choose(self, unseen, number, dice):
-        """At most so many changes, by chance; all of them without a number."""
+        """At most that many changes, at random; all of them without a number."""
         found = []
         for path in self.paths:
             lines = self.texts[path].split("\n")

@@ -26,8 +26,11 @@ KEYWORDS = {"if", "else", "for", "while", "do", "switch", "case", "default", "co
             "public", "private", "protected", "typedef", "operator", "try", "catch", "throw", "static_assert", "extern"}
 STATEMENT_BEGINS = re.compile(r"\s*|\s*(?:resumeNext\(\{)?\[(?:&|this)\] \{ ")  # a line, or one of a list of statements
 # Where a control stands is our own layout, stated nowhere: the form checks of the view judge it.
-PLACES = re.compile(r"\.at = \{|(?<=[ {])\.(?:Width|Height) = |\bBox(?: \w+)?\{|\(\{(?=[\w.]+, [^{}]+, [^{}]+, [^{}]+\})"
-                    r"|\b(?:ligne|lettre|lettreDeCote|cote|legende|saisie|resultat)\(")
+PLACES = re.compile(r"\.at = \{|(?<=[ {])\.(?:Width|Height) = |\b(?:Box|Column)(?: \w+)?\{"
+                    r"|\(\{(?=[\w.]+, [^{}]+, [^{}]+, [^{}]+\})|\b(?:letterBox|letter|lettreDeCote|cote)\(")
+PLACE = re.compile(r"constexpr double \w+ = [^;]*$")
+# In a form, what is called with numbers gives places, but these.
+CALLED_WITH_VALUES = {"barre", "Pow", "vers"}
 LINE_ENDS = re.compile(r"\.[XY][12] = -?$")
 
 
@@ -121,12 +124,33 @@ def numbers(text, toks, index, header):
     earlier = text[text.rfind("\n", 0, start) + 1:start]
     if re.search(r"<[^<>=;]*$", earlier) and re.match(r"[^<>=;()]*>", text[end:]):
         return []  # a template's argument: the size of a table
-    if before == "case" or header and LINE_ENDS.search(earlier):
+    if before == "case" or header and is_place(text, start, earlier):
         return []  # beside another label, or layout
     sign = ""
     if before == "-" and toks[index - 1].end() == start and toks[index - 2].group() in "(,={?:<>==!=return+-*/":
         start, sign = start - 1, "-"
     return [either(start, end, sign + old, new) for new in other_numbers(sign, old)]
+
+
+def is_place(text, start, earlier):
+    """Whether a number of a form says where a control stands."""
+    if LINE_ENDS.search(earlier) or PLACE.search(earlier):
+        return True
+    called = call_around(text, start)
+    return called is not None and called not in CALLED_WITH_VALUES
+
+
+def call_around(text, start):
+    """The function of whose call that place is an argument; None where it is in no call."""
+    depth = 0
+    for place in range(start - 1, -1, -1):
+        depth += {")": 1, "}": 1, "(": -1, "{": -1}.get(text[place], 0)
+        if depth < 0:
+            if text[place] == "{" and text[place - 1] == "(":
+                depth = 0
+                continue  # a box that is an argument itself
+            return re.search(r"\w*$", text[:place]).group() if text[place] == "(" else None
+    return None
 
 
 def other_numbers(sign, old):

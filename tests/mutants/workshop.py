@@ -1,4 +1,4 @@
-"""Builds mutants: one source, or one header with all that reads it, into programs of their own beside the build."""
+"""Builds mutants: one source, or one header with all that includes it, as programs of their own beside the build."""
 
 import json
 import os
@@ -30,7 +30,7 @@ def limits():
 
 
 class Broken(Exception):
-    """A source that does not compile: the lines that the compiler speaks of, by file."""
+    """A source that does not compile: the lines that the compiler mentions, by file."""
 
     def __init__(self, said):
         super().__init__(said)
@@ -109,13 +109,24 @@ class Workshop:
             copy.parent.mkdir(parents=True, exist_ok=True)
             copy.write_text(text)
         header = self.build.precompiled(compiler, flags, PANEL_HEADERS if shared else SYSTEM_HEADERS)
-        read = self.folder / source.relative_to(SOURCES) if source in changed else source
+        read = self.with_constructor(source, self.folder / source.relative_to(SOURCES) if source in changed else source)
         obj = self.folder / (str(source.relative_to(SOURCES)).replace("/", "-") + ".o")
         done = subprocess.run([compiler, f"-I{self.folder}", *flags, "-include", str(header), "-c", str(read),
                                "-o", str(obj)], capture_output=True, text=True, check=False, preexec_fn=limits)
         if done.returncode:
             raise Broken(done.stderr)
         return obj
+
+    def with_constructor(self, source, read):
+        """A panel is made by its constructor in its header, which the panel's own source does not use: this one does."""
+        form = source.with_suffix(".h")
+        name = form.exists() and re.search(r"class (\w+) final : public", form.read_text())
+        if not name or f"explicit {name[1]}(Desk& desk)" not in form.read_text():
+            return read
+        maker = self.folder / f"{source.stem}-made.cpp"
+        maker.write_text(f'#include "{read}"\nnamespace ondelis {{\n'
+                         f"[[gnu::used]] FeuilleCalcul* made(Desk& desk) {{ return new {name[1]}{{desk}}; }}\n}}\n")
+        return maker
 
     def link(self, compiler, program, objects):
         """Links a program of the build with the objects of a mutant before all libraries."""

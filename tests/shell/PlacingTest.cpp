@@ -5,7 +5,7 @@
 namespace ondelis::tests {
 namespace {
 
-/// Where a panel comes to stand; what is not said is in the middle of the frame, or as designed.
+/// Where a panel ends up; by default in the middle of the frame, or as designed.
 struct Place {
     std::optional<double> Left = {};
     std::optional<double> Top = {};

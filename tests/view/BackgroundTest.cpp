@@ -56,7 +56,7 @@ private slots:
         const QImage second = drawn(background, size, all);
         const QImage third = drawn(background, size, all);
         QCOMPARE(second, first);
-        // The scale of a band is that of the whole picture, but for rounding far behind the point.
+        // The scale of a band is that of the whole picture, apart from rounding in distant decimals.
         QVERIFY2(difference(third, first) <= 2, qPrintable(QString::number(difference(third, first))));
     }
 
@@ -86,7 +86,7 @@ private slots:
         const QImage first = drawn(background, size, all);
         for (int i = 0; i < 3; ++i)
             drawn(background, size, all);
-        QTest::qWait(700); // what was decoded is let go meanwhile
+        QTest::qWait(700); // what was decoded is freed meanwhile
         QCOMPARE(drawn(background, size, all), first);
     }
 };

@@ -5,7 +5,7 @@
 
 namespace ondelis {
 
-/// Message boxes, the fault dialog, and the ends of the program inside of them.
+/// Message boxes, the fault dialog, and the ends of the program inside them.
 class BoxesTest final : public QObject {
     Q_OBJECT
 

@@ -20,7 +20,7 @@ class ChoicesTest final : public QObject {
         QTest::mouseClick(list.viewport(), button, Qt::NoModifier, list.visualItemRect(list.item(row)).center());
     }
 
-    /// As a person does: on the window, whose widgets then hand the keyboard on.
+    /// As a person does: on the window, whose widgets then pass the keyboard on.
     static void clickOnWindow(QListWidget& list, int row, Qt::MouseButton button)
     {
         const QPoint place = list.visualItemRect(list.item(row)).center();

@@ -10,7 +10,7 @@
 
 namespace ondelis {
 
-/// What the context menus of fields and captions let a person take along.
+/// What the context menus of fields and captions let a person copy.
 class CopyingTest final : public QObject {
     Q_OBJECT
 

@@ -5,7 +5,7 @@
 
 namespace ondelis {
 
-/// A form with one of each fault.
+/// A form with one fault of each kind.
 class CrookedPanel final : public FeuilleCalcul {
 public:
     explicit CrookedPanel(Desk& desk)

@@ -112,7 +112,7 @@ private:
         const double height = control_->at().Height;
         if (dynamic_cast<const OptionButton*>(control_) != nullptr && height != optionHeight)
             fault(QStringLiteral("the option is not as high as all others"));
-        // In some fonts bold capitals with accents are higher than a plain caption.
+        // In some fonts bold accented capitals are taller than a plain caption.
         if (const auto* const label = dynamic_cast<const Label*>(control_);
             label != nullptr && label->design().font.bold && height < boldHeight)
             fault(QStringLiteral("the bold caption is lower than a field"));
@@ -193,7 +193,7 @@ private:
         return part.isValid() ? part.translated(widget.mapTo(&window_.form(), QPoint{})) : QRect{};
     }
 
-    /// A caption of which another control leaves nothing to be seen.
+    /// A caption that another control hides completely.
     static bool isHidden(const Control& control, const QRect& part, const QRect& other)
     {
         return dynamic_cast<const Label*>(&control) != nullptr && other.contains(part);

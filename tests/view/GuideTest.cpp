@@ -8,7 +8,7 @@
 
 namespace ondelis {
 
-/// The key F1: which page it opens, and what it says where there is none.
+/// The key F1: which page it opens, and what it says if there is none.
 class GuideTest final : public QObject {
     Q_OBJECT
 

@@ -8,7 +8,7 @@
 namespace ondelis {
 namespace {
 
-/// Its input is awkward for every other field.
+/// A panel whose input is awkward for every other field.
 class NarrowPanel final : public FeuilleCalcul {
 public:
     explicit NarrowPanel(Desk& desk)
@@ -42,8 +42,8 @@ private:
 
 } // namespace
 
-/// Every panel at work: no result is cut, and nothing that comes up overlaps. The results are the longest ones that a
-/// typist reaches who types the same numbers each time.
+/// Every panel at work: no result is cut, and nothing that comes up overlaps. The results are the longest that a typist
+/// reaches who types the same numbers each time.
 class LongResultsTest final : public QObject {
     Q_OBJECT
 

@@ -36,7 +36,7 @@ struct Program {
     /// Picks an entry of the menu.
     void pick(const char* entry) { view.mainWindow().findChild<QAction*>(QString::fromUtf8(entry))->trigger(); }
 
-    /// Opens a panel of the test's own.
+    /// Opens the test's own panel.
     template <class Panel>
     Panel& open()
     {
@@ -61,7 +61,7 @@ struct Program {
     }
 };
 
-/// A person at a message box: notes what it says and presses the buttons that the test names, one a box.
+/// A person at a message box: notes what it says and presses the buttons that the test names, one per box.
 class Reader {
 public:
     explicit Reader(QStringList answers) : answers_{std::move(answers)}

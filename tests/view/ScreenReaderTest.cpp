@@ -163,7 +163,7 @@ QStringList differences(const Told& wanted, const Told& found)
 class ScreenReaderTest final : public QObject {
     Q_OBJECT
 
-    /// What is wrong in a panel for one who does not see it.
+    /// What is wrong in a panel for a person who cannot see it.
     static QStringList faultsOf(const PanelWindow& window)
     {
         QStringList faults;
@@ -180,7 +180,7 @@ class ScreenReaderTest final : public QObject {
         return faults;
     }
 
-    /// Fields, lists and bars of one kind, on screen together and in one group, that bear the same name.
+    /// Fields, lists and bars of one kind, on screen together and in one group, that have the same name.
     static QStringList twinsOn(const PanelWindow& window)
     {
         QStringList twins;

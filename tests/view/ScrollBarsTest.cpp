@@ -31,7 +31,7 @@ class ScrollBarsTest final : public QObject {
         QTest::mouseClick(&bar, Qt::LeftButton, Qt::NoModifier, at.center());
     }
 
-    /// Turns the wheel of the mouse over a bar; what does not take it leaves it to what is around.
+    /// Turns the mouse wheel over a bar; what does not take it leaves it to what is around it.
     static void turnWheel(QScrollBar& bar, int notches)
     {
         const QPoint middle = bar.rect().center();

@@ -93,7 +93,7 @@ private slots:
         QVERIFY(QTest::qWaitFor([&] { return window.screen()->geometry().contains(onScreen(window.area())); }));
         window.resize(800, 600);
         QVERIFY(QTest::qWaitFor([&] { return window.contentsMargins() == QMargins{}; }));
-        window.move(-100, 400); // it fits on the screen: where the user puts it is his business
+        window.move(-100, 400); // it fits on the screen: the user may put it anywhere
         QCOMPARE(window.contentsMargins(), QMargins{});
     }
 

@@ -9,7 +9,7 @@
 
 namespace ondelis {
 
-/// One control of each class. What its procedures do is the test's to say.
+/// One control of each class. The test decides what its procedures do.
 class TestPanel final : public FeuilleCalcul {
 public:
     explicit TestPanel(Desk& desk)

@@ -6,7 +6,7 @@
 
 namespace ondelis {
 
-/// A text that its widget has no room for.
+/// A text that does not fit in its widget.
 struct Cut {
     QString text; ///< empty where the widget is too low for any
     int missing; ///< pixels, of width or of height

@@ -18,7 +18,7 @@ public:
     /// Looks at the panels of the walk after each action.
     Typist(Walk& walk, Look look) : walk_{walk}, look_{std::move(look)} { }
 
-    /// Goes through all controls of the panels that are open, so many times.
+    /// Goes through all controls of the open panels, that many times.
     void work(int rounds);
 
 private:

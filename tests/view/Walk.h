@@ -17,13 +17,13 @@ public:
     void open(const MenuEntry& entry);
     /// Opens other panels: what this does is done again after a fault.
     void open(std::function<void(Program&)> opening);
-    /// A person does something. False where it has ended the program: then the panels are open anew.
+    /// A person does something. False if it has ended the program: then the panels have been reopened.
     bool act(const std::function<void(User&)>& action);
-    /// The control of a panel that is open now; null where there is none.
+    /// The control of a panel that is open now; null if there is none.
     [[nodiscard]] Control* find(const std::string& panel, const std::string& control) const;
 
-    /// Makes each choice that the panels offer, one after the other, and looks at the panels as they open and after
-    /// each of them.
+    /// Makes each choice that the panels offer, one after another, and looks at the panels as they open and after each
+    /// choice.
     void choose(const std::function<void(PanelWindow&)>& look);
     /// Looks at each panel that is on screen.
     void lookAt(const std::function<void(PanelWindow&)>& look) const;

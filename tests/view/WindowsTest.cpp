@@ -29,7 +29,7 @@ class WindowsTest final : public QObject {
             .center();
     }
 
-    /// Lets closed windows go.
+    /// Destroys closed windows.
     static void settle() { QTest::qWait(1); }
 
 private slots:

@@ -141,7 +141,7 @@ void ControlReader::seenLabel(const Label* label, const Label* otherLabel, const
     const bool named = label == nullptr
         ? name == window_.windowTitle()
         : name == captions(label) || (otherLabel != nullptr && name == captions(otherLabel));
-    // Which of several captions of the same words it is, nobody can tell. With both hidden there is nothing to name.
+    // Which of several captions with the same text it is cannot be told. With both hidden there is nothing to name.
     const bool hidden = label != nullptr && widgetOf<QLabel>(*label).isHidden() && widget.isHidden();
     if (named || (hidden && name.isEmpty()))
         unseen("Label");

@@ -23,7 +23,7 @@ public:
     /// `said` is what the engine says of the control.
     ControlReader(const PanelWindow& window, Json said) : window_{window}, said_(std::move(said)) { }
 
-    /// The members that the engine says, as the widget shows them. Throws where there is one that has not been looked
+    /// The members that the engine states, as the widget shows them. Throws if there is one that has not been looked
     /// for.
     [[nodiscard]] Json read(Control& control);
 
@@ -45,17 +45,17 @@ private:
 
     /// The widget shows this under that member.
     void seen(const char* member, Json value);
-    /// Nobody can see that member.
+    /// That member cannot be seen.
     void unseen(const char* member) { looked_.insert(member); }
     void readVisible(const Control& control);
-    /// A place in pixels, along one axis.
+    /// A position in pixels, along one axis.
     void seenPlace(const char* member, const Property<Single>& said, int pixels, const QWidget& widget);
     void seenText(const char* member, const QString& text);
-    /// The colour of a text that is painted on that ground; the engine says which it was before it was made readable.
+    /// The colour of a text painted on that background; the engine says what it was before it was made readable.
     void seenTextColor(const char* member, Color said, const QColor& painted, const QColor& ground);
-    /// How a text stands in its widget, and in which type.
+    /// How a text is aligned in its widget, and its font.
     void seenType(const QWidget& widget, Qt::Alignment alignment);
-    /// The caption that a screen reader names the widget by.
+    /// The caption by which a screen reader names the widget.
     void seenLabel(const Label* label, const Label* otherLabel, const QWidget& widget);
 
     const PanelWindow& window_;

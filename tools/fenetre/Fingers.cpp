@@ -18,7 +18,7 @@
 namespace ondelis::fenetre {
 namespace {
 
-/// What the mouse is put on: of a list and a large field, the part that shows its rows or its text.
+/// What the mouse is put on: for a list or a large field, the part that shows its rows or its text.
 QWidget& face(QWidget& widget)
 {
     auto* const area = qobject_cast<QAbstractScrollArea*>(&widget);
@@ -82,7 +82,7 @@ void Fingers::raise(PanelWindow& panel)
                 Pointer::click(panel, place);
                 return;
             }
-    // It lies wholly under another one: there is a key for that.
+    // It lies wholly under another panel: there is a key for that.
     QWidget* const keyboard = QApplication::focusWidget();
     if (keyboard == nullptr)
         return;
@@ -123,7 +123,7 @@ pilote::Hands::Refusal Fingers::goToEnd(QWidget& field) const
 
 pilote::Hands::Refusal Fingers::takeKeyboard(QWidget& widget) const
 {
-    regainKeyboard(); // a box has had it before
+    regainKeyboard(); // a box may have taken it
     if (QApplication::focusWidget() == &widget)
         return {};
     if (widget.focusPolicy() == Qt::NoFocus)
@@ -134,7 +134,7 @@ pilote::Hands::Refusal Fingers::takeKeyboard(QWidget& widget) const
         if (auto refusal = press(widget, barPart(*bar, QStyle::SC_ScrollBarSlider).center()))
             return refusal;
     } else {
-        // Into a field by a click; the right button does nothing else to the others.
+        // Into a field by a click; on the others the right button does nothing else.
         QWidget& seen = face(widget);
         if (auto refusal = press(seen, seen.rect().center(), isField(widget) ? Qt::LeftButton : Qt::RightButton))
             return refusal;

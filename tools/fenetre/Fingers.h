@@ -18,28 +18,28 @@ namespace ondelis::fenetre {
 
 [[nodiscard]] bool isField(const QWidget& widget);
 
-/// How a person gets at a widget of the main window, and what they do there. Where that cannot be, nothing is done, and
-/// the reason given.
+/// How a person reaches a widget of the main window, and what they do there. If that is impossible, nothing is done,
+/// and the reason is returned.
 class Fingers {
 public:
     using Refusal = pilote::Hands::Refusal;
 
     /// The main window is on screen.
     void meet(MainWindow& window) { window_ = &window; }
-    /// It is no more.
+    /// It is gone.
     void leave() { window_ = nullptr; }
-    /// Null where it is not on screen.
+    /// Null if it is not on screen.
     [[nodiscard]] MainWindow* window() const { return window_; }
 
-    /// Where another window has the keyboard, the main window gets it back, as from a window manager: the platform
+    /// If another window has the keyboard, gives it back to the main window, as a window manager would: the platform
     /// without a screen has none.
     void regainKeyboard() const;
 
-    /// Puts a button down on a point of a widget, and lets it go.
+    /// Presses a button on a point of a widget, and releases it.
     Refusal press(QWidget& widget, const QPoint& point, Qt::MouseButton button = Qt::LeftButton) const;
     /// The same on the title of a panel, which is dragged meanwhile.
     Refusal pressTitle(PanelWindow& panel, const QPoint& point, const QPoint& by = {}) const;
-    /// Gives a field the keyboard, with the caret at its end, if it has not got it so.
+    /// Gives a field the keyboard, with the caret at its end, unless that is so already.
     Refusal goToEnd(QWidget& field) const;
     /// Gives any control the keyboard, and changes nothing.
     Refusal takeKeyboard(QWidget& widget) const;

@@ -8,8 +8,8 @@
 
 namespace ondelis::fenetre {
 
-/// Stands between the desk and its view, passes all on, and says when a box waits, when a handler lets events through
-/// and when the program is over. What is said so is said from inside the event loop that runs then.
+/// Stands between the desk and its view, passes everything on, and says when a box waits, when a handler lets events
+/// through and when the program is over. It does so from inside the event loop that is then running.
 class Onlooker final : public Surroundings {
 public:
     explicit Onlooker(View& view) : view_{view} { }
@@ -57,7 +57,7 @@ private:
     void later(const std::function<void()>& what) { QMetaObject::invokeMethod(&loop_, what, Qt::QueuedConnection); }
 
     View& view_;
-    QObject loop_; ///< through which things happen in the event loop that runs next
+    QObject loop_; ///< makes things happen in the event loop that runs next
 };
 
 } // namespace ondelis::fenetre

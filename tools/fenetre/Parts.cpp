@@ -35,7 +35,7 @@ QStyleOptionSlider optionOf(const QScrollBar& bar)
     return option;
 }
 
-/// Where a thumb can stand.
+/// The range of a thumb.
 struct Course {
     int length; ///< pixels
     int now; ///< how far from its beginning it stands

@@ -16,9 +16,9 @@ namespace ondelis::fenetre {
 /// The mark of an option.
 [[nodiscard]] QRect indicatorOf(const QAbstractButton& option);
 
-/// How many pixels the thumb of a bar must be dragged to stand where that position is.
+/// How many pixels the thumb of a bar must be dragged to reach that position.
 [[nodiscard]] int thumbWay(const QScrollBar& bar, int position);
-/// The position that a bar takes when its thumb is dragged by so many pixels.
+/// The position that a bar takes when its thumb is dragged by that many pixels.
 [[nodiscard]] int positionAfter(const QScrollBar& bar, int way);
 
 } // namespace ondelis::fenetre

@@ -5,7 +5,7 @@
 namespace ondelis::fenetre {
 namespace {
 
-/// What lies at a point of a widget: itself, a part of it, or something over it; null where nothing of its window does.
+/// What lies at a point of a widget: itself, a part of it, or something over it; null if nothing in its window does.
 QWidget* lyingAt(const QWidget& widget, const QPoint& point)
 {
     QWidget& window = *widget.window();

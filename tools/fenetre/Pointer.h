@@ -12,9 +12,9 @@ public:
     /// Whether a press at that point of a widget reaches it, or a part of it: nothing else lies there.
     [[nodiscard]] static bool reaches(const QWidget& widget, const QPoint& point);
 
-    /// Puts a button down at a point of a widget that it reaches.
+    /// Presses a button at a point of a widget that it reaches.
     void press(QWidget& widget, const QPoint& point, Qt::MouseButton button = Qt::LeftButton);
-    /// Drags by so much.
+    /// Drags by that much.
     void drag(const QPoint& by);
     void release();
 

@@ -6,11 +6,11 @@
 
 namespace ondelis::fenetre {
 
-/// Reads what the widgets show. Only what nobody can see it takes from the engine: what `unseen` lists, and the
+/// Reads what the widgets show. It takes from the engine only what cannot be seen: what `unseen` lists, and the
 /// controls of a panel that is not on screen.
 ///
-/// A place, which a widget has in whole pixels, and a colour that was made readable are given as the engine states them
-/// where that is what the widget shows; where it shows another one, that.
+/// A position, which a widget has in whole pixels, and a colour that was made readable are given as the engine states
+/// them if that is what the widget shows, and else as the widget shows them.
 class WidgetEyes final : public pilote::Eyes {
 public:
     explicit WidgetEyes(const View& view) : view_{view} { }

@@ -15,7 +15,7 @@ namespace ondelis::fenetre {
 /// The program in its real windows.
 class Window final : public pilote::Body {
 public:
-    /// Painting takes most of the time; without it nothing else is different.
+    /// Painting takes most of the time; leaving it out changes nothing else.
     enum class Painting { On, Off };
     explicit Window(Painting painting = Painting::On);
     ~Window() override;
@@ -36,13 +36,13 @@ public:
     void forget() override;
     void settle() override;
 
-    /// Whether the control that has the keyboard on screen is the one that the desk takes for it.
+    /// Whether the control that has the keyboard on screen is the one that has it for the desk.
     [[nodiscard]] bool agreesOnKeyboard() const;
 
 private:
     void readBox();
     void readFault();
-    /// What the next box is answered that has so many buttons.
+    /// The answer to the next box with that many buttons.
     [[nodiscard]] QString nextAnswer(bool asks);
 
     Painting painting_;

@@ -5,8 +5,8 @@
 
 namespace ondelis::fenetre {
 
-/// Acts on the real widgets, as a person does: by the mouse where something can be seen, by keys into what has the
-/// keyboard, by the clipboard. It knows of the program no more than is on screen.
+/// Acts on the real widgets, as a person does: with the mouse on what can be seen, with keys into what has the
+/// keyboard, with the clipboard. It knows no more of the program than is on screen.
 class WindowHands final : public pilote::Hands {
 public:
     /// The main window is on screen.
@@ -14,7 +14,7 @@ public:
     /// The program is over, and its windows with it.
     void leave() { fingers_.leave(); }
 
-    /// Where another window has the keyboard, the main window gets it back.
+    /// If another window has the keyboard, gives it back to the main window.
     void regainKeyboard() const { fingers_.regainKeyboard(); }
 
     Refusal menu(const std::string& entry) override;
@@ -32,9 +32,9 @@ public:
     Refusal hold(const Target& control, Key key, const std::string& character, int times) override;
 
 private:
-    /// Why nothing at all can be reached; nothing where it can.
+    /// Why nothing at all can be reached; empty if something can.
     [[nodiscard]] Refusal unable() const;
-    /// The window of a panel that is on screen; null where there is none.
+    /// The window of a panel that is on screen; null if there is none.
     [[nodiscard]] PanelWindow* findPanel(const std::string& name) const;
     /// Runs `act` on the widget of a control if it is of that class and can be seen.
     template <class WidgetClass, class Act>
@@ -43,7 +43,7 @@ private:
     template <class Act>
     Refusal withField(const Target& target, Act&& act);
 
-    /// One coming of a key that is held down.
+    /// One repeat of a key that is held down.
     Refusal holdOnce(QWidget& widget, Key key, const QString& character, bool repeated) const;
 
     Fingers fingers_;

@@ -18,7 +18,7 @@ namespace {
 using namespace ondelis;
 using fenetre::Window;
 
-/// Answers each line of standard input with one line of JSON. Between the lines the window is anybody's to use.
+/// Answers each line of standard input with one line of JSON. Between the lines anyone may use the window.
 class Conversation {
 public:
     Conversation()
@@ -26,7 +26,7 @@ public:
         QObject::connect(&input_, &QSocketNotifier::activated, &input_, [this] { listen(); });
     }
 
-    void run()
+    void run() const
     {
         while (!over_)
             QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);

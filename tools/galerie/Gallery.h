@@ -10,7 +10,7 @@
 
 namespace ondelis::galerie {
 
-/// What the menu opens for its own sake, without its companion.
+/// A panel that the menu opens, without its companion.
 struct Subject {
     std::string panel;
     std::string entry; ///< of the menu

@@ -10,7 +10,7 @@ struct Look {
     int dpi; ///< logical resolution; Qt takes it once, before the application is made
     bool dark; ///< light text on dark windows, as on a dark desktop
 
-    /// What ends the names of its pictures: "96", "sombre-192".
+    /// The suffix of its pictures' names: "96", "sombre-192".
     [[nodiscard]] std::string name() const { return (dark ? "sombre-" : "") + std::to_string(dpi); }
 
     /// Prepares this process for it, before the application is made.

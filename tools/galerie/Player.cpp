@@ -22,7 +22,7 @@ void settle()
 
 Player::Player()
 {
-    QApplication::setCursorFlashTime(0); // the caret stands in every picture
+    QApplication::setCursorFlashTime(0); // the caret shows in every picture
     boxes_.callOnTimeout([this] { answerBox(); });
     boxes_.start(0);
     view_.open(frame_);

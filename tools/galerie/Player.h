@@ -13,13 +13,13 @@
 
 namespace ondelis::galerie {
 
-/// The program did not do what it was told; says why.
+/// The program did not do what it was told, and why.
 class Refused final : public std::runtime_error {
 public:
     using std::runtime_error::runtime_error;
 };
 
-/// One run of the program in its real windows, which acts as it is told and lets itself be pictured.
+/// One run of the program in its real windows, which does what it is told and can be pictured.
 class Player {
 public:
     Player();
@@ -40,7 +40,7 @@ public:
 
 private:
     void run(const pilote::Gesture& gesture);
-    /// Answers the box that is on screen now, if there is one: as was told, or else by "OK" or "Oui".
+    /// Answers the box now on screen, if there is one: as it was told, or else with "OK" or "Oui".
     void answerBox();
 
     View view_;

@@ -30,7 +30,7 @@ namespace {
 using namespace ondelis;
 using namespace ondelis::galerie;
 
-/// Those of the menu's panels that are named; all where no name is given. Throws Refused.
+/// Those of the menu's panels that are named; all if no name is given. Throws Refused.
 std::vector<Subject> chosen(std::span<char* const> names)
 {
     std::vector<Subject> all = allSubjects();
@@ -51,7 +51,7 @@ struct Folders {
     std::filesystem::path pictures;
 };
 
-/// Draws in this process, which takes this look; gives its exit status.
+/// Draws in this process, which takes on this look; returns its exit status.
 int drawAll(const Look& look, const std::vector<Subject>& subjects, const Folders& folders)
 {
     look.chooseResolution();
@@ -71,7 +71,7 @@ int drawAll(const Look& look, const std::vector<Subject>& subjects, const Folder
     }
 }
 
-/// Draws in a process for each look, all at once; tells whether all ended well.
+/// Draws in a process for each look, all at once; returns whether all succeeded.
 bool drawEach(std::span<const Look> some, const std::vector<Subject>& subjects, const Folders& folders)
 {
     std::vector<pid_t> processes;
@@ -107,7 +107,7 @@ int main(int argc, char** argv)
         const Folders folders{.examples = openings ? "" : EXAMPLES, .pictures = words[0]};
         const std::vector<Subject> subjects = chosen(words.subspan(1));
         std::filesystem::create_directories(folders.pictures);
-        // A wrong example is said once: by the first look, alone.
+        // A faulty example is reported once: by the first look, alone.
         const std::span all{looks};
         if (!drawEach(all.first(1), subjects, folders) || !drawEach(all.subspan(1), subjects, folders))
             return 1;

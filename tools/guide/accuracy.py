@@ -1,4 +1,4 @@
-"""The figures of a panel beside those of an independent computation.
+"""The figures of a panel compared with an independent computation.
 
 `docs/guide/exactitude/PANEL.py` names its sources in its docstring and gives `CASES`, a list of `Case`.
 """
@@ -56,7 +56,7 @@ class Outcome:
 
 
 def number(text):
-    """The first number in a text of the panel, after "=" where there is one, times the multiplier word behind it."""
+    """The first number in a text of the panel, after "=" if there is one, times the multiplier word after it."""
     text = text.split("=", 1)[-1]
     found = re.search(r"[-+]?(?:\d+[.,]?\d*|[.,]\d+)(?:[eE][-+]?\d+)?", text)
     if found is None:

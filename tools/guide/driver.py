@@ -1,4 +1,4 @@
-"""The program without a window, as a Python object: one `pilote` process a session."""
+"""The program without a window, as a Python object: one `pilote` process per session."""
 
 import json
 import re
@@ -29,7 +29,7 @@ class Session:
         self._process.wait()
 
     def say(self, line):
-        """Carries out one line and gives its answer; raises Refused where it is not carried out or does not hold."""
+        """Carries out one line and returns its answer; raises Refused if it is not carried out or does not hold."""
         print(line, file=self._process.stdin, flush=True)
         answer = json.loads(self._process.stdout.readline())
         if not answer["ok"]:

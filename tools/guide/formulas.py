@@ -1,4 +1,4 @@
-"""Formulas that read well without a font of mathematics and without a graphical browser.
+"""Formulas that read well without a maths font and without a graphical browser.
 
 A root is written √(…), since browsers draw its sign only with such a font. A browser that knows no MathML shows the
 letters of a formula in a row: signs that only it shows tell fractions, powers and indices apart. Formulas that stand
@@ -95,6 +95,6 @@ def _row(*elements):
 
 
 def _group(before, element):
-    """In brackets, where it is more than one letter or number."""
+    """In brackets if it is more than one letter or number."""
     single = element.tag in (NAMESPACE + "mi", NAMESPACE + "mn")
     return _row(_hidden(before or " "), element) if single else _row(_hidden(before + "("), element, _hidden(")"))

@@ -33,12 +33,12 @@ REGIONS = {"point": ".", "virgule": ","}
 
 
 class Malformed(Exception):
-    """A page that does not have the form of a page."""
+    """A page that does not follow the format."""
 
 
 @dataclasses.dataclass
 class Block:
-    """What stands between two fences: `kind` and the word behind it, and the lines."""
+    """What stands between two fences: `kind` and the word after it, and the lines."""
 
     kind: str
     word: str
@@ -61,7 +61,7 @@ class Field:
 
 
 class Page:
-    """A page of a panel; raises Malformed where it has not the form."""
+    """A page of a panel; raises Malformed if it does not follow the format."""
 
     def __init__(self, file):
         self.panel = pathlib.Path(file).stem
@@ -91,7 +91,7 @@ class Page:
 
 
 def split(text):
-    """The body as Markdown and blocks, in turns."""
+    """The body as alternating Markdown and blocks."""
     parts, end = [], 0
     for found in re.finditer(r"^```(champs|exemple|exactitude)(?: (\w+))?\n(.*?)^```$\n?", text, re.DOTALL | re.MULTILINE):
         parts.append(text[end:found.start()])

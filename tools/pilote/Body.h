@@ -11,8 +11,8 @@
 
 namespace ondelis::pilote {
 
-/// One run of the program as the driver meets it: hands to act with, eyes to look with, and what the world around it
-/// is like. With a window it is another body than without.
+/// One run of the program as the driver sees it: hands to act with, eyes to look with, and the world around it. The
+/// program with a window and the one without are different bodies.
 class Body {
 public:
     Body() = default;
@@ -20,7 +20,7 @@ public:
     Body& operator=(const Body&) = delete;
     virtual ~Body() = default;
 
-    /// The program itself, by which the driver finds what it is asked for.
+    /// The program itself, in which the driver finds what it is asked for.
     [[nodiscard]] virtual const MDIOndelis& frame() const = 0;
     [[nodiscard]] virtual Hands& hands() = 0;
     [[nodiscard]] virtual const Eyes& eyes() const = 0;
@@ -29,7 +29,7 @@ public:
     /// The size of the screen, or a new one while the program runs; twips.
     virtual Hands::Refusal setScreen(const Extent& size) = 0;
 
-    /// The answer to the next box that asks "Oui" or "Non" and has none yet. A box without one gets "Oui".
+    /// The answer to the next box that asks "Oui" or "Non" and has none yet. Without one, a box gets "Oui".
     virtual void answer(Answer answer) = 0;
     /// Is told each control that changes.
     virtual void onChange(std::function<void(const Control&)> action) = 0;
@@ -41,10 +41,10 @@ public:
     [[nodiscard]] virtual const std::vector<MessageBox>& boxes() const = 0;
     /// The fault that was named.
     [[nodiscard]] virtual const std::optional<Fault>& fault() const = 0;
-    /// Why the first of the gestures was refused that were meant for meanwhile.
+    /// Why the first refused gesture of those meant for meanwhile was refused.
     [[nodiscard]] virtual Hands::Refusal meanwhileRefused() const = 0;
     virtual void forget() = 0;
-    /// The command is over: gestures that were meant for meanwhile and had no occasion are refused.
+    /// The command is over: gestures meant for meanwhile that had no occasion are refused.
     virtual void settle() = 0;
 };
 

@@ -8,14 +8,14 @@
 
 namespace ondelis::pilote {
 
-/// Reads the words of a gesture, of what a person does, behind its first one: "menu", "type", "click". Gives no
-/// gesture, and reads nothing, where that is the word of none. Throws Malformed.
+/// Reads the words of a gesture, of what a person does, after its first one: "menu", "type", "click". Returns no
+/// gesture, and reads nothing, if that word names none. Throws Malformed.
 [[nodiscard]] Gesture readGesture(std::string_view word, Words& words);
 
 /// The answer to a box: the next word, "yes" or "no".
 [[nodiscard]] Answer readAnswer(Words& words);
 
-/// A number that is written out whole; throws Malformed where the word is none.
+/// A number that is the whole word; throws Malformed if the word is no number.
 [[nodiscard]] double readNumber(const std::string& word);
 
 } // namespace ondelis::pilote

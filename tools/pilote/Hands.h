@@ -28,7 +28,7 @@ public:
     virtual Refusal menu(const std::string& entry) = 0;
     /// A panel, or the main window, "MDIOndelis".
     virtual Refusal close(const std::string& window) = 0;
-    /// Drags it there; twips.
+    /// Drags it to that place; twips.
     virtual Refusal move(const std::string& window, double left, double top) = 0;
     virtual Refusal minimise(const std::string& window) = 0;
     virtual Refusal restore(const std::string& window) = 0;
@@ -40,8 +40,8 @@ public:
     virtual Refusal select(const Target& list, int row) = 0;
     virtual Refusal scroll(const Target& bar, int value) = 0;
     virtual Refusal focus(const Target& control) = 0;
-    /// Holds a key down until it has come so many times: one that types `character` or deletes, in a field, or an arrow
-    /// key, on a bar.
+    /// Holds a key down until it has repeated that many times: one that types `character` or deletes, in a field, or an
+    /// arrow key, on a bar.
     virtual Refusal hold(const Target& control, Key key, const std::string& character, int times) = 0;
 };
 

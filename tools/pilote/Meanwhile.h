@@ -13,7 +13,7 @@ public:
     void add(Gesture gesture) { gestures_.push_back(std::move(gesture)); }
     [[nodiscard]] bool empty() const { return gestures_.empty(); }
 
-    /// The occasion is here.
+    /// The occasion has come.
     void act(Hands& hands)
     {
         while (!gestures_.empty()) {
@@ -23,7 +23,7 @@ public:
         }
     }
 
-    /// No occasion comes any more.
+    /// No occasion will come any more.
     void giveUp()
     {
         if (!gestures_.empty())

@@ -10,8 +10,8 @@
 
 namespace ondelis::pilote {
 
-/// Drives one run of the program by commands, with or without a window. The region is the process's for as long as it
-/// lives.
+/// Drives one run of the program by commands, with or without a window. While it lives, its region is that of the
+/// process.
 class Pilote {
 public:
     explicit Pilote(Body& body) : body_{body} { }
@@ -23,7 +23,7 @@ private:
     using Refusal = Hands::Refusal;
     enum class When { BeforeStart, Any, Running };
 
-    /// A command that is no gesture: its word, when it may come, what reads the words behind.
+    /// A command that is not a gesture: its word, when it may come, and what reads the words after it.
     struct Command {
         std::string_view word;
         When when;
@@ -49,12 +49,12 @@ private:
     Json expectRefused(Words& words);
     Json expectVisibility(const std::string& name, Words& words);
     Json expectMember(const std::string& target, Words& words);
-    /// The value of "PANEL.Member" or "PANEL.CONTROL.Member"; throws Absent where there is none.
+    /// The value of "PANEL.Member" or "PANEL.CONTROL.Member"; throws Absent if there is none.
     [[nodiscard]] Json member(const std::string& target) const;
 
     [[nodiscard]] bool ended() const { return body_.frame().desk().ended(); }
     [[nodiscard]] bool running() const { return started_ && !ended(); }
-    /// Null where the panel is not loaded, or the program does not run.
+    /// Null if the panel is not loaded, or the program is not running.
     [[nodiscard]] FeuilleCalcul* panel(std::string_view name) const;
 
     Body& body_;

@@ -87,7 +87,8 @@ void AntennesHighQLoop::BtnCalculer_Click()
     Inductance = Pow(10, -6) * InductancePolygone(NbCotes, NbSpires, Cote);
     TxtInductance.Text = CStr(Pow(10, 6) * Inductance);
 
-    // What the loop does at the centre is shown nowhere, but it can end the program before the edges are reached.
+    // The loop's performance at the centre is shown nowhere, but computing it can end the program before the edges are
+    // reached.
     const Fonctionnement centre{*this, FreqMoy, DeltaFMoy};
     std::ignore = centre.Q();
     std::ignore = centre.XL();

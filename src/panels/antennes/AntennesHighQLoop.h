@@ -6,7 +6,7 @@
 
 namespace ondelis {
 
-/// A small tuned polygonal loop of high Q for a band of frequencies, and what it does at both edges of the band.
+/// A small tuned polygonal loop of high Q for a frequency band, and how it performs at both edges of the band.
 class AntennesHighQLoop final : public FeuilleCalcul {
 public:
     explicit AntennesHighQLoop(Desk& desk)

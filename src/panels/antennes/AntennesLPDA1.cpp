@@ -33,7 +33,7 @@ void AntennesLPDA1::Form_Load()
         [&] { TxtDiamExtBoom.Text = "50"; },
     });
 
-    // The whole sequence on the defaults and back to step 1, before the panel is seen. A fault here is not passed over.
+    // The whole sequence on the defaults and back to step 1, before the panel is seen. A fault here is not ignored.
     BtnCalculer1.Value = true;
     BtnSuite1.Value = true;
     BtnCalculer2.Value = true;
@@ -196,7 +196,7 @@ void AntennesLPDA1::BtnCalculer3_Click()
     TxtS.Text = Str(S * 25.4);
     if (S <= 2 * d)
         MsgBox("Ecartement entre les tubes du boom insuffisant");
-    // In place: the step done twice converts twice. The spacings are in feet and are taken for inches.
+    // In place: doing the step twice converts twice. The spacings are in feet and are taken for inches.
     const Integer n = CInt(NbElements - 1);
     for (int i = 0; i <= n; ++i) {
         TabLongueurs(i) = Cut(TabLongueurs(i) * 0.3048, 1000);

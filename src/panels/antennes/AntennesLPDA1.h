@@ -10,7 +10,7 @@
 namespace ondelis {
 
 /// A log-periodic dipole array from its band, its scale factor Theta and its relative spacing Rho, in four steps. Each
-/// step shows the buttons of the next one: which buttons are visible is all the state that the sequence has.
+/// step shows the buttons of the next one: which buttons are visible is the only state of the sequence.
 class AntennesLPDA1 final : public FeuilleCalcul {
 public:
     explicit AntennesLPDA1(Desk& desk)
@@ -111,7 +111,7 @@ public:
             .at = under(Text1, structure.Width, 2220, 120),
             .Locked = true,
             .multiLine = true}};
-    // These two are never seen: the drawing's frame covers them, and the notes where it is hidden.
+    // These two are never seen: the drawing's frame covers them, or the notes do where it is hidden.
     Label Label8{this, "Label8", {.Caption = "Label8", .at = {9600, 1200, 780, 255}}};
     Label Label23{this, "Label23", {.at = {10500, 1200, 780, 255}}};
 
@@ -131,8 +131,8 @@ public:
 
 private:
     static constexpr int dernierBrin = 30;
-    static constexpr double gauche = 6600; ///< where a button leads back to the step before
-    static constexpr double droite = 7860; ///< where one leads on
+    static constexpr double gauche = 6600; ///< of a button that goes back to the previous step
+    static constexpr double droite = 7860; ///< of one that goes on
 
     /// At the bottom of the frame of its step.
     static CommandButton::Design bouton(const Shape& cadre, double left, const char* texte, bool visible = true)

@@ -6,7 +6,7 @@ namespace ondelis {
 
 class AntennesHighQLoop;
 
-/// What a loop does at one frequency. Each quantity throws an overflow beyond the range of a `Double`.
+/// How a loop performs at one frequency. Each quantity throws an overflow beyond the range of a `Double`.
 class Fonctionnement {
 public:
     /// At the frequency F, in Hz, where the loop has the bandwidth D, in Hz.
@@ -17,7 +17,7 @@ public:
     [[nodiscard]] Double XL() const;
     /// Radiation resistance, ohms.
     [[nodiscard]] Double RR() const;
-    /// Loss resistance, ohms; negative where the bandwidth asks for less than the radiation takes.
+    /// Loss resistance, ohms; negative where the bandwidth requires less than the radiation takes.
     [[nodiscard]] Double RL() const;
     /// Voltage of the capacitor, V. Throws an invalid argument for a negative reactance.
     [[nodiscard]] Double Vc() const;

@@ -11,7 +11,7 @@ namespace {
 constexpr Color choisie = red; // red: the chosen option
 constexpr Color delaissee = black;
 
-// The message of the frequency serves for the resistances too.
+// The frequency's message also serves for the resistances.
 const std::string frequenceRefusee = "La valeur de frequence doit être positive et supérieure à zéro";
 const std::string reactanceRefusee = "La réactance doit être négative et inférieure à zéro";
 const std::string diametreRefuse = "Le diamètre extérieur doit être positif et supérieure à zéro";

@@ -77,7 +77,7 @@ private:
     /// Says why the value of a field is refused, and empties the field.
     void Refuser(TextBox& champ, const std::string& message);
 
-    // The last accepted values: a refused field leaves its own as it was.
+    // The last accepted values: a refused field leaves its value unchanged.
     Double Freq; ///< MHz
     Double R0; ///< impedance of the line, ohms
     Double DE; ///< diameter of the driven element, inches

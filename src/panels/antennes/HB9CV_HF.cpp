@@ -13,7 +13,7 @@ void HB9CV_HF::Form_Load()
         [&] { Lbl030.Visible = false; },
         [&] { Lbl025.Visible = true; },
     });
-    // The bar stands there already: nothing is raised, and the coefficient stays unknown until the bar moves.
+    // The bar is there already: nothing is raised, and the coefficient stays unknown until the bar moves.
     resumeNext({
         [&] { HScroll1.Value = 400; },
         [&] { TxtFreq.Text = CStr(50.13); },

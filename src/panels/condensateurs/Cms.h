@@ -16,33 +16,36 @@ public:
     }
 
     using Me = Cms;
-    static constexpr Column colonne{.left = 2040, .captions = 1560, .results = 960, .top = 660};
-    static constexpr Column colonne2{.left = 3240, .captions = 1500, .inputs = 1980, .results = 1260};
-    static constexpr Column colonne3{.left = 6165, .captions = 1395, .results = 600};
+    static constexpr Column taille{.left = 2040, .captions = 1560, .results = 960, .top = 660};
+    static constexpr Column codes{.left = 420, .captions = 2520, .top = 2415};
+    static constexpr Column lecture{.left = 3240, .captions = 1500, .inputs = 1980, .results = 1260, .top = 2400};
+    static constexpr Column exposant{.left = 6165, .captions = 1395, .results = 600, .top = lecture.top};
 
     Shape Cadre1{this, "Cadre1", {.at = {240, 240, 8160, 1860}}};
     Label LblTaille{this, "LblTaille", {.Caption = "Taille CMS", .at = {420, 360, 1320, 255}}};
     ListBox LstCms{this, "LstCms",
-        {.Items = {"402", "603", "805", "1206", "2010"}, .at = {420, 660, 1320, 1260}, .label = &LblTaille},
+        {.Items = {"402", "603", "805", "1206", "2010"},
+            .at = under(LblTaille, 1320, listHeight(5), 45),
+            .label = &LblTaille},
         &Me::LstCms_Click};
-    Label LblLongueur{this, "LblLongueur", colonne.caption(0, "Longueur (mm)")};
-    TextBox TxtLongueur{this, "TxtLongueur", colonne.result(LblLongueur)};
-    Label LblLargeur{this, "LblLargeur", colonne.caption(1, "Largeur (mm)")};
-    TextBox TxtLargeur{this, "TxtLargeur", colonne.result(LblLargeur)};
+    Label LblLongueur{this, "LblLongueur", taille.caption(0, "Longueur (mm)")};
+    TextBox TxtLongueur{this, "TxtLongueur", taille.result(LblLongueur)};
+    Label LblLargeur{this, "LblLargeur", taille.caption(1, "Largeur (mm)")};
+    TextBox TxtLargeur{this, "TxtLargeur", taille.result(LblLargeur)};
     Image Schema{this, "Schema", {.picture = "cms", .at = {4920, 300, 3300, 1740}}};
 
-    Shape Cadre2{this, "Cadre2", {.at = {240, 2220, 8160, 1380}}};
-    OptionButton Opt3Digits{this, "Opt3Digits", {.Caption = "Marquage sur 3 digits", .at = {420, 2415, 2520, 300}}};
-    OptionButton Opt4Digits{this, "Opt4Digits", {.Caption = "Marquage sur 4 digits", .at = {420, 2775, 2520, 300}}};
-    OptionButton OptE96{this, "OptE96", {.Caption = "Série E96", .at = {420, 3135, 2520, 300}}};
-    Label LblMarquage{this, "LblMarquage", colonne2.caption(6, "Marquage")};
-    TextBox TxtMarquage{this, "TxtMarquage", colonne2.input(LblMarquage), &Me::TxtMarquage_Change};
-    CommandButton BtnCmsCalculer{
-        this, "BtnCmsCalculer", {.Caption = "Calculer", .at = {7020, 2370, 1200, 375}}, &Me::BtnCmsCalculer_Click};
-    Label LblValeur{this, "LblValeur", colonne2.caption(8, "Valeur (Ohms)")};
-    TextBox TxtValeur{this, "TxtValeur", colonne2.openResult(LblValeur)};
-    Label LblExposant{this, "LblExposant", colonne3.caption(8, "x 10 puissance")};
-    TextBox TxtExposant{this, "TxtExposant", colonne3.openResult(LblExposant)};
+    Shape Cadre2{this, "Cadre2", {.at = under(Cadre1, 8160, 1380, 120)}};
+    OptionButton Opt3Digits{this, "Opt3Digits", codes.option(0, "Marquage sur 3 digits")};
+    OptionButton Opt4Digits{this, "Opt4Digits", codes.option(1, "Marquage sur 4 digits")};
+    OptionButton OptE96{this, "OptE96", codes.option(2, "Série E96")};
+    Label LblMarquage{this, "LblMarquage", lecture.caption(0, "Marquage")};
+    TextBox TxtMarquage{this, "TxtMarquage", lecture.input(LblMarquage), &Me::TxtMarquage_Change};
+    CommandButton BtnCmsCalculer{this, "BtnCmsCalculer",
+        {.Caption = "Calculer", .at = {7020, lecture.top - 30, 1200, 375}}, &Me::BtnCmsCalculer_Click};
+    Label LblValeur{this, "LblValeur", lecture.caption(2, "Valeur (Ohms)")};
+    TextBox TxtValeur{this, "TxtValeur", lecture.openResult(LblValeur)};
+    Label LblExposant{this, "LblExposant", exposant.caption(2, "x 10 puissance")};
+    TextBox TxtExposant{this, "TxtExposant", exposant.openResult(LblExposant)};
 
 private:
     void Form_Load() override;

@@ -6,15 +6,6 @@
 
 namespace ondelis {
 
-CondensateurEnergie::CondensateurEnergie(Desk& desk)
-    : FeuilleCalcul{desk,
-        {.name = "CondensateurEnergie",
-            .Caption = "Energie emmagasinée dans un condensateur",
-            .Width = 7500,
-            .Height = 6870}}
-{
-}
-
 void CondensateurEnergie::Form_Load()
 {
     resumeNext({

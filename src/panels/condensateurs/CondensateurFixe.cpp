@@ -131,7 +131,7 @@ void CondensateurFixe::Calculer()
         return;
     const Double S = Surface / DiviseurSurface; // m²
     const Double e = Epaisseur / DiviseurEpaisseur; // m
-    // 8.85 * 10^-12 as it comes out of that product, one step below the number 8.85e-12.
+    // 8.85 * 10^-12 as that product comes out, one step below the number 8.85e-12.
     const Double C = 8.849999999999999e-12 * ((Epsilon * S) / e); // F
     if (C != 0) {
         TxtCapacite.Visible = true;

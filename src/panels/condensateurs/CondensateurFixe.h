@@ -1,5 +1,9 @@
 #pragma once
 
+#include <string>
+#include <utility>
+#include <vector>
+
 #include "forms/Column.h"
 #include "forms/Controls.h"
 #include "forms/FeuilleCalcul.h"
@@ -17,58 +21,48 @@ public:
     }
 
     using Me = CondensateurFixe;
-    static constexpr Column colonne{.left = 2460, .captions = 2220, .inputs = 1560, .results = 1560, .top = 660};
-    static constexpr Column colonne_2 = colonne.from(240);
+    static constexpr Column constante{.left = 2460, .captions = 2220, .inputs = 1560, .results = 1560, .top = 660};
+    static constexpr Column proprietes = constante.from(2040);
 
     Shape Cadre1{this, "Cadre1", {.at = {240, 240, 9450, 3540}}};
     Label Lbl_Isolant{this, "Lbl_Isolant", {.Caption = "Diélectrique", .at = {420, 360, 1800, 255}}};
     ListBox LstDielectrique{this, "LstDielectrique",
         {.Items = {"Air", "Céramique I", "Céramique II", "Electrolytique", "Mica", "Mylar", "Papier", "Polycarbonate",
              "Polystyrène", "Tantale", "Téflon", "Verre"},
-            .at = {420, 660, 1800, 2940},
+            .at = under(Lbl_Isolant, 1800, listHeight(12), 45),
             .clickOnChosenRow = true,
             .label = &Lbl_Isolant},
         &Me::LstDielectrique_Click};
     Label LblCsteDiel{this, "LblCsteDiel",
-        {.Caption = "Constante diélectrique", .at = {2460, 330, 2760, 315}, .font = {.bold = true}}};
-    Label Label3{this, "Label3", colonne.caption(0, "Valeur de calcul")};
-    TextBox TxtCstDiel{this, "TxtCstDiel", colonne.input(Label3), &Me::TxtCstDiel_Change};
-    Label Label1{this, "Label1", colonne.caption(1, "Valeur Min")};
-    TextBox TxtCstDielMin{this, "TxtCstDielMin", colonne.result(Label1)};
-    Label LblCstDielMax{this, "LblCstDielMax", colonne.caption(2, "Valeur Max")};
-    TextBox TxtCstDielMax{this, "TxtCstDielMax", colonne.result(LblCstDielMax)};
-    Label LblDomFreq{this, "LblDomFreq", colonne_2.caption(5, "Domaine de Fréquence")};
-    TextBox TxtDomFreq{this, "TxtDomFreq", colonne_2.result(LblDomFreq)};
-    Label LblPhi{this, "LblPhi", colonne_2.caption(6, "Angle de pertes")};
-    TextBox TxtPhi{this, "TxtPhi", colonne_2.result(LblPhi)};
-    Label LblUtilisation{this, "LblUtilisation", colonne_2.caption(7, "Utilisation")};
-    TextBox TxtUtil{this, "TxtUtil",
-        {.at = {4740, 2760, 4770, 840},
-            .BackColor = resultColor,
-            .Locked = true,
-            .multiLine = true,
-            .label = &LblUtilisation}};
+        {.Caption = "Constante diélectrique", .at = {constante.left, 330, 2760, 315}, .font = {.bold = true}}};
+    Label Label3{this, "Label3", constante.caption(0, "Valeur de calcul")};
+    TextBox TxtCstDiel{this, "TxtCstDiel", constante.input(Label3), &Me::TxtCstDiel_Change};
+    Label Label1{this, "Label1", constante.caption(1, "Valeur Min")};
+    TextBox TxtCstDielMin{this, "TxtCstDielMin", constante.result(Label1)};
+    Label LblCstDielMax{this, "LblCstDielMax", constante.caption(2, "Valeur Max")};
+    TextBox TxtCstDielMax{this, "TxtCstDielMax", constante.result(LblCstDielMax)};
+    Label LblDomFreq{this, "LblDomFreq", proprietes.caption(0, "Domaine de Fréquence")};
+    TextBox TxtDomFreq{this, "TxtDomFreq", proprietes.result(LblDomFreq)};
+    Label LblPhi{this, "LblPhi", proprietes.caption(1, "Angle de pertes")};
+    TextBox TxtPhi{this, "TxtPhi", proprietes.result(LblPhi)};
+    Label LblUtilisation{this, "LblUtilisation", proprietes.caption(2, "Utilisation")};
+    TextBox TxtUtil{this, "TxtUtil", texte(LblUtilisation)};
     Image Icone{this, "Icone", {.picture = "condensateur-plan", .at = {6240, 450, 3450, 2100}}};
 
-    Shape Cadre2{this, "Cadre2", {.at = {240, 3900, 5460, 1860}}};
-    Label LblSurface{this, "LblSurface", {.Caption = "Surface", .at = {420, 4215, 1320, 255}}};
-    TextBox TxtSurface{
-        this, "TxtSurface", {.at = {420, 4560, 1320, 315}, .label = &LblSurface}, &Me::TxtSurface_Change};
-    Label LblUnitésS{this, "LblUnitésS", {.Caption = "Unité", .at = {1860, 4215, 900, 255}}};
-    ListBox LstUnités{this, "LstUnités",
-        {.Items = {"m²", "dm²", "cm²", "mm²"}, .at = {1860, 4560, 900, 1020}, .label = &LblUnitésS},
-        &Me::LstUnités_Click};
+    Shape Cadre2{this, "Cadre2", {.at = under(Cadre1, 5460, 1860, 120)}};
+    Label LblSurface{this, "LblSurface", titre(420, 1320, "Surface")};
+    TextBox TxtSurface{this, "TxtSurface", {.at = sous(LblSurface), .label = &LblSurface}, &Me::TxtSurface_Change};
+    Label LblUnitésS{this, "LblUnitésS", titre(1860, 900, "Unité")};
+    ListBox LstUnités{this, "LstUnités", unites(LblUnitésS, {"m²", "dm²", "cm²", "mm²"}), &Me::LstUnités_Click};
     Label LblEspace{this, "LblEspace", {.Caption = "Epaisseur diélectrique", .at = {3180, 4005, 1320, 510}}};
-    TextBox TxtEpaisseur{
-        this, "TxtEpaisseur", {.at = {3180, 4560, 1320, 315}, .label = &LblEspace}, &Me::TxtEpaisseur_Change};
-    Label LblUnitéE{this, "LblUnitéE", {.Caption = "Unité", .at = {4620, 4215, 900, 255}}};
-    ListBox LstUniteE{this, "LstUniteE",
-        {.Items = {"m", "dm", "cm", "mm"}, .at = {4620, 4560, 900, 1020}, .label = &LblUnitéE}, &Me::LstUniteE_Click};
+    TextBox TxtEpaisseur{this, "TxtEpaisseur", {.at = sous(LblEspace), .label = &LblEspace}, &Me::TxtEpaisseur_Change};
+    Label LblUnitéE{this, "LblUnitéE", titre(4620, 900, "Unité")};
+    ListBox LstUniteE{this, "LstUniteE", unites(LblUnitéE, {"m", "dm", "cm", "mm"}), &Me::LstUniteE_Click};
 
-    Shape Cadre3{this, "Cadre3", {.at = {5820, 3900, 3870, 1860}}};
-    Label Lbl_Capacité{this, "Lbl_Capacité", {.Caption = "Capacité", .at = {6000, 4215, 3510, 255}}};
+    Shape Cadre3{this, "Cadre3", {.at = {5820, Cadre2.at().Top, 3870, 1860}}};
+    Label Lbl_Capacité{this, "Lbl_Capacité", titre(6000, 3510, "Capacité")};
     TextBox TxtCapacite{this, "TxtCapacite",
-        {.at = {6000, 4560, 3510, 480},
+        {.at = sous(Lbl_Capacité, 480),
             .BackColor = resultColor,
             .ForeColor = 0xFF80FF,
             .Locked = true,
@@ -76,6 +70,29 @@ public:
             .label = &Lbl_Capacité}};
 
 private:
+    /// A result of several lines.
+    static TextBox::Design texte(Label& legende)
+    {
+        TextBox::Design design = resultField(legende, 4770);
+        design.at.Height = 840;
+        design.multiLine = true;
+        return design;
+    }
+    // In the lower frames each caption stands over its field or its list, which is as wide.
+    static Label::Design titre(double left, double width, std::string mots)
+    {
+        return {.Caption = std::move(mots), .at = {left, 4215, width, 255}};
+    }
+    static Box sous(const Label& legende, double height = 315)
+    {
+        return {legende.at().Left, 4560, legende.at().Width, height};
+    }
+    static ListBox::Design unites(Label& legende, std::vector<std::string> noms)
+    {
+        const double height = listHeight(static_cast<int>(noms.size()));
+        return {.Items = std::move(noms), .at = sous(legende, height), .label = &legende};
+    }
+
     void Form_Load() override;
     void LstDielectrique_Click();
     void TxtCstDiel_Change();

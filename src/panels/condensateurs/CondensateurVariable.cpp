@@ -9,13 +9,13 @@ namespace ondelis {
 Line::Design CondensateurVariable::lameMobile(int index)
 {
     const double x = 5940 + 600 * index;
-    return {.X1 = x, .Y1 = 3660, .X2 = x, .Y2 = 4560, .BorderColor = dessin::cuivre, .BorderWidth = 3};
+    return {.X1 = x, .Y1 = dosMobile, .X2 = x, .Y2 = dosMobile + 900, .BorderColor = dessin::cuivre, .BorderWidth = 3};
 }
 
 Line::Design CondensateurVariable::lameFixe(int index)
 {
     const double x = 5640 + 600 * index;
-    return {.X1 = x, .Y1 = 4740, .X2 = x, .Y2 = 3840, .BorderColor = dessin::encre, .BorderWidth = 3};
+    return {.X1 = x, .Y1 = dosFixe, .X2 = x, .Y2 = dosFixe - 900, .BorderColor = dessin::encre, .BorderWidth = 3};
 }
 
 void CondensateurVariable::Form_Load()

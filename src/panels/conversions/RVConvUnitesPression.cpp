@@ -5,17 +5,6 @@
 
 namespace ondelis {
 
-RVConvUnitesPression::RVConvUnitesPression(Desk& desk)
-    : FeuilleCalcul{desk,
-        {.name = "RVConvUnitesPression", .Caption = "Conversions unités de pression", .Width = 5280, .Height = 3315}}
-{
-}
-
-ListBox::Design RVConvUnitesPression::vers(std::vector<std::string> unites)
-{
-    return {.Items = std::move(unites), .at = {2340, 540, 1740, 1020}, .label = &LblVers};
-}
-
 void RVConvUnitesPression::Form_Load()
 {
     resumeNext({

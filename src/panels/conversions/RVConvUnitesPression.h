@@ -1,38 +1,60 @@
 #pragma once
 
+#include <string>
+#include <utility>
 #include <vector>
 
+#include "forms/Column.h"
 #include "forms/Controls.h"
 #include "forms/FeuilleCalcul.h"
 
 namespace ondelis {
 
-/// A pressure from one unit to another. The click on the wanted unit converts.
+/// Converts a pressure from one unit to another. A click on the wanted unit converts.
 class RVConvUnitesPression final : public FeuilleCalcul {
 public:
-    explicit RVConvUnitesPression(Desk& desk);
+    explicit RVConvUnitesPression(Desk& desk)
+        : FeuilleCalcul{desk,
+            {.name = "RVConvUnitesPression",
+                .Caption = "Conversions unités de pression",
+                .Width = 5280,
+                .Height = 3315}}
+    {
+    }
 
     using Me = RVConvUnitesPression;
+    // Each caption stands over its list or its field.
+    static constexpr Column depart{.left = 240, .captions = 1740, .top = 210, .pitch = 1740};
+    static constexpr Column arrivee{.left = 2340, .captions = 1740, .top = depart.top, .pitch = depart.pitch};
 
-    Label LblDe{this, "LblDe", {.Caption = "De", .at = {240, 240, 1740, 255}}};
-    ListBox LstConversions{this, "LstConversions",
-        {.Items = {"hPA", "mm H2O", "mm Hg", "Kg/cm²", "N/m²"}, .at = {240, 540, 1740, 1260}, .label = &LblDe},
-        &Me::LstConversions_Click};
-    Label LblEntree{this, "LblEntree", {.Caption = "Valeur en entrée", .at = {240, 1980, 1740, 255}}};
-    TextBox TxtEntree{this, "TxtEntree", {.at = {240, 2280, 1740, 315}, .label = &LblEntree}};
+    Label LblDe{this, "LblDe", depart.caption(0, "De")};
+    ListBox LstConversions{
+        this, "LstConversions", liste(LblDe, {"hPA", "mm H2O", "mm Hg", "Kg/cm²", "N/m²"}), &Me::LstConversions_Click};
+    Label LblEntree{this, "LblEntree", depart.caption(1, "Valeur en entrée")};
+    TextBox TxtEntree{this, "TxtEntree", {.at = sous(LblEntree), .label = &LblEntree}};
 
-    // One at a time, at one place.
-    Label LblVers{this, "LblVers", {.Caption = "Vers", .at = {2340, 240, 1740, 255}}};
-    ListBox LsthPa{this, "LsthPa", vers({"mm H2O", "mm Hg", "Kg/cm²", "N/m²"}), &Me::LsthPa_Click};
-    ListBox LstmmH2O{this, "LstmmH2O", vers({"hPa", "mm Hg", "Kg/cm²", "N/m²"}), &Me::LstmmH2O_Click};
-    ListBox LstmmHg{this, "LstmmHg", vers({"hPa", "mm H2O", "Kg/cm²", "N/m²"}), &Me::LstmmHg_Click};
-    ListBox LstKgcm2{this, "LstKgcm2", vers({"hPa", "mm H2O", "mm Hg", "N/m²"}), &Me::LstKgcm2_Click};
-    ListBox LstNm2{this, "LstNm2", vers({"hPa", "mm H2O", "mm Hg", "Kg/cm²"}), &Me::LstNm2_Click};
-    Label LblSortie{this, "LblSortie", {.Caption = "Valeur convertie", .at = {2340, 1980, 2580, 255}}};
-    TextBox TxtSortie{this, "TxtSortie", resultField({2340, 2280, 2580, 315}, &LblSortie)};
+    // One list at a time, at one place.
+    Label LblVers{this, "LblVers", arrivee.caption(0, "Vers")};
+    ListBox LsthPa{this, "LsthPa", liste(LblVers, {"mm H2O", "mm Hg", "Kg/cm²", "N/m²"}), &Me::LsthPa_Click};
+    ListBox LstmmH2O{this, "LstmmH2O", liste(LblVers, {"hPa", "mm Hg", "Kg/cm²", "N/m²"}), &Me::LstmmH2O_Click};
+    ListBox LstmmHg{this, "LstmmHg", liste(LblVers, {"hPa", "mm H2O", "Kg/cm²", "N/m²"}), &Me::LstmmHg_Click};
+    ListBox LstKgcm2{this, "LstKgcm2", liste(LblVers, {"hPa", "mm H2O", "mm Hg", "N/m²"}), &Me::LstKgcm2_Click};
+    ListBox LstNm2{this, "LstNm2", liste(LblVers, {"hPa", "mm H2O", "mm Hg", "Kg/cm²"}), &Me::LstNm2_Click};
+    Label LblSortie{
+        this, "LblSortie", {.Caption = "Valeur convertie", .at = {arrivee.left, arrivee.at(1).Top, 2580, 255}}};
+    TextBox TxtSortie{this, "TxtSortie", resultField(sous(LblSortie), &LblSortie)};
 
 private:
-    ListBox::Design vers(std::vector<std::string> unites);
+    /// Under the caption that names it, and as wide as it.
+    static Box sous(const Label& legende, double height = 315)
+    {
+        return under(legende, legende.at().Width, height, 45);
+    }
+    static ListBox::Design liste(Label& legende, std::vector<std::string> noms)
+    {
+        const double height = listHeight(static_cast<int>(noms.size()));
+        return {.Items = std::move(noms), .at = sous(legende, height), .label = &legende};
+    }
 
     void Form_Load() override;
     void LstConversions_Click();

@@ -5,12 +5,6 @@
 
 namespace ondelis {
 
-SectionDiametre::SectionDiametre(Desk& desk)
-    : FeuilleCalcul{desk,
-        {.name = "SectionDiametre", .Caption = "De la section vers le diamètre !!!", .Width = 4350, .Height = 1725}}
-{
-}
-
 void SectionDiametre::Form_Load()
 {
     resumeNext({

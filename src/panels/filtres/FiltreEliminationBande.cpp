@@ -9,11 +9,11 @@ FiltreEliminationBande::FiltreEliminationBande(Desk& desk)
         {.picture = "elimination-bande",
             .captionF1 = "Fréquence de début en Hz",
             .captionF2 = "Fréquence de fin en Hz",
-            .letterL1 = letterBox(drawing, 0.632, 0.459),
-            .letterC1 = letterBox(drawing, 0.649, 0.767),
-            .letterL2 = letterBox(drawing, 0.333, 0.108),
-            .letterC2 = letterBox(drawing, 0.333, 0.526),
-            .letterZ = letterBox(drawing, 0.934, 0.610)}}
+            .letterL1 = letter("L1", drawing, 0.632, 0.459),
+            .letterC1 = letter("C1", drawing, 0.649, 0.767),
+            .letterL2 = letter("L2", drawing, 0.333, 0.108),
+            .letterC2 = letter("C2", drawing, 0.333, 0.526),
+            .letterZ = letter("Z", drawing, 0.934, 0.610)}}
 {
 }
 

@@ -9,13 +9,6 @@
 
 namespace ondelis {
 
-TextBox::Design FiltreEnDoublePi::resultat(const char* text, Box at, Label* label)
-{
-    TextBox::Design design = resultField(at, label);
-    design.Text = text;
-    return design;
-}
-
 void FiltreEnDoublePi::Form_Load()
 {
     resumeNext({

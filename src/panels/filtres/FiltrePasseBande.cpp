@@ -9,11 +9,11 @@ FiltrePasseBande::FiltrePasseBande(Desk& desk)
         {.picture = "passe-bande",
             .captionF1 = "Fréquence d'ouverture en Hz",
             .captionF2 = "Fréquence de coupure en Hz",
-            .letterL1 = letterBox(drawing, 0.512, 0.587),
-            .letterC1 = letterBox(drawing, 0.735, 0.587),
-            .letterL2 = letterBox(drawing, 0.200, 0.166),
-            .letterC2 = letterBox(drawing, 0.407, 0.137),
-            .letterZ = letterBox(drawing, 0.934, 0.587)}}
+            .letterL1 = letter("L1", drawing, 0.512, 0.587),
+            .letterC1 = letter("C1", drawing, 0.735, 0.587),
+            .letterL2 = letter("L2", drawing, 0.200, 0.166),
+            .letterC2 = letter("C2", drawing, 0.407, 0.137),
+            .letterZ = letter("Z", drawing, 0.934, 0.587)}}
 {
 }
 

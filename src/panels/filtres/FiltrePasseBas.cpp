@@ -12,8 +12,8 @@ FiltrePasseBas::FiltrePasseBas(Desk& desk)
         {.picture = "passe-bas",
             .formulaL = "L = Z / ( Pi * F )",
             .formulaC = "C = 1 / ( Pi *Z * F )",
-            .letterL = letterBox(drawing, 0.330, 0.193),
-            .letterC = letterBox(drawing, 0.641, 0.601)}}
+            .letterL = letter("L", drawing, 0.330, 0.193),
+            .letterC = letter("C", drawing, 0.641, 0.601)}}
 {
 }
 

@@ -29,7 +29,7 @@ void Afficher(TextBox& champ, Double x)
     champ.Text = CStr(Cut(x, 1000));
 }
 
-/// Shows a component; its value passes once through its text of 15 digits.
+/// Shows a component; its value goes once through its 15-digit text.
 void Afficher(Label& label, const char* legende, TextBox& champ, Double valeur)
 {
     label.Caption = legende;
@@ -38,16 +38,6 @@ void Afficher(Label& label, const char* legende, TextBox& champ, Double valeur)
 }
 
 } // namespace
-
-TextBox::Design FiltrePasseBasEnPi::champ(double top, Label* label)
-{
-    return {.at = {1800, top, 1080, 315}, .BackColor = givenColor, .label = label};
-}
-
-Picture::Design FiltrePasseBasEnPi::schema(const char* dessin)
-{
-    return {.picture = dessin, .at = {3060, 240, 4020, 2145}, .Visible = false};
-}
 
 void FiltrePasseBasEnPi::Form_Load()
 {
@@ -317,7 +307,7 @@ FiltrePasseBasEnPi::Cas FiltrePasseBasEnPi::CasDuReseau() const
     return Cas::Aucun;
 }
 
-// The captions and formulas of the components are those of the panel, also where they seem to be another's.
+// The captions and formulas of the components are the panel's, even where they seem to belong to another component.
 
 void FiltrePasseBasEnPi::PiNetwork()
 {

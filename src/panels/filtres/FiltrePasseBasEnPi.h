@@ -17,24 +17,28 @@ public:
     }
 
     using Me = FiltrePasseBasEnPi;
-    static constexpr Column colonne{.left = 5880, .captions = 240, .results = 960, .top = 2610};
-    static constexpr Column colonne2{.left = 240, .captions = 900};
-    static constexpr Column colonne2_2 = colonne2.from(3420);
-    static constexpr Column colonne3{.left = 3780, .captions = 900, .top = 3420};
-    static constexpr Column colonne3_2 = colonne3.from(240);
+    static constexpr Column gauche{.left = 240, .captions = 900, .top = 3420};
+    static constexpr Column droite{.left = 3780, .captions = 900, .top = gauche.top};
+    static constexpr Column resistances = gauche.from(600);
+    static constexpr Column reglages{.left = 240, .captions = 1050, .top = 2610};
+    static constexpr Column qualite{.left = 5880, .captions = 240, .results = 960, .top = reglages.top};
+    static constexpr Column reactances = gauche.from(5010);
+    static constexpr Column composants = droite.from(reactances.top);
 
     Label LblFreq{this, "LblFreq", {.Caption = "Frequence MHz", .at = {240, 270, 1500, 255}}};
-    TextBox TxtFreq{this, "TxtFreq", champ(240, &LblFreq), &Me::TxtFreq_Change};
-    Label LblRin{this, "LblRin", colonne2.caption(1, "R entree")};
-    TextBox TxtRin{this, "TxtRin", champ(600, &LblRin), &Me::TxtRin_Change};
-    Label LblRout{this, "LblRout", colonne2.caption(2, "r sortie")};
-    TextBox TxtRout{this, "TxtRout", champ(960, &LblRout), &Me::TxtRout_Change};
-    Label Label21{
-        this, "Label21", {.Caption = "R > r", .at = {1140, 990, 600, 255}, .ForeColor = red, .align = Align::Center}};
+    TextBox TxtFreq{this, "TxtFreq", champ(LblFreq), &Me::TxtFreq_Change};
+    Label LblRin{this, "LblRin", resistances.caption(0, "R entree")};
+    TextBox TxtRin{this, "TxtRin", champ(LblRin), &Me::TxtRin_Change};
+    Label LblRout{this, "LblRout", resistances.caption(1, "r sortie")};
+    TextBox TxtRout{this, "TxtRout", champ(LblRout), &Me::TxtRout_Change};
+    Label Label21{this, "Label21",
+        {.Caption = "R > r", .at = {1140, LblRout.at().Top, 600, 255}, .ForeColor = red, .align = Align::Center}};
 
     Label Label22{this, "Label22", {.Caption = "Choix du type de filtre", .at = {240, 1410, 2640, 255}}};
     ListBox LstType{this, "LstType",
-        {.Items = {"Filtre en Pi", "Filtre en T", "Filtre en L"}, .at = {240, 1670, 2640, 780}, .label = &Label22},
+        {.Items = {"Filtre en Pi", "Filtre en T", "Filtre en L"},
+            .at = under(Label22, 2640, listHeight(3), 5),
+            .label = &Label22},
         &Me::LstType_Click};
 
     PictureBox ConvPi{this, "ConvPi", schema("conv-pi")};
@@ -45,62 +49,69 @@ public:
     Label LblInfo{this, "LblInfo",
         {.Caption = "Pas de solution", .at = {3060, 1215, 4080, 255}, .align = Align::Center, .Visible = false}};
 
-    Label LblQQ{this, "LblQQ", {.Caption = "Q", .at = {240, 2640, 1050, 255}}};
+    Label LblQQ{this, "LblQQ", reglages.caption(0, "Q")};
     HScrollBar Qscroll{this, "Qscroll",
-        {.Min = 10, .Max = 1000, .Value = 10, .LargeChange = 10, .at = {1320, 2640, 4440, 255}, .label = &LblQQ},
+        {.Min = 10, .Max = 1000, .Value = 10, .LargeChange = 10, .at = barre(LblQQ), .label = &LblQQ},
         &Me::Qscroll_Change};
-    Label LblQ{this, "LblQ", colonne.caption(0, "Q")};
-    TextBox TxtQ{this, "TxtQ", colonne.result(LblQ)};
-    Label LblP{this, "LblP", {.Caption = "P désiré", .at = {240, 3000, 1050, 255}}};
+    Label LblQ{this, "LblQ", qualite.caption(0, "Q")};
+    TextBox TxtQ{this, "TxtQ", qualite.result(LblQ)};
+    Label LblP{this, "LblP", reglages.caption(1, "P désiré")};
     HScrollBar Pscroll{this, "Pscroll",
-        {.Min = 1, .Max = 17999, .Value = 100, .LargeChange = 100, .at = {1320, 3000, 4440, 255}, .label = &LblP},
+        {.Min = 1, .Max = 17999, .Value = 100, .LargeChange = 100, .at = barre(LblP), .label = &LblP},
         &Me::Pscroll_Change};
 
-    Label LblN{this, "LblN", colonne2_2.caption(0, "N")};
-    TextBox TxtN{this, "TxtN", colonne2_2.result(LblN)};
-    Label LblT{this, "LblT", colonne3.caption(0, "T")};
-    TextBox TxtT{this, "TxtT", colonne3.result(LblT)};
-    Label LblPm{this, "LblPm", colonne2_2.caption(1, "Pm")};
-    TextBox TxtPm{this, "TxtPm", colonne2_2.result(LblPm)};
-    Label LblQm{this, "LblQm", colonne3.caption(1, "Qm")};
-    TextBox TxtQm{this, "TxtQm", colonne3.result(LblQm)};
-    Label LblPc{this, "LblPc", colonne2_2.caption(2, "P conv")};
-    TextBox TxtPc{this, "TxtPc", colonne2_2.result(LblPc)};
-    Label LblQc{this, "LblQc", colonne3.caption(2, "Q conv")};
-    TextBox TxtQc{this, "TxtQc", colonne3.openResult(LblQc)};
-    Label LblPu{this, "LblPu", colonne2_2.caption(3, "P unconv")};
-    TextBox TxtPu{this, "TxtPu", colonne2_2.result(LblPu)};
-    Label LblQu{this, "LblQu", colonne3.caption(3, "Q unconv")};
-    TextBox TxtQu{this, "TxtQu", colonne3.openResult(LblQu)};
+    Label LblN{this, "LblN", gauche.caption(0, "N")};
+    TextBox TxtN{this, "TxtN", gauche.result(LblN)};
+    Label LblT{this, "LblT", droite.caption(0, "T")};
+    TextBox TxtT{this, "TxtT", droite.result(LblT)};
+    Label LblPm{this, "LblPm", gauche.caption(1, "Pm")};
+    TextBox TxtPm{this, "TxtPm", gauche.result(LblPm)};
+    Label LblQm{this, "LblQm", droite.caption(1, "Qm")};
+    TextBox TxtQm{this, "TxtQm", droite.result(LblQm)};
+    Label LblPc{this, "LblPc", gauche.caption(2, "P conv")};
+    TextBox TxtPc{this, "TxtPc", gauche.result(LblPc)};
+    Label LblQc{this, "LblQc", droite.caption(2, "Q conv")};
+    TextBox TxtQc{this, "TxtQc", droite.openResult(LblQc)};
+    Label LblPu{this, "LblPu", gauche.caption(3, "P unconv")};
+    TextBox TxtPu{this, "TxtPu", gauche.result(LblPu)};
+    Label LblQu{this, "LblQu", droite.caption(3, "Q unconv")};
+    TextBox TxtQu{this, "TxtQu", droite.openResult(LblQu)};
 
     // The reactances of the Pi and of the T share one place: only one of them is ever shown.
-    Label LblXa{this, "LblXa", colonne2.caption(13.25, "Xa")};
-    TextBox TxtXa{this, "TxtXa", colonne2.result(LblXa)};
-    Label LblX1{this, "LblX1", colonne2.caption(13.25, "X1")};
-    TextBox TxtX1{this, "TxtX1", colonne2.result(LblX1)};
-    Label LblC1{this, "LblC1", colonne3_2.caption(13.25, "C1 pF")};
-    TextBox TxtC1{this, "TxtC1", colonne3_2.result(LblC1)};
-    Label LblXb{this, "LblXb", colonne2.caption(14.25, "Xb")};
-    TextBox TxtXb{this, "TxtXb", colonne2.result(LblXb)};
-    Label LblX2{this, "LblX2", colonne2.caption(14.25, "X2")};
-    TextBox TxtX2{this, "TxtX2", colonne2.result(LblX2)};
-    Label LblL1{this, "LblL1", colonne3_2.caption(14.25, "L1 µH")};
-    TextBox TxtL1{this, "TxtL1", colonne3_2.result(LblL1)};
-    Label LblXc{this, "LblXc", colonne2.caption(15.25, "Xc")};
-    TextBox TxtXc{this, "TxtXc", colonne2.result(LblXc)};
-    Label LblX3{this, "LblX3", colonne2.caption(15.25, "X3")};
-    TextBox TxtX3{this, "TxtX3", colonne2.result(LblX3)};
-    Label LblC2{this, "LblC2", colonne3_2.caption(15.25, "C2 pF")};
-    TextBox TxtC2{this, "TxtC2", colonne3_2.result(LblC2)};
+    Label LblXa{this, "LblXa", reactances.caption(0, "Xa")};
+    TextBox TxtXa{this, "TxtXa", reactances.result(LblXa)};
+    Label LblX1{this, "LblX1", reactances.caption(0, "X1")};
+    TextBox TxtX1{this, "TxtX1", reactances.result(LblX1)};
+    Label LblC1{this, "LblC1", composants.caption(0, "C1 pF")};
+    TextBox TxtC1{this, "TxtC1", composants.result(LblC1)};
+    Label LblXb{this, "LblXb", reactances.caption(1, "Xb")};
+    TextBox TxtXb{this, "TxtXb", reactances.result(LblXb)};
+    Label LblX2{this, "LblX2", reactances.caption(1, "X2")};
+    TextBox TxtX2{this, "TxtX2", reactances.result(LblX2)};
+    Label LblL1{this, "LblL1", composants.caption(1, "L1 µH")};
+    TextBox TxtL1{this, "TxtL1", composants.result(LblL1)};
+    Label LblXc{this, "LblXc", reactances.caption(2, "Xc")};
+    TextBox TxtXc{this, "TxtXc", reactances.result(LblXc)};
+    Label LblX3{this, "LblX3", reactances.caption(2, "X3")};
+    TextBox TxtX3{this, "TxtX3", reactances.result(LblX3)};
+    Label LblC2{this, "LblC2", composants.caption(2, "C2 pF")};
+    TextBox TxtC2{this, "TxtC2", composants.result(LblC2)};
 
-    Label Label23{this, "Label23", {.at = {240, 6210, 6900, 255}}};
+    Label Label23{this, "Label23", {.at = {240, reactances.at(3.25).Top, 6900, 255}}};
 
 private:
     /// The cases that the signs of the reactances of the Pi make.
     enum class Cas { Conventionnel, NonConventionnel, Aucun };
 
-    static TextBox::Design champ(double top, Label* label);
-    static Picture::Design schema(const char* dessin);
+    static TextBox::Design champ(Label& legende)
+    {
+        return {.at = {1800, legende.at().Top - 30, 1080, 315}, .BackColor = givenColor, .label = &legende};
+    }
+    static Picture::Design schema(const char* dessin)
+    {
+        return {.picture = dessin, .at = {3060, 240, 4020, 2145}, .Visible = false};
+    }
+    static Box barre(const Label& legende) { return {1320, legende.at().Top, 4440, 255}; }
 
     void Form_Load() override;
     void TxtFreq_Change();
@@ -112,8 +123,8 @@ private:
 
     void GrandeursDeBase();
 
-    // The solver in three passes, made of the steps below them. A store into a bar may run a whole pass inside
-    // the present one, which then goes on with the variables as it finds them.
+    // The solver in three passes, made of the steps below them. A store into a bar may run a whole pass inside the
+    // present one, which then continues with the variables as that left them.
     void Calculer();
     void QCompute();
     void PCompute();

@@ -12,8 +12,8 @@ FiltrePasseHaut::FiltrePasseHaut(Desk& desk)
         {.picture = "passe-haut",
             .formulaL = "L = Z / ( 4 * Pi * F )",
             .formulaC = "C = 1 / (4 * Pi *Z * F )",
-            .letterL = letterBox(drawing, 0.624, 0.601),
-            .letterC = letterBox(drawing, 0.330, 0.159)}}
+            .letterL = letter("L", drawing, 0.624, 0.601),
+            .letterC = letter("C", drawing, 0.330, 0.159)}}
 {
 }
 

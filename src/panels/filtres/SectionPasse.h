@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <utility>
 
 #include "forms/Column.h"
 #include "forms/Controls.h"
@@ -8,7 +9,7 @@
 
 namespace ondelis {
 
-/// What the low-pass and the high-pass section share: the form, and the road from a field to the results. Each gives
+/// What the low-pass and the high-pass section share: the form, and the path from a field to the results. Each supplies
 /// its defaults, its two formulas, and what it writes into the panel of the number of turns.
 class SectionPasse : public FeuilleCalcul {
 public:
@@ -17,8 +18,8 @@ public:
         std::string picture;
         std::string formulaL;
         std::string formulaC;
-        Box letterL; ///< on the drawing
-        Box letterC;
+        Label::Design letterL; ///< on the drawing
+        Label::Design letterC;
     };
 
     static constexpr Box drawing{675, 150, 4500, 2220};
@@ -34,22 +35,24 @@ private:
 
 public:
     using Me = SectionPasse;
-    static constexpr Column colonne{.left = 240, .captions = 2880, .resultBackground = mainResultColor};
+    static constexpr Column valeurs{.left = 240, .captions = 2880, .top = 2400, .resultBackground = mainResultColor};
 
     Image Schema{this, "Schema", {.picture = texts_.picture, .at = drawing}};
-    Label Label1{this, "Label1", {.Caption = "L", .at = texts_.letterL, .align = Align::Center}};
-    Label Label5{this, "Label5", {.Caption = "C", .at = texts_.letterC, .align = Align::Center}};
+    Label Label1{this, "Label1", texts_.letterL};
+    Label Label5{this, "Label5", texts_.letterC};
     Label Label4{this, "Label4", letter("Z", drawing, 0.934, 0.601)};
-    Label Label2{this, "Label2", colonne.caption(6, texts_.formulaL)};
-    Label Label3{this, "Label3", {.Caption = texts_.formulaC, .at = {3180, rowTop(6) + 30, 2430, 255}}};
-    Label Label6{this, "Label6", colonne.caption(7, "Fréquence de coupure en Hz")};
-    TextBox TxtFreq{this, "TxtFreq", colonne.input(Label6), &Me::TxtFreq_Change};
-    Label Label7{this, "Label7", colonne.caption(8, "Impédance de charge en Ohms")};
-    TextBox TxtZCharge{this, "TxtZCharge", colonne.input(Label7), &Me::TxtZCharge_Change};
-    Label Label9{this, "Label9", colonne.caption(9.5, "Self en Henry")};
-    TextBox TxtSelf{this, "TxtSelf", colonne.result(Label9)};
-    Label Label8{this, "Label8", colonne.caption(10.5, "Capacité en Farad")};
-    TextBox TxtCapa{this, "TxtCapa", colonne.result(Label8)};
+
+    Label Label2{this, "Label2", valeurs.caption(0, texts_.formulaL)};
+    Label Label3{this, "Label3", {.Caption = texts_.formulaC, .at = rightOf(Label2, 2430)}};
+    Label Label6{this, "Label6", valeurs.caption(1, "Fréquence de coupure en Hz")};
+    TextBox TxtFreq{this, "TxtFreq", valeurs.input(Label6), &Me::TxtFreq_Change};
+    Label Label7{this, "Label7", valeurs.caption(2, "Impédance de charge en Ohms")};
+    TextBox TxtZCharge{this, "TxtZCharge", valeurs.input(Label7), &Me::TxtZCharge_Change};
+
+    Label Label9{this, "Label9", valeurs.caption(3.5, "Self en Henry")};
+    TextBox TxtSelf{this, "TxtSelf", valeurs.result(Label9)};
+    Label Label8{this, "Label8", valeurs.caption(4.5, "Capacité en Farad")};
+    TextBox TxtCapa{this, "TxtCapa", valeurs.result(Label8)};
 
 protected:
     Double F; ///< Hz

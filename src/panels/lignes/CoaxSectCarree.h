@@ -18,7 +18,7 @@ public:
 
     using Me = CoaxSectCarree;
     static constexpr Column choix{.left = 2940, .captions = 1560, .top = 2895};
-    // The given one of D and Z stands on top, the sought one at the bottom.
+    // Of D and Z, the given one stands on top, the sought one at the bottom.
     static constexpr double haut = 2640;
     static constexpr double milieu = 3420;
     static constexpr double bas = 4200;

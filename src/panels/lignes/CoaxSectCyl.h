@@ -44,7 +44,7 @@ private:
 
     Double d; ///< of the inner conductor, mm
     Double D; ///< of the outer conductor, mm
-    Double E; ///< what the dielectric divides the impedance by
+    Double E; ///< the factor by which the dielectric divides the impedance
 };
 
 } // namespace ondelis

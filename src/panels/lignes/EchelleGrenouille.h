@@ -6,8 +6,8 @@
 
 namespace ondelis {
 
-/// A line of two parallel wires: its impedance, or the spacing of the wires for a wanted impedance. Each way has three
-/// fields of its own, at one place.
+/// A line of two parallel wires: its impedance, or the spacing of the wires for a wanted impedance. Each has its own
+/// three fields, at the same place.
 class EchelleGrenouille final : public FeuilleCalcul {
 public:
     explicit EchelleGrenouille(Desk& desk)

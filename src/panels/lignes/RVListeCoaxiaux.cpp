@@ -106,7 +106,7 @@ void RVListeCoaxiaux::LstResultat_Click()
             TxtRMS.Text = coaxial[7];
         }
     }
-    // For any other dielectric the note of the cable shown before stays.
+    // For any other dielectric the note of the previous cable stays.
     if (TxtDiel.Text == "PE") {
         Label8.Visible = true;
         Label9.Visible = false;

@@ -61,7 +61,7 @@ public:
     Label Label7{this, "Label7", fiche.caption(6, "Umax RMS")};
     TextBox TxtRMS{this, "TxtRMS", valeur(Label7)};
 
-    // One note at a time, all at one place.
+    // One note at a time, all at the same place.
     static constexpr Box note{5040, 4500, 3120, 765};
     Label Label8{this, "Label8", {.Caption = "PE : Polyéthylène (-65° à +80°)", .at = note}};
     Label Label9{this, "Label9", {.Caption = "Foam PE : Foamed polyéthylène  (-65° à +80°)", .at = note}};

@@ -59,7 +59,7 @@ void PDResitancesParalleles::VScrollPot_Change()
 void PDResitancesParalleles::Lire(const TextBox& champ, Double& valeur)
 {
     if (champ.Text == "") {
-        valeur = 0; // and the old results stand
+        valeur = 0; // and the old results stay
         return;
     }
     valeur = CDbl(champ.Text);

@@ -6,8 +6,8 @@
 
 namespace ondelis {
 
-/// A voltage divider of R1, a potentiometer and R2, loaded by Rc at the wiper. Fields are read by the separators of
-/// the region.
+/// A voltage divider of R1, a potentiometer and R2, loaded by Rc at the wiper. Fields are read using the region's
+/// separators.
 class PDResitancesParalleles final : public FeuilleCalcul {
 public:
     explicit PDResitancesParalleles(Desk& desk)
@@ -33,7 +33,7 @@ public:
     Label LblRc{this, "LblRc", saisies.caption(4, "Valeur Rc")};
     TextBox TxtRc{this, "TxtRc", saisies.input(LblRc), &Me::TxtRc_Change};
 
-    // The circuit carries its wiper, its currents and its voltage where they are.
+    // The circuit shows its wiper, its currents and its voltage where they are.
     Image Schema{this, "Schema", {.picture = "pont-potentiometre", .at = {4080, 330, 4800, 3540}}};
     VScrollBar VScrollPot{this, "VScrollPot",
         {.Min = 100, .Max = 0, .Value = 50, .LargeChange = 10, .at = {5295, 870, 255, 1590}, .label = &LblPot},

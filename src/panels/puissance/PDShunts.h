@@ -6,8 +6,7 @@
 
 namespace ondelis {
 
-/// A galvanometer made an ammeter by a resistor across it, or a voltmeter by a resistor in series with it; one of the
-/// two at a time.
+/// A galvanometer turned into an ammeter by a resistor across it, or into a voltmeter by one in series; one at a time.
 class PDShunts final : public FeuilleCalcul {
 public:
     explicit PDShunts(Desk& desk)

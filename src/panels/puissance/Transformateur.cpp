@@ -131,8 +131,8 @@ void Transformateur::PuissApparente()
     }
 }
 
-/// Efficiency at the apparent power P, VA, as a fraction. Throws a subscript out of range for a P that is not above
-/// 5 and up to 1000: no row holds it, and the row behind the last one is none.
+/// Efficiency at the apparent power P, VA, as a fraction. Throws a subscript out of range for a P that is not above 5
+/// and up to 1000: no row holds it, and there is none after the last.
 Double Transformateur::NetaTransfo(Double P)
 {
     for (int i = 0;; ++i) {
@@ -163,7 +163,7 @@ void Transformateur::LstTole_Click()
     TxtSecBrute.Text = CStr(Cut(SectionCorrigee, 100));
     CoteA = Sqr(SectionCorrigee) / 2;
     Txta.Text = CStr(Cut(CoteA, 100));
-    // 4.44 * 50 Hz as it comes out of that product, one step above 222.
+    // 4.44 * 50 Hz as that product comes out, one step above 222.
     SpiresParVolt = Pow(10, 4) / (Beta * 222.00000000000003 * SectionCorrigee);
     SpiresParVolt = SpiresParVolt + PerteFil(PuissancePrimaire); // added as a plain number
 

@@ -22,7 +22,7 @@ public:
     using Me = Transformateur;
     static constexpr Color cyan = 0xFFFF00;
     static constexpr Column enroulements{.left = 240, .captions = 4560, .inputs = 480};
-    // The table of the secondaries: a row for each.
+    // The table of the secondaries, a row each.
     static constexpr double secondaires = 780;
     static constexpr Column tensions{.left = 240, .captions = 720, .inputs = 1080, .top = secondaires};
     static constexpr Column courants{.left = 2310, .captions = 720, .inputs = 1080, .top = secondaires};

@@ -52,13 +52,13 @@ void CalculNombreSpires::OptpH_Click()
 void CalculNombreSpires::TxtS_Change()
 {
     if (Val(TxtS.Text) > 0)
-        S = Val(TxtS.Text) * UniteSelf; // Calculer reads S anew, without the unit; but the product can overflow
+        S = Val(TxtS.Text) * UniteSelf; // Calculer reads S again, without the unit; but the product can overflow
     Calculer();
 }
 
 void CalculNombreSpires::TxtD_Change()
 {
-    D = Val(TxtD.Text); // read anew too; but a fault comes before the count of turns starts anew
+    D = Val(TxtD.Text); // read again too; but a fault comes before the count of turns restarts
     Calculer();
 }
 
@@ -87,12 +87,12 @@ void CalculNombreSpires::Calculer()
     if (S == 0 || D == 0 || F == 0 || E == 0)
         return;
 
-    // In inches from here. P is the pitch at first, the length of the winding then.
+    // In inches from here. P is first the pitch, then the length of the winding.
     F = F / 25.4;
     E = E / 25.4;
     D = E + D / 25.4;
     Double P = E + F;
-    // The formula is that of the ARRL Handbook. It is computed at every test, after the last round too.
+    // The formula is that of the ARRL Handbook. It is computed at every test, even after the last round.
     const auto inductance = [&] { return Pow(N, 2) * Pow(D, 2) / (40 * P + 18 * D); };
     for (int tour = 0; inductance() < S && tour < tours; ++tour) {
         N = Sqr((40 * P + 18 * D) * S) / D;

@@ -6,8 +6,8 @@
 
 namespace ondelis {
 
-/// Turns and winding length of a single-layer coil of wanted inductance. Opened alone, and as the companion of
-/// panels that find a coil.
+/// Turns and winding length of a single-layer coil of wanted inductance. Opened alone, or as the companion of panels
+/// that compute a coil.
 class CalculNombreSpires final : public FeuilleCalcul {
 public:
     explicit CalculNombreSpires(Desk& desk)

@@ -113,7 +113,7 @@ void CalculSurTores::CalculerColonne(const Tore& tore, TextBox& resultat, Double
         return;
     const Double L = AL * Pow(N, 2) / tours;
     resultat.Text = TraitementMultiplicateur(unite * L);
-    // The inductance by the core's geometry shows nowhere; what remains of it is the faults that it raises.
+    // The inductance from the core's geometry is shown nowhere; only the faults that it raises matter.
     const Double W = c * AL * Pow(N, 2) * Ep * Log10(DiamExt / DiamInt);
     static_cast<void>(TraitementMultiplicateur(Pow(10, -6) * W));
 }

@@ -42,7 +42,7 @@ Double facteur(const std::string& unite, Double present)
 
 } // namespace
 
-/// The units of a field, right of it.
+/// The units of a field, to its right.
 ListBox::Design CircuitsOscillants::unites(const TextBox& champ, Label& legende, std::vector<std::string> items)
 {
     const Box& at = champ.at();
@@ -227,7 +227,7 @@ void CircuitsOscillants::Calculer()
         else if (TypeCircuit == "RL Série C Parallèle")
             puissance = RLSerieCParallele();
     }
-    // Also with no frequency or a failed guard: the last values stay on show.
+    // Even with no frequency or a failed guard: the last values stay visible.
     TxtImp.Text = TraitementMultiplicateur(Impedance);
     if (Phi != 0) {
         TxtDephase.Text = CStr(0); // whatever the phase: the panel shows none

@@ -88,7 +88,7 @@ private:
     void AfficherCircuit(int index);
     void Calculer();
 
-    // The computing half for each type: each gives the text of the power, empty where a guard fails.
+    // The computing half for each type: each returns the text of the power, empty if a guard fails.
     std::string RCSerie();
     std::string RCParallele();
     std::string RLParallele();

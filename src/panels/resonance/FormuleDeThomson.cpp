@@ -27,7 +27,7 @@ void FormuleDeThomson::OptF_Click()
 
 void FormuleDeThomson::OptL_Click()
 {
-    // Beside this panel, but not shown: hidden earlier, it stays hidden.
+    // Placed beside this panel, but not shown: if it was hidden earlier, it stays hidden.
     desk().get<CalculNombreSpires>().Top = Top + 500;
     desk().get<CalculNombreSpires>().Left = Width + Left + 500;
     OptionCalcul = "Self";

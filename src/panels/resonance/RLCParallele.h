@@ -56,7 +56,7 @@ public:
 
     Image Schema{this, "Schema", {.picture = "rlc-parallele", .at = {4260, 120, 3705, 2745}}};
 
-    // The diagram. Lines may lie on one another: the later ones are the thinner.
+    // The diagram. Lines may lie on one another: the later ones are thinner.
     Label LblIc{this, "LblIc", {.Caption = "Ic en avance sur U", .at = under(Schema, 3705, 255, 135)}};
     Shape Cadre{this, "Cadre", {.at = under(LblIc, 3705, 3420, 45)}};
     Line Line1{this, "Line1", {.X1 = 4560, .Y1 = 5010, .X2 = 7845, .Y2 = 5010, .BorderColor = diagramme::axe}};

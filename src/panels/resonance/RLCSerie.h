@@ -59,7 +59,7 @@ public:
     Image Schema{this, "Schema", {.picture = "rlc-serie", .at = {5190, 120, 3765, 2580}}};
 
     // The diagram: its longest side takes a fifth of the width of the panel, up or down from the origin, or to its
-    // right. Lines may lie on one another: the later ones are the thinner.
+    // right. Lines may lie on one another: the later ones are thinner.
     Shape Cadre{this, "Cadre", {.at = under(Schema, 3765, 3900, 240)}};
     Line Line3{this, "Line3", {.X1 = 5655, .Y1 = 4890, .X2 = 8655, .Y2 = 4890, .BorderColor = diagramme::axe}};
     Line LXl{this, "LXl", {.BorderColor = diagramme::bleu, .BorderWidth = 7, .within = &Cadre}};

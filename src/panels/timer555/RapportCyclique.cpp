@@ -57,7 +57,7 @@ void RapportCyclique::Calculer()
         return;
     const Double Periode = 1 / Frequence; // s
     const Double TempsMin = Periode / 100; // kept for R1
-    // The adjustable rest of the period, in its two parts.
+    // The adjustable remainder of the period, in its two parts.
     const Double X1 = ((Periode - TempsMin) * (RapportCyc - 1)) / 100;
     const Double X2 = (Periode - TempsMin) - X1;
     const Double R1 = Fix((100 * TempsMin) / (Capacite * 0.693)) / 100;

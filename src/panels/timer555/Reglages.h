@@ -7,7 +7,7 @@
 
 namespace ondelis {
 
-// What the timer panels have in common: a value is set by a bar, and a list beside it says in which unit.
+// What the timer panels have in common: a bar sets a value, and a list beside it gives the unit.
 
 /// The line under the caption of a value: its bar, or what stands at the left end of the bar.
 [[nodiscard]] Box sousLegende(const Label& legende, double width);
@@ -18,11 +18,11 @@ namespace ondelis {
 
 // The factor of the chosen row of a list of units; 1 where none is chosen.
 
-/// "Hz", "KHz"; toward hertz.
+/// "Hz", "KHz"; to hertz.
 [[nodiscard]] Double facteurFrequence(Integer rang);
-/// "Ohms", "KOhms", "MOhms"; toward ohms.
+/// "Ohms", "KOhms", "MOhms"; to ohms.
 [[nodiscard]] Double facteurResistance(Integer rang);
-/// "µF", "nF", "pF"; toward farads.
+/// "µF", "nF", "pF"; to farads.
 [[nodiscard]] Double facteurCapacite(Integer rang);
 
 } // namespace ondelis
