@@ -86,13 +86,6 @@ double processorTime(clockid_t clock)
     return static_cast<double>(time.tv_sec) + static_cast<double>(time.tv_nsec) * 1e-9;
 }
 
-/// What a command is about: "PANEL" in "type PANEL.CONTROL ...", "ENTRY" in "menu ENTRY".
-std::string_view subjectOf(std::string_view command)
-{
-    const std::string_view target = command.substr(command.find(' ') + 1);
-    return target.substr(0, target.find_first_of(". "));
-}
-
 /// Takes a text into a digest: FNV-1a, which is the same everywhere.
 void digest(std::uint64_t& sum, std::string_view text)
 {
@@ -235,6 +228,12 @@ Outcome playUser(const Aim& aim, const NewSubject& newSubject, std::uint64_t see
 }
 
 } // namespace
+
+std::string_view subjectOf(std::string_view command)
+{
+    const std::string_view target = command.substr(command.find(' ') + 1);
+    return target.substr(0, target.find_first_of(". "));
+}
 
 Outcome playUser(const NewSubject& newSubject, std::uint64_t seed)
 {

@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "Subject.h"
@@ -17,6 +18,9 @@ struct Outcome {
     Difference difference; ///< between two programs in step
     std::uint64_t digest = 0; ///< of all that was there to see, in a watched session
 };
+
+/// What a command is about: "PANEL" in "type PANEL.CONTROL ...", "ENTRY" in "menu ENTRY".
+[[nodiscard]] std::string_view subjectOf(std::string_view command);
 
 /// A random user works for a while, in a process of its own.
 [[nodiscard]] Outcome playUser(const NewSubject& newSubject, std::uint64_t seed);
