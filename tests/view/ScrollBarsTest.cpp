@@ -16,17 +16,11 @@ class ScrollBarsTest final : public QObject {
     /// Clicks a part of the bar.
     static void click(QScrollBar& bar, QStyle::SubControl part)
     {
+        struct Bar : QScrollBar {
+            using QScrollBar::initStyleOption; // the toolkit's own, which only its subclasses may call
+        };
         QStyleOptionSlider option;
-        option.initFrom(&bar);
-        option.orientation = bar.orientation();
-        option.minimum = bar.minimum();
-        option.maximum = bar.maximum();
-        option.sliderPosition = bar.sliderPosition();
-        option.sliderValue = bar.value();
-        option.singleStep = bar.singleStep();
-        option.pageStep = bar.pageStep();
-        if (bar.orientation() == Qt::Horizontal)
-            option.state |= QStyle::State_Horizontal;
+        (bar.*&Bar::initStyleOption)(&option);
         const QRect at = bar.style()->subControlRect(QStyle::CC_ScrollBar, &option, part, &bar);
         QTest::mouseClick(&bar, Qt::LeftButton, Qt::NoModifier, at.center());
     }

@@ -21,17 +21,11 @@ QStyleOptionTitleBar optionOf(const QMdiSubWindow& window)
 
 QStyleOptionSlider optionOf(const QScrollBar& bar)
 {
+    struct Bar : QScrollBar {
+        using QScrollBar::initStyleOption; // the toolkit's own, which only its subclasses may call
+    };
     QStyleOptionSlider option;
-    option.initFrom(&bar);
-    option.orientation = bar.orientation();
-    option.minimum = bar.minimum();
-    option.maximum = bar.maximum();
-    option.sliderPosition = bar.sliderPosition();
-    option.sliderValue = bar.value();
-    option.singleStep = bar.singleStep();
-    option.pageStep = bar.pageStep();
-    if (bar.orientation() == Qt::Horizontal)
-        option.state |= QStyle::State_Horizontal;
+    (bar.*&Bar::initStyleOption)(&option);
     return option;
 }
 
