@@ -47,19 +47,19 @@ inline constexpr double rowGap = 60;
 }
 
 /// The line of text right of a field, on its row: the unit, as a rule.
-[[nodiscard]] inline Label::Design unitOf(const Control& field, std::string unit, double width)
+[[nodiscard]] inline Label::Design unitOf(const Control& field, const char* unit, double width)
 {
     constexpr double lift = 30;
     const Box& at = field.at();
-    return {.Caption = std::move(unit),
+    return {.Caption = unit,
         .at = {at.Left + at.Width + rowGap, at.Top + lift, width, 255},
         .container = field.container()};
 }
 
 /// The letter of a part on a drawing: its centre as fractions of the drawing's width and height.
-[[nodiscard]] inline Label::Design letter(std::string text, const Box& drawing, double x, double y)
+[[nodiscard]] inline Label::Design letter(const char* text, const Box& drawing, double x, double y)
 {
-    return {.Caption = std::move(text), .at = letterBox(drawing, x, y), .align = Align::Center};
+    return {.Caption = text, .at = letterBox(drawing, x, y), .align = Align::Center};
 }
 
 /// The place to the right of a control, as high as the control.
@@ -109,9 +109,9 @@ struct Column {
         return {left, top + pitch * row + drop, captions, 255};
     }
 
-    [[nodiscard]] Label::Design caption(double row, std::string words, Frame* frame = nullptr) const
+    [[nodiscard]] Label::Design caption(double row, const char* words, Frame* frame = nullptr) const
     {
-        return {.Caption = std::move(words), .at = at(row), .container = frame};
+        return {.Caption = words, .at = at(row), .container = frame};
     }
 
     [[nodiscard]] TextBox::Design input(Label& caption) const { return inputField(caption, inputs); }
@@ -142,15 +142,15 @@ struct Column {
 
     /// The place of an option that has a row of the column to itself.
     [[nodiscard]] constexpr Box optionAt(double row) const { return {left, top + pitch * row, captions, 300}; }
-    [[nodiscard]] OptionButton::Design option(double row, std::string words) const
+    [[nodiscard]] OptionButton::Design option(double row, const char* words) const
     {
-        return {.Caption = std::move(words), .at = optionAt(row)};
+        return {.Caption = words, .at = optionAt(row)};
     }
 
     /// A button in the column of the fields, as wide as they are.
-    [[nodiscard]] CommandButton::Design button(double row, std::string words) const
+    [[nodiscard]] CommandButton::Design button(double row, const char* words) const
     {
-        return {.Caption = std::move(words), .at = {left + captions + rowGap, top + pitch * row, inputs, 375}};
+        return {.Caption = words, .at = {left + captions + rowGap, top + pitch * row, inputs, 375}};
     }
 };
 

@@ -8,8 +8,8 @@
 
 namespace ondelis {
 
-Control::Control(FeuilleCalcul* panel, std::string name, Box at, Frame* container)
-    : panel_{*panel}, name_{std::move(name)}, at_{at}, container_{container}
+Control::Control(FeuilleCalcul* panel, std::string_view name, Box at, Frame* container)
+    : panel_{*panel}, name_{name}, at_{at}, container_{container}
 {
     panel_.controls_.push_back(this);
 }

@@ -39,7 +39,7 @@ struct Font {
 /// The base of all controls: an element of one panel, with one name, at one place.
 class Control : public Element {
 public:
-    Control(FeuilleCalcul* panel, std::string name, Box at, Frame* container);
+    Control(FeuilleCalcul* panel, std::string_view name, Box at, Frame* container);
 
     [[nodiscard]] const std::string& name() const { return name_; }
     [[nodiscard]] FeuilleCalcul& panel() const { return panel_; }

@@ -9,6 +9,8 @@
 
 namespace ondelis {
 
+Label::Label(FeuilleCalcul* panel, std::string_view name, Design design) : Hideable{panel, name, design} { }
+
 void Label::storeCaption(std::string caption)
 {
     written_ = true;
@@ -24,8 +26,8 @@ void Label::reset()
     Top.reset(Double{design().at.Top});
 }
 
-TextBox::TextBox(FeuilleCalcul* panel, std::string name, Design design, Handler change, KeyHandler keyPress)
-    : Hideable{panel, std::move(name), std::move(design)}, change_{change}, keyPress_{keyPress}
+TextBox::TextBox(FeuilleCalcul* panel, std::string_view name, Design design, Handler change, KeyHandler keyPress)
+    : Hideable{panel, name, design}, change_{change}, keyPress_{keyPress}
 {
 }
 
@@ -62,8 +64,8 @@ void TextBox::reset()
     Top.reset(Double{design().at.Top});
 }
 
-ListBox::ListBox(FeuilleCalcul* panel, std::string name, Design design, Handler click, Handler gotFocus)
-    : Hideable{panel, std::move(name), std::move(design)}, click_{click}, gotFocus_{gotFocus}
+ListBox::ListBox(FeuilleCalcul* panel, std::string_view name, Design design, Handler click, Handler gotFocus)
+    : Hideable{panel, name, std::move(design)}, click_{click}, gotFocus_{gotFocus}
 {
 }
 
@@ -127,8 +129,8 @@ void ListBox::reset()
     Hideable::reset();
 }
 
-OptionButton::OptionButton(FeuilleCalcul* panel, std::string name, Design design, Handler click)
-    : Hideable{panel, std::move(name), std::move(design)}, click_{click}
+OptionButton::OptionButton(FeuilleCalcul* panel, std::string_view name, Design design, Handler click)
+    : Hideable{panel, name, design}, click_{click}
 {
 }
 
@@ -154,8 +156,8 @@ void OptionButton::reset()
     Hideable::reset();
 }
 
-CommandButton::CommandButton(FeuilleCalcul* panel, std::string name, Design design, Handler click)
-    : Hideable{panel, std::move(name), std::move(design)}, click_{click}
+CommandButton::CommandButton(FeuilleCalcul* panel, std::string_view name, Design design, Handler click)
+    : Hideable{panel, name, design}, click_{click}
 {
 }
 
@@ -166,8 +168,9 @@ void CommandButton::storeValue(bool pressed)
         raise(click_);
 }
 
-ScrollBar::ScrollBar(Orientation orientation, FeuilleCalcul* panel, std::string name, Design design, Handler change)
-    : Hideable{panel, std::move(name), design}, orientation_{orientation}, change_{change}
+ScrollBar::ScrollBar(
+    Orientation orientation, FeuilleCalcul* panel, std::string_view name, Design design, Handler change)
+    : Hideable{panel, name, design}, orientation_{orientation}, change_{change}
 {
 }
 
@@ -217,10 +220,31 @@ void ScrollBar::reset()
     Hideable::reset();
 }
 
-Picture::Picture(const char* kind, FeuilleCalcul* panel, std::string name, Design design)
-    : Hideable{panel, std::move(name), std::move(design)}, kind_{kind}
+HScrollBar::HScrollBar(FeuilleCalcul* panel, std::string_view name, Design design, Handler change)
+    : ScrollBar{Orientation::Horizontal, panel, name, design, change}
 {
 }
+
+VScrollBar::VScrollBar(FeuilleCalcul* panel, std::string_view name, Design design, Handler change)
+    : ScrollBar{Orientation::Vertical, panel, name, design, change}
+{
+}
+
+Frame::Frame(FeuilleCalcul* panel, std::string_view name, Design design) : Hideable{panel, name, design} { }
+
+Picture::Picture(const char* kind, FeuilleCalcul* panel, std::string_view name, Design design)
+    : Hideable{panel, name, design}, kind_{kind}
+{
+}
+
+PictureBox::PictureBox(FeuilleCalcul* panel, std::string_view name, Design design)
+    : Picture{"PictureBox", panel, name, design}
+{
+}
+
+Image::Image(FeuilleCalcul* panel, std::string_view name, Design design) : Picture{"Image", panel, name, design} { }
+
+Line::Line(FeuilleCalcul* panel, std::string_view name, Design design) : Hideable{panel, name, design} { }
 
 void Line::reset()
 {
@@ -230,6 +254,10 @@ void Line::reset()
     Y2.reset(Double{design().Y2});
     Hideable::reset();
 }
+
+Shape::Shape(FeuilleCalcul* panel, std::string_view name, Design design) : Designed{panel, name, design} { }
+
+MaskEdBox::MaskEdBox(FeuilleCalcul* panel, std::string_view name, Design design) : Designed{panel, name, design} { }
 
 std::string MaskEdBox::display() const
 {

@@ -23,8 +23,8 @@ public:
     void accept(ControlVisitor& visitor) final;
 
 protected:
-    Designed(FeuilleCalcul* panel, std::string name, Design design)
-        : Control{panel, std::move(name), boxOf(design), containerOf(design)}, design_{std::move(design)}
+    Designed(FeuilleCalcul* panel, std::string_view name, Design design)
+        : Control{panel, name, boxOf(design), containerOf(design)}, design_{std::move(design)}
     {
     }
 
@@ -68,9 +68,7 @@ class Label final : public Hideable<Label, LabelDesign> {
     void storeCaption(std::string caption);
 
 public:
-    Label(FeuilleCalcul* panel, std::string name, Design design) : Hideable{panel, std::move(name), std::move(design)}
-    {
-    }
+    Label(FeuilleCalcul* panel, std::string_view name, Design design);
 
     ActiveProperty<Label, std::string, &Label::storeCaption> Caption{*this};
     Property<Single> Top{*this};
@@ -89,7 +87,7 @@ class TextBox final : public Hideable<TextBox, TextBoxDesign> {
     void storeText(std::string text);
 
 public:
-    TextBox(FeuilleCalcul* panel, std::string name, Design design, Handler change = {}, KeyHandler keyPress = {});
+    TextBox(FeuilleCalcul* panel, std::string_view name, Design design, Handler change = {}, KeyHandler keyPress = {});
 
     ActiveProperty<TextBox, std::string, &TextBox::storeText> Text{*this};
     Property<Color> BackColor{*this};
@@ -128,7 +126,7 @@ class ListBox final : public Hideable<ListBox, ListBoxDesign> {
     void storeListIndex(Integer row);
 
 public:
-    ListBox(FeuilleCalcul* panel, std::string name, Design design, Handler click = {}, Handler gotFocus = {});
+    ListBox(FeuilleCalcul* panel, std::string_view name, Design design, Handler click = {}, Handler gotFocus = {});
 
     /// The chosen row from 0, -1 for none. A store beyond the list throws an invalid property value.
     ActiveProperty<ListBox, Integer, &ListBox::storeListIndex> ListIndex{*this};
@@ -174,7 +172,7 @@ class OptionButton final : public Hideable<OptionButton, OptionButtonDesign> {
     void storeValue(bool chosen);
 
 public:
-    OptionButton(FeuilleCalcul* panel, std::string name, Design design, Handler click = {});
+    OptionButton(FeuilleCalcul* panel, std::string_view name, Design design, Handler click = {});
 
     ActiveProperty<OptionButton, bool, &OptionButton::storeValue> Value{*this};
     Property<Color> ForeColor{*this};
@@ -191,7 +189,7 @@ class CommandButton final : public Hideable<CommandButton, CommandButtonDesign> 
     void storeValue(bool pressed);
 
 public:
-    CommandButton(FeuilleCalcul* panel, std::string name, Design design, Handler click = {});
+    CommandButton(FeuilleCalcul* panel, std::string_view name, Design design, Handler click = {});
 
     ActiveProperty<CommandButton, bool, &CommandButton::storeValue> Value{*this};
 
@@ -223,7 +221,7 @@ public:
     void reset() override;
 
 protected:
-    ScrollBar(Orientation orientation, FeuilleCalcul* panel, std::string name, Design design, Handler change);
+    ScrollBar(Orientation orientation, FeuilleCalcul* panel, std::string_view name, Design design, Handler change);
 
 private:
     void moveInside();
@@ -234,26 +232,18 @@ private:
 
 class HScrollBar final : public ScrollBar {
 public:
-    HScrollBar(FeuilleCalcul* panel, std::string name, Design design, Handler change = {})
-        : ScrollBar{Orientation::Horizontal, panel, std::move(name), design, change}
-    {
-    }
+    HScrollBar(FeuilleCalcul* panel, std::string_view name, Design design, Handler change = {});
 };
 
 class VScrollBar final : public ScrollBar {
 public:
-    VScrollBar(FeuilleCalcul* panel, std::string name, Design design, Handler change = {})
-        : ScrollBar{Orientation::Vertical, panel, std::move(name), design, change}
-    {
-    }
+    VScrollBar(FeuilleCalcul* panel, std::string_view name, Design design, Handler change = {});
 };
 
 /// A titled group of controls, or a titled drawing.
 class Frame final : public Hideable<Frame, FrameDesign> {
 public:
-    Frame(FeuilleCalcul* panel, std::string name, Design design) : Hideable{panel, std::move(name), std::move(design)}
-    {
-    }
+    Frame(FeuilleCalcul* panel, std::string_view name, Design design);
 };
 
 /// A drawing. Its two kinds differ in name only.
@@ -263,7 +253,7 @@ public:
     [[nodiscard]] const char* kind() const { return kind_; }
 
 protected:
-    Picture(const char* kind, FeuilleCalcul* panel, std::string name, Design design);
+    Picture(const char* kind, FeuilleCalcul* panel, std::string_view name, Design design);
 
 private:
     const char* kind_;
@@ -271,24 +261,18 @@ private:
 
 class PictureBox final : public Picture {
 public:
-    PictureBox(FeuilleCalcul* panel, std::string name, Design design)
-        : Picture{"PictureBox", panel, std::move(name), std::move(design)}
-    {
-    }
+    PictureBox(FeuilleCalcul* panel, std::string_view name, Design design);
 };
 
 class Image final : public Picture {
 public:
-    Image(FeuilleCalcul* panel, std::string name, Design design)
-        : Picture{"Image", panel, std::move(name), std::move(design)}
-    {
-    }
+    Image(FeuilleCalcul* panel, std::string_view name, Design design);
 };
 
 /// A straight line on the panel.
 class Line final : public Hideable<Line, LineDesign> {
 public:
-    Line(FeuilleCalcul* panel, std::string name, Design design) : Hideable{panel, std::move(name), design} { }
+    Line(FeuilleCalcul* panel, std::string_view name, Design design);
 
     Property<Single> X1{*this};
     Property<Single> Y1{*this};
@@ -301,7 +285,7 @@ public:
 /// A rectangle drawn around what belongs together.
 class Shape final : public Designed<Shape, ShapeDesign> {
 public:
-    Shape(FeuilleCalcul* panel, std::string name, Design design) : Designed{panel, std::move(name), design} { }
+    Shape(FeuilleCalcul* panel, std::string_view name, Design design);
 
     void reset() override { }
 };
@@ -309,7 +293,7 @@ public:
 /// A read-only display of a number in exponent form with three decimals: "1.200E-01".
 class MaskEdBox final : public Designed<MaskEdBox, MaskEdBoxDesign> {
 public:
-    MaskEdBox(FeuilleCalcul* panel, std::string name, Design design) : Designed{panel, std::move(name), design} { }
+    MaskEdBox(FeuilleCalcul* panel, std::string_view name, Design design);
 
     Property<std::string> Text{*this};
 

@@ -12,10 +12,10 @@ class Label;
 class Shape;
 
 // What a form specifies for a control of each class. The control starts with these values each time its panel is
-// loaded.
+// loaded. Its texts are literals.
 
 struct LabelDesign {
-    std::string Caption = {};
+    const char* Caption = "";
     Box at = {};
     Color ForeColor = windowTextColor;
     Align align = Align::Left;
@@ -25,7 +25,7 @@ struct LabelDesign {
 };
 
 struct TextBoxDesign {
-    std::string Text = {};
+    const char* Text = "";
     Box at = {};
     Color BackColor = windowColor;
     Color ForeColor = windowTextColor;
@@ -51,7 +51,7 @@ struct ListBoxDesign {
 };
 
 struct OptionButtonDesign {
-    std::string Caption = {};
+    const char* Caption = "";
     Box at = {};
     bool Value = false;
     Color ForeColor = windowTextColor;
@@ -61,7 +61,7 @@ struct OptionButtonDesign {
 };
 
 struct CommandButtonDesign {
-    std::string Caption = {};
+    const char* Caption = "";
     Box at = {};
     bool Visible = true;
     Frame* container = nullptr;
@@ -80,14 +80,14 @@ struct ScrollBarDesign {
 };
 
 struct FrameDesign {
-    std::string Caption = {};
+    const char* Caption = "";
     Box at = {};
-    std::string picture = {}; ///< the drawing inside it: a name in resources/dessins
+    const char* picture = ""; ///< the drawing inside it: a name in resources/dessins
     bool Visible = true;
 };
 
 struct PictureDesign {
-    std::string picture = {}; ///< a name in resources/dessins
+    const char* picture = ""; ///< a name in resources/dessins
     Box at = {};
     bool Visible = true;
     Frame* container = nullptr;

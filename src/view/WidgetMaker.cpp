@@ -59,7 +59,7 @@ void WidgetMaker::visit(ListBox& list)
 void WidgetMaker::visit(OptionButton& option)
 {
     take(*new OptionButtonWidget{window_, option, parentOf(option)}, option);
-    if (option.design().Caption.empty())
+    if (std::string_view{option.design().Caption}.empty())
         window_.nameAfter(option.design().label, made_->widget());
 }
 

@@ -82,7 +82,7 @@ private:
     void visit(OptionButton& option) override
     {
         tell(QAccessible::RadioButton, option);
-        if (!option.design().Caption.empty())
+        if (!std::string_view{option.design().Caption}.empty())
             told_.name = toQString(option.design().Caption);
         told_.checked = option.Value;
     }

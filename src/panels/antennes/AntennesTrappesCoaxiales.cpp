@@ -16,7 +16,7 @@ struct Coaxial {
     double vitesse;
 };
 
-constexpr std::array<Coaxial, 46> table{{
+constexpr std::array<Coaxial, 46> coaxials{{
     {"KX3B", 30.48, 0.1, 50.0, 0.659},
     {"RG 6", 18.6, 0.266, 75.0, 0.75},
     {"RG 8X", 26.0, 0.242, 52.0, 0.75},
@@ -76,8 +76,8 @@ Double arrondi(Double x, Double parts)
 std::vector<std::string> AntennesTrappesCoaxiales::Coaxiaux()
 {
     std::vector<std::string> noms;
-    noms.reserve(table.size() + 1);
-    for (const Coaxial& coaxial : table)
+    noms.reserve(coaxials.size() + 1);
+    for (const Coaxial& coaxial : coaxials)
         noms.emplace_back(coaxial.nom);
     noms.emplace_back("Personnel");
     return noms;
@@ -105,7 +105,7 @@ void AntennesTrappesCoaxiales::LstCoax_Click()
         TxtDiamMandrin.Text = "";
         TxtCapacitParMetre.Text = "";
     } else {
-        const Coaxial& coaxial = table.at(static_cast<std::size_t>(rang.value()));
+        const Coaxial& coaxial = coaxials.at(static_cast<std::size_t>(rang.value()));
         CapaPied = coaxial.pFParPied;
         DiamCoaxPouce = coaxial.pouces;
         ImpedanceCoax = coaxial.ohms;

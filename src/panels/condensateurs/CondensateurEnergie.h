@@ -61,12 +61,12 @@ private:
 
     /// The words before the field. Those that end in a blank are set one blank further right, so that the sentences
     /// line up at their fields.
-    static Label::Design debut(double row, std::string mots)
+    static Label::Design debut(double row, const char* mots)
     {
         constexpr double blanc = 60;
-        Label::Design design = phrases.caption(row, std::move(mots));
+        Label::Design design = phrases.caption(row, mots);
         design.align = Align::Right;
-        if (design.Caption.ends_with(' '))
+        if (std::string_view{mots}.ends_with(' '))
             design.at.Left += blanc;
         return design;
     }
@@ -77,10 +77,10 @@ private:
     static TextBox::Design saisie(Label& legende) { return {.at = champ(legende), .label = &legende}; }
     static TextBox::Design resultat(Label& legende) { return resultField(champ(legende), &legende); }
     /// The words after the field.
-    static Label::Design fin(const TextBox& valeur, std::string mots)
+    static Label::Design fin(const TextBox& valeur, const char* mots)
     {
         const Box& at = valeur.at();
-        return {.Caption = std::move(mots), .at = {at.Left + at.Width + ecart, at.Top + 30, 960, 255}};
+        return {.Caption = mots, .at = {at.Left + at.Width + ecart, at.Top + 30, 960, 255}};
     }
 
     void Form_Load() override;

@@ -79,9 +79,9 @@ private:
         return design;
     }
     // In the lower frames each caption stands over its field or its list, which is as wide.
-    static Label::Design titre(double left, double width, std::string mots)
+    static Label::Design titre(double left, double width, const char* mots)
     {
-        return {.Caption = std::move(mots), .at = {left, 4215, width, 255}};
+        return {.Caption = mots, .at = {left, 4215, width, 255}};
     }
     static Box sous(const Label& legende, double height = 315)
     {

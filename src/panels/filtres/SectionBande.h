@@ -15,9 +15,9 @@ class SectionBande : public FeuilleCalcul {
 public:
     /// Where the two forms differ.
     struct Texts {
-        std::string picture;
-        std::string captionF1;
-        std::string captionF2;
+        const char* picture;
+        const char* captionF1;
+        const char* captionF2;
         Label::Design letterL1; ///< on the drawing, as the four below
         Label::Design letterC1;
         Label::Design letterL2;
@@ -27,9 +27,9 @@ public:
 
     static constexpr Box drawing{675, 150, 4500, 2580};
 
-    SectionBande(Desk& desk, std::string name, std::string caption, Texts texts)
+    SectionBande(Desk& desk, std::string name, std::string caption, const Texts& texts)
         : FeuilleCalcul{desk, {.name = std::move(name), .Caption = std::move(caption), .Width = 5970, .Height = 6255}},
-          texts_{std::move(texts)}
+          texts_{texts}
     {
     }
 

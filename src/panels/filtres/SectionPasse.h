@@ -15,18 +15,18 @@ class SectionPasse : public FeuilleCalcul {
 public:
     /// Where the two forms differ.
     struct Texts {
-        std::string picture;
-        std::string formulaL;
-        std::string formulaC;
+        const char* picture;
+        const char* formulaL;
+        const char* formulaC;
         Label::Design letterL; ///< on the drawing
         Label::Design letterC;
     };
 
     static constexpr Box drawing{675, 150, 4500, 2220};
 
-    SectionPasse(Desk& desk, std::string name, std::string caption, Texts texts)
+    SectionPasse(Desk& desk, std::string name, std::string caption, const Texts& texts)
         : FeuilleCalcul{desk, {.name = std::move(name), .Caption = std::move(caption), .Width = 5970, .Height = 4980}},
-          texts_{std::move(texts)}
+          texts_{texts}
     {
     }
 

@@ -27,7 +27,7 @@ struct Legende {
         const double y = noms.at(row).Top + middle;
         return {.X1 = traits, .Y1 = y, .X2 = traits + length, .Y2 = y, .BorderColor = color, .BorderWidth = width};
     }
-    [[nodiscard]] Label::Design nom(double row, std::string words) const { return noms.caption(row, std::move(words)); }
+    [[nodiscard]] Label::Design nom(double row, const char* words) const { return noms.caption(row, words); }
 };
 
 } // namespace ondelis::diagramme
