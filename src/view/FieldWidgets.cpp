@@ -5,7 +5,6 @@
 #include <QKeyEvent>
 #include <QSignalBlocker>
 #include <QWheelEvent>
-#include <algorithm>
 
 #include "forms/Desk.h"
 #include "view/Copying.h"
@@ -15,7 +14,6 @@ namespace ondelis {
 namespace {
 
 constexpr char32_t backspaceKey = 8;
-constexpr int unlimited = 32767;
 
 std::string toText(const QString& text)
 {
@@ -60,25 +58,11 @@ void TextBoxWidget::followText()
     const QSignalBlocker quiet{this};
     const QString stored = toQString(control().Text.get());
     if (stored != text()) {
-        if (maxLength() != unlimited) // a new limit is announced to screen readers as a new text
-            setMaxLength(unlimited);
         setText(stored);
         // A text shows its start, but in the field being typed in the caret stays where typing continues.
         if (panelWindow().panel().desk().focused() != &control())
             setCursorPosition(0);
     }
-    limitLength();
-}
-
-void TextBoxWidget::limitLength()
-{
-    const int limit = control().design().MaxLength;
-    const int length = limit == 0 ? unlimited : std::max(limit, static_cast<int>(text().size()));
-    if (length == maxLength())
-        return;
-    const int caret = cursorPosition();
-    setMaxLength(length);
-    setCursorPosition(caret);
 }
 
 void TextBoxWidget::tellText()

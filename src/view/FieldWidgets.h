@@ -22,8 +22,6 @@ protected:
 
 private:
     void followText();
-    /// Typing and pasting stop at the field's limit; a longer text that code has stored stays whole.
-    void limitLength();
     void tellText();
     /// Shows the panel a key before it lands. False if it must no longer land: the handler rewrote the text on a
     /// backspace, or the panel is gone.

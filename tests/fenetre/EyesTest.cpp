@@ -41,8 +41,6 @@ TEST_F(EyesTest, AFieldIsReadFromItsWidget)
     EXPECT_EQ(seen("CircuitsOscillants.TxtFreq.Locked"), true);
     field.move(field.x(), 30);
     EXPECT_EQ(seen("CircuitsOscillants.TxtFreq.Top"), 450);
-    field.setMaxLength(4);
-    EXPECT_EQ(seen("CircuitsOscillants.TxtFreq.MaxLength"), 4);
     field.setAccessibleName(QStringLiteral("Longueur"));
     EXPECT_EQ(seen("CircuitsOscillants.TxtFreq.Label"), "Longueur");
     field.hide();

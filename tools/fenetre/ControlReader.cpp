@@ -8,7 +8,6 @@
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QRadioButton>
-#include <algorithm>
 #include <cmath>
 #include <stdexcept>
 
@@ -169,25 +168,18 @@ void ControlReader::visit(TextBox& box)
     readVisible(box);
     seenPlace("Top", box.Top, widget.y(), widget);
     seenLabel(box.design().label, box.design().otherLabel, widget);
+    unseen("MaxLength");
     if (const auto* const line = qobject_cast<const QLineEdit*>(&widget)) {
-        constexpr int unlimited = 32767;
         seenText("Text", line->text());
         seen("Locked", line->isReadOnly());
         seen("MultiLine", false);
         seenType(widget, line->alignment());
-        const int limit = box.design().MaxLength;
-        const int length = static_cast<int>(line->text().size());
-        if (line->maxLength() == (limit == 0 ? unlimited : std::max(limit, length)))
-            unseen("MaxLength"); // a text that code has stored may be longer
-        else
-            seen("MaxLength", line->maxLength());
     } else {
         const auto& area = dynamic_cast<const QPlainTextEdit&>(widget);
         seenText("Text", area.toPlainText());
         seen("Locked", area.isReadOnly());
         seen("MultiLine", true);
         seenType(widget, area.document()->defaultTextOption().alignment());
-        unseen("MaxLength");
     }
 }
 
