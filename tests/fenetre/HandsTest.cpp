@@ -11,6 +11,7 @@ class HandsTest : public WindowTest { };
 
 TEST_F(HandsTest, ReachNothingThatIsNotOnScreen)
 {
+    EXPECT_EQ(refusal("menu MenuQuitter"), "the program has not started");
     say("start");
     EXPECT_EQ(refusal("menu Rien"), "the menu has no such entry");
     EXPECT_EQ(refusal("close GammaMatch"), "the panel is not on screen");

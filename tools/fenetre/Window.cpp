@@ -78,10 +78,11 @@ Window::Window(Painting painting) : painting_{painting}
 Window::~Window()
 {
     hands_.leave();
-    view_.perform([this](User&) {
-        while (!desk_.loadedPanels().empty())
-            desk_.Unload(*desk_.loadedPanels().front());
-    });
+    if (!desk_.loadedPanels().empty()) // the view may never have been opened
+        view_.perform([this](User&) {
+            while (!desk_.loadedPanels().empty())
+                desk_.Unload(*desk_.loadedPanels().front());
+        });
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete); // no event loop comes to it
     // Where the program has ended, the next one must find an event loop that has not.
     if (desk_.ended()) {
