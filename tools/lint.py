@@ -4,8 +4,8 @@
 Runs clang-tidy on the sources that changed since they last passed, or whose headers, flags or settings did: on all of
 them if nothing is known, and on all that are named. BUILD is a folder that has just been built.
 
-Headers take most of the time. So sources with the same flags are read together, one text after another, as if they were
-one source. What clang-tidy says about a group does not count: if it objects, the halves of the group are read, and in
+Headers take most of the time. So sources are read together, one text after another, as if they were one source, with
+the flags of all. What clang-tidy says about a group does not count: if it objects, the halves of the group are read, and in
 the end single sources, as they are.
 """
 
@@ -42,9 +42,7 @@ class Source:
             elif word == "-include":  # only the compiler that made it can read a precompiled header
                 self.objects.append(os.path.relpath(next(words), entry["directory"]) + ".gch")
             elif word.startswith("-") and word not in ("-c", "-Winvalid-pch"):
-                self.flags.append(word)
-                if word == "-isystem":
-                    self.flags.append(next(words))
+                self.flags.append(word + next(words) if word == "-isystem" else word)
 
     def key(self, made_from, common):
         """What the findings in it depend on; none where that is not known."""
@@ -133,15 +131,18 @@ def pass_together(group, folder):
     with tempfile.NamedTemporaryFile("w", dir=folder / folder_of(group[0]), suffix=".cpp") as file:
         file.write(joined(group))
         file.flush()
-        # Each text has its own includes; stands_alone looks for those that a text has twice.
-        return clang_tidy(file.name, group[0].flags, "--checks=-readability-duplicate-include")[0]
+        # Each text has its own includes; stands_alone looks for those that a text has twice. What was a main under
+        # another name need not return.
+        flags = dict.fromkeys(flag for source in group for flag in source.flags)
+        return clang_tidy(
+            file.name, flags, "--checks=-readability-duplicate-include", "--extra-arg=-Wno-return-type")[0]
 
 
 def grouped(sources):
-    """The sources in groups of one folder and the same flags, the largest groups first."""
+    """The sources in groups of one folder, the largest groups first."""
     alike = {}
     for source in sources:
-        alike.setdefault(source if stands_alone(source) else (folder_of(source), *source.flags), []).append(source)
+        alike.setdefault(source if stands_alone(source) else folder_of(source), []).append(source)
     groups = []
     for members in alike.values():
         parts = -(-len(members) // GROUP)
