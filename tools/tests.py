@@ -2,8 +2,7 @@
 """tests.py PRESET
 
 Runs the tests of a build, but for those that passed before and would do all the same things again: what they run, what
-that reads, and the packages of the system are as they were then. All of them run where nothing is known, and those that
-play at random always do.
+that reads, and the packages of the system are as they were then. All of them run where nothing is known.
 """
 
 import functools
@@ -46,10 +45,6 @@ def key(test, common):
     return hashlib.sha256("\n".join([common, words, *(digest(file) for file in sorted(files))]).encode()).hexdigest()
 
 
-def is_random(test):
-    return any(property["name"] == "LABELS" and "random" in property["value"] for property in test["properties"])
-
-
 def passed_in(report):
     """The names of the tests that a report of CTest calls passed."""
     cases = xml.etree.ElementTree.parse(report).getroot().iter("testcase")
@@ -66,9 +61,9 @@ def main():
     known = json.loads(stamps.read_text()) if stamps.exists() else {}
 
     common = data() + said_by("dpkg-query", "--show")
-    keys = {test["name"]: key(test, common) for test in tests if not is_random(test)}
+    keys = {test["name"]: key(test, common) for test in tests}
     numbers = [number for number, test in enumerate(tests, 1)
-               if test["name"] not in keys or known.get(test["name"]) != keys[test["name"]]]
+               if known.get(test["name"]) != keys[test["name"]]]
     print(f"{len(numbers)} of {len(tests)} tests to run.", flush=True)
     if not numbers:
         return
