@@ -5,8 +5,8 @@ Runs clang-tidy on the sources that changed since they last passed, or whose hea
 them if nothing is known, and on all that are named. BUILD is a folder that has just been built.
 
 Headers take most of the time. So sources are read together, one text after another, as if they were one source, with
-the flags of all. What clang-tidy says about a group does not count: if it objects, the halves of the group are read, and in
-the end single sources, as they are.
+the flags of all. What clang-tidy says about a group does not count: if it objects, the halves of the group are read,
+and in the end single sources, as they are.
 """
 
 import concurrent.futures

@@ -10,6 +10,23 @@
 #include "Run.h"
 #include "view/Application.h"
 
+#ifdef FINDS_LEAKS
+#include <sanitizer/lsan_interface.h>
+#endif
+
+namespace {
+
+/// Reads what each session would read again: fonts, and the symbols by which a leak is told from one of the libraries.
+void readOnce()
+{
+    ondelis::fuzz::Pair{}.answer("start");
+#ifdef FINDS_LEAKS
+    __lsan_do_recoverable_leak_check();
+#endif
+}
+
+} // namespace
+
 int main(int argc, char** argv)
 {
     using namespace ondelis::fuzz;
@@ -24,6 +41,7 @@ int main(int argc, char** argv)
         const std::uint64_t seed = words.size() > count + 1 ? whole(words[count + 1]) : std::random_device{}();
         const ondelis::Application application{argc, argv};
         keepEndsOfProcesses();
+        readOnce();
         const Length whole = byActions ? Length{.actions = length} : Length{.time = std::chrono::seconds{length}};
         return run([] { return std::make_unique<Pair>(); }, whole, seed) == 0 ? 0 : 1;
     } catch (const std::exception& error) {
