@@ -112,7 +112,7 @@ def joined(group):
     result = []
     for index, (source, text) in enumerate(zip(group, texts)):
         for name in names_in(text) & set.union(*words[:index], *words[index + 1:]):
-            text = re.sub(rf"\b{name}\b(?!\.(?:h|cpp|moc)\b)", f"{name}_{index}", text)
+            text = re.sub(rf"(?<!\.)\b{name}\b(?!\.(?:h|cpp|moc)\b)", f"{name}_{index}", text)
         here = source.path.parent
         result.append(re.sub(
             r'^#include "(.*)"',
@@ -133,9 +133,9 @@ def pass_together(group, folder):
         file.flush()
         # Each text has its own includes; stands_alone looks for those that a text has twice. What was a main under
         # another name need not return.
-        flags = dict.fromkeys(flag for source in group for flag in source.flags)
+        flags = {flag.split("=")[0]: flag for source in group for flag in source.flags}  # one value of each macro
         return clang_tidy(
-            file.name, flags, "--checks=-readability-duplicate-include", "--extra-arg=-Wno-return-type")[0]
+            file.name, flags.values(), "--checks=-readability-duplicate-include", "--extra-arg=-Wno-return-type")[0]
 
 
 def grouped(sources):

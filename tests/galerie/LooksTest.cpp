@@ -1,3 +1,4 @@
+#include <QCoreApplication>
 #include <QDir>
 #include <QImage>
 #include <QProcess>
@@ -70,6 +71,11 @@ private slots:
 
 } // namespace ondelis
 
-QTEST_GUILESS_MAIN(ondelis::LooksTest)
+int main(int argc, char** argv)
+{
+    const QCoreApplication application{argc, argv};
+    ondelis::LooksTest test;
+    return QTest::qExec(&test, argc, argv);
+}
 
 #include "LooksTest.moc"

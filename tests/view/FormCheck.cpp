@@ -94,7 +94,7 @@ private:
     void checkTexts(const QWidget& widget)
     {
         const auto typed = typed_.find(control_);
-        for (const Cut& one : cutsIn(widget))
+        for (const TextCut& one : cutsIn(widget))
             if (typed == typed_.end() || typed->second != one.text)
                 cut(one.text, one.missing);
     }

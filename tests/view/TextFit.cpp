@@ -33,7 +33,7 @@ int missingHeight(const QFontMetrics& metrics, int room)
 
 class Measure {
 public:
-    std::vector<Cut> cuts;
+    std::vector<TextCut> cuts;
 
     void label(const QLabel& label)
     {
@@ -114,7 +114,7 @@ private:
 
 } // namespace
 
-std::vector<Cut> cutsIn(const QWidget& widget)
+std::vector<TextCut> cutsIn(const QWidget& widget)
 {
     Measure measure;
     if (const auto* const label = dynamic_cast<const QLabel*>(&widget))

@@ -7,14 +7,14 @@
 namespace ondelis {
 
 /// A text that does not fit in its widget.
-struct Cut {
+struct TextCut {
     QString text; ///< empty where the widget is too low for any
     int missing; ///< pixels, of width or of height
 };
 
 /// The texts of a widget that are cut, measured with the font that it has: captions, fields, rows of lists, buttons,
 /// titles of frames.
-[[nodiscard]] std::vector<Cut> cutsIn(const QWidget& widget);
+[[nodiscard]] std::vector<TextCut> cutsIn(const QWidget& widget);
 
 /// The title of a group box, in the widget's pixels; empty where there is none.
 [[nodiscard]] QRect titleOf(const QWidget& widget);
