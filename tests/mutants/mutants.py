@@ -18,6 +18,7 @@ import tomllib
 from collections import Counter, defaultdict
 from concurrent.futures import ThreadPoolExecutor, as_completed
 from dataclasses import dataclass
+from functools import cache
 from pathlib import Path
 
 import sites
@@ -50,6 +51,11 @@ class Result:
     survivors: list = None
 
 
+@cache
+def lines_of(name):
+    return {line.strip() for line in (SOURCES / name).read_text(encoding="utf-8").splitlines()}
+
+
 class Unseen:
     """The changes that nobody can see, and why."""
 
@@ -66,10 +72,10 @@ class Unseen:
         return False
 
     def idle(self, paths):
-        """What is listed for these files and no longer matches any change."""
+        """What is listed and stands nowhere, and what is listed for these files and no longer matches any change."""
         names = {str(path.relative_to(SOURCES)) for path in paths}
         listed = {(entry["file"], line) for entry in self.entries for line in entry["lines"]}
-        return sorted((name, line) for name, line in listed - self.used if name in names)
+        return sorted((name, line) for name, line in listed - self.used if name in names or line not in lines_of(name))
 
 
 class Trial:
