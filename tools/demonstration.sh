@@ -41,15 +41,14 @@ xdotool windowfocus --sync "$window"
 keys() {
     xdotool key --delay 60 "$@"
 }
-into_next_field() {
-    keys Tab
+into_field() {
     xdotool type --delay 60 "$1"
 }
 # Copies the whole field that has the keyboard, and prints what is then on the clipboard. An empty field copies nothing:
 # the marker stays.
 shown() {
     local mark="nothing was copied" copied
-    printf '%s' "$mark" | xclip -selection clipboard
+    printf '%s' "$mark" | xclip -selection clipboard >/dev/null # it stays, and would hold what reads this output
     keys ctrl+a ctrl+c End
     for _ in {1..20}; do
         copied=$(xclip -selection clipboard -out)
@@ -60,13 +59,12 @@ shown() {
 
 # The menu bar, its third drop-down, the second entry there.
 keys F10 Right Right Down Return
-# The tab order is the order of the form: the circuits, then a field and its units in turn.
-keys Home # RC Série
-into_next_field 1 # MHz
-keys Tab
-into_next_field 1000 # ohms
-keys Tab Tab Tab # over the inductance
-into_next_field 1000 # pF
+# It opens as RC Série, with the keyboard in its first field. The Tab key goes to the units of a field, then to the next.
+into_field 1 # MHz
+keys Tab Tab
+into_field 1000 # ohms
+keys Tab Tab Tab Tab # over the inductance
+into_field 1000 # pF
 keys Tab
 
 echo '"Circuits oscillants", RC Série, 1 MHz, 1000 ohms, 1000 pF:'
