@@ -106,7 +106,8 @@ using Measure = std::optional<double> (*)(const MenuEntry* entry, const std::str
 Measured slowest(const MenuEntry* entry, Measure measure)
 {
     Measured found;
-    for (const Control* const control : Program{entry}.panel().controls())
+    Program program{entry};
+    for (const Control* const control : program.panel().controls())
         if (const auto median = measure(entry, control->name()); median && *median > found.median)
             found = {.control = control->name(), .median = *median};
     return found;
