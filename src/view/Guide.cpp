@@ -32,7 +32,9 @@ void browse(QObject& owner, const QString& file, const std::function<void()>& fa
 {
     constexpr qint64 soon
         = 15'000; // ms; on some desktops the command lasts as long as the browser, and returns its status
-    auto* const opener = new QProcess; // without a parent: a browser outlives the program
+    static auto& openers = *new QObject; // never destroyed, since that would end those that still run: a browser
+                                         // outlives the program
+    auto* const opener = new QProcess{&openers};
     QElapsedTimer since;
     since.start();
     QObject::connect(opener, &QProcess::finished, &owner, [failed, since](int status) {

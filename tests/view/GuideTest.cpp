@@ -15,14 +15,13 @@ class GuideTest final : public QObject {
     QTemporaryDir desktop_;
     const QByteArray path_ = qgetenv("PATH");
 
-    /// The desktop's command: it notes what it is to show, and ends with a status.
-    void installBrowser(int status)
+    /// The desktop's command: it notes what it is to show, and ends as `end` says.
+    void installBrowser(const QString& end)
     {
         QFile command{desktop_.filePath("xdg-open")};
         QVERIFY(command.open(QIODevice::WriteOnly));
-        command.write(QString{"#!/bin/sh\nprintf %s \"$1\" >'%1'.part\n/bin/mv '%1'.part '%1'\nexit %2\n"}
-                          .arg(desktop_.filePath("opened"))
-                          .arg(status)
+        command.write(QString{"#!/bin/sh\nprintf %s \"$1\" >'%1'.part\n/bin/mv '%1'.part '%1'\n%2\n"}
+                          .arg(desktop_.filePath("opened"), end)
                           .toUtf8());
         QVERIFY(command.setPermissions(QFile::ReadUser | QFile::ExeUser | QFile::WriteUser));
     }
@@ -51,7 +50,7 @@ private slots:
     {
         folder().removeRecursively();
         QFile::remove(desktop_.filePath("opened"));
-        installBrowser(0);
+        installBrowser("exit 0");
         qputenv("PATH", desktop_.path().toUtf8());
     }
 
@@ -115,7 +114,7 @@ private slots:
     {
         QFETCH(const bool, command);
         if (command)
-            installBrowser(3);
+            installBrowser("exit 3");
         else
             QVERIFY(QFile::remove(desktop_.filePath("xdg-open")));
         install("index.html", QCoreApplication::applicationVersion());
@@ -139,6 +138,26 @@ private slots:
         pressF1(program);
         QVERIFY(
             QTest::qWaitFor([&] { return opened() == QDir::cleanPath(folder().filePath("FiltrePasseBasEnPi.html")); }));
+    }
+
+    /// The last one: its browser stands also when this test's process ends, which no leak may be seen in.
+    void leavesTheBrowserOpenWhenItEnds()
+    {
+        const QString closed = desktop_.filePath("closed");
+        installBrowser(QString{"/bin/sleep 2\n: >'%1'"}.arg(closed));
+        install("index.html", QCoreApplication::applicationVersion());
+        {
+            Program program;
+            pressF1(program);
+            QVERIFY(QTest::qWaitFor([&] { return !opened().isEmpty(); }));
+        }
+        QVERIFY(QTest::qWaitFor([&] { return QFile::exists(closed); }));
+
+        QFile::remove(desktop_.filePath("opened"));
+        installBrowser("exec /bin/sleep 2");
+        Program program;
+        pressF1(program);
+        QVERIFY(QTest::qWaitFor([&] { return !opened().isEmpty(); }));
     }
 };
 
