@@ -123,6 +123,8 @@ QRect Style::subControlRect(
     ComplexControl control, const QStyleOptionComplex* option, SubControl part, const QWidget* widget) const
 {
     const QRect rect = QProxyStyle::subControlRect(control, option, part, widget);
+    if (control == CC_GroupBox && part == SC_GroupBoxFrame)
+        return option->rect; // newer versions of Fusion put the title above the frame
     if (control != CC_GroupBox || part != SC_GroupBoxLabel)
         return rect;
     return rect.translated(option->fontMetrics.averageCharWidth(), option->fontMetrics.leading() + 2);

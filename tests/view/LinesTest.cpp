@@ -85,7 +85,7 @@ private slots:
         }
     }
 
-    void theTitleOfAFrameStandsClearOfItsEdge()
+    void theTitleOfAFrameStandsInItClearOfItsEdge()
     {
         Program program;
         auto& panel = program.open<TestPanel>();
@@ -101,6 +101,8 @@ private slots:
         for (int x = 1; x <= 4; ++x)
             QVERIFY(emptyColumn(x));
         QVERIFY(!emptyColumn(0));
+        const int beside = frame.width() / 2;
+        QVERIFY(image.pixelColor(beside, 0) != image.pixelColor(beside, 1));
     }
 
     void aLineThatMissesItsDiagramIsNotDrawn()
