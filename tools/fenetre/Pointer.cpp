@@ -27,10 +27,11 @@ void Pointer::press(QWidget& widget, const QPoint& point, Qt::MouseButton button
     pressed_ = lyingAt(widget, point);
     button_ = button;
     at_ = pressed_->mapFrom(widget.window(), widget.mapTo(widget.window(), point));
-    // Some widgets look at what lies under the pointer on its way there.
-    moveTo(at_ + QPoint{0, 1}, Qt::NoButton);
-    if (pressed_ != nullptr)
-        moveTo(at_, Qt::NoButton);
+    // Some widgets look at what lies under the pointer on its way there, and a menu takes a click of a pointer that has
+    // hardly moved since it opened for the end of the click that opened it.
+    constexpr int way = 8;
+    for (int left = way; left > 0 && pressed_ != nullptr; --left)
+        moveTo(at_ + QPoint{0, (left - 1) % 2}, Qt::NoButton);
     if (pressed_ != nullptr)
         QTest::mousePress(pressed_, button_, Qt::NoModifier, at_);
 }

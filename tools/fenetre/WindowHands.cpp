@@ -13,6 +13,7 @@
 #include <algorithm>
 
 #include "Parts.h"
+#include "Pointer.h"
 #include "view/ClientArea.h"
 #include "view/ControlWidget.h"
 #include "view/MainWindow.h"
@@ -95,7 +96,7 @@ pilote::Hands::Refusal WindowHands::menu(const std::string& entry)
                 QMenu& dropDown = *title->menu();
                 if (!dropDown.isVisible())
                     return "the menu does not open";
-                QTest::mouseClick(&dropDown, Qt::LeftButton, Qt::NoModifier, dropDown.actionGeometry(action).center());
+                Pointer::click(dropDown, dropDown.actionGeometry(action).center());
                 fingers_.regainKeyboard();
                 return {};
             }
