@@ -43,6 +43,8 @@ private slots:
         QVERIFY(opensDark(picture("sombre-96")));
         QCOMPARE(picture("sombre-96").size(), picture("96").size());
         QVERIFY(!opensDark(picture("120")));
+        QVERIFY(opensDark(picture("sombre-120")));
+        QVERIFY(opensDark(picture("sombre-144")));
         QCOMPARE(picture("120").size(), picture("96").size() * 1.25);
         QCOMPARE(picture("144").size(), picture("96").size() * 1.5);
         QCOMPARE(picture("192").size(), picture("96").size() * 2);
@@ -58,6 +60,7 @@ private slots:
         QVERIFY(text.contains("<h2>Circuits oscillants et Selfs</h2>"));
         QVERIFY(text.contains("src=\"CircuitsOscillants-exemple-sombre-96.png\""));
         QVERIFY(text.contains("href=\"CircuitsOscillants-120.png\">125 %"));
+        QVERIFY(text.contains("href=\"CircuitsOscillants-sombre-120.png\">125 % sombre"));
         QVERIFY(!text.contains("Antennes"));
     }
 

@@ -38,8 +38,9 @@ std::vector<std::string> picturesOf(const std::string& panel, const path& folder
 void show(const std::string& picture, std::ostream& page)
 {
     page << "<figure><figcaption>" << picture;
-    for (const auto& [percent, dpi] : {std::pair{125, 120}, std::pair{150, 144}})
-        page << " · <a href=\"" << picture << '-' << dpi << ".png\">" << percent << " %</a>";
+    for (const auto& [palette, words] : {std::pair{"-", ""}, std::pair{"-sombre-", " sombre"}})
+        for (const auto& [percent, dpi] : {std::pair{125, 120}, std::pair{150, 144}})
+            page << " · <a href=\"" << picture << palette << dpi << ".png\">" << percent << " %" << words << "</a>";
     page << "</figcaption>\n";
     for (const char* const palette : {"-", "-sombre-"})
         page << "<a href=\"" << picture << palette << "192.png\"><img loading=\"lazy\" alt=\"" << picture << "\" src=\""

@@ -19,7 +19,7 @@ struct Look {
     void apply() const;
 };
 
-inline constexpr std::array<Look, 6> looks{
-    {{96, false}, {96, true}, {120, false}, {144, false}, {192, false}, {192, true}}};
+inline constexpr std::array<Look, 8> looks{
+    {{96, false}, {96, true}, {120, false}, {120, true}, {144, false}, {144, true}, {192, false}, {192, true}}};
 
 } // namespace ondelis::galerie
