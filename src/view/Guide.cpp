@@ -37,14 +37,21 @@ void browse(QObject& owner, const QString& file, const std::function<void()>& fa
     auto* const opener = new QProcess{&openers};
     QElapsedTimer since;
     since.start();
-    QObject::connect(opener, &QProcess::finished, &owner, [failed, since](int status) {
-        if (status != 0 && !since.hasExpired(soon))
-            failed();
-    });
-    QObject::connect(opener, &QProcess::errorOccurred, &owner, [failed](QProcess::ProcessError error) {
-        if (error == QProcess::FailedToStart)
-            failed();
-    });
+    // What is told may wait for an answer, which the opener does not live to see.
+    QObject::connect(
+        opener, &QProcess::finished, &owner,
+        [failed, since](int status) {
+            if (status != 0 && !since.hasExpired(soon))
+                failed();
+        },
+        Qt::QueuedConnection);
+    QObject::connect(
+        opener, &QProcess::errorOccurred, &owner,
+        [failed](QProcess::ProcessError error) {
+            if (error == QProcess::FailedToStart)
+                failed();
+        },
+        Qt::QueuedConnection);
     QObject::connect(opener, &QProcess::stateChanged, opener, [opener](QProcess::ProcessState state) {
         if (state == QProcess::NotRunning)
             opener->deleteLater();
