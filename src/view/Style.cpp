@@ -59,6 +59,17 @@ QStyleOptionButton seen(const QStyleOptionButton& option)
     return mended;
 }
 
+/// The picture of a button in the colour of its text: Fusion's own are dark on all windows.
+QIcon inked(const QStyleOptionToolButton& button)
+{
+    QPixmap picture = button.icon.pixmap(button.iconSize);
+    QPainter painter{&picture};
+    painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
+    painter.fillRect(picture.rect(), button.palette.color(QPalette::ButtonText));
+    painter.end();
+    return QIcon{picture};
+}
+
 /// The edge of a field or a list, which shows whether it has the keyboard.
 void drawFieldEdge(QPainter& painter, const QStyleOption& option)
 {
@@ -133,6 +144,13 @@ QRect Style::subControlRect(
 void Style::drawControl(
     ControlElement element, const QStyleOption* option, QPainter* painter, const QWidget* widget) const
 {
+    if (element == CE_ToolButtonLabel) // only a narrow menu bar has such a button, for what it has no room for
+        if (const auto* const button = qstyleoption_cast<const QStyleOptionToolButton*>(option)) {
+            QStyleOptionToolButton mended{*button};
+            mended.icon = inked(*button);
+            QProxyStyle::drawControl(element, &mended, painter, widget);
+            return;
+        }
     const auto* const heading = qstyleoption_cast<const QStyleOptionMenuItem*>(option);
     if (element != CE_MenuBarItem || heading == nullptr || (heading->state & State_Selected) == 0) {
         QProxyStyle::drawControl(element, option, painter, widget);

@@ -1,10 +1,13 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QMenuBar>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QScrollBar>
 #include <QStyleOptionSlider>
+#include <QToolButton>
+#include <algorithm>
 
 #include "Contrast.h"
 #include "Desktop.h"
@@ -220,6 +223,25 @@ private slots:
         const QColor ground = image.pixelColor(slider.left() - 8, slider.center().y());
         QVERIFY(contrast(image.pixelColor(slider.left(), slider.center().y()), ground) >= lineContrast);
         QVERIFY(contrast(image.pixelColor(slider.right(), slider.center().y()), ground) >= lineContrast);
+    }
+
+    void theMarkOfMenusWithoutRoomIsSeen_data() { addPalettes(); }
+
+    void theMarkOfMenusWithoutRoomIsSeen()
+    {
+        QFETCH(bool, dark);
+        const ScopedDesktop look = palette(dark);
+        Program program;
+        QMenuBar& bar = *program.view.mainWindow().menuBar();
+        program.view.mainWindow().resize(500, 400);
+        auto* const mark = bar.findChild<QToolButton*>();
+        QVERIFY(mark != nullptr && QTest::qWaitFor([&] { return mark->isVisible(); }));
+        const QImage image = mark->grab().toImage();
+        double most = 0;
+        for (int x = 0; x < image.width(); ++x)
+            for (int y = 0; y < image.height(); ++y)
+                most = std::max(most, contrast(image.pixelColor(x, y), image.pixelColor(1, 1)));
+        QVERIFY(most >= lineContrast);
     }
 
     void menus_data() { addPalettes(); }
