@@ -78,12 +78,12 @@ QColor shown(Color color, QPalette::ColorRole ground)
     return isDark(palette) ? turned(plain, palette.color(ground)) : plain;
 }
 
-QColor shownText(Color color, const QColor& ground)
+QColor shownStroke(Color color, const QColor& ground, double enough)
 {
-    const QColor plain = readable(toQColor(color), ground);
+    const QColor plain = readable(toQColor(color), ground, enough);
     if (!isDark(QApplication::palette()))
         return plain;
-    const QColor turnedRound = readable(turned(toQColor(color), ground), ground);
+    const QColor turnedRound = readable(turned(toQColor(color), ground), ground, enough);
     return colorfulness(plain) > colorfulness(turnedRound) ? plain : turnedRound;
 }
 
@@ -101,7 +101,7 @@ void Colors::applyToField(QWidget& widget, Color background, Color text)
     if (ownBackground)
         palette.setColor(QPalette::Base, base);
     if (ownText)
-        palette.setColor(QPalette::Text, shownText(text, base));
+        palette.setColor(QPalette::Text, shownStroke(text, base));
     else if (ownBackground)
         palette.setColor(QPalette::Text, dark ? Qt::white : blackOrWhite(base));
     widget.setPalette(palette);
@@ -113,7 +113,7 @@ void Colors::applyToText(QWidget& widget, Color text)
         return;
     QPalette palette;
     if (!isSystemColor(text))
-        palette.setColor(QPalette::WindowText, shownText(text, QApplication::palette().color(QPalette::Window)));
+        palette.setColor(QPalette::WindowText, shownStroke(text, QApplication::palette().color(QPalette::Window)));
     widget.setPalette(palette);
 }
 

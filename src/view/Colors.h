@@ -32,9 +32,10 @@ inline constexpr double quietContrast = 1.6; ///< what holds a group together wi
 /// role.
 [[nodiscard]] QColor shown(Color color, QPalette::ColorRole ground);
 
-/// The colour of a text as it is shown on that background. On dark palettes it is inverted too, unless that would leave
-/// less of its hue than making it readable as it is: a pure blue, inverted, can hardly be told from white.
-[[nodiscard]] QColor shownText(Color color, const QColor& ground);
+/// The colour of a text or a line as it is shown on that background, with that contrast. On dark palettes it is
+/// inverted too, unless that would leave less of its hue than making it readable as it is: a pure blue, inverted, can
+/// hardly be told from white.
+[[nodiscard]] QColor shownStroke(Color color, const QColor& ground, double enough = textContrast);
 
 /// The colours of one widget: those that its control asks for, and the system's elsewhere.
 class Colors {

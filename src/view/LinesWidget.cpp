@@ -101,9 +101,7 @@ void LinesWidget::paintEvent(QPaintEvent* /*event*/)
             painter.setClipping(false);
         else
             painter.setClipRect(stroke.area);
-        const QColor color = isSystemColor(stroke.color)
-            ? text
-            : readable(shown(stroke.color, QPalette::Window), window, lineContrast);
+        const QColor color = isSystemColor(stroke.color) ? text : shownStroke(stroke.color, window, lineContrast);
         if (stroke.line.dx() == 0 || stroke.line.dy() == 0) {
             drawStraight(painter, stroke.line, stroke.width, color);
         } else {

@@ -116,7 +116,7 @@ void ControlReader::seenTextColor(const char* member, Color said, const QColor& 
 {
     const bool readableOnOwnGround = isSystemColor(said) && (painted == Qt::black || painted == Qt::white)
         && contrast(painted, ground) >= textContrast;
-    const bool same = readableOnOwnGround || painted == shownText(said, ground);
+    const bool same = readableOnOwnGround || painted == shownStroke(said, ground);
     seen(member, same ? plainColor(said) : colorOf(painted));
 }
 

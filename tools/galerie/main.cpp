@@ -2,8 +2,7 @@
 //
 //     galerie [--openings] FOLDER [PANEL ...]
 //
-// For each panel of the menu, or for those that are named, at 96 and 192 dpi, light and dark, and
-// at 120 and 144 dpi, light:
+// For each panel of the menu, or for those that are named, at 96, 120, 144 and 192 dpi, light and dark:
 //
 //     FOLDER/PANEL-96.png ...              as it opens
 //     FOLDER/PANEL-NAME-sombre-96.png ...  at the line "picture NAME" of its example, exemples/PANEL.txt
