@@ -48,7 +48,7 @@ into_field() {
 # the marker stays.
 shown() {
     local mark="nothing was copied" copied
-    printf '%s' "$mark" | xclip -selection clipboard >/dev/null # it stays, and would hold what reads this output
+    printf '%s' "$mark" | xclip -selection clipboard >/dev/null # it stays, and would keep this output open
     keys ctrl+a ctrl+c End
     for _ in {1..20}; do
         copied=$(xclip -selection clipboard -out)
