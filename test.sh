@@ -37,12 +37,12 @@ make_package() {
     dh_clean && BUILT=build/release dpkg-buildpackage --rules-target=binary
 }
 
-# What runs beside it keeps its pace.
+# Runs at a low priority, so as not to slow down what runs in parallel.
 yielding() (
     renice -n 10 "$BASHPID" >/dev/null && "$@"
 )
 
-# What people get.
+# Checks what people get.
 check_release() {
     step "Tests (release)" tools/tests.py release
     step "Debian package" make_package

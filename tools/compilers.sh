@@ -4,11 +4,11 @@
 #
 #   tools/compilers.sh [-l LEVELS] [-u USERS] [-o FOLDER] [COMPILER...]
 #
-#   COMPILER   g++-14, clang++-19, ...; else all of such names that are found
-#   -l LEVELS  of optimisation, and "sanitize" for -O2 with the sanitizers; else "O0 O2 O3"
-#   -u USERS   how many random users; else 20000
-#   -o FOLDER  for the builds; else build/compilers. In FOLDER/ends are the sessions of each build, a line each: those of
-#              two systems can be compared by diff
+#   COMPILER   g++-14, clang++-19, ...; by default all with such names
+#   -l LEVELS  of optimisation, and "sanitize" for -O2 with the sanitizers; by default "O0 O2 O3"
+#   -u USERS   how many random users; by default 20000
+#   -o FOLDER  for the builds; by default build/compilers. FOLDER/ends has the sessions of each build, a line each:
+#              those of two systems can be compared by diff
 #
 # Installs nothing. Each compiler builds GoogleTest from /usr/src/googletest, which libgtest-dev installs: a library
 # compiled by a newer one may not link. The environment's CMAKE_BUILD_PARALLEL_LEVEL and CMAKE_CXX_COMPILER_LAUNCHER are

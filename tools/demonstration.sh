@@ -48,7 +48,7 @@ into_field() {
 # the marker stays.
 shown() {
     local mark="nothing was copied" copied
-    printf '%s' "$mark" | xclip -selection clipboard >/dev/null # it stays, and would hold what reads this output
+    printf '%s' "$mark" | xclip -selection clipboard >/dev/null # it stays, and would keep this output open
     keys ctrl+a ctrl+c End
     for _ in {1..20}; do
         copied=$(xclip -selection clipboard -out)
@@ -59,7 +59,7 @@ shown() {
 
 # The menu bar, its third drop-down, the second entry there.
 keys F10 Right Right Down Return
-# It opens as RC Série, with the keyboard in its first field. The Tab key goes to the units of a field, then to the next.
+# It opens as RC Série, with the keyboard in its first field. Tab goes to the units of a field, then to the next field.
 into_field 1 # MHz
 keys Tab Tab
 into_field 1000 # ohms

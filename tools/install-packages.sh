@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # install-packages.sh GROUP...
-# The one install step: the Debian packages that Ondelis needs, in three groups. Installs those that are missing, as root
-# or through sudo, and says which.
+# The one install step: the Debian packages that Ondelis needs, in three groups. Installs the missing ones, as root or
+# through sudo, and says which.
 #
 #     program   to build the program and to run it
 #     screen    a display where there is none, and a person's keys, clipboard and eyes on it
@@ -22,13 +22,13 @@ for group; do
             # Tests and benchmarks
             packages+=(libgtest-dev libgmock-dev libbenchmark-dev libmpfr-dev nlohmann-json3-dev)
             packages+=(pkg-config libxcb1-dev libxcb-damage0-dev qt6-base-private-dev fonts-cantarell fonts-noto-core)
-            # The code's shape
+            # Formatting and lint
             packages+=(clang-format clang-tidy shellcheck)
             # A desktop around the program in its tests, and the eyes of a screen reader
             packages+=(openbox xfwm4 x11-xserver-utils dbus-daemon at-spi2-core gir1.2-atspi-2.0 python3-gi)
             # The drawings, made again by tools/dessins
             packages+=(python3)
-            # The guide, and what finds fault with its pages
+            # The guide, and the checks of its pages
             packages+=(pandoc tidy)
             # A region with a decimal comma, for tests
             packages+=(locales)

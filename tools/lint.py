@@ -33,7 +33,7 @@ class Source:
 
     def __init__(self, entry):
         self.path = pathlib.Path(entry["file"])
-        self.objects = []  # that know what it was made from: its own, and that of a precompiled header
+        self.objects = []  # by whose records its dependencies are known: its own, and that of a precompiled header
         self.flags = []
         words = iter(shlex.split(entry["command"]))
         for word in words:
@@ -86,19 +86,19 @@ def clang_tidy(file, flags, *options):
     run = subprocess.run(
         ["clang-tidy", "--quiet", *options, str(file), "--", *flags],
         stdout=subprocess.PIPE, stderr=subprocess.STDOUT, text=True)
-    # It counts the warnings that it suppressed in other people's headers.
+    # clang-tidy counts the warnings that it suppressed in other people's headers.
     said = re.sub(r"^\d+ (warning|error)s?( and \d+ errors?)? generated\.\n", "", run.stdout, flags=re.MULTILINE)
     return run.returncode == 0, said
 
 
 def names_in(text):
-    """Types and constants of a source by whose names another one could mean something else."""
+    """Types and constants of a source whose names could mean something else in another one."""
     return set(re.findall(r"^(?:struct |class |enum class |int (?=main\())(\w+)(?!.*;$)", text, flags=re.MULTILINE)
         + re.findall(r"^const(?:expr)? [^(=\n]*\b(\w+)(?: =|\{|\[)", text, flags=re.MULTILINE))
 
 
 def stands_alone(source):
-    """Whether others in a group could hide a finding in it: an include or a using declaration too much."""
+    """Whether others in a group could hide a finding in it: one include or using declaration too many."""
     code = re.sub(r"//.*", "", source.path.read_text())
     includes = re.findall(r"^#include (\S+)", code, flags=re.MULTILINE)
     used = re.findall(r"^\s*using [\w:]+::(\w+);", code, flags=re.MULTILINE)
@@ -131,8 +131,8 @@ def pass_together(group, folder):
     with tempfile.NamedTemporaryFile("w", dir=folder / folder_of(group[0]), suffix=".cpp") as file:
         file.write(joined(group))
         file.flush()
-        # Each text has its own includes; stands_alone looks for those that a text has twice. What was a main under
-        # another name need not return.
+        # Each text has its own includes; stands_alone looks for those that a text has twice. A main that has been
+        # renamed need not return a value.
         flags = {flag.split("=")[0]: flag for source in group for flag in source.flags}  # one value of each macro
         return clang_tidy(
             file.name, flags.values(), "--checks=-readability-duplicate-include", "--extra-arg=-Wno-return-type")[0]

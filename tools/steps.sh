@@ -2,7 +2,7 @@
 # shellcheck shell=bash
 
 steps=() # what the report says of each step
-lane=    # the folder of what runs beside, where there is such
+lane=    # the folder of the steps that run in parallel, if there are any
 
 # step WORDS COMMAND...: runs a command under a heading and notes how long it took. The first one that fails ends the
 # script.
@@ -19,8 +19,8 @@ step() {
     fi
 }
 
-# pinned TOOL VERSION WORDS COMMAND...: a step for which the code follows this version of a tool. Another one would ask
-# for other code: there the step is left out.
+# pinned TOOL VERSION WORDS COMMAND...: a step that needs this version of a tool. Another version would ask for other
+# code, so the step is left out there.
 pinned() {
     local tool=$1 version=$2 found
     shift 2
@@ -37,11 +37,12 @@ pinned() {
     fi
 }
 
-# beside FUNCTION: runs a function of steps beside the steps that follow, up to `join_beside`, which shows what it said.
+# beside FUNCTION: runs a function of steps in parallel with the steps that follow, up to `join_beside`, which shows its
+# output.
 beside() {
     lane=$(mktemp -d)
     trap stop_lane EXIT
-    set -m # a group of its own, to be ended as one
+    set -m # a process group of its own, which can be ended as a whole
     { "$1" || fail; } >"$lane/said" 2>&1 </dev/null &
     lane_process=$!
     set +m
@@ -55,7 +56,7 @@ join_beside() {
 
 lane_failed() { [[ -n $lane && -e $lane/failed ]]; }
 
-# What runs beside ends here, and goes into the report as far as it came.
+# Ends the parallel steps; those that are done go into the report.
 end_lane() {
     [[ ! -e $lane/steps ]] || mapfile -t -O "${#steps[@]}" steps <"$lane/steps"
     stop_lane
@@ -74,7 +75,7 @@ note() {
     if in_lane; then echo "$1" >>"$lane/steps"; else steps+=("$1"); fi
 }
 
-# Ends the script; what runs beside ends with it.
+# Ends the script, and with it the parallel steps.
 fail() {
     if in_lane; then
         touch "$lane/failed"
@@ -93,13 +94,13 @@ report() {
     printf 'in all   %5d s\n' "$SECONDS"
 }
 
-# build PRESET [-DSETTING...] [TARGET...]. A folder that could not be configured holds what it found of the compiler: it
-# goes.
+# build PRESET [-DSETTING...] [TARGET...]. A folder that could not be configured would remember what it found of the
+# compiler: it is removed.
 build() {
     local preset=$1 settings=()
     shift
     export CMAKE_CXX_COMPILER_LAUNCHER=${CMAKE_CXX_COMPILER_LAUNCHER-$(command -v ccache)}
-    export CCACHE_SLOPPINESS=pch_defines,time_macros # what it wants to keep what is made with precompiled headers
+    export CCACHE_SLOPPINESS=pch_defines,time_macros # without this it does not cache what uses precompiled headers
     while [[ ${1-} == -D* ]]; do
         settings+=("$1")
         shift

@@ -1,8 +1,8 @@
 #!/usr/bin/env python3
 """tests.py PRESET
 
-Runs the tests of a build, but for those that passed before and would do all the same things again: what they run, what
-that reads, and the packages of the system are as they were then. All of them run where nothing is known.
+Runs the tests of a build, except those that have passed and for which nothing has changed since: what they run, what
+that reads, and the packages of the system. Without a record of earlier runs it runs all of them.
 """
 
 import functools
@@ -29,8 +29,8 @@ def said_by(*command):
 
 
 def data():
-    """What the tests may read: all files of the project but the sources, which are in the programs, the scenarios, which
-    the tests name, and pages that are for people alone."""
+    """What the tests may read: all files of the project but the sources, which are in the programs, the scenarios,
+    which the tests name, and pages that are for people alone."""
     files = said_by("git", "ls-files", "--cached", "--others", "--exclude-standard").splitlines()
     return "\n".join(
         f"{digest(ROOT / file)} {file}" for file in sorted(files)

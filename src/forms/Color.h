@@ -9,7 +9,7 @@ using Color = std::uint32_t;
 
 /// The background of the system's windows and fields.
 inline constexpr Color windowColor = 0x80000005;
-/// The text on it.
+/// The text on that background.
 inline constexpr Color windowTextColor = 0x80000008;
 
 // Field colours by role. Colours that only one panel uses are defined in that panel.

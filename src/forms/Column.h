@@ -8,13 +8,13 @@
 
 namespace ondelis {
 
-/// Between neighbours on one row.
+/// The gap between neighbours on one row.
 inline constexpr double rowGap = 60;
 
 /// The place right of a caption, on its row: that of a field.
 [[nodiscard]] inline Box beside(const Label& caption, double width)
 {
-    constexpr double lift = 30; // a field is higher than the line of text beside it
+    constexpr double lift = 30; // a field is taller than the line of text beside it
     return {caption.at().Left + caption.at().Width + rowGap, caption.at().Top - lift, width, 315};
 }
 
@@ -69,7 +69,7 @@ inline constexpr double rowGap = 60;
     return {at.Left + at.Width + rowGap, at.Top, width, at.Height};
 }
 
-/// The same place, high enough for so many lines of text.
+/// The same place, tall enough for so many lines of text.
 [[nodiscard]] constexpr Box lines(Box place, int count)
 {
     place.Height = 255 * count;

@@ -47,7 +47,7 @@ public:
     /// The frame around it; null where it stands on the panel itself.
     [[nodiscard]] Frame* container() const { return container_; }
 
-    /// Whether it is on screen when its panel is: itself and the frame around it.
+    /// Whether it is on screen when its panel is: neither it nor the frame around it is hidden.
     [[nodiscard]] bool onScreen() const;
     /// Whether a person can give it the keyboard.
     [[nodiscard]] virtual bool focusable() const { return false; }

@@ -57,7 +57,7 @@ public:
             action();
         } catch (const Fault& fault) {
             fail(fault);
-        } catch (const Unwinding&) { // its work is done once it gets here
+        } catch (const Unwinding&) { // getting here was all that it had to do
         }
         actionBegin_ = outerBegin;
     }
@@ -93,7 +93,7 @@ private:
         unsigned loading;
     };
 
-    /// Notes a handler for as long as it runs.
+    /// Lists a handler for as long as it runs.
     class RunningHandler {
     public:
         RunningHandler(Desk& desk, FeuilleCalcul& panel) : running_{desk.running_}

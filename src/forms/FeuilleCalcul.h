@@ -39,7 +39,7 @@ public:
     [[nodiscard]] Desk& desk() const { return desk_; }
     [[nodiscard]] bool loaded() const { return loaded_; }
     [[nodiscard]] bool visible() const { return visible_; }
-    /// Counts the loadings: a handler of an earlier loading must not go on in a later one.
+    /// How often it has been loaded: a handler of an earlier loading must not go on in a later one.
     [[nodiscard]] unsigned loading() const { return loading_; }
     /// In the order of the form, which is the tab order.
     [[nodiscard]] const std::vector<Control*>& controls() const { return controls_; }

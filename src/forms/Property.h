@@ -21,11 +21,11 @@ public:
 
     /// Called before a property is read or stored: a reference loads the panel.
     virtual void touch() = 0;
-    /// Called after a property has taken a new value: what shows it must follow.
+    /// Called after a property has taken a new value, so that the view can show it.
     virtual void changed() = 0;
 };
 
-/// The type that reading a property gives, by its stored type: Single computes as Double.
+/// What reading a property of that stored type returns: a Single computes as a Double.
 template <class Stored>
 struct ReadAs {
     using type = Stored;
@@ -77,7 +77,7 @@ public:
         return property.get() == text;
     }
 
-    /// A design-time value: no event, no view.
+    /// Stores a design value: raises no event, tells no view.
     void reset(Stored value) { value_ = std::move(value); }
 
 protected:

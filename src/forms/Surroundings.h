@@ -25,8 +25,8 @@ struct Extent {
     double Height;
 };
 
-/// All that the engine asks of the world around it. The view implements it with Qt, the driver and the tests with a
-/// script.
+/// All that the engine asks of the world around it, or tells it. The view implements it with Qt, the driver and the
+/// tests with a script.
 class Surroundings {
 public:
     Surroundings() = default;
@@ -38,7 +38,7 @@ public:
     virtual Answer showBox(const MessageBox& box) = 0;
     /// Names the fault that ends the program, and waits until it has been read.
     virtual void showFault(const Fault& fault) = 0;
-    /// Processes what the user did meanwhile.
+    /// Processes what the user has done meanwhile.
     virtual void runPendingEvents() = 0;
     [[nodiscard]] virtual Extent screen() const = 0;
 
@@ -52,7 +52,7 @@ public:
     virtual void panelRaised(FeuilleCalcul& panel) = 0;
     virtual void panelUnloaded(FeuilleCalcul& panel) = 0;
     virtual void controlChanged(Control& control) = 0;
-    /// Code gave the keyboard to a control.
+    /// Code or the user gave the keyboard to a control.
     virtual void focusMoved(Control& control) = 0;
     /// The program is over; called once.
     virtual void programEnded(int status) = 0;

@@ -10,9 +10,9 @@
 
 namespace ondelis {
 
-/// What a person does, by mouse and by key, passed on to the desk: the one way in for every user action. Each action
-/// first gives its control the keyboard, and runs the whole chain of handlers before it returns. What a person could
-/// not do changes nothing and is refused with the reason.
+/// What a person does to a control, by mouse or by key, or to close a panel: the one way in for these actions. An
+/// action on a control first gives it the keyboard, and runs the whole chain of handlers before it returns. What a
+/// person could not do changes nothing and is refused with the reason.
 class User {
 public:
     using Refusal = std::optional<std::string>;

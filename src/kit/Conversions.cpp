@@ -58,8 +58,8 @@ double extreme(std::string_view text)
     return stream >> value ? value : std::numeric_limits<double>::infinity();
 }
 
-/// Takes the longest unsigned number, with exponent marks e and E, that starts a text; 0 if none does, and infinity
-/// beyond the range, as more of the number may follow.
+/// Takes the longest unsigned number that starts a text, with e or E as the exponent mark; 0 if none does. Beyond the
+/// range it is infinity, not yet a fault: more of the number may follow.
 double takePlainNumber(std::string_view& text)
 {
     // from_chars itself also takes a sign, "inf" and "nan".
@@ -141,12 +141,12 @@ std::size_t thousandsLength(std::string_view text, std::string_view separator)
     // No key types this one either.
     if (separator == typographicApostrophe && text.starts_with('\''))
         return 1;
-    // Where the comma is decimal, a point is mostly meant as the decimal point of other regions: that is no number.
+    // Where the comma is decimal, a point is mostly meant as a decimal point, as in other regions: that is no number.
     return separator != "." && text.starts_with(separator) ? separator.size() : 0;
 }
 
-/// The text of a number of the region with "." as the decimal point and no thousands separators; "" if it has the
-/// decimal point of other regions. It is valid until the next call.
+/// A number written in the region's way, rewritten with "." as the decimal point and no thousands separators; "" if it
+/// has the decimal point of other regions. It is valid until the next call.
 const std::string& plain(std::string_view text, const Region& region)
 {
     thread_local std::string number; // it keeps its memory: allocating takes half as long as reading a number
@@ -189,7 +189,7 @@ char* writeGeneral(double x, char* begin, char* end)
 {
     // Nearly all numbers shown have six decimals at most. Those that fit in 15 digits are written from their
     // millionths, in half the time.
-    const double guess = std::min(x * 1e6, 1e15) + 0.5; // proved by the division
+    const double guess = std::min(x * 1e6, 1e15) + 0.5; // the division below checks it
     const auto millionths = static_cast<std::int64_t>(guess);
     if (static_cast<double>(millionths) / 1e6 == x && millionths >= 100)
         return writeMillionths(millionths, begin, end);

@@ -8,7 +8,7 @@
 
 namespace ondelis {
 
-// What gives a `Term` throws where the formula ends.
+// A function that returns a `Term` throws only where the formula ends.
 
 /// The number that a text starts with, or 0 if none. Blanks, tabs and line feeds are ignored everywhere; the decimal
 /// point is "." in every region; an exponent is marked by E, e, D or d; &H and &O begin a hexadecimal or octal whole

@@ -5,7 +5,7 @@
 
 namespace ondelis {
 
-// What gives a `Term` throws where the formula ends, and passes on a fault that its argument met before.
+// A function that returns a `Term` throws only where the formula ends, and passes on a fault of its argument.
 
 /// Toward zero: `Fix(-2.7)` is -2.
 [[nodiscard]] Term Fix(Term x);
@@ -20,7 +20,7 @@ namespace ondelis {
 /// To the nearest whole number, a tie to the even one. Throws an overflow outside 16 bits.
 [[nodiscard]] Integer CInt(Double x);
 
-/// As `CInt`, in 32 bits.
+/// Like `CInt`, in 32 bits.
 [[nodiscard]] Long CLng(Double x);
 
 [[nodiscard]] Term Abs(Term x);

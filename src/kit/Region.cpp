@@ -40,7 +40,7 @@ std::optional<std::string> toUtf8(std::string text, const char* encoding)
     iconv_t conversion = iconv_open("UTF-8", encoding);
     if (conversion == iconv_t(-1)) // NOLINT(performance-no-int-to-ptr): how POSIX reports a failure
         return {};
-    constexpr std::size_t longest = 6; // bytes for one of the encoding; a few make pairs of characters of some
+    constexpr std::size_t longest = 6; // bytes of UTF-8 per byte: in some encodings one byte stands for two characters
     std::string utf8(longest * text.size(), ' ');
     char* from = text.data();
     char* to = utf8.data();
@@ -48,7 +48,7 @@ std::optional<std::string> toUtf8(std::string text, const char* encoding)
     std::size_t room = utf8.size();
     constexpr auto failed = static_cast<std::size_t>(-1);
     const bool whole = iconv(conversion, &from, &unread, &to, &room) != failed
-        && iconv(conversion, nullptr, nullptr, &to, &room) != failed; // what waits for a mark behind it
+        && iconv(conversion, nullptr, nullptr, &to, &room) != failed; // writes what it held back for a combining mark
     iconv_close(conversion);
     utf8.resize(utf8.size() - room);
     return whole ? std::optional{utf8} : std::nullopt;

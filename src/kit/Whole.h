@@ -10,7 +10,7 @@
 
 namespace ondelis {
 
-/// A whole number of fixed width whose range is behaviour: leaving it is an overflow fault.
+/// A whole number of fixed width: leaving its range is an overflow fault.
 template <class Repr>
 class Whole {
 public:

@@ -6,7 +6,7 @@
 
 namespace ondelis {
 
-/// The main frame: the first and the last window of the program, and the only place where panels are opened.
+/// The main frame: the first and the last window of the program, and the place from which the user opens panels.
 class MDIOndelis final : public Element {
 public:
     explicit MDIOndelis(Desk& desk) : desk_{desk} { }

@@ -93,7 +93,7 @@ void ClientArea::resizeEvent(QResizeEvent* event)
 void ClientArea::scrollContentsBy(int dx, int dy)
 {
     QMdiArea::scrollContentsBy(dx, dy);
-    QCoreApplication::postEvent(this, new QEvent{QEvent::LayoutRequest}); // with scroll bars, or without
+    QCoreApplication::postEvent(this, new QEvent{QEvent::LayoutRequest}); // the scroll bars may come or go
     viewport()->update(); // the panels have moved over the picture, which has not moved
 }
 

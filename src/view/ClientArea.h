@@ -35,7 +35,7 @@ private:
     /// Scrolls until the places can be seen in a view of this size; of those that do not fit together, the later ones.
     void reveal(const QList<QRect>& places, const QSize& seen);
 
-    bool resized_ = false; ///< so what is in use may now be out of sight
+    bool resized_ = false; ///< the control or panel in use may now be out of sight
     Background background_;
     bool onScreen_ = false;
 };

@@ -37,7 +37,7 @@ void browse(QObject& owner, const QString& file, const std::function<void()>& fa
     auto* const opener = new QProcess{&openers};
     QElapsedTimer since;
     since.start();
-    // What is told may wait for an answer, which the opener does not live to see.
+    // Queued: `failed` may wait for an answer to a box, and by then the opener is deleted.
     QObject::connect(
         opener, &QProcess::finished, &owner,
         [failed, since](int status) {

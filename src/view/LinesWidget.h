@@ -37,7 +37,7 @@ private:
     };
 
     void draw(const Line& line, const Scale& scale);
-    /// Makes the widget as large as what it paints, from the upper left corner of the panel on.
+    /// Makes the widget reach from the upper left corner of the panel to the far end of what it paints.
     void cover();
 
     std::vector<const Line*> lines_;

@@ -35,7 +35,7 @@ PanelWindow::PanelWindow(View& view, FeuilleCalcul& panel)
 PanelWindow::~PanelWindow()
 {
     leave(); // widgets that lose the keyboard while they are destroyed must not report it
-    if (QWidget* const keyboard = focusWidget()) // the base class would take it, where nobody can ask this one any more
+    if (QWidget* const keyboard = focusWidget()) // the base class would, once this one is already destroyed
         keyboard->clearFocus();
     disconnect(qApp, nullptr, this, nullptr);
 }

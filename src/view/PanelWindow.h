@@ -43,7 +43,7 @@ public:
     /// Runs an action of the user, on a control or on the panel itself.
     void perform(const std::function<void(User&)>& action, Control* control = nullptr);
 
-    /// Counts the boxes that have been shown so far.
+    /// How many boxes have been shown so far.
     [[nodiscard]] unsigned boxesShown() const;
 
     /// Names a widget, for screen readers, after its label, or after the panel if it has none, and keeps up with their

@@ -31,7 +31,7 @@ private:
     [[nodiscard]] int positionOf(int value) const { return min_ <= max_ ? value - min_ : min_ - value; }
     [[nodiscard]] int valueAt(int position) const { return min_ <= max_ ? min_ + position : min_ - position; }
     void tellValue();
-    /// Releases the mouse button: it was let go over a box.
+    /// Treats the mouse button as released: it was let go over a box, unseen by the bar.
     void letGo();
 
     int min_ = 0;

@@ -169,8 +169,8 @@ void Style::drawComplexControl(
         // Three sides of an inner bar fall on the edge around it, and are clipped.
         const bool across = (option->state & State_Horizontal) != 0;
         const QMargins beyond = isInner(widget) ? QMargins{across ? 2 : 0, across ? 0 : 2, 2, 2} : QMargins{};
-        // On a dark window Fusion's slider is as dark as the groove, which is nearer to the edge's colour than the
-        // window.
+        // On a dark window Fusion's slider is as dark as the groove, whose colour is nearer to the edge's than that of
+        // the window: the edge has to be lighter there.
         if ((option->state & State_Enabled) != 0) {
             const QRect slider = subControlRect(control, option, SC_ScrollBarSlider, widget);
             const QRect along = across ? QRect{slider.x(), option->rect.y(), slider.width(), option->rect.height()}

@@ -21,7 +21,7 @@ public:
     int styleHint(
         StyleHint hint, const QStyleOption* option, const QWidget* widget, QStyleHintReturn* returned) const override;
 
-    /// Sets the title of a frame off from the edge on its left.
+    /// Keeps the title of a frame away from the edge on its left.
     QRect subControlRect(ComplexControl control, const QStyleOptionComplex* option, SubControl part,
         const QWidget* widget) const override;
 

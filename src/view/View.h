@@ -23,8 +23,7 @@ public:
     View();
     ~View() override;
 
-    /// Opens the main window and starts the program. The frame and its desk must live until the view is told of the
-    /// end.
+    /// Opens the main window and starts the program. The frame and its desk must live until `programEnded`.
     void open(MDIOndelis& frame);
     /// Runs the program to its end; returns its exit status.
     int run();
@@ -40,7 +39,7 @@ public:
     void close();
     /// Opens the page of the guide on the active panel; nothing while a handler or a box waits.
     void showGuide();
-    /// Counts the boxes that were shown: each one releases a widget that is held down.
+    /// How many boxes have been shown: each of them releases a widget that the mouse holds down.
     [[nodiscard]] unsigned boxesShown() const { return boxesShown_; }
 
     Answer showBox(const MessageBox& box) override;
@@ -65,8 +64,8 @@ private:
     void showWindows();
     void showWindow(FeuilleCalcul& panel);
     void showControls();
-    /// Tells the desk which control has got the keyboard as a result: one that was shown, or the one after a hidden
-    /// one.
+    /// Tells the desk which control has the keyboard after what was shown: one that has appeared, or the one after one
+    /// that has gone.
     void tellFocus();
     void deleteClosedWindows();
 

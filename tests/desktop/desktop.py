@@ -23,7 +23,7 @@ def until(look: Callable[[], T], what: str | Callable[[], str]) -> T:
     """Looks again and again until there is something to see, and returns it."""
     deadline = time.monotonic() + PATIENCE
     while time.monotonic() < deadline:
-        with contextlib.suppress(GLib.Error):  # what disappears while a screen reader looks at it is not there
+        with contextlib.suppress(GLib.Error):  # what disappears while a screen reader looks at it counts as absent
             if seen := look():
                 return seen
         time.sleep(0.005)

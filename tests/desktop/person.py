@@ -56,7 +56,7 @@ def below(thing: Thing) -> Iterator[Thing]:
 
 
 class Person:
-    """Opens panels, types, clicks and reads. Everything is waited for; what does not come is an AssertionError."""
+    """Opens panels, types, clicks and reads. It waits for everything; what does not come is an AssertionError."""
 
     def __init__(self, desktop: Desktop, program: Program) -> None:
         self._desktop = desktop

@@ -145,7 +145,7 @@ class Panels:
         self.write("Puissance en entrée", "2")
         self.write("Puissance en sortie", "4")
         self.shows("Gain en Db Puissance", self.local("3.01029995663981"))  # 10 log 2
-        # Worked out of the text beside it: with the comma, of 3 dB.
+        # Computed from the text beside it: with the comma, from 3 dB.
         self.shows("Gain en puissance", "1,99526231496888" if self.comma else "2")
 
     def test_pressure_units(self) -> None:

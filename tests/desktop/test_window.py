@@ -48,8 +48,7 @@ class Window(unittest.TestCase):
         self.desktop.hands("mousemove", "--window", self.window, "--", str(x), "-12")
 
     def restore(self) -> None:
-        """Some window managers give a window that is larger than the screen the size of that: by its title bar it gets
-        its own again."""
+        """Some window managers shrink a window to the screen; a double click on its title bar restores its size."""
         if self.size()[0] <= self.screen[0]:
             self.point_at_title(300)
             self.desktop.hands("click", "--repeat", "2", "--delay", "80", "1")

@@ -11,7 +11,7 @@ namespace {
 
 using pilote::Json;
 
-/// Each control as it stands: all that the driver reports of it, its place, and what is only design.
+/// A control: all that the driver reports of it, its place, and what only its design says.
 Json formOf(const FeuilleCalcul& panel)
 {
     const pilote::State eyes;

@@ -14,7 +14,7 @@
 namespace ondelis::fenetre {
 namespace {
 
-/// What the driver reports is on the widgets: if they show something other than the engine says, it reports that.
+/// The driver reports what is on the widgets, even if they show something other than the engine says.
 class EyesTest : public WindowTest {
 protected:
     void open(const char* entry)

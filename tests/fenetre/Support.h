@@ -34,7 +34,7 @@ protected:
         return *mainWindow().findChild<Widget*>(QString::fromUtf8(name));
     }
 
-    /// Does something to a widget without its reporting it.
+    /// Does something to a widget that it does not report to the engine.
     template <class Widget, class Act>
     static void behindTheEngine(Widget& widget, Act&& act)
     {

@@ -55,7 +55,7 @@ std::string RandomUser::toWindows(const Desk& desk)
         minimised_ = true;
         return "minimise MDIOndelis";
     case 1:
-        // As large as the window: on smaller ones its menu may be out of reach.
+        // At least as large as the window: on smaller screens its menu may be out of reach.
         return "screen " + std::to_string(15 * dice_.between(1920, 3840)) + ' '
             + std::to_string(15 * dice_.between(1080, 2160));
     case 2:
@@ -116,7 +116,7 @@ std::string RandomUser::write(TextBox& box, const std::string& target)
     // Keys land after what is there: a number grows by a key or two before it is replaced.
     if (dice_.percent(20) && !std::string{box.Text}.empty())
         return "type " + target + ' ' + std::to_string(dice_.below(10));
-    // Each key of a long text is a step of its own: such texts are pasted.
+    // Each key of a long text would be a step of its own: long texts are pasted.
     const std::string written = text();
     const std::string_view command = written.size() <= 20 && dice_.percent(30) ? "type " : "replace ";
     return std::string{command} + target + ' ' + pilote::inQuotes(written);

@@ -15,7 +15,7 @@
 namespace ondelis::fuzz {
 namespace {
 
-/// Whether the fault is one that its command may end by, or something that was done meanwhile.
+/// Whether the last command, or something that was done meanwhile, may end the program with this fault.
 bool isKnown(const Outcome& outcome)
 {
     if (allowed(outcome.subject, outcome.fault))

@@ -20,7 +20,7 @@ int run(const NewSubject& newSubject, const Length& length, std::uint64_t seed);
 /// A whole number; throws if the word is not one.
 [[nodiscard]] std::uint64_t whole(std::string_view word);
 
-/// The end of a session's process is waited for, and must not be missed before that.
+/// Keeps the ends of the sessions' processes from being lost before they are waited for.
 void keepEndsOfProcesses();
 
 } // namespace ondelis::fuzz

@@ -33,7 +33,7 @@ struct Aim {
 constexpr Aim findings{.longestStep = 10, .digests = false};
 constexpr Aim comparison{.longestStep = 60, .digests = true};
 
-/// A step that waits this long without using the processor waits for ever.
+/// A step that waits this long without using the processor would wait forever.
 constexpr std::chrono::seconds longestWait{300};
 
 /// What the session's process reports about itself. It starts as zeros.
@@ -145,7 +145,7 @@ private:
         return json.dump(-1, ' ', false, pilote::Json::error_handler_t::replace);
     }
 
-    static constexpr int commandsALook = 8; // to look takes far longer than a command
+    static constexpr int commandsALook = 8; // looking takes far longer than a command
 
     Log& log_;
     bool digests_;

@@ -19,7 +19,7 @@ RENDERED = sorted(pathlib.Path(os.environ["GUIDE"]).glob("*.html"))
 
 
 class Links(html.parser.HTMLParser):
-    """A page's links, its anchors, what it asks of a browser, and its words without formulas and code."""
+    """A page's links, its anchors, what it needs of a browser, and its words without formulas and code."""
 
     def __init__(self, file):
         super().__init__()

@@ -182,7 +182,7 @@ TEST(Oracle, powIsThatOfTheLibraryForEveryExponent)
         ASSERT_EQ(Pow(10, x / 1e17), libraryPow(10, x / 1e17)) << x;
         unlikeAProduct += libraryPow(x, 2) != x * x ? 1 : 0;
     }
-    EXPECT_GT(unlikeAProduct, 0); // or else products would have passed too
+    EXPECT_GT(unlikeAProduct, 0); // else products would have passed, too
 }
 
 TEST(Oracle, cstrAndStrAreLikePrintf)

@@ -34,7 +34,7 @@ inline void PrintTo(FaultKind kind, std::ostream* out)
 
 namespace ondelis::test {
 
-/// The kind of the fault that an action raises; nothing where it raises none.
+/// The kind of the fault that an action throws; nothing if it throws none.
 template <class Action>
 std::optional<FaultKind> faultOf(Action action)
 {

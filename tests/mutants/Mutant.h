@@ -4,13 +4,13 @@
 #include <type_traits>
 #include <utility>
 
-// What `mutants.py` writes into a source: each change stands beside the original, and the environment says which one is
-// on.
+// What `mutants.py` writes into a source: each change stands beside the original, and an environment variable says
+// which one is on.
 
 namespace ondelis_mutants {
 
-// In a header of the floors code may be computed by the compiler, and has no change then. Elsewhere a constant that is
-// computed by the compiler is none any more, or does not compile: no change goes unseen for that.
+// In headers of the floors, what the compiler computes stays as it was: no change is on there. In other files constants
+// become variables or fail to compile, so that the compiler hides no change.
 #ifdef ONDELIS_MUTANTS_OF_A_FLOOR
 #define ONDELIS_CONSTEXPR constexpr
 #else
@@ -25,7 +25,7 @@ namespace ondelis_mutants {
     return chosen != nullptr && std::atoi(chosen) == number;
 }
 
-/// A literal that is another one while the change is on. Not a conditional: compilers take for ever on lists of these.
+/// A literal that is another one while the change is on. Not a conditional: compilers take forever on lists of these.
 template <class Value>
 ONDELIS_CONSTEXPR Value either(int number, Value changed, Value original)
 {

@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
 """Changes one token of a source at a time, and reports which changes no scenario and no test notices.
 
-    mutants.py BUILD [FILE...] [--number N] [--files N] [--seed N]
+    mutants.py BUILD [FILE...] [--number N] [--sample N] [--seed N]
 
 BUILD is the folder of a finished release build. Without FILE all sources of src/kit, forms, panels and shell are
 tried, a panel's header with its source. Survivors are printed; those in unseen.toml are not tried.
@@ -26,7 +26,7 @@ from workshop import HERE, ROOT, SOURCES, Broken, Build, Workshop
 
 FLOORS = ("kit", "forms", "panels", "shell")
 SCENARIOS = ROOT / "tests/scenarios"
-# What the compiler computes: a variable, and no function.
+# A constant that the compiler computes: a variable, not a function.
 CONSTANT = re.compile(r"\b((?:static )?)(?:inline )?constexpr(?= [\w:<>, *]+? \w+(?:\[\w*\])?(?: = |\{))")
 SECONDS = 5  # of processor time; a play takes a fraction of one, a mutant may never end
 
@@ -123,7 +123,7 @@ class Trial:
         return self.result
 
     def play_together(self, mutants):
-        """One build of many mutants, of which the environment chooses one; gives those that do not compile so."""
+        """Plays many mutants in one build, where the environment chooses one; returns those that do not compile so."""
         left = []
         while True:
             try:

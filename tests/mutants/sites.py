@@ -69,7 +69,7 @@ def changes(text, header):
 
 
 def shut_places(text):
-    """Where places of controls are written."""
+    """The parts of a text that say where controls stand."""
     spans = []
     for match in PLACES.finditer(text):
         depth, end = 1, match.end()
@@ -105,7 +105,7 @@ def one_token(text, toks, index, header):
     if old in SIGNS and not before.startswith("template"):
         line = text[text.rfind("\n", 0, start):text.find("\n", end)]
         if old == "+" and '"' in line:
-            return []  # it puts texts together
+            return []  # it joins texts
         return [Change(start, end, old, new, "", f" ondelis_mutants::Change<ondelis_mutants::Sign::{SIGNS[old]}, "
                        f"ondelis_mutants::Sign::{SIGNS[new]}>{{@}} {old}")
                 for new in OTHER_SIGNS[old]]

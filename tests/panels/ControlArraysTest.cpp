@@ -7,7 +7,7 @@ namespace {
 
 class ControlArraysTest : public DeskTest { };
 
-// One more would show on the panel, and no scenario can name what is not there.
+// One row too many would show on the panel, and no scenario can say that a control is not there.
 
 TEST_F(ControlArraysTest, TheTransformerHasRowsForFourWindings)
 {

@@ -19,7 +19,7 @@ long residentMemory()
 
 class MemoryTest : public FrameTest {
 protected:
-    /// Opens the panels of the menu, one entry after the other and round again.
+    /// Opens the panels of the menu, one entry after the other, again and again.
     void openPanels(std::size_t count)
     {
         for (std::size_t opening = 0; opening < count; ++opening) {

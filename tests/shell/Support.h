@@ -11,7 +11,7 @@ class FrameTest : public DeskTest {
 protected:
     MDIOndelis frame{desk};
 
-    /// Clicks an entry of the menu; false where there is none of that control.
+    /// Clicks an entry of the menu; false if there is none of that name.
     bool click(std::string_view control)
     {
         const MenuEntry* const entry = findMenuEntry(control);
@@ -21,7 +21,7 @@ protected:
         return true;
     }
 
-    /// The loaded panel of that class; null where there is none.
+    /// The panel of that class if it is loaded, else null.
     [[nodiscard]] FeuilleCalcul* panel(std::string_view name) const
     {
         for (FeuilleCalcul* const loaded : desk.loadedPanels())

@@ -66,7 +66,7 @@ public:
         const bool active = window.windowState().testFlag(Qt::WindowActive);
         const QColor ink = active ? Qt::white : window.palette().color(QPalette::Inactive, QPalette::Text);
         name_ += QStringLiteral(" (title)");
-        // The ground is a shade: it is looked at line by line, beside the text.
+        // The background is a gradient: it is judged line by line, beside the text.
         const QFontMetrics metrics = window.fontMetrics();
         const int beside = title.center().x() - metrics.horizontalAdvance(window.windowTitle()) / 2 - 5;
         const int above = (title.height() - metrics.height()) / 2;
@@ -134,7 +134,7 @@ private:
         judge(color(role), commonestColor(place.translated(widget_->mapTo(&window_, QPoint{}))));
     }
 
-    /// The middle of a place, where a sign stands on its ground: of its colours, one must stand out.
+    /// The middle of a place, where a sign stands: one of its colours must stand out from the commonest.
     void lookAtSign(const QRect& place)
     {
         const QRect middle = place.adjusted(4, 4, -4, -4);
@@ -149,7 +149,7 @@ private:
 
     [[nodiscard]] QColor color(QPalette::ColorRole role) const { return widget_->palette().color(role); }
 
-    /// Of a text's place, most is ground.
+    /// The background: most of a text's place is not ink.
     [[nodiscard]] QRgb commonestColor(const QRect& place) const
     {
         const QRect seen = place & image_.rect();

@@ -32,7 +32,7 @@ ScopedDesktop::ScopedDesktop(const QString& family, int points, bool dark)
     if (!dark)
         return;
     QPalette palette = poorDarkPalette();
-    QApplication::style()->polish(palette); // as it does with what the desktop has
+    QApplication::style()->polish(palette); // as it does with the desktop's palette
     QApplication::setPalette(palette);
 }
 

@@ -15,8 +15,8 @@
 
 namespace ondelis {
 
-/// The lettering of the drawings can be read, on light windows and, with their luma turned round, on dark ones, in wide
-/// and in narrow fonts.
+/// The lettering of the drawings can be read, on light windows and, with the luma inverted, on dark ones, in wide and
+/// in narrow fonts.
 class DrawingsTest final : public QObject {
     Q_OBJECT
 
@@ -40,7 +40,7 @@ class DrawingsTest final : public QObject {
         return image;
     }
 
-    /// The place which changes when a text is taken away: it is as large as its ink.
+    /// The place that changes when a text is taken away: that of its ink.
     static QRect placeOf(const QImage& with, const QImage& without)
     {
         QRect place;

@@ -119,7 +119,7 @@ QStringList sidesWithoutEdge(const QImage& picture, const QRect& place, int pixe
             good += edge ? 1 : 0;
             ++all;
         });
-        if (good * 4 < all * 3) // what stands on an edge or beside it may cover some of it
+        if (good * 4 < all * 3) // something on the edge or beside it may cover a part
             missing.append(QString::fromLatin1(side.name));
     }
     return missing;
@@ -127,7 +127,7 @@ QStringList sidesWithoutEdge(const QImage& picture, const QRect& place, int pixe
 
 QStringList missingEdges(const PanelWindow& window)
 {
-    // Where the part of the main window begins, pixels of the device begin too, at all scales of the screen.
+    // This part of the main window begins on a device pixel at all scales of the screen.
     constexpr int step = 20;
     QWidget& main = *window.window();
     const QPoint corner = window.mapTo(&main, QPoint{});

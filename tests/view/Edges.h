@@ -16,7 +16,7 @@ namespace ondelis {
 /// line for each side, such as "Astable.TxtR1: left".
 [[nodiscard]] QStringList missingEdges(const PanelWindow& window);
 
-/// How many things with edges the last call has looked at.
+/// How many things with edges the last call of `missingEdges` looked at.
 [[nodiscard]] int edgedThings(const PanelWindow& window);
 
 } // namespace ondelis

@@ -97,7 +97,7 @@ private slots:
         QTest::keyClick(&field, Qt::Key_V, Qt::ControlModifier);
         QCOMPARE(stored(), stands);
         QCOMPARE(field.text(), stands);
-        // In the middle: typing goes on behind what was put in.
+        // In the middle: typing goes on after what was put in.
         program.store([&] { panel.TxtA.Text = "89"; });
         field.setCursorPosition(1);
         QTest::keyClick(&field, Qt::Key_V, Qt::ControlModifier);

@@ -37,7 +37,7 @@ class FocusTest final : public QObject {
         return static_cast<double>(pixels) / (2 * (widget.width() + widget.height()));
     }
 
-    /// What getting the keyboard changes in the look of a control.
+    /// How getting the keyboard changes the look of a control.
     static double mark(const Program& program, const Control& control, const Control& other)
     {
         QWidget& widget = program.widget(control);

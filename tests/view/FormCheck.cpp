@@ -122,7 +122,7 @@ private:
         const double rows = (height - listBorders) / listRow;
         if (rows != std::floor(rows))
             fault(QStringLiteral("the list cuts a row"));
-        // What the panel fills itself may be shorter than its list.
+        // A list that the panel fills at run time may have fewer rows than it has room for.
         if (const auto items = static_cast<double>(list->design().Items.size()); items > 0 && rows > items)
             fault(QStringLiteral("the list is blank below its last row"));
     }
@@ -155,7 +155,7 @@ private:
             fault(QStringLiteral("the drawing is not shown in its size"));
     }
 
-    /// Its control leaves a drawing some room, but lets it grow in no direction.
+    /// Whether a control shows a drawing at its own size: with room to spare in one direction at most.
     static bool isOfItsSize(const Picture& picture, const QSize& pixels)
     {
         const double across = picture.at().Width / (twipsPerPixel * pixels.width());
@@ -180,8 +180,8 @@ private:
             fault(QStringLiteral("it has no name for a screen reader"));
     }
 
-    /// The part of a control that nothing else may stand on, in pixels of the client area. Drawings and lines may lie
-    /// under other controls, and of a frame it is the title.
+    /// The part of a control that nothing else may cover, in pixels of the client area: nothing of drawings and lines,
+    /// the title of a frame, the whole of others.
     [[nodiscard]] QRect solidPartOf(const Control& control) const
     {
         if (!isShown(control))

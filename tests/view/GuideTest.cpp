@@ -140,7 +140,7 @@ private slots:
             QTest::qWaitFor([&] { return opened() == QDir::cleanPath(folder().filePath("FiltrePasseBasEnPi.html")); }));
     }
 
-    /// The last one: its browser stands also when this test's process ends, which no leak may be seen in.
+    /// The last test, so that its browser is still open when this process ends: nothing may be reported as a leak then.
     void leavesTheBrowserOpenWhenItEnds()
     {
         const QString closed = desktop_.filePath("closed");

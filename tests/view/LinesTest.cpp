@@ -69,7 +69,7 @@ private slots:
         program.pick("mnuLPDA");
         auto& panel = program.desk.get<AntennesLPDA1>();
         const auto seen = [&] { return program.window(panel).form().grab().toImage(); };
-        for (const bool notes : {false, true}) { // over its frame lie two fields that take turns with it
+        for (const bool notes : {false, true}) { // in place of its frame one of two fields may show
             if (notes)
                 program.store([&] { panel.BtnCalculer1.Value = true; });
             const QImage covered = seen();

@@ -42,8 +42,8 @@ private:
 
 } // namespace
 
-/// Every panel at work: no result is cut, and nothing that comes up overlaps. The results are the longest that a typist
-/// reaches who types the same numbers each time.
+/// Every panel at work: no result is cut, and nothing that comes up overlaps. The results are the longest that the
+/// typist reaches, with the same numbers each time.
 class LongResultsTest final : public QObject {
     Q_OBJECT
 

@@ -6,8 +6,8 @@
 
 namespace ondelis {
 
-/// What a person sees and where the keyboard is after each entry of the menu, on one screen of those that people have:
-/// on most of them the frame is larger than the screen.
+/// What a person sees and where the keyboard is after each entry of the menu, on one of the screens that people have:
+/// the frame is larger than most of them.
 class OpeningTest final : public QObject {
     Q_OBJECT
 
@@ -51,7 +51,7 @@ class OpeningTest final : public QObject {
         return first == panel.controls().end() ? nullptr : *first;
     }
 
-    /// The first field to type into; the first control where there is none.
+    /// The first field to type into, else the first control.
     static const Control* firstField(const FeuilleCalcul& panel)
     {
         for (Control* const control : panel.controls()) {

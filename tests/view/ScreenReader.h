@@ -32,7 +32,7 @@ public:
         QString text; ///< the new text of a field, the new value of a bar, the new name
     };
 
-    /// What it was told about an object since it was last asked about any.
+    /// What it was told about an object since the last call for any object.
     [[nodiscard]] static std::vector<Event> heardOf(const QObject& object)
     {
         std::vector<Event> heard;

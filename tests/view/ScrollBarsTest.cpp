@@ -25,7 +25,7 @@ class ScrollBarsTest final : public QObject {
         QTest::mouseClick(&bar, Qt::LeftButton, Qt::NoModifier, at.center());
     }
 
-    /// Turns the mouse wheel over a bar; what does not take it leaves it to what is around it.
+    /// Turns the mouse wheel over a bar; a widget that does not take the event leaves it to its parent.
     static void turnWheel(QScrollBar& bar, int notches)
     {
         const QPoint middle = bar.rect().center();

@@ -100,7 +100,7 @@ private slots:
         other.activateWindow();
         QVERIFY(QTest::qWaitForWindowActive(&other));
         QVERIFY(!on.input.hasFocus());
-        QEvent late{QEvent::WindowActivate}; // of a moment ago
+        QEvent late{QEvent::WindowActivate}; // that arrives a moment late
         QCoreApplication::sendEvent(&on.input, &late);
         QTest::qWait(1);
         QCOMPARE(on.input.selectedText(), QStringLiteral("14.175"));

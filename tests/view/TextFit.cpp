@@ -22,8 +22,7 @@ QString readText(QString text)
     return text.replace(QStringLiteral("&&"), QStringLiteral("&"));
 }
 
-/// The pixels of height that a line of text lacks in a room, in the middle of which it stands: it is the ink that
-/// counts.
+/// The pixels of height that a line of text lacks in a room in whose middle it stands: only its ink counts.
 int missingHeight(const QFontMetrics& metrics, int room)
 {
     const QRect ink = metrics.tightBoundingRect(QStringLiteral("ÉÀÇgjpqy"));

@@ -8,7 +8,7 @@ namespace ondelis {
 
 /// A text that does not fit in its widget.
 struct TextCut {
-    QString text; ///< empty where the widget is too low for any
+    QString text; ///< empty if the widget is too low for any
     int missing; ///< pixels, of width or of height
 };
 
@@ -16,7 +16,7 @@ struct TextCut {
 /// titles of frames.
 [[nodiscard]] std::vector<TextCut> cutsIn(const QWidget& widget);
 
-/// The title of a group box, in the widget's pixels; empty where there is none.
+/// The title of a group box, in the widget's pixels; empty if there is none.
 [[nodiscard]] QRect titleOf(const QWidget& widget);
 
 } // namespace ondelis

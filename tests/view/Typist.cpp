@@ -5,7 +5,7 @@
 namespace ondelis {
 namespace {
 
-/// For each panel some of them are too small, too large or too precise.
+/// Each panel finds some of them too small, too large or too precise.
 constexpr std::array numbers{"3", "7", "0.00031", "123456.789", "1234567", "0.000000123", "0.7", "11", "47.3", "1e-7",
     "98765432.1", "1e9", "-7", "0.0333", "145.275", "1e12", "1e-9", "2"};
 

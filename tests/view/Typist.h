@@ -10,7 +10,7 @@
 namespace ondelis {
 
 /// A person who types awkward numbers into every field, chooses rows and options, moves bars to their ends and presses
-/// buttons, the same ones each time: results come out as long as they get.
+/// buttons, in the same way each time, so that results come out as long as they get.
 class Typist {
 public:
     using Look = std::function<void(PanelWindow& window, const Typed& typed)>;

@@ -8,8 +8,7 @@
 
 namespace ondelis {
 
-/// A person's walk through the panels. After a fault that a panel has, and that ends the program, it goes on in another
-/// program.
+/// A person's walk through the panels. After a fault, which ends the program, it goes on in another program.
 class Walk {
 public:
     [[nodiscard]] Program& program() const { return *program_; }

@@ -77,7 +77,7 @@ def earth_line(s: Sheet, y: float, x1: float, x2: float) -> None:
 
 
 def gamma_section(s: Sheet, element: Point, rod: Point) -> None:
-    """The element and the rod cut across, with their strap behind: their diameters and the way between their axes."""
+    """The element and the rod cut across, with their strap behind: their diameters and the distance between them."""
     u = towards(rod, element)
     reach = math.dist(rod, element)
     s.polygon(along(rod, u, -16, 6), along(rod, u, reach, 6), along(rod, u, reach, -6), along(rod, u, -16, -6),
@@ -174,7 +174,7 @@ def insulator(s: Sheet, x: float, y: float) -> None:
 
 
 def coil(s: Sheet, x: float, y: float, stroke: str) -> None:
-    """A coil on a former, in a wire that lies."""
+    """A coil on a former, in a horizontal wire."""
     s.rect(x - 15, y - 9, 30, 18, fill=DIELECTRIC)
     for i in range(5):
         s.wire((x - 11 + 5 * i, y - 9), (x - 9 + 5 * i, y + 9), stroke=stroke, width=HEAVY)
@@ -249,7 +249,7 @@ def hb9cv_vushf(s: Sheet) -> None:
 
 @picture("double-quad", 400, 173, "Double quad et son réflecteur")
 def double_quad(s: Sheet) -> None:
-    """Two squares of side a quarter wave that share their feed, before a panel; on the right, from the side."""
+    """Two quarter-wave squares that share their feed, in front of a reflector; on the right, from the side."""
     x, y, quarter = 150.0, 72.0, 40.0
     width, height = 4.5 * quarter, 3 * quarter
     left, top = x - width / 2, y - height / 2
@@ -265,7 +265,7 @@ def double_quad(s: Sheet) -> None:
     s.dimension((left, y + height / 2), (left, top), "3 λ/4", 26)
     s.dimension((x + half, y - half), (x + 2 * half, y), offset=12)
     s.text(x + 1.5 * half + 22, y - half / 2 - 18, "λ/4", WORD, colour=DIM)
-    # From the side: the panel, the squares before it, the cable behind.
+    # From the side: the reflector, the squares in front of it, the cable behind.
     panel, front = 330.0, 330.0 - 0.136 * 4 * quarter
     s.rect(panel, top, 5, height, fill=METAL)
     s.wire((front, y - half), (front, y + half), stroke=COPPER, width=TUBE, cap="butt")

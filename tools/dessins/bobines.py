@@ -8,9 +8,9 @@ from symbols import inductor, junction, terminal
 
 
 def helix(s: Sheet, x: float, axis: float, radius: float, pitch: float, turns: int) -> float:
-    """An air coil from the side, its first wire low at x; gives the x of its last wire, low as well.
+    """An air coil from the side, which starts at the bottom at x; returns the x where it ends, at the bottom too.
 
-    Each turn climbs behind, paler, and comes down in front.
+    Each turn rises at the back, paler, and comes down at the front.
     """
     top, bottom, half, bow = axis - radius, axis + radius, pitch / 2, pitch * 0.32
     far, near = [], []
@@ -28,7 +28,7 @@ def helix(s: Sheet, x: float, axis: float, radius: float, pitch: float, turns: i
 
 
 def section(s: Sheet, x: float, top: float, bottom: float, wire: float, pitch: float, turns: int) -> None:
-    """A winding cut along its axis: two rows of round wires, the lower row half a pitch on."""
+    """A winding cut along its axis: two rows of round wires, the lower one shifted by half a pitch."""
     for i in range(turns):
         s.circle((x + i * pitch, top), wire / 2, stroke=COPPER, fill=COPPER_PALE)
         s.circle((x + (i + 0.5) * pitch, bottom), wire / 2, stroke=COPPER, fill=COPPER_PALE)

@@ -42,7 +42,7 @@ def blade(s: Sheet, centre: Point, outer: float, inner: float, start: float, end
            f" A{inner} {inner} 0 0 1 {number(x4)} {number(y4)} Z", fill=fill)
 
 
-# The three constructions of a variable capacitor, in pictures of one size that take turns.
+# The three constructions of a variable capacitor, in pictures of one size: the panel shows one at a time.
 
 BLADES, BLADE, HUB = (108.0, 106.0), 76.0, 20.0  # centre, outer and inner radius
 

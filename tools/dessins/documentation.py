@@ -29,7 +29,7 @@ SAMPLES = [
 
 
 def write(name: str, *source: str, image: bytes | None = None, shaded: bool = False) -> None:
-    """Writes a picture with as few colours as do not show."""
+    """Writes a picture with few colours, but no visible loss."""
     file = TARGET / f"{name}.png"
     colors = ["-colors", "256"] if shaded else ["+dither", "-colors", "128"]
     subprocess.run(["convert", *source, "-strip", *colors, f"PNG8:{file}"], input=image, check=True)

@@ -25,8 +25,8 @@ PALE = "#edf2f7"  # fill: the inside of a symbol
 DIELECTRIC = "#f6ecd0"  # fill: insulators
 COPPER_PALE = "#e9c9ad"  # fill: copper seen in section
 DARK = "#8597a9"  # fill: what is dark itself, the outside of a cable and the iron of a core
-# The view turns the colours above for dark windows, and leaves those that are written as below.
-BLACK_PART = "rgb(31,45,61)"  # fill: a part that is black by day and by night
+# The view inverts the colours above on dark windows, and leaves those that are written as below.
+BLACK_PART = "rgb(31,45,61)"  # fill: a part that is black on light and dark windows
 MARK = "rgb(255,255,255)"  # what is printed on it
 
 # Strokes, in pixels at nominal size.
@@ -49,7 +49,7 @@ ARROW = (7.0, 2.5)
 
 @dataclass(frozen=True)
 class Room:
-    """A place left free for a label of the panel: its name (empty if it is free), its text, its centre."""
+    """A place left free for a label of the panel: its name ("" if the panel chooses), its text, its centre."""
 
     label: str
     text: str
@@ -138,9 +138,9 @@ def ellipse_data(centre: Point, rx: float, ry: float) -> str:
 
 
 def join(lines: list[list[Point]]) -> None:
-    """Makes one line of two that alone end at one point; the later one is left empty.
+    """Joins two lines that meet where no other line ends; the later one is left empty.
 
-    Two round ends on one another would show as a speck, where half covered pixels are painted twice.
+    Two round ends on top of each other would show as a speck, where half-covered pixels are painted twice.
     """
     ends = Counter(place(end) for line in lines for end in (line[0], line[-1]))
     for i, line in enumerate(lines):
@@ -191,7 +191,7 @@ class Sheet:
         self.path(d, stroke=fill, width=across - 2 * MAIN, cap=cap)
 
     def wire(self, *points: Point, **look) -> None:
-        """A line through the points; plain ones that meet two by two become one."""
+        """A line through the points; plain ones that meet in pairs become one."""
         if look:
             self.path(line_data(list(points)), **look)
         else:

@@ -117,7 +117,7 @@ def generator(s: Sheet, a: Point, b: Point) -> None:
 
 
 def meter(s: Sheet, a: Point, b: Point, text: str) -> None:
-    """A measuring instrument; its letter is left to a label of the panel, on the bare card."""
+    """A measuring instrument; its letter is left to a label of the panel."""
     radius = 13.0
     x, y = middle(a, b)
     leads(s, a, b, 2 * radius)
@@ -126,7 +126,7 @@ def meter(s: Sheet, a: Point, b: Point, text: str) -> None:
 
 
 def battery(s: Sheet, a: Point, b: Point, text: str = "", side: int = 1) -> None:
-    """A direct supply, its positive pole towards a."""
+    """A DC source, its positive pole towards a."""
     u, m = towards(a, b), middle(a, b)
     leads(s, a, b, 6)
     s.wire(along(m, u, -3, 12), along(m, u, -3, -12), cap="butt")

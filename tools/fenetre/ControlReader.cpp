@@ -42,14 +42,14 @@ double distance(const QPointF& point, const QLineF& line)
                               : std::abs(way.x() * line.dy() - way.y() * line.dx()) / line.length();
 }
 
-/// Whether what is painted of a line that reaches out of its diagram is the part of it that runs inside.
+/// Whether a line reaches out of its diagram, and the part of it that runs inside is what is painted.
 bool isPartInside(const std::optional<QLineF>& painted, const QLineF& whole, const QRectF& diagram)
 {
     if (diagram.contains(whole.p1()) && diagram.contains(whole.p2()))
         return false;
     constexpr double sharpness = 0.01; // pixels
     const QRectF inner = diagram.adjusted(2, 2, -2, -2);
-    if (!painted) { // then it passes by
+    if (!painted) { // then it must pass the diagram by
         for (int step = 0; step <= 1000; ++step)
             if (inner.contains(whole.pointAt(step / 1000.0)))
                 return false;
@@ -140,7 +140,7 @@ void ControlReader::seenLabel(const Label* label, const Label* otherLabel, const
     const bool named = label == nullptr
         ? name == window_.windowTitle()
         : name == captions(label) || (otherLabel != nullptr && name == captions(otherLabel));
-    // Which of several captions with the same text it is cannot be told. With both hidden there is nothing to name.
+    // Captions with the same text cannot be told apart. With both hidden there is nothing to name.
     const bool hidden = label != nullptr && widgetOf<QLabel>(*label).isHidden() && widget.isHidden();
     if (named || (hidden && name.isEmpty()))
         unseen("Label");
@@ -254,7 +254,7 @@ void ControlReader::visit(Line& line)
     const Shape* const diagram = line.design().within;
     if (diagram != nullptr && line.Visible && isPartInside(painted, said, scale.pixels(diagram->at()))) {
         for (const char* const member : {"X1", "Y1", "X2", "Y2", "Visible"})
-            unseen(member); // what is outside of the diagram
+            unseen(member); // what lies outside the diagram
         return;
     }
     seen("Visible", painted.has_value());

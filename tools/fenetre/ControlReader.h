@@ -20,11 +20,11 @@ using pilote::Json;
 /// Reads the members of a control from its widget.
 class ControlReader final : private ControlVisitor {
 public:
-    /// `said` is what the engine says of the control.
+    /// `said` is what the engine says about the control.
     ControlReader(const PanelWindow& window, Json said) : window_{window}, said_(std::move(said)) { }
 
-    /// The members that the engine states, as the widget shows them. Throws if there is one that has not been looked
-    /// for.
+    /// The members that the engine states, as the widget shows them. Throws if one of them is neither read nor
+    /// declared unseen.
     [[nodiscard]] Json read(Control& control);
 
 private:
@@ -43,9 +43,9 @@ private:
     template <class Widget>
     [[nodiscard]] Widget& widgetOf(const Control& control) const;
 
-    /// The widget shows this under that member.
+    /// Notes what the widget shows for a member.
     void seen(const char* member, Json value);
-    /// That member cannot be seen.
+    /// Notes that a member cannot be seen.
     void unseen(const char* member) { looked_.insert(member); }
     void readVisible(const Control& control);
     /// A position in pixels, along one axis.

@@ -18,7 +18,7 @@
 namespace ondelis::fenetre {
 namespace {
 
-/// What the mouse is put on: for a list or a large field, the part that shows its rows or its text.
+/// What the mouse points at: for a list or a large field, the part that shows its rows or its text.
 QWidget& face(QWidget& widget)
 {
     auto* const area = qobject_cast<QAbstractScrollArea*>(&widget);
@@ -34,7 +34,7 @@ bool isAtEnd(const QWidget& field)
     return caret.atEnd() && !caret.hasSelection();
 }
 
-/// Whether a click there only brings the panel before the others: there is its title, its ground, or a caption.
+/// Whether a click there only brings the panel in front of the others: on its title, its background or a caption.
 bool doesNothing(const PanelWindow& panel, const QPoint& place)
 {
     const QWidget* const there = panel.childAt(place);
@@ -66,7 +66,7 @@ pilote::Hands::Refusal Fingers::uncover(QWidget& widget, const QPoint& point) co
         return {};
     for (QWidget* above = &widget; above != nullptr; above = above->parentWidget())
         if (auto* const panel = dynamic_cast<PanelWindow*>(above)) {
-            window_->area().bringIntoSight(widget); // as by the bars of the client area
+            window_->area().bringIntoSight(widget); // as a person would, by the bars of the client area
             if (!Pointer::reaches(widget, point))
                 raise(*panel);
         }
@@ -134,7 +134,7 @@ pilote::Hands::Refusal Fingers::takeKeyboard(QWidget& widget) const
         if (auto refusal = press(widget, barPart(*bar, QStyle::SC_ScrollBarSlider).center()))
             return refusal;
     } else {
-        // Into a field by a click; on the others the right button does nothing else.
+        // A field is clicked; on the other controls the right button gives the keyboard and does nothing else.
         QWidget& seen = face(widget);
         if (auto refusal = press(seen, seen.rect().center(), isField(widget) ? Qt::LeftButton : Qt::RightButton))
             return refusal;
@@ -144,7 +144,7 @@ pilote::Hands::Refusal Fingers::takeKeyboard(QWidget& widget) const
 
 void Fingers::tabTo(QListWidget& list) const
 {
-    // From a neighbour that does nothing when it gets the keyboard: a list may.
+    // From a neighbour that does nothing when it gets the keyboard: so not from another list.
     const auto isNeighbour = [&](const QWidget& widget) {
         return widget.parentWidget() == list.parentWidget() && widget.isVisible()
             && (widget.focusPolicy() & Qt::TabFocus) != 0;
@@ -189,7 +189,7 @@ pilote::Hands::Refusal Fingers::moveThumb(QScrollBar& bar, int position) const
     const int way = thumbWay(bar, position);
     if (positionAfter(bar, way) == position)
         pointer.drag(bar.orientation() == Qt::Horizontal ? QPoint{way, 0} : QPoint{0, way});
-    else // between two pixels: as a drag leaves it
+    else // no pixel stands for this position
         bar.setSliderPosition(position);
     pointer.release();
     return {};

@@ -26,7 +26,7 @@ public:
 
     /// The main window is on screen.
     void meet(MainWindow& window) { window_ = &window; }
-    /// It is gone.
+    /// The main window is gone.
     void leave() { window_ = nullptr; }
     /// Null if it is not on screen.
     [[nodiscard]] MainWindow* window() const { return window_; }
@@ -37,11 +37,11 @@ public:
 
     /// Presses a button on a point of a widget, and releases it.
     Refusal press(QWidget& widget, const QPoint& point, Qt::MouseButton button = Qt::LeftButton) const;
-    /// The same on the title of a panel, which is dragged meanwhile.
+    /// The same on the title of a panel, which is dragged in between.
     Refusal pressTitle(PanelWindow& panel, const QPoint& point, const QPoint& by = {}) const;
     /// Gives a field the keyboard, with the caret at its end, unless that is so already.
     Refusal goToEnd(QWidget& field) const;
-    /// Gives any control the keyboard, and changes nothing.
+    /// Gives any control the keyboard, and changes nothing else.
     Refusal takeKeyboard(QWidget& widget) const;
     /// A key at the end of a field; a repeated one is held down.
     Refusal typeKey(QWidget& field, const QString& character, bool repeated) const;
@@ -52,7 +52,7 @@ private:
     Refusal uncover(QWidget& widget, const QPoint& point) const;
     /// Gives a list the keyboard: a click would choose a row, the Tab key does not.
     void tabTo(QListWidget& list) const;
-    /// Brings a panel before the others.
+    /// Brings a panel in front of the others.
     static void raise(PanelWindow& panel);
 
     MainWindow* window_ = nullptr;

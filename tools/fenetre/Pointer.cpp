@@ -43,7 +43,7 @@ void Pointer::drag(const QPoint& by)
     const QPoint to = pressed_->mapToGlobal(at_ + by);
     moveTo(at_ + by, button_);
     if (pressed_ != nullptr)
-        at_ = pressed_->mapFromGlobal(to); // what is dragged may have come along
+        at_ = pressed_->mapFromGlobal(to); // what is dragged may have moved along
 }
 
 void Pointer::release()

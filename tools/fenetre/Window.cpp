@@ -83,8 +83,8 @@ Window::~Window()
             while (!desk_.loadedPanels().empty())
                 desk_.Unload(*desk_.loadedPanels().front());
         });
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete); // no event loop comes to it
-    // Where the program has ended, the next one must find an event loop that has not.
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete); // no event loop will do it
+    // Ending a program marks the event loop as ended; running it once clears the mark for the next program.
     if (desk_.ended()) {
         QMetaObject::invokeMethod(qApp, &QCoreApplication::quit, Qt::QueuedConnection);
         QCoreApplication::exec();
@@ -132,7 +132,7 @@ bool Window::agreesOnKeyboard() const
         if (const PanelWindow* const window = view_.find(*panel))
             if (const Control* const control = window->controlOf(shown))
                 return control == said;
-    return true; // no control has it
+    return true; // no control has the keyboard
 }
 
 void Window::readBox()

@@ -42,7 +42,7 @@ public:
 private:
     void readBox();
     void readFault();
-    /// The answer to the next box with that many buttons.
+    /// The button that answers a box, which asks for "Oui" or "Non" or just tells something.
     [[nodiscard]] QString nextAnswer(bool asks);
 
     Painting painting_;

@@ -53,7 +53,7 @@ private:
     Window body_;
     pilote::Pilote pilote_{body_};
     QSocketNotifier input_{STDIN_FILENO, QSocketNotifier::Read};
-    std::string heard_; ///< and not answered
+    std::string heard_; ///< what was read and is not answered yet
     bool over_ = false;
 };
 

@@ -47,7 +47,7 @@ void Gallery::playExample(Player& player, const Subject& subject) const
 {
     const std::filesystem::path file = examples_ / (subject.panel + ".txt");
     if (!exists(file))
-        return; // it has no more to show than it opens with
+        return; // there is no more to see than when it opens
     std::ifstream in{file};
     std::set<std::string> names;
     std::string line;

@@ -24,11 +24,11 @@ struct Subject {
 /// Takes pictures of panels in one look: as they open, and where their examples say so.
 class Gallery {
 public:
-    /// The folders of the examples, empty for none, and of the pictures, which is there.
+    /// The folders of the examples, empty for none, and of the pictures, which exists.
     Gallery(std::filesystem::path examples, std::filesystem::path pictures, const Look& look);
 
-    /// Pictures one panel, in a fresh program, as it opens, then plays its example. Throws Refused, with file and line
-    /// where it is the example's fault.
+    /// Takes a picture of one panel as it opens, in a fresh program, then plays its example. Throws Refused, with file
+    /// and line if the example is at fault.
     void draw(const Subject& subject) const;
 
 private:

@@ -34,7 +34,7 @@ std::vector<std::string> picturesOf(const std::string& panel, const path& folder
     return pictures;
 }
 
-/// A picture by day and by night, one click from its large one, and from those of the scales between.
+/// A picture in light and dark, each a link to its large one, with links to the scales in between.
 void show(const std::string& picture, std::ostream& page)
 {
     page << "<figure><figcaption>" << picture;

@@ -50,7 +50,7 @@ void Look::apply() const
     if (!dark)
         return;
     QPalette palette = darkPalette();
-    QApplication::style()->polish(palette); // as the style does with what the desktop has
+    QApplication::style()->polish(palette); // as the style does with the desktop's palette
     QApplication::setPalette(palette);
 }
 

@@ -35,7 +35,7 @@ Player::~Player()
         while (!desk_.loadedPanels().empty())
             desk_.Unload(*desk_.loadedPanels().front());
     });
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete); // no event loop comes to it
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete); // no event loop will do it
 }
 
 void Player::play(std::string_view line)

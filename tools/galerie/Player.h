@@ -28,8 +28,8 @@ public:
     Player(const Player&) = delete;
     Player& operator=(const Player&) = delete;
 
-    /// Carries out one line in the driver's language: a gesture, or the answer to the next box that asks one. Throws
-    /// Refused where a person could not do it or it ends the program, and Malformed.
+    /// Carries out one line in the driver's language: a gesture, or the answer to the next box that asks for
+    /// one. Throws Refused if a person could not do it or it ends the program, and Malformed.
     void play(std::string_view line);
 
     [[nodiscard]] View& view() { return view_; }

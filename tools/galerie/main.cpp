@@ -2,15 +2,15 @@
 //
 //     galerie [--openings] FOLDER [PANEL ...]
 //
-// For each panel of the menu, or for those that are named, at 96, 120, 144 and 192 dpi, light and dark:
+// For each panel of the menu, or for those that are named, light and dark, at 96, 120, 144 and 192 dpi:
 //
 //     FOLDER/PANEL-96.png ...              as it opens
 //     FOLDER/PANEL-NAME-sombre-96.png ...  at the line "picture NAME" of its example, exemples/PANEL.txt
 //     FOLDER/index.html                    all of them on one page
 //
 // With --openings only the pictures of panels as they open. An example is a file of gestures and answers in the
-// driver's language, and of such lines. "picture NAME MDIOndelis" pictures the main window, with the name of another
-// panel that panel.
+// driver's language, and of "picture" lines; "picture NAME WINDOW" takes a picture of another panel, or of the main
+// window, MDIOndelis.
 
 #include <algorithm>
 #include <array>

@@ -10,9 +10,9 @@ from driver import Refused, Session, caption_of, localized, menu_path, words
 
 
 def play(program, page, lines, decimal):
-    """Opens the panel of the page by its menu entry, plays the lines, and gives the sentences that tell it: (kind, text),
-    the kind being "do", "see" or "say". Raises Refused at the first line that does not go as it says, and where a box or the end
-    of the program comes without a line that expects it."""
+    """Opens the panel of the page by its menu entry, plays the lines, and returns the sentences that tell it, (kind,
+    text), the kind being "do", "see" or "say". Raises Refused at the first line that does not go as it says, and if a
+    box or a fault comes without a line that expects it."""
     told, names = [], page.names()
     with Session(program, decimal) as session:
         menu, caption = menu_path(session.state(), page.entry)
@@ -48,12 +48,12 @@ def shown(session, answer):
 
 
 def news(answer):
-    """What a command brought that an example has to expect: a box, a fault."""
+    """What a command caused that an example has to expect: a box, a fault."""
     return {what for what, came in (("message", answer["messages"]), ("fault", answer["fault"])) if came}
 
 
 def tell(line, panels, names):
-    """The sentence for one command or expectation. A control is called by its name in the page, or else by its caption."""
+    """The sentence for a command or expectation. A control goes by its name in the page, or else by its caption."""
     verb, rest = line[0], line[1:]
     if verb == "expect":
         return _tell_expectation(rest, panels, names)

@@ -48,7 +48,7 @@ def _apart(math):
 
 
 def _join_decimals(element):
-    """A number with a decimal comma as one number: by itself the comma would stand between two of them, with a blank."""
+    """A number with a decimal comma as one number: otherwise the comma would separate two of them, with a blank."""
     for before, comma, after in list(zip(element, element[1:], element[2:])):
         if [part.tag.removeprefix(NAMESPACE) for part in (before, comma, after)] == ["mn", "mo", "mn"] and comma.text == ",":
             after.text = f"{before.text},{after.text}"

@@ -52,7 +52,7 @@ class Block:
 
 @dataclasses.dataclass
 class Field:
-    """A row of the table of fields: the controls that it tells of, a name where the panel gives none, unit, text."""
+    """A row of the table of fields: the controls that it describes, a name if the panel gives none, unit, text."""
 
     controls: list
     name: str

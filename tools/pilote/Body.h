@@ -31,7 +31,7 @@ public:
 
     /// The answer to the next box that asks "Oui" or "Non" and has none yet. Without one, a box gets "Oui".
     virtual void answer(Answer answer) = 0;
-    /// Is told each control that changes.
+    /// Calls `action` with each control that changes.
     virtual void onChange(std::function<void(const Control&)> action) = 0;
     /// What the person does while the next box waits for its answer, or the next handler lets events through.
     virtual void meanwhile(Gesture gesture) = 0;
@@ -41,10 +41,10 @@ public:
     [[nodiscard]] virtual const std::vector<MessageBox>& boxes() const = 0;
     /// The fault that was named.
     [[nodiscard]] virtual const std::optional<Fault>& fault() const = 0;
-    /// Why the first refused gesture of those meant for meanwhile was refused.
+    /// Why a gesture meant for `meanwhile` was refused: the first one that was.
     [[nodiscard]] virtual Hands::Refusal meanwhileRefused() const = 0;
     virtual void forget() = 0;
-    /// The command is over: gestures meant for meanwhile that had no occasion are refused.
+    /// The command is over: gestures meant for `meanwhile` that had no occasion are refused.
     virtual void settle() = 0;
 };
 

@@ -7,13 +7,13 @@
 namespace ondelis::pilote {
 namespace {
 
-/// There is nothing under the name that an expectation asks for, and why.
+/// What an expectation asks for is not there; says why.
 class Absent final : public std::runtime_error {
 public:
     using std::runtime_error::runtime_error;
 };
 
-/// Numbers are compared as numbers; one with a fraction as a position is, in a Single.
+/// Numbers are compared as numbers; one with a fraction is a position, and compared as a Single.
 bool same(const Json& wanted, const Json& got)
 {
     if (got.is_number_float() && wanted.is_number())

@@ -13,7 +13,7 @@ namespace {
 
 using Refusal = Hands::Refusal;
 
-/// A whole number; the largest one if it is too long to be held: no list and no bar goes that far.
+/// A whole number; the largest `int` if it is larger: no list and no bar goes that far.
 int whole(const std::string& word)
 {
     int number = 0;

@@ -8,8 +8,8 @@
 
 namespace ondelis::pilote {
 
-/// Reads the words of a gesture, of what a person does, after its first one: "menu", "type", "click". Returns no
-/// gesture, and reads nothing, if that word names none. Throws Malformed.
+/// Reads a gesture, something that a person does, from the words after its first one, `word`: "menu", "type", "click".
+/// Returns no gesture, and reads nothing, if `word` names none. Throws Malformed.
 [[nodiscard]] Gesture readGesture(std::string_view word, Words& words);
 
 /// The answer to a box: the next word, "yes" or "no".

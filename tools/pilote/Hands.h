@@ -6,8 +6,8 @@
 
 namespace ondelis::pilote {
 
-/// What a person does to the program, told by names. What a person could not do is refused with the reason, and changes
-/// nothing.
+/// What a person does to the program; panels, controls and menu entries go by their names. What a person could not do
+/// is refused with the reason, and changes nothing.
 class Hands {
 public:
     using Refusal = std::optional<std::string>;
@@ -28,7 +28,7 @@ public:
     virtual Refusal menu(const std::string& entry) = 0;
     /// A panel, or the main window, "MDIOndelis".
     virtual Refusal close(const std::string& window) = 0;
-    /// Drags it to that place; twips.
+    /// Drags a window to that place; twips.
     virtual Refusal move(const std::string& window, double left, double top) = 0;
     virtual Refusal minimise(const std::string& window) = 0;
     virtual Refusal restore(const std::string& window) = 0;

@@ -13,7 +13,7 @@ public:
     void add(Gesture gesture) { gestures_.push_back(std::move(gesture)); }
     [[nodiscard]] bool empty() const { return gestures_.empty(); }
 
-    /// The occasion has come.
+    /// The occasion has come: performs all gestures.
     void act(Hands& hands)
     {
         while (!gestures_.empty()) {
@@ -23,7 +23,7 @@ public:
         }
     }
 
-    /// No occasion will come any more.
+    /// The command is over: refuses the gestures that had no occasion.
     void giveUp()
     {
         if (!gestures_.empty())
@@ -31,7 +31,7 @@ public:
         gestures_.clear();
     }
 
-    /// Why the first one was refused, of those since the last `forget`.
+    /// Why the first gesture refused since the last `forget` was refused.
     [[nodiscard]] const Hands::Refusal& refused() const { return refused_; }
     void forget() { refused_.reset(); }
 

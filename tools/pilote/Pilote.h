@@ -23,7 +23,7 @@ private:
     using Refusal = Hands::Refusal;
     enum class When { BeforeStart, Any, Running };
 
-    /// A command that is not a gesture: its word, when it may come, and what reads the words after it.
+    /// A command that is not a gesture: its word, when it is allowed, and what reads the words after it.
     struct Command {
         std::string_view word;
         When when;

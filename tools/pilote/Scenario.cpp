@@ -10,7 +10,7 @@
 namespace ondelis::pilote {
 namespace {
 
-/// What of a reply an expectation must name, and by which word.
+/// The members of a reply that an expectation must name, and the word by which it does.
 constexpr std::array<std::pair<const char*, const char*>, 3> kinds{
     {{"refused", "refused"}, {"meanwhile", "refused"}, {"fault", "fault"}}};
 

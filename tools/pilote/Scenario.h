@@ -13,8 +13,8 @@ struct Tally {
     int failures = 0;
 };
 
-/// Plays a scenario file in a program that has not started yet, and prints each line that fails. A refusal, a fault and
-/// a line that is no command fail too, where no expectation right after them names them.
+/// Plays a scenario file in a program that has not started yet, and prints each line that fails. A refusal and a
+/// fault fail too, unless an expectation right after them names them; a line that is no command always fails.
 Tally playScenario(const std::string& file, Body& body, std::ostream& out);
 
 } // namespace ondelis::pilote

@@ -9,13 +9,13 @@
 
 namespace ondelis::pilote {
 
-/// A world with no window: boxes are answered at once from a queue and remembered, the fault too.
+/// A world with no window: boxes are answered at once from a queue; they and the fault are remembered.
 class ScriptedSurroundings final : public Surroundings {
 public:
     /// The answer to the next box that asks "Oui" or "Non" and has none yet. A box without one gets "Oui".
     void answer(Answer answer) { answers_.push_back(answer); }
     void setScreen(const Extent& screen) { screen_ = screen; }
-    /// Is told each control that changes.
+    /// Calls `action` with each control that changes.
     void onChange(std::function<void(const Control&)> action) { onChange_ = std::move(action); }
     /// What happens while a box waits for its answer, before it is answered.
     void whileBoxWaits(std::function<void()> action) { whileBoxWaits_ = std::move(action); }

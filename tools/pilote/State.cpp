@@ -39,7 +39,7 @@ Color color(const Property<Color>& property)
     return plainColor(property);
 }
 
-/// The name of the caption that stands for a control; "" where none does.
+/// The name of the caption that names a control; "" if none does.
 std::string labelOf(const Label* label)
 {
     return label == nullptr ? "" : label->name();
@@ -58,7 +58,7 @@ const char* name(Align align)
     return "";
 }
 
-/// How the text of a control stands in it, and in which type.
+/// How the text of a control is aligned, and its font.
 template <class Design>
 Json typeOf(const Design& design)
 {

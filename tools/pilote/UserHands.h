@@ -9,7 +9,7 @@
 
 namespace ondelis::pilote {
 
-/// Acts on any running program without touching a window: by the engine's own road of actions.
+/// Acts on any running program without touching a window: by `User` and the frame.
 class UserHands : public Hands {
 public:
     explicit UserHands(MDIOndelis& frame) : frame_{frame}, user_{frame.desk()} { }
@@ -32,7 +32,7 @@ public:
     void waitForAnswer(bool waits) { boxWaits_ = waits; }
 
 private:
-    /// Why nothing at all can be reached; nothing where it can.
+    /// Why nothing at all can be reached; empty if something can.
     [[nodiscard]] Refusal unable() const;
     /// Runs `act` on the control if it is of that class.
     template <class ControlClass, class Act>
@@ -46,7 +46,7 @@ private:
     bool minimised_ = false;
 };
 
-/// Null where no panel of that name is loaded.
+/// Null if no panel of that name is loaded.
 [[nodiscard]] FeuilleCalcul* findPanel(const MDIOndelis& frame, std::string_view name);
 
 } // namespace ondelis::pilote

@@ -10,7 +10,7 @@ constexpr bool isBlank(char c)
     return c == ' ' || c == '\t' || c == '\r';
 }
 
-/// How many bytes the well-formed character at the front of a text takes; 0 where there is none.
+/// How many bytes the character at the front of a text takes; 0 if it is not well-formed.
 std::size_t characterLength(std::string_view text)
 {
     const auto byte = [&](std::size_t i) { return static_cast<unsigned char>(text[i]); };
@@ -23,7 +23,7 @@ std::size_t characterLength(std::string_view text)
     for (std::size_t i = 1; i < length; ++i)
         if ((byte(i) & 0xC0U) != 0x80U)
             return 0;
-    // The longer writings of short characters, the halves of pairs, and what lies beyond the last character.
+    // Overlong encodings, surrogates, and code points beyond the last one.
     const unsigned second = byte(1);
     const bool wrong = (lead == 0xE0 && second < 0xA0) || (lead == 0xED && second > 0x9F)
         || (lead == 0xF0 && second < 0x90) || (lead == 0xF4 && second > 0x8F);

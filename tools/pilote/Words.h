@@ -12,12 +12,11 @@ public:
     using std::runtime_error::runtime_error;
 };
 
-/// Reads a line of the driver's language: words separated by blanks; a word in double quotes may hold blanks
-/// and the escapes \n \t \" \\; `#` outside quotes starts a comment. What does not keep these rules throws
-/// Malformed.
+/// Reads a line of the driver's language: words separated by blanks; a word in double quotes may contain blanks and the
+/// escapes \n \r \t \" \\; `#` outside quotes starts a comment. A line that breaks these rules throws Malformed.
 class Words {
 public:
-    /// Throws where the line is not UTF-8.
+    /// Throws if the line is not UTF-8.
     explicit Words(std::string_view line);
 
     /// Whether only blanks and a comment are left.
@@ -28,7 +27,7 @@ public:
     std::string next();
     /// All that is left as it stands, without the comment.
     std::string rest();
-    /// Throws where a word is left.
+    /// Throws if a word is left.
     void finish() const;
 
 private:

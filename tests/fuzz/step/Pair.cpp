@@ -6,7 +6,7 @@
 namespace ondelis::fuzz {
 namespace {
 
-/// After so many commands everything is compared.
+/// Everything is compared once in so many commands.
 constexpr int everything = 25;
 
 /// A value as an expectation writes it.

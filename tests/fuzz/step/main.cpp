@@ -16,7 +16,8 @@
 
 namespace {
 
-/// Reads what each session would read again: fonts, and the symbols by which a leak is told from one of the libraries.
+/// Reads in advance what each session would otherwise read again: fonts, and the symbols that tell our leaks from those
+/// of the libraries.
 void readOnce()
 {
     ondelis::fuzz::Pair{}.answer("start");
