@@ -1,6 +1,5 @@
 #pragma once
 
-#include <algorithm>
 #include <string>
 #include <vector>
 
@@ -53,18 +52,6 @@ public:
     void changed() final;
 
 protected:
-    /// Makes the tab order follow the rows of these control arrays: first their elements 0, then their elements 1, and
-    /// so on. The arrays follow one another on the form.
-    template <class FirstArray, class... Arrays>
-    void tabAlongRows(FirstArray& first, Arrays&... others)
-    {
-        auto place = std::ranges::find(controls_, &first(0));
-        for (int row = 0; row < first.count(); ++row) {
-            *place++ = &first(row);
-            ((*place++ = &others(row)), ...);
-        }
-    }
-
     /// Shows a message box with one "OK" button.
     void MsgBox(const std::string& prompt);
     /// Shows a message box; `buttons` 4 asks "Oui" or "Non".
