@@ -236,8 +236,7 @@ void User::takeFocus(Control& control)
         return;
     desk_.setFocused(&control);
     desk_.surroundings().focusMoved(control);
-    if (auto* const list = dynamic_cast<ListBox*>(&control))
-        list->gotFocus();
+    control.gotFocus();
 }
 
 } // namespace ondelis
