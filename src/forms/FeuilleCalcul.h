@@ -33,6 +33,8 @@ public:
     void Show();
     /// Takes the panel off the screen; its controls stay. Loads it when needed.
     void Hide();
+    /// Closes the panel: its controls go, its variables stay. Does nothing if it is not loaded.
+    void Unload();
 
     [[nodiscard]] const Design& design() const { return design_; }
     [[nodiscard]] Desk& desk() const { return desk_; }
@@ -61,12 +63,10 @@ protected:
 
 private:
     friend class Control;
-    friend class Desk;
 
     virtual void Form_Load() { }
 
     void load(bool hidden = false);
-    void unload();
 
     Desk& desk_;
     Design design_;

@@ -206,7 +206,7 @@ User::Refusal User::close(FeuilleCalcul& panel)
         return "the program has ended";
     if (!panel.loaded() || !panel.visible())
         return "the panel is not on screen";
-    desk_.perform([&] { desk_.Unload(panel); });
+    desk_.perform([&] { panel.Unload(); });
     return {};
 }
 
