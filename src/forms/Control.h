@@ -51,6 +51,8 @@ public:
     [[nodiscard]] bool onScreen() const;
     /// Whether a person can give it the keyboard.
     [[nodiscard]] virtual bool focusable() const { return false; }
+    /// It has just got the keyboard.
+    virtual void gotFocus() { }
 
     virtual void accept(ControlVisitor& visitor) = 0;
     /// Goes back to the properties of its design.

@@ -3,26 +3,39 @@
 #include <deque>
 #include <string>
 
-#include "forms/Controls.h"
+#include "forms/FeuilleCalcul.h"
 #include "kit/Fault.h"
 
 namespace ondelis {
 
-/// Controls of one class under one name, numbered from 0. They share one procedure, which is given the index of the
-/// element.
-template <class ControlClass>
+/// The name of one of several controls of the same name: "LM1(0)".
+[[nodiscard]] inline std::string elementName(const std::string& name, int index)
+{
+    return name + "(" + std::to_string(index) + ")";
+}
+
+/// Controls of one class under one name, or rows of several controls, each a structure, numbered from 0.
+template <class Element>
 class ControlArray {
 public:
-    /// `design` gives the design of each element by its index.
-    template <class DesignOf, class... Handlers>
-    ControlArray(FeuilleCalcul* panel, const std::string& name, int count, DesignOf design, Handlers... handlers)
+    /// `design` gives the design of each control by its index.
+    template <class DesignOf>
+    ControlArray(FeuilleCalcul* panel, const std::string& name, int count, DesignOf design)
     {
         for (int i = 0; i < count; ++i)
-            elements_.emplace_back(panel, name + "(" + std::to_string(i) + ")", design(i), Handler{handlers}.at(i)...);
+            elements_.emplace_back(panel, elementName(name, i), design(i));
+    }
+
+    /// Makes each row from the panel and its index. On the form, and so for the Tab key, row follows row.
+    template <class Panel>
+    ControlArray(Panel* panel, int count)
+    {
+        for (int i = 0; i < count; ++i)
+            elements_.emplace_back(panel, i);
     }
 
     /// Throws a subscript out of range if there is no such element.
-    ControlClass& operator()(Integer index)
+    Element& operator()(Integer index)
     {
         if (index < 0 || index >= count())
             throw Fault{FaultKind::SubscriptOutOfRange};
@@ -32,7 +45,7 @@ public:
     [[nodiscard]] Integer count() const { return static_cast<int>(elements_.size()); }
 
 private:
-    std::deque<ControlClass> elements_; // elements never move: their panel and the view point to them
+    std::deque<Element> elements_; // elements never move: their panel and the view point to them
 };
 
 } // namespace ondelis

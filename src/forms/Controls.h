@@ -154,10 +154,9 @@ public:
     [[nodiscard]] const std::vector<std::string>& items() const { return items_; }
     /// A person clicks a row.
     void choose(Integer row);
-    /// The list has just got the keyboard.
-    void gotFocus();
 
     [[nodiscard]] bool focusable() const override { return onScreen(); }
+    void gotFocus() override;
     void reset() override;
 
 private:

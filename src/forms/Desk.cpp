@@ -11,10 +11,16 @@ Desk::Desk(Surroundings& surroundings) : surroundings_{surroundings} { }
 
 Desk::~Desk() = default;
 
-void Desk::Unload(FeuilleCalcul& panel)
+void Desk::panelLoaded(FeuilleCalcul& panel)
 {
-    if (panel.loaded())
-        panel.unload();
+    loadedPanels_.push_back(&panel);
+}
+
+void Desk::panelUnloaded(FeuilleCalcul& panel)
+{
+    std::erase(loadedPanels_, &panel);
+    if (focused_ != nullptr && &focused_->panel() == &panel)
+        focused_ = nullptr;
 }
 
 void Desk::End()

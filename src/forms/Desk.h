@@ -38,12 +38,14 @@ public:
     void Unload()
     {
         if (const auto found = panels_.find(typeid(Panel)); found != panels_.end())
-            Unload(*found->second);
+            found->second->Unload();
     }
-    void Unload(FeuilleCalcul& panel);
 
     /// The panels that are loaded, in the order of their loading.
     [[nodiscard]] const std::vector<FeuilleCalcul*>& loadedPanels() const { return loadedPanels_; }
+    /// Each panel says when it is loaded and unloaded.
+    void panelLoaded(FeuilleCalcul& panel);
+    void panelUnloaded(FeuilleCalcul& panel);
 
     /// Runs one action of the user to its end, nested events included. A fault is shown and ends the program
     /// with status 1. Does nothing once the program has ended.
@@ -82,8 +84,6 @@ public:
     void setFocused(Control* control) { focused_ = control; }
 
 private:
-    friend class FeuilleCalcul;
-
     /// Thrown through handlers that must not go on: the program has ended, or their panel is gone.
     struct Unwinding { };
 

@@ -25,6 +25,16 @@ void FeuilleCalcul::Hide()
         changed();
 }
 
+void FeuilleCalcul::Unload()
+{
+    if (!loaded_)
+        return;
+    loaded_ = false;
+    visible_ = false;
+    desk_.panelUnloaded(*this);
+    desk_.surroundings().panelUnloaded(*this);
+}
+
 Control* FeuilleCalcul::find(std::string_view name) const
 {
     const auto found = std::ranges::find(controls_, name, &Control::name);
@@ -71,7 +81,7 @@ void FeuilleCalcul::load(bool hidden)
     staysHidden_ = hidden;
     visible_ = false;
     ++loading_;
-    desk_.loadedPanels_.push_back(this);
+    desk_.panelLoaded(*this);
     Caption.reset(design_.Caption);
     Left.reset(0);
     Top.reset(0);
@@ -84,16 +94,6 @@ void FeuilleCalcul::load(bool hidden)
     // Any reference that loads a panel shows it, unless the panel or the reference hides it.
     visible_ = !staysHidden_;
     changed();
-}
-
-void FeuilleCalcul::unload()
-{
-    loaded_ = false;
-    visible_ = false;
-    std::erase(desk_.loadedPanels_, this);
-    if (desk_.focused_ != nullptr && &desk_.focused_->panel() == this)
-        desk_.focused_ = nullptr;
-    desk_.surroundings().panelUnloaded(*this);
 }
 
 } // namespace ondelis

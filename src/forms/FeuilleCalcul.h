@@ -1,6 +1,5 @@
 #pragma once
 
-#include <algorithm>
 #include <string>
 #include <vector>
 
@@ -34,6 +33,8 @@ public:
     void Show();
     /// Takes the panel off the screen; its controls stay. Loads it when needed.
     void Hide();
+    /// Closes the panel: its controls go, its variables stay. Does nothing if it is not loaded.
+    void Unload();
 
     [[nodiscard]] const Design& design() const { return design_; }
     [[nodiscard]] Desk& desk() const { return desk_; }
@@ -53,18 +54,6 @@ public:
     void changed() final;
 
 protected:
-    /// Makes the tab order follow the rows of these control arrays: first their elements 0, then their elements 1, and
-    /// so on. The arrays follow one another on the form.
-    template <class FirstArray, class... Arrays>
-    void tabAlongRows(FirstArray& first, Arrays&... others)
-    {
-        auto place = std::ranges::find(controls_, &first(0));
-        for (int row = 0; row < first.count(); ++row) {
-            *place++ = &first(row);
-            ((*place++ = &others(row)), ...);
-        }
-    }
-
     /// Shows a message box with one "OK" button.
     void MsgBox(const std::string& prompt);
     /// Shows a message box; `buttons` 4 asks "Oui" or "Non".
@@ -74,12 +63,10 @@ protected:
 
 private:
     friend class Control;
-    friend class Desk;
 
     virtual void Form_Load() { }
 
     void load(bool hidden = false);
-    void unload();
 
     Desk& desk_;
     Design design_;

@@ -22,10 +22,10 @@ char32_t codePoint(std::string_view character)
     return code;
 }
 
-/// Whether a character starts here, or the text ends.
-bool startsCharacter(std::string_view text, std::size_t at)
+/// Whether a text can be cut here: a character starts, or the text ends.
+bool isBetweenCharacters(std::string_view text, std::size_t at)
 {
-    return at == text.size() || (static_cast<unsigned char>(text[at]) & 0xC0U) != 0x80U;
+    return at == text.size() || startsCharacter(text[at]);
 }
 
 /// The position of the first line break of a text; its end if there is none.
@@ -49,7 +49,7 @@ std::string edited(const TextBox& box, std::string_view toCaret, std::string_vie
     const std::string_view before = box.Text.get();
     auto start = static_cast<std::size_t>(std::ranges::mismatch(before, toCaret).in1 - before.begin());
     start = std::min(start, before.size() - std::min(before.size(), tail.size())); // the rest is the tail's
-    while (!startsCharacter(before, start) || !startsCharacter(toCaret, start))
+    while (!isBetweenCharacters(before, start) || !isBetweenCharacters(toCaret, start))
         --start;
     const std::string_view head = toCaret.substr(0, start);
     return std::string{head} + accepted(box, toCaret.substr(start), limit - Len(head) - Len(tail)) + std::string{tail};
@@ -206,7 +206,7 @@ User::Refusal User::close(FeuilleCalcul& panel)
         return "the program has ended";
     if (!panel.loaded() || !panel.visible())
         return "the panel is not on screen";
-    desk_.perform([&] { desk_.Unload(panel); });
+    desk_.perform([&] { panel.Unload(); });
     return {};
 }
 
@@ -236,8 +236,7 @@ void User::takeFocus(Control& control)
         return;
     desk_.setFocused(&control);
     desk_.surroundings().focusMoved(control);
-    if (auto* const list = dynamic_cast<ListBox*>(&control))
-        list->gotFocus();
+    control.gotFocus();
 }
 
 } // namespace ondelis

@@ -7,18 +7,12 @@
 namespace ondelis {
 namespace {
 
-/// The first byte of a character: any but a continuation byte.
-constexpr bool begins(char byte)
-{
-    return (static_cast<unsigned char>(byte) & 0xC0U) != 0x80U;
-}
-
 /// Where the character numbered `index`, from 0, starts; the end of the text past its last one.
 std::size_t startOf(std::string_view text, int index)
 {
     std::size_t at = 0;
     for (; at < text.size(); ++at)
-        if (begins(text[at]) && index-- == 0)
+        if (startsCharacter(text[at]) && index-- == 0)
             break;
     return at;
 }
@@ -38,7 +32,7 @@ static_assert(smallLetters.size() == capitalLetters.size());
 
 int Len(std::string_view text)
 {
-    return static_cast<int>(std::ranges::count_if(text, begins));
+    return static_cast<int>(std::ranges::count_if(text, startsCharacter));
 }
 
 std::string Left(std::string_view text, int count)

@@ -7,6 +7,12 @@ namespace ondelis {
 
 // Texts are UTF-8 and are counted in characters, not in bytes: "é" is one.
 
+/// Whether a byte starts a character; the second and later bytes of a character do not.
+[[nodiscard]] constexpr bool startsCharacter(char byte)
+{
+    return (static_cast<unsigned char>(byte) & 0xC0U) != 0x80U;
+}
+
 /// The number of characters.
 [[nodiscard]] int Len(std::string_view text);
 

@@ -25,6 +25,9 @@ void LabelWidget::follow()
         setText(caption);
     colors().applyToText(*this, control().design().ForeColor);
     setVisible(control().Visible);
+    if (control().Visible) // one that is empty now had a caption by design
+        panelWindow().rename(
+            &control(), control().Caption == "" ? control().design().Caption : control().Caption.get());
 }
 
 void LabelWidget::contextMenuEvent(QContextMenuEvent* event)

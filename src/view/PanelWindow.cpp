@@ -76,9 +76,6 @@ void PanelWindow::follow(const Control& control)
     shown->follow();
     if (focusFrame_ != nullptr && shown->widget().y() != y) // all widgets are there, and one has moved
         orderTabs();
-    const auto* const label = dynamic_cast<const Label*>(&control);
-    if (label != nullptr && label->Visible) // one that is empty now had a caption by design
-        rename(label, label->Caption == "" ? label->design().Caption : label->Caption.get());
 }
 
 void PanelWindow::activate()

@@ -46,9 +46,10 @@ public:
     /// How many boxes have been shown so far.
     [[nodiscard]] unsigned boxesShown() const;
 
-    /// Names a widget, for screen readers, after its label, or after the panel if it has none, and keeps up with their
-    /// captions.
+    /// Names a widget, for screen readers, after its label, or after the panel if it has none.
     void nameAfter(const Label* label, QWidget& widget);
+    /// Gives a new name to the widgets that are named after the label, or after the panel.
+    void rename(const Label* label, const std::string& name);
 
 protected:
     void closeEvent(QCloseEvent* event) override;
@@ -64,8 +65,6 @@ private:
     void orderTabs();
     /// Shows which widget has the keyboard, if it is one of this panel.
     void markFocus();
-    /// Gives a new name to the widgets that are named after the label, or after the panel.
-    void rename(const Label* label, const std::string& name);
     /// Writes the title in the system's font, smaller if it does not fit.
     void fitTitle();
     /// The upper left corner in the client area of the main window, which may be scrolled.

@@ -79,7 +79,7 @@ TEST_F(ButtonTest, TheUserChoosesAnOptionOnce)
 TEST_F(ButtonTest, AnOptionHasItsDesignValueAgainAfterUnload)
 {
     panel.OptL.Value = true;
-    desk.Unload(panel);
+    panel.Unload();
     EXPECT_TRUE(panel.OptF.Value);
     EXPECT_FALSE(panel.OptL.Value);
 }

@@ -9,22 +9,27 @@ public:
     explicit Tableau(Desk& desk)
         : FeuilleCalcul{desk, {.name = "Tableau", .Caption = "", .Width = 6000, .Height = 4000}}
     {
-        tabAlongRows(TxtUSec, Lbl);
     }
 
+    struct Row {
+        Row(Tableau* panel, int index)
+            : Lbl{panel, elementName("Lbl", index), {}}, TxtUSec{panel, elementName("TxtUSec", index), {.Text = "2"},
+                                                             &Tableau::TxtUSec_Change}
+        {
+        }
+        Label Lbl;
+        TextBox TxtUSec;
+    };
+
     TextBox Before{this, "Before", {}};
-    ControlArray<TextBox> TxtUSec{this, "TxtUSec", 3,
-        [](int i) { return TextBox::Design{.Text = "2", .at = {.Top = 100.0 * i}}; }, &Tableau::TxtUSec_Change};
-    ControlArray<Label> Lbl{this, "Lbl", 3, [](int) { return Label::Design{}; }};
+    ControlArray<TextBox> Txt{this, "Txt", 3, [](int i) { return TextBox::Design{.at = {.Top = 100.0 * i}}; }};
+    ControlArray<Row> Rows{this, 2};
     TextBox After{this, "After", {}};
 
     Log log;
 
 private:
-    void TxtUSec_Change(Integer Index)
-    {
-        log.push_back(std::to_string(Index.value()) + ": " + std::string{TxtUSec(Index).Text});
-    }
+    void TxtUSec_Change() { log.emplace_back("TxtUSec_Change"); }
 };
 
 class ControlArrayTest : public DeskTest {
@@ -34,43 +39,41 @@ protected:
 
 TEST_F(ControlArrayTest, HasOneDesignAnElement)
 {
-    EXPECT_EQ(panel.TxtUSec.count(), 3);
-    EXPECT_EQ(Double{panel.TxtUSec(2).Top}, 200);
-}
-
-TEST_F(ControlArrayTest, TellsItsProcedureTheIndexOfTheElement)
-{
-    panel.TxtUSec(1).Text = "12";
-    panel.TxtUSec(0).Text = "24";
-    EXPECT_EQ(panel.log, (Log{"1: 12", "0: 24"}));
+    EXPECT_EQ(panel.Txt.count(), 3);
+    EXPECT_EQ(Double{panel.Txt(2).Top}, 200);
 }
 
 TEST_F(ControlArrayTest, FaultsOutsideItsBounds)
 {
-    EXPECT_EQ(faultOf([&] { panel.TxtUSec(3); }), FaultKind::SubscriptOutOfRange);
-    EXPECT_EQ(faultOf([&] { panel.TxtUSec(-1); }), FaultKind::SubscriptOutOfRange);
+    EXPECT_EQ(faultOf([&] { panel.Txt(3); }), FaultKind::SubscriptOutOfRange);
+    EXPECT_EQ(faultOf([&] { panel.Txt(-1); }), FaultKind::SubscriptOutOfRange);
+    EXPECT_EQ(faultOf([&] { panel.Rows(2); }), FaultKind::SubscriptOutOfRange);
 }
 
 TEST_F(ControlArrayTest, NamesItsElementsByTheirIndex)
 {
-    EXPECT_EQ(panel.find("TxtUSec(1)"), &panel.TxtUSec(1));
-    EXPECT_EQ(panel.find("TxtUSec"), nullptr);
-    EXPECT_EQ(panel.find("Lbl(0)"), &panel.Lbl(0));
+    EXPECT_EQ(panel.find("Txt(1)"), &panel.Txt(1));
+    EXPECT_EQ(panel.find("Txt"), nullptr);
+    EXPECT_EQ(panel.find("TxtUSec(0)"), &panel.Rows(0).TxtUSec);
 }
 
-TEST_F(ControlArrayTest, CanLeadTheTabKeyAlongItsRows)
+TEST_F(ControlArrayTest, StandsOnTheFormRowAfterRow)
 {
     Log names;
     for (const Control* control : panel.controls())
         names.push_back(control->name());
-    EXPECT_EQ(names, (Log{"Before", "TxtUSec(0)", "Lbl(0)", "TxtUSec(1)", "Lbl(1)", "TxtUSec(2)", "Lbl(2)", "After"}));
+    EXPECT_EQ(
+        names, (Log{"Before", "Txt(0)", "Txt(1)", "Txt(2)", "Lbl(0)", "TxtUSec(0)", "Lbl(1)", "TxtUSec(1)", "After"}));
 }
 
 TEST_F(ControlArrayTest, IsTypedInLikeAnyField)
 {
     panel.Show();
-    user.type(panel.TxtUSec(2), "5");
-    EXPECT_EQ(panel.log, Log{"2: 25"});
+    user.type(panel.Txt(2), "5");
+    EXPECT_EQ(panel.Txt(2).Text, "5");
+    user.type(panel.Rows(1).TxtUSec, "5");
+    EXPECT_EQ(panel.Rows(1).TxtUSec.Text, "25");
+    EXPECT_EQ(panel.log, Log{"TxtUSec_Change"});
 }
 
 } // namespace

@@ -190,7 +190,7 @@ TEST_F(EndingTest, ClosingThePanelWhileAKeyIsSeenLetsNoCharacterLand)
 TEST_F(EndingTest, AHandlerOfAnEarlierLoadingDoesNotGoOnInALaterOne)
 {
     world.onPending = [this] {
-        desk.Unload(panel);
+        panel.Unload();
         panel.Show();
     };
     user.click(panel.BtnAttente);
@@ -247,7 +247,7 @@ TEST_F(EndingTest, APanelOpenedByAPendingEventLoadsWholeThoughTheWaitingOneIsGon
 {
     world.onPending = [this] {
         desk.perform([this] {
-            desk.Unload(panel);
+            panel.Unload();
             desk.get<Bavarde>().Show();
         });
     };

@@ -120,7 +120,7 @@ TEST_F(ListBoxTest, HasItsDesignItemsAgainAfterUnload)
 {
     panel.LstUnite.AddItem("fF");
     panel.LstUnite.ListIndex = 3;
-    desk.Unload(panel);
+    panel.Unload();
     EXPECT_EQ(panel.LstUnite.ListCount(), 3);
     EXPECT_EQ(panel.LstUnite.ListIndex, -1);
 }
@@ -159,7 +159,7 @@ TEST_F(ListBoxTest, RaisesNoGotFocusForAStoreFromCode)
 TEST_F(ListBoxTest, RaisesGotFocusAgainAfterAnUnload)
 {
     user.focus(panel.LstTete);
-    desk.Unload(panel);
+    panel.Unload();
     panel.Show();
     user.focus(panel.LstTete);
     EXPECT_EQ(panel.log, (Log{"clavier", "clavier"}));

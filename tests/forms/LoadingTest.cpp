@@ -134,7 +134,7 @@ TEST_F(LoadingTest, EveryMemberOfAControlLoads)
     for (const auto& refer : references) {
         refer(panel);
         EXPECT_TRUE(panel.visible()) << "reference " << &refer - references.data();
-        desk.Unload(panel);
+        panel.Unload();
     }
     EXPECT_EQ(panel.loads, static_cast<int>(references.size()));
 }
@@ -195,7 +195,7 @@ TEST_F(LoadingTest, HideHidesAPanelThatShowsInFormLoad)
 TEST_F(LoadingTest, AHideOfAnEarlierLoadingIsForgotten)
 {
     panel.Hide();
-    desk.Unload(panel);
+    panel.Unload();
     panel.Top = 100;
     EXPECT_TRUE(panel.visible());
 }
@@ -244,22 +244,22 @@ TEST_F(LoadingTest, UnloadDropsTheControlsAndKeepsTheVariables)
 
 TEST_F(LoadingTest, UnloadOfAPanelThatIsNotLoadedHasNoEffect)
 {
-    desk.Unload(panel);
+    panel.Unload();
     desk.Unload<Fiche>();
     desk.Unload<Compagne>();
     EXPECT_EQ(panel.loads, 0);
     EXPECT_TRUE(world.log.empty());
     panel.Show();
-    desk.Unload(panel);
+    panel.Unload();
     world.log.clear();
-    desk.Unload(panel);
+    panel.Unload();
     EXPECT_TRUE(world.log.empty());
 }
 
 TEST_F(LoadingTest, UnloadRaisesNoChange)
 {
     panel.TxtC.Text = "12";
-    desk.Unload(panel);
+    panel.Unload();
     EXPECT_EQ(panel.changes, 1);
 }
 
@@ -267,7 +267,7 @@ TEST_F(LoadingTest, UnloadTakesTheKeyboardAway)
 {
     panel.TxtC.SetFocus();
     EXPECT_EQ(desk.focused(), &panel.TxtC);
-    desk.Unload(panel);
+    panel.Unload();
     EXPECT_EQ(desk.focused(), nullptr);
 }
 

@@ -125,7 +125,7 @@ TEST_F(ScrollBarTest, RefusesTheUserAValueOutside)
 TEST_F(ScrollBarTest, HasItsDesignLimitsAgainAfterUnload)
 {
     panel.HscrFreq.Max = 20;
-    desk.Unload(panel);
+    panel.Unload();
     EXPECT_EQ(panel.HscrFreq.Max, 100);
     EXPECT_EQ(panel.HscrFreq.Value, 50);
 }

@@ -62,7 +62,7 @@ TEST_F(StoreTest, WritesACaptionUntilThePanelIsLoadedAnew)
     EXPECT_FALSE(panel.LblA.written());
     panel.LblA.Caption = "A"; // that of the design
     EXPECT_TRUE(panel.LblA.written());
-    desk.Unload(panel);
+    panel.Unload();
     panel.Show();
     EXPECT_FALSE(panel.LblA.written());
 }

@@ -244,7 +244,7 @@ TEST_F(UserTest, APanelOffScreenRefusesEverythingAndIsNotLoadedByIt)
 {
     panel.Hide();
     EXPECT_TRUE(user.type(panel.TxtA, "2").has_value());
-    desk.Unload(panel);
+    panel.Unload();
     EXPECT_TRUE(user.type(panel.TxtA, "2").has_value());
     EXPECT_TRUE(user.focus(panel.TxtA).has_value());
     EXPECT_FALSE(panel.loaded());

@@ -20,6 +20,19 @@ TEST(Text, lengthCountsCharacters)
     EXPECT_EQ(Len(accented), 7);
 }
 
+TEST(Text, aCharacterStartsAtItsFirstByteOnly)
+{
+    const auto starts = [](std::string_view text) {
+        std::string found;
+        for (const char byte : text)
+            found += startsCharacter(byte) ? 'x' : '.';
+        return found;
+    };
+    EXPECT_EQ(starts(std::string_view{"\0az~\x7F", 5}), "xxxxx");
+    EXPECT_EQ(starts("é€𝄞"), "x.x..x...");
+    EXPECT_EQ(starts("\u0080\u00BF"), "x.x."); // end in the lowest and the highest byte that continues a character
+}
+
 TEST(Text, leftGivesTheFirstCharacters)
 {
     EXPECT_EQ(Left("Méga", 0), "");

@@ -34,14 +34,29 @@ TEST_F(ExpectationTest, ComparesYesAndNoAndArrays)
     EXPECT_FALSE(ok(R"(expect CircuitsOscillants.LstFreq.Items ["GHz"])"));
 }
 
+TEST_F(ExpectationTest, ComparesNamesCaptionsAndOrderOfMenus)
+{
+    say("start");
+    EXPECT_TRUE(ok(R"(expect menu MenuPontDiviseur {"MenuShunt": "Calculs de Shunts",)"
+                   R"( "MenuPontDeRésitances": "Pont de résistances avec charge"})"));
+    EXPECT_FALSE(ok(R"(expect menu MenuPontDiviseur {"MenuPontDeRésitances": "Pont de résistances avec charge",)"
+                    R"( "MenuShunt": "Calculs de Shunts"})"));
+    EXPECT_FALSE(ok(R"(expect menu MenuFinTravail {"MenuQuitter": "Fin"})"));
+    EXPECT_FALSE(ok(R"(expect menu MenuFinTravail {"MenuFin": "Quitter"})"));
+    EXPECT_FALSE(ok(R"(expect menus {"MenuFinTravail": "Fin de travail"})"));
+    EXPECT_EQ(say("expect menus {}")["got"].size(), 12U);
+}
+
 TEST_F(ExpectationTest, SaysWhyThereIsNothingToCompare)
 {
     EXPECT_EQ(say("expect MDIOndelis.Left 4665")["why"], "the program does not run");
+    EXPECT_EQ(say("expect menus {}")["why"], "the program does not run");
     open();
     EXPECT_EQ(say("expect Decibels.TxtA.Text \"\"")["why"], "the panel is not loaded");
     EXPECT_EQ(say("expect CircuitsOscillants.TxtA.Text \"\"")["why"], "the panel has no such control");
     EXPECT_EQ(say("expect CircuitsOscillants.TxtFreq.Caption \"\"")["why"], "no such member");
     EXPECT_EQ(say("expect CircuitsOscillants.controls null")["why"], "no such member");
+    EXPECT_EQ(say("expect menu MenuQuitter {}")["why"], "there is no such menu");
     say("menu MenuQuitter");
     EXPECT_EQ(say("expect CircuitsOscillants.TxtFreq.Text \"\"")["why"], "the program does not run");
 }
@@ -52,7 +67,8 @@ TEST_F(ExpectationTest, IsAnErrorWhereItIsNone)
     for (const char* const line : {"expect", "expect message", "expect no", "expect no idea", "expect fault",
              "expect refused why", "expect CircuitsOscillants", "expect CircuitsOscillants open", "expect A.B",
              "expect A.B x", "expect A.B 1 2", "expect A.B \"x\" 1", "expect A.B [[1]]", "expect A.B {}",
-             "expect A.B 1e999", "expect A.B [", "expect message a b"})
+             "expect A.B 1e999", "expect A.B [", "expect message a b", "expect menus", "expect menus []",
+             "expect menus {\"MenuHelp\": 1}", "expect menu", "expect menu MenuHelp \"A propos\""})
         EXPECT_FALSE(error(line).empty()) << line;
 }
 

@@ -59,6 +59,17 @@ TEST_F(MDIOndelisTest, AnEntryClosesThePanelThatIsOpen)
     EXPECT_EQ(desk.loadedPanels().size(), 1U);
 }
 
+TEST_F(MDIOndelisTest, AnEntryClosesAllPanels)
+{
+    frame.start();
+    for (const MenuEntry* const entry : panelEntries())
+        for (const MenuStep& step : entry->steps) // nothing is closed before
+            step(frame);
+    EXPECT_EQ(desk.loadedPanels().size(), 42U);
+    frame.click({.control = "mnuEssai", .caption = "Essai", .steps = {}});
+    EXPECT_TRUE(desk.loadedPanels().empty());
+}
+
 TEST_F(MDIOndelisTest, AnEntryClosesAHiddenPanelToo)
 {
     frame.start();

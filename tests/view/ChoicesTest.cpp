@@ -142,15 +142,15 @@ private slots:
         program.pick("mnuCalcTransfo");
         auto& panel = program.desk.get<Transformateur>();
         auto& list = program.widget<QListWidget>(panel.LstTole);
-        auto& current = program.widget<QLineEdit>(panel.TxtIsec(0));
+        auto& current = program.widget<QLineEdit>(panel.Secondaires(0).TxtIsec);
         current.setFocus();
         current.selectAll();
         QTest::keyClicks(&current, QStringLiteral("2"));
         QCOMPARE(list.currentRow(), 0);
         QCOMPARE(list.palette().color(QPalette::Base), QColor(Qt::white));
-        QCOMPARE(std::string{panel.TxtSpires(0).Text}, std::string{"44.6"});
+        QCOMPARE(std::string{panel.Secondaires(0).TxtSpires.Text}, std::string{"44.6"});
         click(list, 0);
-        QCOMPARE(std::string{panel.TxtSpires(0).Text}, std::string{"53.2"});
+        QCOMPARE(std::string{panel.Secondaires(0).TxtSpires.Text}, std::string{"53.2"});
     }
 
     void keysWalkThroughTheRows()

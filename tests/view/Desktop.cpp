@@ -3,25 +3,16 @@
 #include <QApplication>
 #include <QStyle>
 
+#include "DarkPalette.h"
+
 namespace ondelis {
 
 QPalette poorDarkPalette()
 {
-    constexpr QColor window{0x35, 0x35, 0x35};
-    constexpr QColor base{0x2a, 0x2a, 0x2a};
-    constexpr QColor text{0xEE, 0xEE, 0xEC};
-    constexpr QColor dimmed{0x60, 0x60, 0x60};
-
-    QPalette palette{window};
-    for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText, QPalette::ToolTipText}) {
-        palette.setColor(role, text);
-        palette.setColor(QPalette::Disabled, role, dimmed);
-    }
-    palette.setColor(QPalette::Base, base);
-    palette.setColor(QPalette::ToolTipBase, base);
-    palette.setColor(QPalette::AlternateBase, window);
+    QPalette palette = galerie::darkPalette();
+    for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText, QPalette::ToolTipText})
+        palette.setColor(QPalette::Disabled, role, QColor{0x60, 0x60, 0x60});
     palette.setColor(QPalette::Highlight, QColor{0x3D, 0xAE, 0xE9});
-    palette.setColor(QPalette::HighlightedText, Qt::white);
     return palette;
 }
 

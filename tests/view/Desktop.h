@@ -6,7 +6,7 @@
 
 namespace ondelis {
 
-/// A palette of light text on dark windows, as on dark desktops; its highlight has too little contrast.
+/// The colours of a dark desktop that shows poorly what is disabled or selected.
 [[nodiscard]] QPalette poorDarkPalette();
 
 /// The person's desktop, for as long as it lives: its font and its colours.

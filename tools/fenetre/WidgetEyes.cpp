@@ -86,7 +86,8 @@ Json WidgetEyes::menus() const
         for (const QAction* const action : title->menu()->actions())
             entries.push_back(
                 {{"Name", action->objectName().toStdString()}, {"Caption", captionOf(action->text()).toStdString()}});
-        tree.push_back({{"Caption", captionOf(title->text()).toStdString()}, {"Entries", std::move(entries)}});
+        tree.push_back({{"Name", title->menu()->objectName().toStdString()},
+            {"Caption", captionOf(title->text()).toStdString()}, {"Entries", std::move(entries)}});
     }
     return tree;
 }

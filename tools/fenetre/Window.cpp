@@ -81,7 +81,7 @@ Window::~Window()
     if (!desk_.loadedPanels().empty()) // the view may never have been opened
         view_.perform([this](User&) {
             while (!desk_.loadedPanels().empty())
-                desk_.Unload(*desk_.loadedPanels().front());
+                desk_.loadedPanels().front()->Unload();
         });
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete); // no event loop will do it
     // Ending a program marks the event loop as ended; running it once clears the mark for the next program.

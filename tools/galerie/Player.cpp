@@ -33,7 +33,7 @@ Player::~Player()
 {
     view_.perform([this](User&) {
         while (!desk_.loadedPanels().empty())
-            desk_.Unload(*desk_.loadedPanels().front());
+            desk_.loadedPanels().front()->Unload();
     });
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete); // no event loop will do it
 }

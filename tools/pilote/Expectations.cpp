@@ -44,6 +44,24 @@ Json jsonValue(Words& words)
     return value;
 }
 
+/// An object of captions by name.
+Json namedCaptions(Words& words)
+{
+    Json value = Json::parse(words.rest(), nullptr, false);
+    if (!value.is_object() || !std::ranges::all_of(value, [](const Json& v) { return v.is_string(); }))
+        throw Malformed{"not a JSON object of captions"};
+    return value;
+}
+
+/// The captions of menus or of entries, by their names, in their order.
+Json captions(const Json& items)
+{
+    Json byName = Json::object();
+    for (const Json& item : items)
+        byName[item["Name"].get<std::string>()] = item["Caption"];
+    return byName;
+}
+
 } // namespace
 
 Json Pilote::expect(Words& words)
@@ -57,6 +75,10 @@ Json Pilote::expect(Words& words)
         return expectFault(words);
     if (subject == "refused")
         return expectRefused(words);
+    if (subject == "menus")
+        return expectFound(namedCaptions(words), [&] { return captions(body_.eyes().menus()); });
+    if (subject == "menu")
+        return expectEntries(words);
     if (subject.find('.') == std::string::npos)
         return expectVisibility(subject, words);
     return expectMember(subject, words);
@@ -114,9 +136,26 @@ Json Pilote::expectVisibility(const std::string& name, Words& words)
 
 Json Pilote::expectMember(const std::string& target, Words& words)
 {
-    const Json wanted = jsonValue(words);
+    return expectFound(jsonValue(words), [&] { return member(target); });
+}
+
+Json Pilote::expectEntries(Words& words)
+{
+    const std::string name = words.next();
+    return expectFound(namedCaptions(words), [&] {
+        for (const Json& menu : body_.eyes().menus())
+            if (menu["Name"] == name)
+                return captions(menu["Entries"]);
+        throw Absent{"there is no such menu"};
+    });
+}
+
+Json Pilote::expectFound(const Json& wanted, const std::function<Json()>& look) const
+{
     try {
-        return judged(wanted, member(target));
+        if (!running())
+            throw Absent{"the program does not run"};
+        return judged(wanted, look());
     } catch (const Absent& absent) {
         return {{"ok", false}, {"wanted", wanted}, {"got", nullptr}, {"why", absent.what()}};
     }
@@ -124,8 +163,6 @@ Json Pilote::expectMember(const std::string& target, Words& words)
 
 Json Pilote::member(const std::string& target) const
 {
-    if (!running())
-        throw Absent{"the program does not run"};
     const std::size_t first = target.find('.');
     const std::size_t last = target.rfind('.');
     const std::string name = target.substr(0, first);

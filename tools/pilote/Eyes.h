@@ -24,7 +24,7 @@ public:
     [[nodiscard]] virtual Json see(const FeuilleCalcul& panel) const = 0;
     /// "kind", which is the class, its members, and "Frame", the frame that it stands in.
     [[nodiscard]] virtual Json see(Control& control) const = 0;
-    /// Each menu, with its "Caption" and its "Entries".
+    /// Each menu, with its "Name", its "Caption" and its "Entries", each of which has a name and a caption, too.
     [[nodiscard]] virtual Json menus() const = 0;
 };
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <string>
 #include <string_view>
 
@@ -49,6 +50,9 @@ private:
     Json expectRefused(Words& words);
     Json expectVisibility(const std::string& name, Words& words);
     Json expectMember(const std::string& target, Words& words);
+    Json expectEntries(Words& words);
+    /// Judges what `look` finds while the program runs; it throws Absent if it finds nothing.
+    [[nodiscard]] Json expectFound(const Json& wanted, const std::function<Json()>& look) const;
     /// The value of "PANEL.Member" or "PANEL.CONTROL.Member"; throws Absent if there is none.
     [[nodiscard]] Json member(const std::string& target) const;
 

@@ -179,7 +179,7 @@ Json State::menus() const
         Json entries = Json::array();
         for (const MenuEntry& entry : menu.entries)
             entries.push_back({{"Name", entry.control}, {"Caption", entry.caption}});
-        tree.push_back({{"Caption", menu.caption}, {"Entries", std::move(entries)}});
+        tree.push_back({{"Name", menu.control}, {"Caption", menu.caption}, {"Entries", std::move(entries)}});
     }
     return tree;
 }

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "kit/Text.h"
+
 namespace ondelis::pilote {
 namespace {
 
@@ -21,7 +23,7 @@ std::size_t characterLength(std::string_view text)
     if (length == 0 || text.size() < length)
         return 0;
     for (std::size_t i = 1; i < length; ++i)
-        if ((byte(i) & 0xC0U) != 0x80U)
+        if (startsCharacter(text[i]))
             return 0;
     // Overlong encodings, surrogates, and code points beyond the last one.
     const unsigned second = byte(1);

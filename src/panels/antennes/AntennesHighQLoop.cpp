@@ -1,7 +1,6 @@
 #include "panels/antennes/AntennesHighQLoop.h"
 
-#include <tuple>
-
+#include "kit/ComputeForFault.h"
 #include "kit/Conversions.h"
 #include "kit/Maths.h"
 #include "panels/antennes/CalculsFminFmax.h"
@@ -90,14 +89,14 @@ void AntennesHighQLoop::BtnCalculer_Click()
     // The loop's performance at the centre is shown nowhere, but computing it can end the program before the edges are
     // reached.
     const Fonctionnement centre{*this, FreqMoy, DeltaFMoy};
-    std::ignore = centre.Q();
-    std::ignore = centre.XL();
-    std::ignore = centre.RR();
-    std::ignore = centre.RL();
-    std::ignore = centre.Vc();
-    std::ignore = centre.IL();
-    std::ignore = centre.Efficacite();
-    std::ignore = centre.Cf();
+    computeForFault(centre.Q());
+    computeForFault(centre.XL());
+    computeForFault(centre.RR());
+    computeForFault(centre.RL());
+    computeForFault(centre.Vc());
+    computeForFault(centre.IL());
+    computeForFault(centre.Efficacite());
+    computeForFault(centre.Cf());
 
     CalculsFminFmax(*this);
 }

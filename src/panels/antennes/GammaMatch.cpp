@@ -1,5 +1,6 @@
 #include "panels/antennes/GammaMatch.h"
 
+#include "kit/ComputeForFault.h"
 #include "kit/Conversions.h"
 #include "kit/Fault.h"
 #include "kit/Maths.h"
@@ -157,7 +158,7 @@ void GammaMatch::BtnCalculer_Click()
     const Double e = R0 * (Pow(RA, 2) + Pow(XA, 2)) / D;
     const Double X = c + Sqr(Pow(c, 2) + e);
     // The other form of the same root is not used, but it can end the program where the first one did not.
-    static_cast<void>(Double{K * (R0 * XA + Sqr(Pow(R0 * XA, 2) + R0 * D * (Pow(RA, 2) + Pow(XA, 2)))) / D});
+    computeForFault(K * (R0 * XA + Sqr(Pow(R0 * XA, 2) + R0 * D * (Pow(RA, 2) + Pow(XA, 2)))) / D);
     const Double G = Atn(X * Y) * 180 / Pi(); // degrees
 
     const Double Xc1 = (Pow(RA, 2) + Pow(XA, 2)) / X * (R0 / RA);

@@ -1,5 +1,6 @@
 #include "panels/antennes/HB9CV_HF.h"
 
+#include "kit/ComputeForFault.h"
 #include "kit/Conversions.h"
 #include "kit/Maths.h"
 
@@ -24,7 +25,7 @@ void HB9CV_HF::TxtFreq_Change()
 {
     FreqHb = Val(TxtFreq.Text);
     // The angular frequency is shown nowhere, but a frequency for which it is out of range ends the program.
-    static_cast<void>(Double{2 * Pi() * FreqHb});
+    computeForFault(2 * Pi() * FreqHb);
     LambdaHb = 300 / FreqHb;
     Calculer();
 }

@@ -1,7 +1,5 @@
 #include "panels/filtres/FiltrePasseBas.h"
 
-#include "forms/Desk.h"
-#include "kit/Conversions.h"
 #include "kit/Maths.h"
 #include "panels/resonance/CalculNombreSpires.h"
 
@@ -35,10 +33,8 @@ Double FiltrePasseBas::C() const
     return 1 / (Pi() * Z * F);
 }
 
-void FiltrePasseBas::Bobiner()
+void FiltrePasseBas::Bobiner(CalculNombreSpires& spires)
 {
-    auto& spires = desk().get<CalculNombreSpires>();
-    spires.TxtS.Text = CStr(Val(TxtSelf.Text)); // the figure without its multiplier word
     spires.TxtD.Text = "1";
 }
 

@@ -1,7 +1,5 @@
 #include "panels/filtres/FiltrePasseHaut.h"
 
-#include "forms/Desk.h"
-#include "kit/Conversions.h"
 #include "kit/Maths.h"
 #include "panels/resonance/CalculNombreSpires.h"
 
@@ -35,10 +33,8 @@ Double FiltrePasseHaut::C() const
     return 1 / (4 * Pi() * Z * F);
 }
 
-void FiltrePasseHaut::Bobiner()
+void FiltrePasseHaut::Bobiner(CalculNombreSpires& spires)
 {
-    auto& spires = desk().get<CalculNombreSpires>();
-    spires.TxtS.Text = CStr(Val(TxtSelf.Text)); // the figure without its multiplier word
     spires.TxtF.Text = "1";
     spires.TxtD.Text = "50";
 }

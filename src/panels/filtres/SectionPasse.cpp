@@ -1,7 +1,9 @@
 #include "panels/filtres/SectionPasse.h"
 
+#include "forms/Desk.h"
 #include "kit/Conversions.h"
 #include "kit/TraitementMultiplicateur.h"
+#include "panels/resonance/CalculNombreSpires.h"
 
 namespace ondelis {
 
@@ -22,7 +24,9 @@ void SectionPasse::Calculer()
     if (F != 0 && Z != 0) {
         TxtSelf.Text = TraitementMultiplicateur(L());
         TxtCapa.Text = TraitementMultiplicateur(C());
-        Bobiner();
+        auto& spires = desk().get<CalculNombreSpires>();
+        spires.TxtS.Text = CStr(Val(TxtSelf.Text)); // the figure without its multiplier word
+        Bobiner(spires);
     }
 }
 

@@ -9,6 +9,8 @@
 
 namespace ondelis {
 
+class CalculNombreSpires;
+
 /// What the low-pass and the high-pass section share: the form, and the path from a field to the results. Each supplies
 /// its defaults, its two formulas, and what it writes into the panel of the number of turns.
 class SectionPasse : public FeuilleCalcul {
@@ -63,8 +65,8 @@ private:
     [[nodiscard]] virtual Double L() const = 0;
     /// Farads.
     [[nodiscard]] virtual Double C() const = 0;
-    /// Hands the inductor to the panel of the number of turns.
-    virtual void Bobiner() = 0;
+    /// Gives the panel of the number of turns, which has the inductor already, the rest of the coil.
+    virtual void Bobiner(CalculNombreSpires& spires) = 0;
 
     void TxtFreq_Change();
     void TxtZCharge_Change();

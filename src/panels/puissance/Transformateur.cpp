@@ -41,10 +41,10 @@ void Transformateur::Form_Load()
     resumeNext({
         [&] { BtnReset_Click(); },
         [&] { TxtNbreEnrSec.Text = "2"; },
-        [&] { TxtUSec(0).Text = "18"; },
-        [&] { TxtIsec(0).Text = "5"; },
-        [&] { TxtUSec(1).Text = "18"; },
-        [&] { TxtIsec(1).Text = "5"; },
+        [&] { Secondaires(0).TxtUSec.Text = "18"; },
+        [&] { Secondaires(0).TxtIsec.Text = "5"; },
+        [&] { Secondaires(1).TxtUSec.Text = "18"; },
+        [&] { Secondaires(1).TxtIsec.Text = "5"; },
         [&] { LstTole.ListIndex = 0; },
     });
 }
@@ -54,23 +54,24 @@ void Transformateur::TxtNbreEnrSec_Change()
     NbreEnrSec = CInt(Val(TxtNbreEnrSec.Text));
     for (int i = 0; i < secondairesMaxi; ++i) {
         MontrerSecondaire(i, false);
-        TxtUSec(i).Text = "";
-        TxtIsec(i).Text = "";
-        TxtPap(i).Text = "";
-        TxtSpires(i).Text = "";
-        TxtDiamFil(i).Text = "";
+        Secondaire& secondaire = Secondaires(i);
+        secondaire.TxtUSec.Text = "";
+        secondaire.TxtIsec.Text = "";
+        secondaire.TxtPap.Text = "";
+        secondaire.TxtSpires.Text = "";
+        secondaire.TxtDiamFil.Text = "";
     }
     TxtPuissApp.Text = "";
     for (int i = 0; i < NbreEnrSec.value(); ++i)
         MontrerSecondaire(i, true);
 }
 
-void Transformateur::TxtUSec_Change(Integer /*Index*/)
+void Transformateur::TxtUSec_Change()
 {
     LireSecondaires();
 }
 
-void Transformateur::TxtIsec_Change(Integer /*Index*/)
+void Transformateur::TxtIsec_Change()
 {
     LireSecondaires();
 }
@@ -92,26 +93,27 @@ void Transformateur::BtnReset_Click()
 
 void Transformateur::MontrerSecondaire(int i, bool visible)
 {
-    TxtUSec(i).Visible = visible;
-    TxtIsec(i).Visible = visible;
-    TxtPap(i).Visible = visible;
-    TxtSpires(i).Visible = visible;
-    TxtDiamFil(i).Visible = visible;
-    Label7(i).Visible = visible;
-    Label17(i).Visible = visible;
-    Label18(i).Visible = visible;
-    Label19(i).Visible = visible;
-    Label25(i).Visible = visible;
+    Secondaire& secondaire = Secondaires(i);
+    secondaire.TxtUSec.Visible = visible;
+    secondaire.TxtIsec.Visible = visible;
+    secondaire.TxtPap.Visible = visible;
+    secondaire.TxtSpires.Visible = visible;
+    secondaire.TxtDiamFil.Visible = visible;
+    secondaire.Label7.Visible = visible;
+    secondaire.Label17.Visible = visible;
+    secondaire.Label18.Visible = visible;
+    secondaire.Label19.Visible = visible;
+    secondaire.Label25.Visible = visible;
 }
 
 void Transformateur::LireSecondaires()
 {
     for (int i = 0; i < NbreEnrSec.value(); ++i) {
-        UsecVal(i) = Val(TxtUSec(i).Text);
-        IsecVal(i) = Val(TxtIsec(i).Text);
+        UsecVal(i) = Val(Secondaires(i).TxtUSec.Text);
+        IsecVal(i) = Val(Secondaires(i).TxtIsec.Text);
         if (UsecVal(i) != 0 && IsecVal(i) != 0) {
             PappVal(i) = UsecVal(i) * IsecVal(i);
-            TxtPap(i).Text = CStr(Cut(PappVal(i), 100));
+            Secondaires(i).TxtPap.Text = CStr(Cut(PappVal(i), 100));
         }
     }
     PuissApparente();
@@ -168,12 +170,12 @@ void Transformateur::LstTole_Click()
     SpiresParVolt = SpiresParVolt + PerteFil(PuissancePrimaire); // added as a plain number
 
     for (int i = 0; i < NbreEnrSec.value(); ++i)
-        TxtSpires(i).Text = CStr(Cut(UsecVal(i) * SpiresParVolt, 10));
+        Secondaires(i).TxtSpires.Text = CStr(Cut(UsecVal(i) * SpiresParVolt, 10));
     TxtSpiresPrimaire.Text = CStr(Cut(SpiresParVolt * 220, 10));
 
     for (int i = 0; i < NbreEnrSec.value(); ++i) {
-        const Double I = Val(TxtPap(i).Text) / Val(TxtUSec(i).Text);
-        TxtDiamFil(i).Text = CStr(Cut(DiametreFil(PappVal(i), I), 1000));
+        const Double I = Val(Secondaires(i).TxtPap.Text) / Val(Secondaires(i).TxtUSec.Text);
+        Secondaires(i).TxtDiamFil.Text = CStr(Cut(DiametreFil(PappVal(i), I), 1000));
     }
     TxtDiamFilPrim.Text = CStr(Cut(DiametreFil(PuissancePrimaire, PuissancePrimaire / 220), 1000));
 }

@@ -16,13 +16,12 @@ public:
         : FeuilleCalcul{desk,
             {.name = "Transformateur", .Caption = "Calcul de transformateur à 50Hz", .Width = 11280, .Height = 7140}}
     {
-        tabAlongRows(Label17, TxtUSec, Label18, TxtIsec, Label19, TxtPap, Label7, TxtSpires, Label25, TxtDiamFil);
     }
 
     using Me = Transformateur;
     static constexpr Color cyan = 0xFFFF00;
     static constexpr Column enroulements{.left = 240, .captions = 4560, .inputs = 480};
-    // The table of the secondaries, a row each.
+    // The table of the secondaries.
     static constexpr double secondaires = 780;
     static constexpr Column tensions{.left = 240, .captions = 720, .inputs = 1080, .top = secondaires};
     static constexpr Column courants{.left = 2310, .captions = 720, .inputs = 1080, .top = secondaires};
@@ -42,18 +41,24 @@ public:
     Label Label6{
         this, "Label6", {.Caption = "Puissance max 500 VA", .at = {spires.left, enroulements.at(0).Top, 2340, 255}}};
 
-    ControlArray<Label> Label17{this, "Label17", 4, [](int i) { return tensions.caption(i, "Usec(i)"); }};
-    ControlArray<TextBox> TxtUSec{
-        this, "TxtUSec", 4, [this](int i) { return tensions.input(Label17(i)); }, &Me::TxtUSec_Change};
-    ControlArray<Label> Label18{this, "Label18", 4, [](int i) { return courants.caption(i, "Isec(i)"); }};
-    ControlArray<TextBox> TxtIsec{
-        this, "TxtIsec", 4, [this](int i) { return courants.input(Label18(i)); }, &Me::TxtIsec_Change};
-    ControlArray<Label> Label19{this, "Label19", 4, [](int i) { return puissances.caption(i, "Papp(i)"); }};
-    ControlArray<TextBox> TxtPap{this, "TxtPap", 4, [this](int i) { return puissances.openResult(Label19(i)); }};
-    ControlArray<Label> Label7{this, "Label7", 4, [](int i) { return spires.caption(i, "Spires "); }};
-    ControlArray<TextBox> TxtSpires{this, "TxtSpires", 4, [this](int i) { return spires.openResult(Label7(i)); }};
-    ControlArray<Label> Label25{this, "Label25", 4, [](int i) { return fils.caption(i, "Diamètre mm"); }};
-    ControlArray<TextBox> TxtDiamFil{this, "TxtDiamFil", 4, [this](int i) { return fils.openResult(Label25(i)); }};
+    /// A row of the table of the secondaries: the Tab key goes along it.
+    struct Secondaire {
+        Secondaire(Me* panel, int row) : feuille{panel}, i{row} { }
+
+        Me* feuille;
+        int i;
+        Label Label17{feuille, elementName("Label17", i), tensions.caption(i, "Usec(i)")};
+        TextBox TxtUSec{feuille, elementName("TxtUSec", i), tensions.input(Label17), &Me::TxtUSec_Change};
+        Label Label18{feuille, elementName("Label18", i), courants.caption(i, "Isec(i)")};
+        TextBox TxtIsec{feuille, elementName("TxtIsec", i), courants.input(Label18), &Me::TxtIsec_Change};
+        Label Label19{feuille, elementName("Label19", i), puissances.caption(i, "Papp(i)")};
+        TextBox TxtPap{feuille, elementName("TxtPap", i), puissances.openResult(Label19)};
+        Label Label7{feuille, elementName("Label7", i), spires.caption(i, "Spires ")};
+        TextBox TxtSpires{feuille, elementName("TxtSpires", i), spires.openResult(Label7)};
+        Label Label25{feuille, elementName("Label25", i), fils.caption(i, "Diamètre mm")};
+        TextBox TxtDiamFil{feuille, elementName("TxtDiamFil", i), fils.openResult(Label25)};
+    };
+    ControlArray<Secondaire> Secondaires{this, 4};
 
     Label Label1{this, "Label1", totaux.caption(0, "Puissance app totale")};
     TextBox TxtPuissApp{this, "TxtPuissApp", totaux.openResult(Label1)};
@@ -101,8 +106,8 @@ private:
 
     void Form_Load() override;
     void TxtNbreEnrSec_Change();
-    void TxtUSec_Change(Integer Index);
-    void TxtIsec_Change(Integer Index);
+    void TxtUSec_Change();
+    void TxtIsec_Change();
     void LstTole_Click();
     void BtnReset_Click();
 

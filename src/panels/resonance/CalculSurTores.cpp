@@ -1,5 +1,6 @@
 #include "panels/resonance/CalculSurTores.h"
 
+#include "kit/ComputeForFault.h"
 #include "kit/Conversions.h"
 #include "kit/Maths.h"
 #include "kit/TraitementMultiplicateur.h"
@@ -115,7 +116,7 @@ void CalculSurTores::CalculerColonne(const Tore& tore, TextBox& resultat, Double
     resultat.Text = TraitementMultiplicateur(unite * L);
     // The inductance from the core's geometry is shown nowhere; only the faults that it raises matter.
     const Double W = c * AL * Pow(N, 2) * Ep * Log10(DiamExt / DiamInt);
-    static_cast<void>(TraitementMultiplicateur(Pow(10, -6) * W));
+    computeForFault(TraitementMultiplicateur(Pow(10, -6) * W));
 }
 
 } // namespace ondelis

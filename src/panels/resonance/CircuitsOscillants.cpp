@@ -1,5 +1,7 @@
 #include "panels/resonance/CircuitsOscillants.h"
 
+#include <algorithm>
+#include <string_view>
 #include <utility>
 
 #include "kit/Conversions.h"
@@ -50,23 +52,37 @@ ListBox::Design CircuitsOscillants::unites(const TextBox& champ, Label& legende,
     return {.Items = std::move(items), .at = {at.Left + at.Width + ecart, at.Top - 30, 960, height}, .label = &legende};
 }
 
+struct CircuitsOscillants::Circuit {
+    std::string_view type; ///< its row in the list
+    const char* titre;
+    const char* schema;
+    Champ R; ///< the fields when it is chosen, in this order
+    Champ L;
+    Champ C;
+    int calculs; ///< how often it is computed then
+    std::string (CircuitsOscillants::*formules)();
+};
+
+constexpr std::array<CircuitsOscillants::Circuit, 7> CircuitsOscillants::circuits{{
+    {"RC Série", "Circuit RC Série", "circuit-rc-serie", Ouvert, Vide, Ouvert, 1, &Me::RCSerie},
+    {"RC Parallèle", "Circuit RC Parallèle", "circuit-rc-parallele", Ouvert, Vide, Ouvert, 2, &Me::RCParallele},
+    {"RL Parallèle", "Circuit RL Parallèle", "circuit-rl-parallele", Ouvert, Ouvert, Vide, 0, &Me::RLParallele},
+    {"RLC Série", "Circuit RLC  Série", "circuit-rlc-serie", Ouvert, Ouvert, Ouvert, 0, &Me::RLCSerie},
+    {"RLC Parallèle", "Circuit RLC Parallèle", "circuit-rlc-parallele", Ouvert, Ouvert, Ouvert, 0, &Me::RLCParallele},
+    {"RL Série C Parallèle", "Circuit RL Série C Parallèle", "circuit-rl-serie-c-parallele", Ouvert, Ouvert, Ouvert, 1,
+        &Me::RLSerieCParallele},
+    {"LC Série", "Circuit LC Série", "circuit-lc-serie", Ferme, Ouvert, Ouvert, 1, &Me::LCSerie},
+}};
+
+const CircuitsOscillants::Circuit& CircuitsOscillants::circuit() const
+{
+    return *std::ranges::find(circuits, TypeCircuit, &Circuit::type);
+}
+
 Frame::Design CircuitsOscillants::frmCircuitDesign(int index)
 {
-    struct Row {
-        const char* Caption;
-        const char* picture;
-    };
-    static constexpr std::array<Row, 7> table{{
-        {"Circuit RC Série", "circuit-rc-serie"},
-        {"Circuit RC Parallèle", "circuit-rc-parallele"},
-        {"Circuit RL Parallèle", "circuit-rl-parallele"},
-        {"Circuit RLC  Série", "circuit-rlc-serie"},
-        {"Circuit RLC Parallèle", "circuit-rlc-parallele"},
-        {"Circuit RL Série C Parallèle", "circuit-rl-serie-c-parallele"},
-        {"Circuit LC Série", "circuit-lc-serie"},
-    }};
-    const Row& row = table.at(static_cast<std::size_t>(index));
-    return {.Caption = row.Caption, .at = {resultats.left, 180, 4320, 3840}, .picture = row.picture};
+    const Circuit& circuit = circuits.at(static_cast<std::size_t>(index));
+    return {.Caption = circuit.titre, .at = {resultats.left, 180, 4320, 3840}, .picture = circuit.schema};
 }
 
 void CircuitsOscillants::Form_Load()
@@ -141,50 +157,13 @@ void CircuitsOscillants::LstCapa_Click()
 void CircuitsOscillants::LstCalcul_Click()
 {
     TypeCircuit = LstCalcul.Text;
-    if (TypeCircuit == "RC Série") {
-        Ouvrir(TxtRes);
-        Fermer(TxtInd);
-        TxtInd.Text = "";
-        Ouvrir(TxtCapa);
-        AfficherCircuit(0);
+    const Circuit& choisi = circuit();
+    Preparer(TxtRes, choisi.R);
+    Preparer(TxtInd, choisi.L);
+    Preparer(TxtCapa, choisi.C);
+    AfficherCircuit(choisi);
+    for (int i = 0; i < choisi.calculs; ++i)
         Calculer();
-    } else if (TypeCircuit == "RC Parallèle") {
-        Ouvrir(TxtRes);
-        Fermer(TxtInd);
-        TxtInd.Text = "";
-        Ouvrir(TxtCapa);
-        AfficherCircuit(1);
-        Calculer();
-        Calculer();
-    } else if (TypeCircuit == "RL Parallèle") {
-        Ouvrir(TxtRes);
-        Ouvrir(TxtInd);
-        Fermer(TxtCapa);
-        TxtCapa.Text = "";
-        AfficherCircuit(2);
-    } else if (TypeCircuit == "RLC Série") {
-        Ouvrir(TxtRes);
-        Ouvrir(TxtInd);
-        Ouvrir(TxtCapa);
-        AfficherCircuit(3);
-    } else if (TypeCircuit == "RLC Parallèle") {
-        Ouvrir(TxtRes);
-        Ouvrir(TxtInd);
-        Ouvrir(TxtCapa);
-        AfficherCircuit(4);
-    } else if (TypeCircuit == "RL Série C Parallèle") {
-        Ouvrir(TxtRes);
-        Ouvrir(TxtInd);
-        Ouvrir(TxtCapa);
-        AfficherCircuit(5);
-        Calculer();
-    } else if (TypeCircuit == "LC Série") {
-        Fermer(TxtRes);
-        Ouvrir(TxtInd);
-        Ouvrir(TxtCapa);
-        AfficherCircuit(6);
-        Calculer();
-    }
 }
 
 void CircuitsOscillants::Ouvrir(TextBox& champ)
@@ -199,11 +178,21 @@ void CircuitsOscillants::Fermer(TextBox& champ)
     champ.BackColor = mainResultColor;
 }
 
-void CircuitsOscillants::AfficherCircuit(int index)
+void CircuitsOscillants::Preparer(TextBox& champ, Champ etat)
+{
+    if (etat == Ouvert)
+        Ouvrir(champ);
+    else
+        Fermer(champ);
+    if (etat == Vide)
+        champ.Text = "";
+}
+
+void CircuitsOscillants::AfficherCircuit(const Circuit& choisi)
 {
     for (int i = 0; i < frmCircuit.count(); ++i)
         frmCircuit(i).Visible = false;
-    frmCircuit(index).Visible = true;
+    frmCircuit(static_cast<int>(&choisi - circuits.data())).Visible = true;
 }
 
 void CircuitsOscillants::Calculer()
@@ -212,20 +201,7 @@ void CircuitsOscillants::Calculer()
     if (Frequence != 0) {
         LblResonance.Visible = false;
         TxtResonance.Visible = false;
-        if (TypeCircuit == "RC Série")
-            puissance = RCSerie();
-        else if (TypeCircuit == "RC Parallèle")
-            puissance = RCParallele();
-        else if (TypeCircuit == "RL Parallèle")
-            puissance = RLParallele();
-        else if (TypeCircuit == "RLC Série")
-            puissance = RLCSerie();
-        else if (TypeCircuit == "RLC Parallèle")
-            puissance = RLCParallele();
-        else if (TypeCircuit == "LC Série")
-            puissance = LCSerie();
-        else if (TypeCircuit == "RL Série C Parallèle")
-            puissance = RLSerieCParallele();
+        puissance = (this->*circuit().formules)();
     }
     // Even with no frequency or a failed guard: the last values stay visible.
     TxtImp.Text = TraitementMultiplicateur(Impedance);

@@ -83,9 +83,18 @@ private:
     void LstCapa_Click();
     void LstCalcul_Click();
 
+    /// What the choice of a circuit does to a field: it can be typed into, or not, and then may be emptied.
+    enum class Champ { Ouvert, Ferme, Vide };
+    using enum Champ;
+    struct Circuit;
+    static const std::array<Circuit, 7> circuits; ///< in the order of the frames
+    /// The one of `TypeCircuit`.
+    [[nodiscard]] const Circuit& circuit() const;
+
     static void Ouvrir(TextBox& champ);
     static void Fermer(TextBox& champ);
-    void AfficherCircuit(int index);
+    static void Preparer(TextBox& champ, Champ etat);
+    void AfficherCircuit(const Circuit& choisi);
     void Calculer();
 
     // The computing half for each type: each returns the text of the power, empty if a guard fails.
