@@ -155,7 +155,6 @@ void CircuitsOscillants::LstCalcul_Click()
         Ouvrir(TxtCapa);
         AfficherCircuit(1);
         Calculer();
-        Calculer();
     } else if (TypeCircuit == "RL Parallèle") {
         Ouvrir(TxtRes);
         Ouvrir(TxtInd);
@@ -292,7 +291,6 @@ std::string CircuitsOscillants::RLCSerie()
 
 std::string CircuitsOscillants::RLCParallele()
 {
-    Omega = 2 * Pi() * Frequence;
     const Double R = Resistance;
     const Double L = Inductance;
     const Double C = Capacite;
@@ -307,7 +305,6 @@ std::string CircuitsOscillants::RLCParallele()
 
 std::string CircuitsOscillants::RLSerieCParallele()
 {
-    Omega = 2 * Pi() * Frequence;
     const Double R = Resistance;
     const Double L = Inductance;
     const Double C = Capacite;
