@@ -211,7 +211,11 @@ def trial(build, paths):
                                       for test in (ROOT / "tests/panels").glob("*.cpp"))
     tests = [program] if tested else []
     source = next((path for path in paths if path.suffix == ".cpp"), None)
-    return Trial(build, paths, [source] if source else build.readers(paths[0]), tests)
+    header = next((path for path in paths if path.suffix == ".h"), None)
+    units = {source} if source else set()
+    if header and not (source and "final : public" in header.read_text(encoding="utf-8")):
+        units.update(build.readers(header))  # a base class, or functions: what is inline stands in their objects
+    return Trial(build, paths, sorted(units), tests)
 
 
 def all_files():

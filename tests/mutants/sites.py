@@ -27,6 +27,7 @@ KEYWORDS = {"if", "else", "for", "while", "do", "switch", "case", "default", "co
 STATEMENT_BEGINS = re.compile(r"\s*|\s*(?:resumeNext\(\{)?\[(?:&|this)\] \{ ")  # a line, or one of a list of statements
 # Where a control stands is our own layout, stated nowhere: the form checks of the view judge it.
 PLACES = re.compile(r"\.at = \{|(?<=[ {])\.(?:Width|Height) = |\b(?:Box|Column)(?: \w+)?\{"
+                    r"|\bColumn \w+ = \w+\.from\(|\.noms = \{|(?<=[ {])\.traits = "
                     r"|\(\{(?=[\w.]+, [^{}]+, [^{}]+, [^{}]+\})|\b(?:letterBox|letter|lettreDeCote|cote)\(")
 PLACE = re.compile(r"constexpr double \w+ = [^;]*$")
 # In a form, what is called with numbers gives places, but these.

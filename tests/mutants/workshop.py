@@ -109,7 +109,7 @@ class Workshop:
             copy.parent.mkdir(parents=True, exist_ok=True)
             copy.write_text(text)
         header = self.build.precompiled(compiler, flags, PANEL_HEADERS if shared else SYSTEM_HEADERS)
-        read = self.with_constructor(source, self.folder / source.relative_to(SOURCES) if source in changed else source)
+        read = self.with_constructor(source, self.folder / source.relative_to(SOURCES)) if source in changed else source
         obj = self.folder / (str(source.relative_to(SOURCES)).replace("/", "-") + ".o")
         done = subprocess.run([compiler, f"-I{self.folder}", *flags, "-include", str(header), "-c", str(read),
                                "-o", str(obj)], capture_output=True, text=True, check=False, preexec_fn=limits)

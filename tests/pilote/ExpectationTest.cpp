@@ -67,8 +67,8 @@ TEST_F(ExpectationTest, IsAnErrorWhereItIsNone)
     for (const char* const line : {"expect", "expect message", "expect no", "expect no idea", "expect fault",
              "expect refused why", "expect CircuitsOscillants", "expect CircuitsOscillants open", "expect A.B",
              "expect A.B x", "expect A.B 1 2", "expect A.B \"x\" 1", "expect A.B [[1]]", "expect A.B {}",
-             "expect A.B 1e999", "expect A.B [", "expect message a b", "expect menus", "expect menus []",
-             "expect menus {\"MenuHelp\": 1}", "expect menu", "expect menu MenuHelp \"A propos\""})
+             "expect A.B 1e999", "expect A.B [", "expect message a b", "expect message a b 1 2", "expect menus",
+             "expect menus []", "expect menus {\"MenuHelp\": 1}", "expect menu", "expect menu MenuHelp \"A propos\""})
         EXPECT_FALSE(error(line).empty()) << line;
 }
 
@@ -151,6 +151,20 @@ TEST_F(ExpectationTest, ShowsTheBoxThatCameInsteadOfTheExpectedOne)
     say("start");
     const Json boxes = say("menu MenuFiltrePasseBasEnPi")["messages"];
     EXPECT_EQ(say("expect message \"another\"")["got"], boxes[0]["prompt"]);
+}
+
+TEST_F(ExpectationTest, HoldsTheTitleAndTheButtonsOfABoxToo)
+{
+    say("start");
+    const Json boxes = say("menu MenuFiltrePasseBasEnPi")["messages"];
+    const std::string prompt = "expect message " + boxes[0]["prompt"].dump();
+    EXPECT_EQ(say(prompt + " \"Ondelis\" 4")["got"], Json::array({boxes[0]["prompt"], "Filtre en Pi", 4}));
+    say("menu MenuFiltrePasseBasEnPi");
+    EXPECT_FALSE(ok(prompt + " \"Filtre en Pi\" 0"));
+    say("menu MenuFiltrePasseBasEnPi");
+    EXPECT_TRUE(ok(prompt + " \"Filtre en Pi\" 4"));
+    EXPECT_TRUE(ok("expect no message"));
+    EXPECT_EQ(say(prompt + " \"Filtre en Pi\" 4")["got"], nullptr);
 }
 
 } // namespace

@@ -87,10 +87,16 @@ Json Pilote::expect(Words& words)
 Json Pilote::expectMessage(Words& words)
 {
     const std::string prompt = words.next();
-    words.finish();
     const auto& boxes = body_.boxes();
+    if (words.atEnd()) {
+        const std::size_t next = expectedBoxes_++;
+        return judged(prompt, next < boxes.size() ? Json(boxes[next].prompt) : Json{});
+    }
+    const std::string title = words.next();
+    const Json buttons = jsonValue(words);
     const std::size_t next = expectedBoxes_++;
-    return judged(prompt, next < boxes.size() ? Json(boxes[next].prompt) : Json{});
+    return judged(Json::array({prompt, title, buttons}),
+        next < boxes.size() ? Json::array({boxes[next].prompt, boxes[next].title, boxes[next].buttons}) : Json{});
 }
 
 Json Pilote::expectNothing(Words& words)

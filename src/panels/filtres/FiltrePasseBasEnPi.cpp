@@ -170,13 +170,13 @@ void FiltrePasseBasEnPi::QCompute()
     if (!Complet())
         return;
     Preparer();
-    Pscroll.Value = CInt(Pm * 100 / D);
+    Pscroll.Value = CInt(Pm * 100 / D); // away from the solution, so that the store below is a change
     Resoudre();
     if (Qc >= Qu)
         Pscroll.Value = CInt(Pc * 100 / D);
     else
         Pscroll.Value = CInt(Pu * 100 / D);
-    ZComplexes(P);
+    ZComplexes(P); // as the last place of the bar has left them
     Reseau();
 }
 

@@ -28,7 +28,7 @@ void CalculNombreSpires::Form_Load()
 void CalculNombreSpires::OptmH_Click()
 {
     UniteSelf = 1000;
-    TxtS_Change();
+    TxtS_Change(); // only here can a value that was taken before overflow
 }
 
 void CalculNombreSpires::OptmmH_Click()

@@ -268,7 +268,7 @@ std::string CircuitsOscillants::RLCSerie()
 
 std::string CircuitsOscillants::RLCParallele()
 {
-    Omega = 2 * Pi() * Frequence;
+    Omega = 2 * Pi() * Frequence; // anew: the handler of its field has stored it too
     const Double R = Resistance;
     const Double L = Inductance;
     const Double C = Capacite;
@@ -283,7 +283,7 @@ std::string CircuitsOscillants::RLCParallele()
 
 std::string CircuitsOscillants::RLSerieCParallele()
 {
-    Omega = 2 * Pi() * Frequence;
+    Omega = 2 * Pi() * Frequence; // anew: the handler of its field has stored it too
     const Double R = Resistance;
     const Double L = Inductance;
     const Double C = Capacite;

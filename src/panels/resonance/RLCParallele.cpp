@@ -40,13 +40,13 @@ void RLCParallele::TxtC_Change()
 void RLCParallele::TxtFreqDeb_Change()
 {
     HScroll1.Min = CInt(Val(TxtFreqDeb.Text) * 10);
-    Calculer();
+    Calculer(); // a bar that was moved has done so already
 }
 
 void RLCParallele::TxtFreqFin_Change()
 {
     HScroll1.Max = CInt(Val(TxtFreqFin.Text) * 10);
-    Calculer();
+    Calculer(); // a bar that was moved has done so already
 }
 
 void RLCParallele::HScroll1_Change()
