@@ -32,8 +32,8 @@ void browse(QObject& owner, const QString& file, const std::function<void()>& fa
 {
     constexpr qint64 soon
         = 15'000; // ms; on some desktops the command lasts as long as the browser, and returns its status
-    static auto& openers = *new QObject; // never destroyed, since that would end those that still run: a browser
-                                         // outlives the program
+    // Never destroyed, since that would end those that still run: a browser outlives the program.
+    static auto& openers = *new QObject; // NOLINT(cppcoreguidelines-avoid-non-const-global-variables)
     auto* const opener = new QProcess{&openers};
     QElapsedTimer since;
     since.start();
