@@ -76,7 +76,8 @@ constexpr std::array<CircuitsOscillants::Circuit, 7> CircuitsOscillants::circuit
 
 const CircuitsOscillants::Circuit& CircuitsOscillants::circuit() const
 {
-    return *std::ranges::find(circuits, TypeCircuit, &Circuit::type);
+    const auto index = std::ranges::find(circuits, TypeCircuit, &Circuit::type) - circuits.begin();
+    return circuits.at(static_cast<std::size_t>(index));
 }
 
 Frame::Design CircuitsOscillants::frmCircuitDesign(int index)
