@@ -15,11 +15,11 @@
 #include "Parts.h"
 #include "Pointer.h"
 #include "view/ClientArea.h"
-#include "view/ControlWidget.h"
 #include "view/MainWindow.h"
 #include "view/PanelWindow.h"
 #include "view/Scale.h"
 #include "view/ScrollBarWidget.h"
+#include "view/Texts.h"
 
 namespace ondelis::fenetre {
 namespace {
