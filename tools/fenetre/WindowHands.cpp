@@ -154,6 +154,12 @@ pilote::Hands::Refusal WindowHands::restore(const std::string& window)
         return unable();
     if (window != "MDIOndelis" || !fingers_.window()->isMinimized())
         return "the window is not minimised";
+    // Meanwhile something else has the keyboard on a desktop; where nothing takes it, the client area is not told that
+    // it is active again.
+    QWidget other;
+    other.show();
+    other.activateWindow();
+    QGuiApplication::sync();
     fingers_.window()->showNormal();
     fingers_.regainKeyboard(); // as a click into the bar of the desktop does
     return {};
