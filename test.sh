@@ -28,7 +28,7 @@ make_package() {
 }
 
 # Runs at a low priority, so as not to slow down what runs in parallel.
-yielding() (
+at_low_priority() (
     renice -n 10 "$BASHPID" >/dev/null && "$@"
 )
 
@@ -43,9 +43,9 @@ step "Packages" tools/install-packages.sh program screen checks
 step "Scripts (shellcheck)" check_scripts
 pinned clang-format 14 "Formatting (clang-format)" check_format
 step "Release build, as for a package, warnings as errors" build_release
-beside check_release
-pinned clang-tidy 14 "Lint (clang-tidy)" yielding tools/lint.py build/release
-step "Build with address and undefined behaviour sanitizers" yielding build sanitize
+in_parallel check_release
+pinned clang-tidy 14 "Lint (clang-tidy)" at_low_priority tools/lint.py build/release
+step "Build with address and undefined behaviour sanitizers" at_low_priority build sanitize
 step "Tests (sanitizers)" tools/tests.py sanitize
-join_beside
+join_parallel
 report

@@ -1,7 +1,7 @@
 #include <cstdio>
 #include <cstdlib>
 
-#include "forms/Desk.h"
+#include "forms/Runtime.h"
 #include "kit/Region.h"
 #include "shell/MDIOndelis.h"
 #include "view/Application.h"
@@ -18,8 +18,8 @@ int main(int argc, char** argv)
         return EXIT_FAILURE;
     }
     View view;
-    Desk desk{view};
-    MDIOndelis frame{desk};
+    Runtime runtime{view};
+    MDIOndelis frame{runtime};
     view.open(frame);
     return view.run();
 }

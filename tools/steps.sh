@@ -1,8 +1,8 @@
 # What run.sh and test.sh share; both source it from the root of the project.
 # shellcheck shell=bash
 
-steps=() # what the report says of each step
-lane=    # the folder of the steps that run in parallel, if there are any
+steps=()         # what the report says of each step
+parallel_folder= # the folder of the steps that run in parallel, if there are any
 
 # step WORDS COMMAND...: runs a command under a heading and notes how long it took. The first one that fails ends the
 # script.
@@ -11,10 +11,10 @@ step() {
     shift
     printf '\n== %s\n' "$words"
     if "$@"; then
-        note "$(printf 'passed   %5d s  %s' $((SECONDS - start)) "$words")"
-        ! lane_failed || fail
+        add_to_report "$(printf 'passed   %5d s  %s' $((SECONDS - start)) "$words")"
+        ! parallel_failed || fail
     else
-        note "$(printf 'FAILED   %5d s  %s' $((SECONDS - start)) "$words")"
+        add_to_report "$(printf 'FAILED   %5d s  %s' $((SECONDS - start)) "$words")"
         fail
     fi
 }
@@ -33,55 +33,55 @@ pinned() {
         step "$@"
     else
         printf '\n== %s\nLeft out: the code follows %s %s, and here is %s.\n' "$1" "$tool" "$version" "$found"
-        note "$(printf 'left out          %s: here is %s %s, not %s' "$1" "$tool" "$found" "$version")"
+        add_to_report "$(printf 'left out          %s: here is %s %s, not %s' "$1" "$tool" "$found" "$version")"
     fi
 }
 
-# beside FUNCTION: runs a function of steps in parallel with the steps that follow, up to `join_beside`, which shows its
-# output.
-beside() {
-    lane=$(mktemp -d)
-    trap stop_lane EXIT
+# in_parallel FUNCTION: runs a function of steps in parallel with those that follow, up to `join_parallel`, which shows
+# its output.
+in_parallel() {
+    parallel_folder=$(mktemp -d)
+    trap stop_parallel EXIT
     set -m # a process group of its own, which can be ended as a whole
-    { "$1" || fail; } >"$lane/said" 2>&1 </dev/null &
-    lane_process=$!
+    { "$1" || fail; } >"$parallel_folder/output" 2>&1 </dev/null &
+    parallel_process=$!
     set +m
 }
 
-join_beside() {
-    wait "$lane_process" || fail
-    cat "$lane/said"
-    end_lane
+join_parallel() {
+    wait "$parallel_process" || fail
+    cat "$parallel_folder/output"
+    end_parallel
 }
 
-lane_failed() { [[ -n $lane && -e $lane/failed ]]; }
+parallel_failed() { [[ -n $parallel_folder && -e $parallel_folder/failed ]]; }
 
 # Ends the parallel steps; those that are done go into the report.
-end_lane() {
-    [[ ! -e $lane/steps ]] || mapfile -t -O "${#steps[@]}" steps <"$lane/steps"
-    stop_lane
+end_parallel() {
+    [[ ! -e $parallel_folder/steps ]] || mapfile -t -O "${#steps[@]}" steps <"$parallel_folder/steps"
+    stop_parallel
 }
 
-stop_lane() {
-    [[ -n $lane ]] || return 0
-    kill -- "-$lane_process" 2>/dev/null || true
-    rm -rf "$lane"
-    lane=
+stop_parallel() {
+    [[ -n $parallel_folder ]] || return 0
+    kill -- "-$parallel_process" 2>/dev/null || true
+    rm -rf "$parallel_folder"
+    parallel_folder=
 }
 
-in_lane() { [[ $BASHPID != "$$" ]]; }
+is_parallel() { [[ $BASHPID != "$$" ]]; }
 
-note() {
-    if in_lane; then echo "$1" >>"$lane/steps"; else steps+=("$1"); fi
+add_to_report() {
+    if is_parallel; then echo "$1" >>"$parallel_folder/steps"; else steps+=("$1"); fi
 }
 
 # Ends the script, and with it the parallel steps.
 fail() {
-    if in_lane; then
-        touch "$lane/failed"
+    if is_parallel; then
+        touch "$parallel_folder/failed"
     else
-        ! lane_failed || cat "$lane/said"
-        [[ -z $lane ]] || end_lane
+        ! parallel_failed || cat "$parallel_folder/output"
+        [[ -z $parallel_folder ]] || end_parallel
         report
     fi
     exit 1

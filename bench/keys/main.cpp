@@ -10,9 +10,9 @@
 #include <string>
 #include <vector>
 
-#include "ScriptedSurroundings.h"
+#include "ScriptedHost.h"
 #include "forms/Controls.h"
-#include "forms/Desk.h"
+#include "forms/Runtime.h"
 #include "forms/User.h"
 #include "shell/MDIOndelis.h"
 #include "shell/Menu.h"
@@ -23,7 +23,9 @@ using namespace ondelis;
 
 class BarePanel final : public FeuilleCalcul {
 public:
-    explicit BarePanel(Desk& desk) : FeuilleCalcul{desk, {.name = "", .Caption = "", .Width = 0, .Height = 0}} { }
+    explicit BarePanel(Runtime& runtime) : FeuilleCalcul{runtime, {.name = "", .Caption = "", .Width = 0, .Height = 0}}
+    {
+    }
 
     TextBox Field{this, "field", {}};
     HScrollBar Bar{this, "bar", {.Max = 1000}};
@@ -43,32 +45,32 @@ public:
         if (entry != nullptr)
             frame_.click(*entry);
         else
-            desk.get<BarePanel>().Show();
+            runtime.get<BarePanel>().Show();
     }
 
-    [[nodiscard]] const FeuilleCalcul& panel() const { return *desk.loadedPanels().front(); }
+    [[nodiscard]] const FeuilleCalcul& panel() const { return *runtime.loadedPanels().front(); }
 
 private:
-    pilote::ScriptedSurroundings surroundings_;
+    pilote::ScriptedHost host_;
 
 public:
-    Desk desk{surroundings_};
-    User user{desk};
+    Runtime runtime{host_};
+    User user{runtime};
 
 private:
-    MDIOndelis frame_{desk};
+    MDIOndelis frame_{runtime};
 };
 
 /// The median time of an action; nothing if the program has ended or the person was refused.
 template <class Action>
-std::optional<double> medianOf(const Desk& desk, int rounds, Action&& action)
+std::optional<double> medianOf(const Runtime& runtime, int rounds, Action&& action)
 {
     std::vector<double> times;
     for (int round = 0; round < rounds; ++round) {
         const auto start = std::chrono::steady_clock::now();
         const User::Refusal refusal = action(round);
         const std::chrono::duration<double, std::micro> time = std::chrono::steady_clock::now() - start;
-        if (refusal || desk.ended())
+        if (refusal || runtime.ended())
             return {};
         times.push_back(time.count());
     }
@@ -83,7 +85,7 @@ std::optional<double> keyIn(const MenuEntry* entry, const std::string& name)
     if (field == nullptr)
         return {};
     constexpr int rounds = 4000;
-    return medianOf(program.desk, rounds,
+    return medianOf(program.runtime, rounds,
         [&](int round) { return round % 2 == 0 ? program.user.type(*field, "5") : program.user.backspace(*field); });
 }
 
@@ -96,7 +98,7 @@ std::optional<double> stepOf(const MenuEntry* entry, const std::string& name)
     const int first = bar->Min.get().value();
     const int last = bar->Max.get().value();
     const int steps = std::min(std::abs(last - first), 2000);
-    return medianOf(program.desk, steps + 1,
+    return medianOf(program.runtime, steps + 1,
         [&](int step) { return program.user.move(*bar, first < last ? first + step : first - step); });
 }
 

@@ -164,7 +164,7 @@ void compareAll(const std::string& kind, const Numbers& numbers)
 }
 
 /// Shows the usual lines, and keeps the medians for the table.
-class MedianKeeper : public benchmark::ConsoleReporter {
+class MedianReporter : public benchmark::ConsoleReporter {
 public:
     void ReportRuns(const std::vector<Run>& runs) override
     {
@@ -185,12 +185,12 @@ private:
     std::map<std::string, double> medians_;
 };
 
-void printRatios(const MedianKeeper& keeper)
+void printRatios(const MedianReporter& reporter)
 {
     std::printf("\n%-42s %9s %9s %7s %6s\n", "median of one call", "kit ns", "floor ns", "ratio", "goal");
     for (const auto& [name, goal] : pairs()) {
-        const double kit = keeper.median(name);
-        const double floor = keeper.median(name + " floor");
+        const double kit = reporter.median(name);
+        const double floor = reporter.median(name + " floor");
         if (kit == 0 || floor == 0)
             continue;
         std::printf("%-42s %9.1f %9.1f %7.2f %6.1f%s\n", name.c_str(), kit, floor, kit / floor, goal,
@@ -211,7 +211,7 @@ int main(int argc, char** argv)
     benchmark::Initialize(&size, arguments.data());
     ondelis::compareAll("typed", ondelis::typedNumbers());
     ondelis::compareAll("computed", ondelis::computedNumbers());
-    ondelis::MedianKeeper keeper;
-    benchmark::RunSpecifiedBenchmarks(&keeper);
-    ondelis::printRatios(keeper);
+    ondelis::MedianReporter reporter;
+    benchmark::RunSpecifiedBenchmarks(&reporter);
+    ondelis::printRatios(reporter);
 }

@@ -13,7 +13,7 @@
 #include <vector>
 
 #include "Gallery.h"
-#include "Words.h"
+#include "Tokenizer.h"
 #include "forms/Controls.h"
 #include "shell/Menu.h"
 #include "view/Application.h"
@@ -78,14 +78,14 @@ private:
     std::vector<double> all_;
 };
 
-Times openings(Player& player, const Subject& subject)
+Times openings(WindowedProgram& program, const GalleryItem& item)
 {
-    const MenuEntry& entry = *findMenuEntry(subject.entry);
+    const MenuEntry& entry = *findMenuEntry(item.entry);
     Times times;
     for (int trial = 0; trial < 15; ++trial) {
         const auto start = Clock::now();
-        player.view().click(entry);
-        Painting{player.view().find(*player.frame().desk().loadedPanels().front())->form()}.wait();
+        program.view().click(entry);
+        Painting{program.view().find(*program.frame().runtime().loadedPanels().front())->form()}.wait();
         times.add(start);
     }
     return times;
@@ -103,19 +103,19 @@ Control* firstField(const FeuilleCalcul& panel)
 
 /// Plays the example of a panel up to its first picture; returns the field, bar or list that it uses last, or else the
 /// panel's first field.
-Control* playExample(Player& player, const Subject& subject)
+Control* playExample(WindowedProgram& program, const GalleryItem& item)
 {
-    const FeuilleCalcul& panel = *player.frame().desk().loadedPanels().front();
+    const FeuilleCalcul& panel = *program.frame().runtime().loadedPanels().front();
     Control* used = firstField(panel);
-    std::ifstream in{EXAMPLES "/" + subject.panel + ".txt"};
+    std::ifstream in{EXAMPLES "/" + item.panel + ".txt"};
     for (std::string line; std::getline(in, line);) {
-        pilote::Words words{line};
+        pilote::Tokenizer words{line};
         if (words.atEnd())
             continue;
         const std::string gesture = words.next();
         if (gesture == "picture")
             break;
-        player.play(line);
+        program.play(line);
         const std::string target = words.next(); // PANEL.CONTROL
         if (Control* const control = panel.find(target.substr(target.find('.') + 1)); control && gesture != "click")
             used = control;
@@ -154,13 +154,13 @@ Times keys(QWidget& widget, const std::array<Key, 2>& pair)
     return times;
 }
 
-void measure(const Subject& subject)
+void measure(const GalleryItem& item)
 {
-    Player player;
-    std::printf("%-28s", subject.panel.c_str());
-    openings(player, subject).print(openingGoal);
-    if (const Control* const control = playExample(player, subject)) {
-        keys(player.view().find(control->panel())->find(*control)->widget(), keysOf(*control)).print(keyGoal);
+    WindowedProgram program;
+    std::printf("%-28s", item.panel.c_str());
+    openings(program, item).print(openingGoal);
+    if (const Control* const control = playExample(program, item)) {
+        keys(program.view().find(control->panel())->find(*control)->widget(), keysOf(*control)).print(keyGoal);
         std::printf("  %s", control->name().c_str());
     }
     std::printf("\n");
@@ -174,8 +174,8 @@ int main(int argc, char** argv)
     const Application application{argc, argv};
     std::printf("%-28s %10s %10s %10s %10s  %s\n", "panel", "opening", "longest", "key", "longest", "in");
     try {
-        for (const Subject& subject : allSubjects())
-            measure(subject);
+        for (const GalleryItem& item : galleryItems())
+            measure(item);
     } catch (const std::exception& error) {
         std::fprintf(stderr, "%s\n", error.what());
         return 1;

@@ -23,7 +23,7 @@ constexpr std::uint32_t colorBits = 0xFFFFFF;
 constexpr int mainWindowWidth = 600;
 /// The menu bar is somewhere in these upper rows of the window.
 constexpr int menuRows = 24;
-constexpr std::chrono::seconds patience{10};
+constexpr std::chrono::seconds timeout{10};
 
 template <class Reply>
 auto owned(Reply* reply)
@@ -71,7 +71,7 @@ Screen::Screen()
 
     const xcb_query_extension_reply_t* const damage = xcb_get_extension_data(connection_.get(), &xcb_damage_id);
     if (damage == nullptr || damage->present == 0)
-        throw std::runtime_error{"the X server does not tell what is drawn"};
+        throw std::runtime_error{"the X server does not report what is drawn"};
     damageNotify_ = static_cast<std::uint8_t>(damage->first_event + XCB_DAMAGE_NOTIFY);
     owned(
         xcb_damage_query_version_reply(connection_.get(), xcb_damage_query_version(connection_.get(), 1, 1), nullptr));
@@ -85,7 +85,7 @@ Screen::Screen()
 Screen::Clock::time_point Screen::waitForPaintedWindow()
 {
     window_.reset();
-    const Clock::time_point deadline = Clock::now() + patience;
+    const Clock::time_point deadline = Clock::now() + timeout;
     while (const auto event = nextEvent(deadline)) {
         const Clock::time_point now = Clock::now();
         const unsigned kind = event->response_type & 0x7FU;

@@ -38,7 +38,7 @@ private:
     std::unique_ptr<Process> server_;
     std::unique_ptr<xcb_connection_t, Disconnect> connection_;
     std::optional<xcb_window_t> window_; ///< the main window, once it is on the screen
-    std::uint8_t damageNotify_ = 0; ///< the number of the event that tells of a drawing
+    std::uint8_t damageNotify_ = 0; ///< the number of the event that reports a drawing
 };
 
 } // namespace ondelis::bench

@@ -3,8 +3,8 @@
 #include <utility>
 
 #include "forms/Controls.h"
-#include "forms/Desk.h"
 #include "forms/FeuilleCalcul.h"
+#include "forms/Runtime.h"
 
 namespace ondelis {
 
@@ -19,20 +19,20 @@ bool Control::onScreen() const
     return ownVisible() && (container_ == nullptr || container_->onScreen());
 }
 
-void Control::touch()
+void Control::ensureLoaded()
 {
-    panel_.touch();
+    panel_.ensureLoaded();
 }
 
 void Control::changed()
 {
-    panel_.desk().surroundings().controlChanged(*this);
+    panel_.runtime().host().controlChanged(*this);
 }
 
 void Control::raise(const Handler& handler)
 {
     if (handler)
-        panel_.desk().raise(panel_, handler);
+        panel_.runtime().raise(panel_, handler);
 }
 
 } // namespace ondelis

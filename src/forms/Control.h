@@ -37,7 +37,7 @@ struct Font {
 };
 
 /// The base of all controls: an element of one panel, with one name, at one place.
-class Control : public Element {
+class Control : public PropertyOwner {
 public:
     Control(FeuilleCalcul* panel, std::string_view name, Box at, Frame* container);
 
@@ -58,7 +58,7 @@ public:
     /// Goes back to the properties of its design.
     virtual void reset() = 0;
 
-    void touch() final;
+    void ensureLoaded() final;
     void changed() final;
 
 protected:

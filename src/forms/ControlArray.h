@@ -15,7 +15,7 @@ namespace ondelis {
 }
 
 /// Controls of one class under one name, or rows of several controls, each a structure, numbered from 0.
-template <class Element>
+template <class Item>
 class ControlArray {
 public:
     /// `design` gives the design of each control by its index.
@@ -23,7 +23,7 @@ public:
     ControlArray(FeuilleCalcul* panel, const std::string& name, int count, DesignOf design)
     {
         for (int i = 0; i < count; ++i)
-            elements_.emplace_back(panel, elementName(name, i), design(i));
+            items_.emplace_back(panel, elementName(name, i), design(i));
     }
 
     /// Makes each row from the panel and its index. On the form, and so for the Tab key, row follows row.
@@ -31,21 +31,21 @@ public:
     ControlArray(Panel* panel, int count)
     {
         for (int i = 0; i < count; ++i)
-            elements_.emplace_back(panel, i);
+            items_.emplace_back(panel, i);
     }
 
     /// Throws a subscript out of range if there is no such element.
-    Element& operator()(Integer index)
+    Item& operator()(Integer index)
     {
         if (index < 0 || index >= count())
             throw Fault{FaultKind::SubscriptOutOfRange};
-        return elements_[static_cast<std::size_t>(index.value())];
+        return items_[static_cast<std::size_t>(index.value())];
     }
 
-    [[nodiscard]] Integer count() const { return static_cast<int>(elements_.size()); }
+    [[nodiscard]] Integer count() const { return static_cast<int>(items_.size()); }
 
 private:
-    std::deque<Element> elements_; // elements never move: their panel and the view point to them
+    std::deque<Item> items_; // elements never move: their panel and the view point to them
 };
 
 } // namespace ondelis

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <utility>
 
-#include "forms/Desk.h"
+#include "forms/Runtime.h"
 #include "kit/Conversions.h"
 #include "kit/ExponentForm.h"
 
@@ -14,7 +14,7 @@ Label::Label(FeuilleCalcul* panel, std::string_view name, Design design) : Hidea
 void Label::storeCaption(std::string caption)
 {
     written_ = true;
-    if (Caption.keep(std::move(caption)))
+    if (Caption.assign(std::move(caption)))
         changed();
 }
 
@@ -33,7 +33,7 @@ TextBox::TextBox(FeuilleCalcul* panel, std::string_view name, Design design, Han
 
 void TextBox::storeText(std::string text)
 {
-    if (!Text.keep(std::move(text)))
+    if (!Text.assign(std::move(text)))
         return;
     changed();
     raise(change_);
@@ -41,17 +41,17 @@ void TextBox::storeText(std::string text)
 
 void TextBox::SetFocus()
 {
-    touch();
+    ensureLoaded();
     if (!focusable())
         throw Fault{FaultKind::InvalidArgument};
-    panel().desk().setFocused(this);
-    panel().desk().surroundings().focusMoved(*this);
+    panel().runtime().setFocused(this);
+    panel().runtime().host().focusMoved(*this);
 }
 
 void TextBox::keyPress(Integer key)
 {
     if (keyPress_)
-        panel().desk().raise(panel(), keyPress_, key);
+        panel().runtime().raise(panel(), keyPress_, key);
 }
 
 void TextBox::reset()
@@ -73,7 +73,7 @@ void ListBox::storeListIndex(Integer row)
 {
     if (row < -1 || row >= ListCount())
         throw Fault{FaultKind::InvalidPropertyValue};
-    if (!ListIndex.keep(row))
+    if (!ListIndex.assign(row))
         return;
     changed();
     raise(click_);
@@ -81,22 +81,22 @@ void ListBox::storeListIndex(Integer row)
 
 void ListBox::AddItem(std::string text)
 {
-    touch();
+    ensureLoaded();
     items_.push_back(std::move(text));
     changed();
 }
 
 void ListBox::Clear()
 {
-    touch();
+    ensureLoaded();
     items_.clear();
-    ListIndex.keep(-1);
+    ListIndex.assign(-1);
     changed();
 }
 
 std::string ListBox::List(Integer row) const
 {
-    panel().touch();
+    panel().ensureLoaded();
     if (row < 0 || row >= ListCount())
         return {};
     return items_[static_cast<std::size_t>(row.value())];
@@ -104,7 +104,7 @@ std::string ListBox::List(Integer row) const
 
 Integer ListBox::ListCount() const
 {
-    panel().touch();
+    panel().ensureLoaded();
     return static_cast<int>(items_.size());
 }
 
@@ -136,14 +136,14 @@ OptionButton::OptionButton(FeuilleCalcul* panel, std::string_view name, Design d
 
 void OptionButton::storeValue(bool chosen)
 {
-    if (!Value.keep(chosen))
+    if (!Value.assign(chosen))
         return;
     changed();
     if (!chosen)
         return;
     for (Control* control : panel().controls()) {
         auto* const other = dynamic_cast<OptionButton*>(control);
-        if (other != nullptr && other != this && other->container() == container() && other->Value.keep(false))
+        if (other != nullptr && other != this && other->container() == container() && other->Value.assign(false))
             other->changed();
     }
     raise(click_);
@@ -178,7 +178,7 @@ void ScrollBar::storeValue(Integer value)
 {
     if (!allows(value))
         throw Fault{FaultKind::InvalidPropertyValue};
-    if (!Value.keep(value))
+    if (!Value.assign(value))
         return;
     changed();
     raise(change_);
@@ -186,7 +186,7 @@ void ScrollBar::storeValue(Integer value)
 
 void ScrollBar::storeMin(Integer limit)
 {
-    if (!Min.keep(limit))
+    if (!Min.assign(limit))
         return;
     changed();
     moveInside();
@@ -194,7 +194,7 @@ void ScrollBar::storeMin(Integer limit)
 
 void ScrollBar::storeMax(Integer limit)
 {
-    if (!Max.keep(limit))
+    if (!Max.assign(limit))
         return;
     changed();
     moveInside();

@@ -3,18 +3,18 @@
 #include <algorithm>
 #include <utility>
 
-#include "forms/Desk.h"
+#include "forms/Runtime.h"
 
 namespace ondelis {
 
-FeuilleCalcul::FeuilleCalcul(Desk& desk, Design design) : desk_{desk}, design_{std::move(design)} { }
+FeuilleCalcul::FeuilleCalcul(Runtime& runtime, Design design) : runtime_{runtime}, design_{std::move(design)} { }
 
 void FeuilleCalcul::Show()
 {
     load();
     staysHidden_ = false;
     visible_ = true;
-    desk_.surroundings().panelRaised(*this);
+    runtime_.host().panelRaised(*this);
 }
 
 void FeuilleCalcul::Hide()
@@ -31,8 +31,8 @@ void FeuilleCalcul::Unload()
         return;
     loaded_ = false;
     visible_ = false;
-    desk_.panelUnloaded(*this);
-    desk_.surroundings().panelUnloaded(*this);
+    runtime_.panelUnloaded(*this);
+    runtime_.host().panelUnloaded(*this);
 }
 
 Control* FeuilleCalcul::find(std::string_view name) const
@@ -41,13 +41,13 @@ Control* FeuilleCalcul::find(std::string_view name) const
     return found == controls_.end() ? nullptr : *found;
 }
 
-void FeuilleCalcul::placed(const Extent& corner)
+void FeuilleCalcul::moved(const Point& corner)
 {
-    Left.reset(Double{corner.Width});
-    Top.reset(Double{corner.Height});
+    Left.reset(Double{corner.Left});
+    Top.reset(Double{corner.Top});
 }
 
-void FeuilleCalcul::touch()
+void FeuilleCalcul::ensureLoaded()
 {
     if (!loaded_)
         load();
@@ -55,22 +55,22 @@ void FeuilleCalcul::touch()
 
 void FeuilleCalcul::changed()
 {
-    desk_.surroundings().panelChanged(*this);
+    runtime_.host().panelChanged(*this);
 }
 
 void FeuilleCalcul::MsgBox(const std::string& prompt)
 {
-    desk_.MsgBox({.prompt = prompt});
+    runtime_.MsgBox({.prompt = prompt});
 }
 
 Answer FeuilleCalcul::MsgBox(const std::string& prompt, int buttons, const std::string& title)
 {
-    return desk_.MsgBox({.prompt = prompt, .buttons = buttons, .title = title});
+    return runtime_.MsgBox({.prompt = prompt, .buttons = buttons, .title = title});
 }
 
 void FeuilleCalcul::DoEvents()
 {
-    desk_.DoEvents();
+    runtime_.DoEvents();
 }
 
 void FeuilleCalcul::load(bool hidden)
@@ -80,8 +80,8 @@ void FeuilleCalcul::load(bool hidden)
     loaded_ = true;
     staysHidden_ = hidden;
     visible_ = false;
-    ++loading_;
-    desk_.panelLoaded(*this);
+    ++loadCount_;
+    runtime_.panelLoaded(*this);
     Caption.reset(design_.Caption);
     Left.reset(0);
     Top.reset(0);
@@ -89,8 +89,8 @@ void FeuilleCalcul::load(bool hidden)
     Height.reset(Double{design_.Height});
     for (Control* control : controls_)
         control->reset();
-    desk_.surroundings().panelLoaded(*this);
-    desk_.raise(*this, Handler{&FeuilleCalcul::Form_Load});
+    runtime_.host().panelLoaded(*this);
+    runtime_.raise(*this, Handler{&FeuilleCalcul::Form_Load});
     // Any reference that loads a panel shows it, unless the panel or the reference hides it.
     visible_ = !staysHidden_;
     changed();

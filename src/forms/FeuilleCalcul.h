@@ -4,16 +4,16 @@
 #include <vector>
 
 #include "forms/Control.h"
+#include "forms/Host.h"
 #include "forms/ResumeNext.h"
-#include "forms/Surroundings.h"
 
 namespace ondelis {
 
-class Desk;
+class Runtime;
 
 /// A panel: controls, panel-level variables, handlers. Its object lives from the first reference to the end of the
 /// program; each loading resets its controls to their design values, while its variables keep theirs.
-class FeuilleCalcul : public Element {
+class FeuilleCalcul : public PropertyOwner {
 public:
     struct Design {
         std::string name; ///< of the class
@@ -21,7 +21,7 @@ public:
         double Width;
         double Height;
     };
-    FeuilleCalcul(Desk& desk, Design design);
+    FeuilleCalcul(Runtime& runtime, Design design);
 
     Property<std::string> Caption{*this};
     Property<Single> Left{*this};
@@ -37,20 +37,20 @@ public:
     void Unload();
 
     [[nodiscard]] const Design& design() const { return design_; }
-    [[nodiscard]] Desk& desk() const { return desk_; }
+    [[nodiscard]] Runtime& runtime() const { return runtime_; }
     [[nodiscard]] bool loaded() const { return loaded_; }
     [[nodiscard]] bool visible() const { return visible_; }
-    /// How often it has been loaded: a handler of an earlier loading must not go on in a later one.
-    [[nodiscard]] unsigned loading() const { return loading_; }
+    /// How often it has been loaded: a handler that an earlier load has started must not go on in a later one.
+    [[nodiscard]] unsigned loadCount() const { return loadCount_; }
     /// In the order of the form, which is the tab order.
     [[nodiscard]] const std::vector<Control*>& controls() const { return controls_; }
     /// Null if the panel has no control of that name.
     [[nodiscard]] Control* find(std::string_view name) const;
 
     /// The user has moved the panel; twips.
-    void placed(const Extent& corner);
+    void moved(const Point& corner);
 
-    void touch() final;
+    void ensureLoaded() final;
     void changed() final;
 
 protected:
@@ -68,13 +68,13 @@ private:
 
     void load(bool hidden = false);
 
-    Desk& desk_;
+    Runtime& runtime_;
     Design design_;
     std::vector<Control*> controls_;
     bool loaded_ = false;
     bool visible_ = false;
     bool staysHidden_ = false; ///< asked while it loads
-    unsigned loading_ = 0;
+    unsigned loadCount_ = 0;
 };
 
 } // namespace ondelis

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "kit/Whole.h"
+#include "kit/CheckedInteger.h"
 
 namespace ondelis {
 

@@ -5,22 +5,22 @@
 #include <string_view>
 #include <utility>
 
+#include "kit/CheckedInteger.h"
 #include "kit/Double.h"
 #include "kit/Single.h"
-#include "kit/Whole.h"
 
 namespace ondelis {
 
 /// What has properties: a control or a panel.
-class Element {
+class PropertyOwner {
 public:
-    Element() = default;
-    Element(const Element&) = delete;
-    Element& operator=(const Element&) = delete;
-    virtual ~Element() = default;
+    PropertyOwner() = default;
+    PropertyOwner(const PropertyOwner&) = delete;
+    PropertyOwner& operator=(const PropertyOwner&) = delete;
+    virtual ~PropertyOwner() = default;
 
     /// Called before a property is read or stored: a reference loads the panel.
-    virtual void touch() = 0;
+    virtual void ensureLoaded() = 0;
     /// Called after a property has taken a new value, so that the view can show it.
     virtual void changed() = 0;
 };
@@ -40,13 +40,13 @@ struct ReadAs<Single> {
 template <class Stored, class Read = typename ReadAs<Stored>::type>
 class Property {
 public:
-    explicit Property(Element& owner) : owner_{owner} { }
+    explicit Property(PropertyOwner& owner) : owner_{owner} { }
     Property(const Property&) = delete;
 
     Property& operator=(Stored value)
     {
-        owner_.touch();
-        if (keep(std::move(value)))
+        owner_.ensureLoaded();
+        if (assign(std::move(value)))
             owner_.changed();
         return *this;
     }
@@ -58,7 +58,7 @@ public:
 
     [[nodiscard]] const Stored& get() const
     {
-        owner_.touch();
+        owner_.ensureLoaded();
         return value_;
     }
     operator Read() const { return get(); } // NOLINT(google-explicit-constructor): reads like a variable
@@ -77,13 +77,13 @@ public:
         return property.get() == text;
     }
 
-    /// Stores a design value: raises no event, tells no view.
+    /// Stores a design value: raises no event, reports nothing to the view.
     void reset(Stored value) { value_ = std::move(value); }
 
 protected:
-    /// Takes the value; returns whether it is a new one.
+    /// Stores the value; returns whether it is a new one.
     template <class Value>
-    bool keep(Value&& value)
+    bool assign(Value&& value)
     {
         if (value_ == value)
             return false;
@@ -91,7 +91,7 @@ protected:
         return true;
     }
 
-    Element& owner_;
+    PropertyOwner& owner_;
 
 private:
     Stored value_{};
@@ -105,7 +105,7 @@ public:
 
     ActiveProperty& operator=(Stored value)
     {
-        this->owner_.touch();
+        this->owner_.ensureLoaded();
         (static_cast<Owner&>(this->owner_).*Store)(std::move(value));
         return *this;
     }

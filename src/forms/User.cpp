@@ -81,8 +81,8 @@ User::Refusal User::type(TextBox& box, std::string_view text)
         text.remove_prefix(character.size());
         if (!isEnteredByKey(box, character))
             continue;
-        desk_.perform([&] {
-            takeFocus(box);
+        runtime_.perform([&] {
+            moveFocusTo(box);
             box.keyPress(keyCode(codePoint(character)));
             const std::string before = box.Text;
             const int limit = box.design().MaxLength;
@@ -99,8 +99,8 @@ User::Refusal User::backspace(TextBox& box)
 {
     if (auto refusal = unwritable(box))
         return refusal;
-    desk_.perform([&] {
-        takeFocus(box);
+    runtime_.perform([&] {
+        moveFocusTo(box);
         const std::string before = box.Text;
         box.keyPress(backspaceKey);
         if (box.Text == before && !before.empty())
@@ -111,20 +111,20 @@ User::Refusal User::backspace(TextBox& box)
 
 User::Refusal User::replace(TextBox& box, std::string_view text)
 {
-    return put(box, [&](int limit) { return accepted(box, text, limit); });
+    return enter(box, [&](int limit) { return accepted(box, text, limit); });
 }
 
 User::Refusal User::edit(TextBox& box, std::string_view toCaret, std::string_view tail)
 {
-    return put(box, [&](int limit) { return edited(box, toCaret, tail, limit); });
+    return enter(box, [&](int limit) { return edited(box, toCaret, tail, limit); });
 }
 
-User::Refusal User::put(TextBox& box, const std::function<std::string(int limit)>& text)
+User::Refusal User::enter(TextBox& box, const std::function<std::string(int limit)>& text)
 {
     if (auto refusal = unwritable(box))
         return refusal;
-    desk_.perform([&] {
-        takeFocus(box);
+    runtime_.perform([&] {
+        moveFocusTo(box);
         const int limit = box.design().MaxLength;
         box.Text = text(limit == 0 ? std::numeric_limits<int>::max() : limit);
     });
@@ -134,7 +134,7 @@ User::Refusal User::put(TextBox& box, const std::function<std::string(int limit)
 bool User::key(TextBox& box, char32_t character)
 {
     bool rewritten = false;
-    desk_.perform([&] {
+    runtime_.perform([&] {
         const std::string before = box.Text;
         box.keyPress(keyCode(character));
         rewritten = !(box.Text == before);
@@ -146,8 +146,8 @@ User::Refusal User::click(OptionButton& option)
 {
     if (auto refusal = unreachable(option))
         return refusal;
-    desk_.perform([&] {
-        takeFocus(option);
+    runtime_.perform([&] {
+        moveFocusTo(option);
         option.Value = true;
     });
     return {};
@@ -157,8 +157,8 @@ User::Refusal User::click(CommandButton& button)
 {
     if (auto refusal = unreachable(button))
         return refusal;
-    desk_.perform([&] {
-        takeFocus(button);
+    runtime_.perform([&] {
+        moveFocusTo(button);
         button.Value = true;
     });
     return {};
@@ -170,8 +170,8 @@ User::Refusal User::choose(ListBox& list, int row)
         return refusal;
     if (row < 0 || row >= list.ListCount().value())
         return "the list has no such row";
-    desk_.perform([&] {
-        takeFocus(list);
+    runtime_.perform([&] {
+        moveFocusTo(list);
         list.choose(row);
     });
     return {};
@@ -183,8 +183,8 @@ User::Refusal User::move(ScrollBar& bar, int value)
         return refusal;
     if (value < -32768 || value > 32767 || !bar.allows(value))
         return "the bar does not reach that value";
-    desk_.perform([&] {
-        takeFocus(bar);
+    runtime_.perform([&] {
+        moveFocusTo(bar);
         bar.Value = value;
     });
     return {};
@@ -196,23 +196,23 @@ User::Refusal User::focus(Control& control)
         return refusal;
     if (!control.focusable())
         return "the control takes no keyboard";
-    desk_.perform([&] { takeFocus(control); });
+    runtime_.perform([&] { moveFocusTo(control); });
     return {};
 }
 
 User::Refusal User::close(FeuilleCalcul& panel)
 {
-    if (desk_.ended())
+    if (runtime_.ended())
         return "the program has ended";
     if (!panel.loaded() || !panel.visible())
         return "the panel is not on screen";
-    desk_.perform([&] { panel.Unload(); });
+    runtime_.perform([&] { panel.Unload(); });
     return {};
 }
 
 User::Refusal User::unreachable(const Control& control) const
 {
-    if (desk_.ended())
+    if (runtime_.ended())
         return "the program has ended";
     if (!control.panel().loaded() || !control.panel().visible())
         return "the panel is not on screen";
@@ -230,12 +230,12 @@ User::Refusal User::unwritable(const TextBox& box) const
     return {};
 }
 
-void User::takeFocus(Control& control)
+void User::moveFocusTo(Control& control)
 {
-    if (desk_.focused() == &control)
+    if (runtime_.focused() == &control)
         return;
-    desk_.setFocused(&control);
-    desk_.surroundings().focusMoved(control);
+    runtime_.setFocused(&control);
+    runtime_.host().focusMoved(control);
     control.gotFocus();
 }
 

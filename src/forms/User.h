@@ -6,7 +6,7 @@
 #include <string_view>
 
 #include "forms/Controls.h"
-#include "forms/Desk.h"
+#include "forms/Runtime.h"
 
 namespace ondelis {
 
@@ -17,7 +17,7 @@ class User {
 public:
     using Refusal = std::optional<std::string>;
 
-    explicit User(Desk& desk) : desk_{desk} { }
+    explicit User(Runtime& runtime) : runtime_{runtime} { }
 
     /// Types a text key by key at the end of a field: `KeyPress`, then the character lands, unless `MaxLength` is
     /// reached, and `Change` is raised. No key enters a control character, except a line break in a field of several
@@ -48,11 +48,11 @@ private:
     /// Why a person cannot reach the control; nothing where they can.
     [[nodiscard]] Refusal unreachable(const Control& control) const;
     [[nodiscard]] Refusal unwritable(const TextBox& box) const;
-    void takeFocus(Control& control);
+    void moveFocusTo(Control& control);
     /// Gives a field another text, made for the number of characters that it takes.
-    Refusal put(TextBox& box, const std::function<std::string(int limit)>& text);
+    Refusal enter(TextBox& box, const std::function<std::string(int limit)>& text);
 
-    Desk& desk_;
+    Runtime& runtime_;
 };
 
 } // namespace ondelis

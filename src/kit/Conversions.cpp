@@ -27,7 +27,7 @@ constexpr bool isBlank(char c)
 }
 
 /// Drops `word` from the start of a text; returns whether it was there.
-bool takes(std::string_view& text, std::string_view word)
+bool consume(std::string_view& text, std::string_view word)
 {
     if (word.empty() || !text.starts_with(word))
         return false;
@@ -35,7 +35,7 @@ bool takes(std::string_view& text, std::string_view word)
     return true;
 }
 
-bool takes(std::string_view& text, char word)
+bool consume(std::string_view& text, char word)
 {
     const bool there = text.starts_with(word);
     if (there)
@@ -60,7 +60,7 @@ double extreme(std::string_view text)
 
 /// Takes the longest unsigned number that starts a text, with e or E as the exponent mark; 0 if none does. Beyond the
 /// range it is infinity, not yet a fault: more of the number may follow.
-double takePlainNumber(std::string_view& text)
+double consumeUnsigned(std::string_view& text)
 {
     // from_chars itself also takes a sign, "inf" and "nan".
     if (text.empty() || (!isDigit(text.front()) && text.front() != '.'))
@@ -75,29 +75,29 @@ double takePlainNumber(std::string_view& text)
     return value;
 }
 
-/// Like `takePlainNumber`, with a sign and any exponent mark.
-double takeNumber(std::string_view& text)
+/// Like `consumeUnsigned`, with a sign and any exponent mark.
+double consumeNumber(std::string_view& text)
 {
-    const bool minus = takes(text, '-');
+    const bool minus = consume(text, '-');
     if (!minus)
-        takes(text, '+');
+        consume(text, '+');
     std::string_view rest = text;
-    double magnitude = takePlainNumber(rest);
+    double magnitude = consumeUnsigned(rest);
     if (rest.starts_with('d') || rest.starts_with('D')) {
         std::string marked{text};
         marked[text.size() - rest.size()] = 'e';
         rest = marked;
-        magnitude = takePlainNumber(rest);
+        magnitude = consumeUnsigned(rest);
     }
     text.remove_prefix(text.size() - rest.size());
     return minus ? -magnitude : magnitude;
 }
 
 /// The number that the whole text is; nothing if a part is left over, or there is no number.
-std::optional<Term> wholly(std::string_view text)
+std::optional<Term> parseNumber(std::string_view text)
 {
     std::string_view rest = text;
-    const double number = takeNumber(rest);
+    const double number = consumeNumber(rest);
     const bool hasDigits = !text.empty() && (isDigit(text.back()) || text.back() == '.'); // a sign alone has none
     if (!rest.empty() || !hasDigits)
         return {};
@@ -105,7 +105,7 @@ std::optional<Term> wholly(std::string_view text)
 }
 
 /// The whole number of the digits, in base 8 or 16, that start a text.
-Term wholeNumber(std::string_view text, int base)
+Term parseInteger(std::string_view text, int base)
 {
     Term number = 0;
     for (const char& c : text) {
@@ -229,16 +229,16 @@ void putDecimal(std::string& text, std::size_t point)
 Term Val(std::string_view text)
 {
     // Most texts are a plain number, or one as `Str` writes it.
-    if (const auto number = wholly(trimmed(text)))
+    if (const auto number = parseNumber(trimmed(text)))
         return *number;
     std::string solid;
     std::ranges::remove_copy_if(text, std::back_inserter(solid), isBlank);
     std::string_view rest = solid;
-    if (takes(rest, "&H") || takes(rest, "&h"))
-        return wholeNumber(rest, 16);
-    if (takes(rest, "&O") || takes(rest, "&o"))
-        return wholeNumber(rest, 8);
-    return Term::checked(takeNumber(rest));
+    if (consume(rest, "&H") || consume(rest, "&h"))
+        return parseInteger(rest, 16);
+    if (consume(rest, "&O") || consume(rest, "&o"))
+        return parseInteger(rest, 8);
+    return Term::checked(consumeNumber(rest));
 }
 
 Term CDbl(std::string_view text)
@@ -246,9 +246,9 @@ Term CDbl(std::string_view text)
     text = trimmed(text);
     const Region& region = ondelis::region();
     if (region.decimal == ".")
-        if (const auto number = wholly(text))
+        if (const auto number = parseNumber(text))
             return *number;
-    if (const auto number = wholly(plain(text, region)))
+    if (const auto number = parseNumber(plain(text, region)))
         return *number;
     return Term{FaultKind::TypeMismatch};
 }

@@ -2,7 +2,7 @@
 
 namespace ondelis {
 
-void Term::raise(FaultKind kind)
+void Term::throwFault(FaultKind kind)
 {
     throw Fault{kind};
 }

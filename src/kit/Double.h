@@ -60,7 +60,7 @@ public:
     [[nodiscard]] constexpr double value() const
     {
         if (faulty()) [[unlikely]]
-            raise(fault_);
+            throwFault(fault_);
         return value_;
     }
 
@@ -111,7 +111,7 @@ private:
         return result(a, b, Term{FaultKind::Overflow});
     }
 
-    [[noreturn]] static void raise(FaultKind kind);
+    [[noreturn]] static void throwFault(FaultKind kind);
 
     double value_ = 0;
     FaultKind fault_ = none;

@@ -5,14 +5,14 @@
 namespace ondelis {
 namespace {
 
-struct Words {
+struct Description {
     int number;
     const char* name;
     const char* text;
 };
 
 /// One row per kind, in the order of the enumeration.
-constexpr std::array<Words, 7> table{{
+constexpr std::array<Description, 7> table{{
     {5, "invalid argument", "Argument ou appel incorrect"},
     {6, "overflow", "Dépassement de capacité"},
     {9, "subscript out of range", "Indice en dehors des limites"},
@@ -22,7 +22,7 @@ constexpr std::array<Words, 7> table{{
     {380, "invalid property value", "Valeur de propriété incorrecte"},
 }};
 
-const Words& words(FaultKind kind)
+const Description& describe(FaultKind kind)
 {
     return table.at(static_cast<std::size_t>(kind));
 }
@@ -31,17 +31,17 @@ const Words& words(FaultKind kind)
 
 int Fault::number() const noexcept
 {
-    return words(kind_).number;
+    return describe(kind_).number;
 }
 
 const char* Fault::text() const noexcept
 {
-    return words(kind_).text;
+    return describe(kind_).text;
 }
 
 const char* Fault::what() const noexcept
 {
-    return words(kind_).name;
+    return describe(kind_).name;
 }
 
 } // namespace ondelis

@@ -4,8 +4,9 @@
 
 namespace ondelis {
 
-/// What can go wrong while a handler runs. A fault ends the program: `Desk::perform` catches it and has it shown. Two
-/// places pass over it: `resumeNext`, which goes on with the next statement of `Form_Load`, and `MaskEdBox::display`.
+/// What can go wrong while a handler runs. A fault ends the program: `Runtime::perform` catches it and has it shown.
+/// Two places pass over it: `resumeNext`, which goes on with the next statement of `Form_Load`, and
+/// `MaskEdBox::display`.
 enum class FaultKind {
     InvalidArgument,
     Overflow,

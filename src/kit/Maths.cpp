@@ -9,7 +9,7 @@ namespace ondelis {
 namespace {
 
 template <class Repr>
-Whole<Repr> nearest(Double x)
+CheckedInteger<Repr> nearest(Double x)
 {
     // nearbyint follows the default rounding mode, to nearest with ties to even, and the range test comes
     // first because a conversion out of range is undefined.
@@ -19,8 +19,8 @@ Whole<Repr> nearest(Double x)
     return static_cast<int>(whole);
 }
 
-/// A function that has a value for every number.
-Term everywhere(double (*function)(double), Term x)
+/// The value of a total function: one that has a value for every number.
+Term applyTotal(double (*function)(double), Term x)
 {
     return x.faulty() ? x : Term{function(x.value())};
 }
@@ -29,17 +29,17 @@ Term everywhere(double (*function)(double), Term x)
 
 Term Fix(Term x)
 {
-    return everywhere(std::trunc, x);
+    return applyTotal(std::trunc, x);
 }
 
-Term Cut(Term x, Double parts)
+Term Truncate(Term x, Double parts)
 {
     return Fix(x * parts) / parts;
 }
 
 Term Int(Term x)
 {
-    return everywhere(std::floor, x);
+    return applyTotal(std::floor, x);
 }
 
 Integer CInt(Double x)
@@ -54,7 +54,7 @@ Long CLng(Double x)
 
 Term Abs(Term x)
 {
-    return everywhere(std::fabs, x);
+    return applyTotal(std::fabs, x);
 }
 
 Integer Sgn(Double x)
@@ -96,17 +96,17 @@ Term Pow(Term x, Term y)
 
 Term Atn(Term x)
 {
-    return everywhere(std::atan, x);
+    return applyTotal(std::atan, x);
 }
 
 Term Sin(Term x)
 {
-    return everywhere(std::sin, x);
+    return applyTotal(std::sin, x);
 }
 
 Term Cos(Term x)
 {
-    return everywhere(std::cos, x);
+    return applyTotal(std::cos, x);
 }
 
 Term Pi()

@@ -1,7 +1,7 @@
 #pragma once
 
+#include "kit/CheckedInteger.h"
 #include "kit/Double.h"
-#include "kit/Whole.h"
 
 namespace ondelis {
 
@@ -10,9 +10,9 @@ namespace ondelis {
 /// Toward zero: `Fix(-2.7)` is -2.
 [[nodiscard]] Term Fix(Term x);
 
-/// A number truncated to whole parts, toward zero: `Cut(2.789, 100)` is 2.78, in hundredths. The product, then `Fix`,
-/// then the quotient, each rounded: `Cut(0.29, 100)` is 0.28.
-[[nodiscard]] Term Cut(Term x, Double parts);
+/// A number truncated to whole parts, toward zero: `Truncate(2.789, 100)` is 2.78, in hundredths. The product, then
+/// `Fix`, then the quotient, each rounded: `Truncate(0.29, 100)` is 0.28.
+[[nodiscard]] Term Truncate(Term x, Double parts);
 
 /// Toward minus infinity: `Int(-2.7)` is -3.
 [[nodiscard]] Term Int(Term x);

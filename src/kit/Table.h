@@ -3,8 +3,8 @@
 #include <array>
 #include <cstddef>
 
+#include "kit/CheckedInteger.h"
 #include "kit/Fault.h"
-#include "kit/Whole.h"
 
 namespace ondelis {
 

@@ -24,9 +24,9 @@ void require(bool sound)
 }
 
 // The letters of two bytes, and at the same positions their capitals, also of two bytes.
-constexpr std::string_view smallLetters = "àáâãäåæçèéêëìíîïðñòóôõöøùúûüýþÿœšž";
-constexpr std::string_view capitalLetters = "ÀÁÂÃÄÅÆÇÈÉÊËÌÍÎÏÐÑÒÓÔÕÖØÙÚÛÜÝÞŸŒŠŽ";
-static_assert(smallLetters.size() == capitalLetters.size());
+constexpr std::string_view lowerCase = "àáâãäåæçèéêëìíîïðñòóôõöøùúûüýþÿœšž";
+constexpr std::string_view upperCase = "ÀÁÂÃÄÅÆÇÈÉÊËÌÍÎÏÐÑÒÓÔÕÖØÙÚÛÜÝÞŸŒŠŽ";
+static_assert(lowerCase.size() == upperCase.size());
 
 } // namespace
 
@@ -61,8 +61,8 @@ std::string UCase(std::string_view text)
         at += character.size();
         if (character >= "a" && character <= "z")
             capitals += static_cast<char>(character[0] - 'a' + 'A');
-        else if (const std::size_t found = smallLetters.find(character); found != std::string_view::npos)
-            capitals += capitalLetters.substr(found, character.size());
+        else if (const std::size_t found = lowerCase.find(character); found != std::string_view::npos)
+            capitals += upperCase.substr(found, character.size());
         else
             capitals += character;
     }

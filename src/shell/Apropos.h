@@ -8,9 +8,9 @@ namespace ondelis {
 /// Why the program exists, who helped, and the books that its formulas come from.
 class Apropos final : public FeuilleCalcul {
 public:
-    explicit Apropos(Desk& desk)
+    explicit Apropos(Runtime& runtime)
         : FeuilleCalcul{
-            desk, {.name = "Apropos", .Caption = "Pourquoi et comment ce logiciel", .Width = 8310, .Height = 4035}}
+            runtime, {.name = "Apropos", .Caption = "Pourquoi et comment ce logiciel", .Width = 8310, .Height = 4035}}
     {
     }
 

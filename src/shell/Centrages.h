@@ -1,6 +1,6 @@
 #pragma once
 
-#include "forms/Surroundings.h"
+#include "forms/Host.h"
 
 namespace ondelis {
 
@@ -14,7 +14,7 @@ void CentrerFeuille(const Frame& frame, Panel& panel)
 
 /// Centres a window on the screen.
 template <class Form>
-void CentrerEcran(const Extent& screen, Form& form)
+void CentrerEcran(const Size& screen, Form& form)
 {
     form.Top = (screen.Height - form.Height) / 2;
     form.Left = (screen.Width - form.Width) / 2;

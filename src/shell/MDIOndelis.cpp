@@ -8,21 +8,21 @@ namespace ondelis {
 namespace {
 
 template <class... Panels>
-void unload(Desk& desk)
+void unload(Runtime& runtime)
 {
-    (desk.Unload<Panels>(), ...);
+    (runtime.Unload<Panels>(), ...);
 }
 
 } // namespace
 
 void MDIOndelis::start()
 {
-    desk_.perform([this] { MDIForm_Load(); });
+    runtime_.perform([this] { MDIForm_Load(); });
 }
 
 void MDIOndelis::click(const MenuEntry& entry)
 {
-    desk_.perform([&] {
+    runtime_.perform([&] {
         CacherFeuilles();
         for (const MenuStep& step : entry.steps)
             step(*this);
@@ -31,20 +31,20 @@ void MDIOndelis::click(const MenuEntry& entry)
 
 void MDIOndelis::close()
 {
-    desk_.close();
+    runtime_.close();
 }
 
-void MDIOndelis::placed(const Extent& corner, const Extent& size)
+void MDIOndelis::geometryChanged(const Point& corner, const Size& size)
 {
-    Left.reset(Double{corner.Width});
-    Top.reset(Double{corner.Height});
+    Left.reset(Double{corner.Left});
+    Top.reset(Double{corner.Top});
     Width.reset(Double{size.Width});
     Height.reset(Double{size.Height});
 }
 
 void MDIOndelis::changed()
 {
-    desk_.surroundings().frameChanged();
+    runtime_.host().frameChanged();
 }
 
 void MDIOndelis::MDIForm_Load()
@@ -53,7 +53,7 @@ void MDIOndelis::MDIForm_Load()
         [this] { Width = 19470; },
         [this] { Height = 15000; },
         [this] { Caption = "Kervane : Veloris divers V21.5.0 du 20 Janvier 2021"; },
-        [this] { CentrerEcran(desk_.surroundings().screen(), *this); },
+        [this] { CentrerEcran(runtime_.host().screen(), *this); },
         [this] { CacherFeuilles(); },
     });
 }
@@ -66,7 +66,7 @@ void MDIOndelis::CacherFeuilles()
         FiltreEliminationBande, FiltreEnDoublePi, FiltrePasseHaut, FiltrePasseBas, FiltrePasseBasEnPi, FiltrePasseBande,
         FormuleDeThomson, GammaMatch, HB9CV_HF, HB9CV_VUSHF, Monostable, PDResitancesParalleles, PDShunts,
         RapportCyclique, RVConvUnitesPression, RVListeCoaxiaux, RLCParallele, RLCSerie, SectionDiametre, StripLine,
-        Transformateur, WireInductance, Z1Z2>(desk_);
+        Transformateur, WireInductance, Z1Z2>(runtime_);
 }
 
 } // namespace ondelis

@@ -1,15 +1,15 @@
 #pragma once
 
-#include "forms/Desk.h"
 #include "forms/Property.h"
+#include "forms/Runtime.h"
 #include "shell/Menu.h"
 
 namespace ondelis {
 
 /// The main frame: the first and the last window of the program, and the place from which the user opens panels.
-class MDIOndelis final : public Element {
+class MDIOndelis final : public PropertyOwner {
 public:
-    explicit MDIOndelis(Desk& desk) : desk_{desk} { }
+    explicit MDIOndelis(Runtime& runtime) : runtime_{runtime} { }
 
     /// Place and outer size on the screen, in twips.
     Property<Single> Left{*this};
@@ -25,11 +25,11 @@ public:
     /// The close box of the frame: the program ends.
     void close();
     /// The user has moved or resized the window; twips.
-    void placed(const Extent& corner, const Extent& size);
+    void geometryChanged(const Point& corner, const Size& size);
 
-    [[nodiscard]] Desk& desk() const { return desk_; }
+    [[nodiscard]] Runtime& runtime() const { return runtime_; }
 
-    void touch() override { }
+    void ensureLoaded() override { }
     void changed() override;
 
 private:
@@ -37,7 +37,7 @@ private:
     /// Closes all panels, whatever was typed into them.
     void CacherFeuilles();
 
-    Desk& desk_;
+    Runtime& runtime_;
 };
 
 } // namespace ondelis

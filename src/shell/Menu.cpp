@@ -46,7 +46,7 @@ MenuStep on(std::vector<PanelStep> steps)
 {
     return [steps = std::move(steps)](MDIOndelis& frame) {
         for (const PanelStep& step : steps)
-            step(frame, frame.desk().get<Panel>());
+            step(frame, frame.runtime().get<Panel>());
     };
 }
 
@@ -59,7 +59,7 @@ MenuStep centred()
 /// Values other than those that the panel loads with.
 void seedMonostable(MDIOndelis& frame)
 {
-    auto& panel = frame.desk().get<Monostable>();
+    auto& panel = frame.runtime().get<Monostable>();
     panel.HscrRes.Value = 434;
     panel.HscrCapa.Value = 10;
     panel.LstRes.ListIndex = 1;
@@ -74,14 +74,14 @@ void placeShortDipole(MDIOndelis& frame, FeuilleCalcul& panel)
 
 void placeBesideShortDipole(MDIOndelis& frame, FeuilleCalcul& companion)
 {
-    const auto& panel = frame.desk().get<AntennesDipolesRaccourcis>();
+    const auto& panel = frame.runtime().get<AntennesDipolesRaccourcis>();
     companion.Top = panel.Top + 500;
     companion.Left = panel.Width + panel.Left + 500;
 }
 
 void quit(MDIOndelis& frame)
 {
-    frame.desk().End();
+    frame.runtime().End();
 }
 
 std::vector<Menu> makeTree()

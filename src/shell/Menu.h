@@ -8,7 +8,7 @@
 
 namespace ondelis {
 
-class Desk;
+class Runtime;
 class MDIOndelis;
 
 /// One step of what an entry does once all panels are closed.

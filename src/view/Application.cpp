@@ -7,7 +7,7 @@
 
 namespace ondelis {
 
-ChosenStyle::ChosenStyle()
+StyleSetup::StyleSetup()
 {
     QApplication::setStyle(new Style);
     // The toolkit accepts any number; with some, windows have no size.
@@ -24,11 +24,11 @@ Application::Application(int& argc, char** argv) : QApplication{argc, argv}
     setApplicationName(QStringLiteral("Ondelis"));
     setApplicationVersion(QStringLiteral(ONDELIS_VERSION));
     setDesktopFileName(QStringLiteral("ondelis"));
-    setQuitOnLastWindowClosed(false); // the desk says when the program is over
-    speakFrench();
+    setQuitOnLastWindowClosed(false); // the runtime says when the program is over
+    installTranslations();
 }
 
-void Application::speakFrench()
+void Application::installTranslations()
 {
     auto* const words = new QTranslator{this};
     if (words->load(QStringLiteral("qtbase_fr"), QLibraryInfo::path(QLibraryInfo::TranslationsPath)))

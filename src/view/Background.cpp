@@ -8,7 +8,7 @@
 namespace ondelis {
 namespace {
 
-constexpr QRgb dusk = 0xFF3D4A5D;
+constexpr QRgb meanColor = 0xFF3D4A5D;
 
 constexpr std::chrono::milliseconds idleTime{500};
 
@@ -87,7 +87,7 @@ void Background::draw(QPainter& painter, const QRect& area, const QRegion& regio
 
 void Background::drawPlain(QPainter& painter, const QRect& area)
 {
-    painter.fillRect(area, QColor{dusk});
+    painter.fillRect(area, QColor{meanColor});
 }
 
 bool Background::drawPicture(QPainter& painter, const QRect& area, const QRegion& region)

@@ -9,24 +9,24 @@ OptionButtonWidget::OptionButtonWidget(PanelWindow& window, OptionButton& option
 {
     connect(this, &QRadioButton::toggled, this, [this](bool chosen) {
         if (chosen)
-            tell([&](User& user) { user.click(control()); });
+            perform([&](User& user) { user.click(control()); });
     });
 }
 
-void OptionButtonWidget::follow()
+void OptionButtonWidget::refresh()
 {
-    place();
+    applyGeometry();
     const QSignalBlocker quiet{this};
-    // The desk keeps the options exclusive; here each one just shows its value, even if none is chosen.
+    // The runtime keeps the options exclusive; here each one just shows its value, even if none is chosen.
     setAutoExclusive(false);
     setChecked(control().Value);
     setAutoExclusive(true);
     colors().applyToText(*this, control().ForeColor);
     setVisible(control().Visible);
-    followGroup();
+    refreshTabStop();
 }
 
-void OptionButtonWidget::followGroup()
+void OptionButtonWidget::refreshTabStop()
 {
     const auto group = parentWidget()->findChildren<QRadioButton*>(QString{}, Qt::FindDirectChildrenOnly);
     const QRadioButton* entry = nullptr;
@@ -41,12 +41,12 @@ CommandButtonWidget::CommandButtonWidget(PanelWindow& window, CommandButton& but
     : WidgetOf{window, button, withoutShortcut(button.design().Caption), parent}
 {
     setAutoDefault(true); // the Enter key presses it too
-    connect(this, &QPushButton::clicked, this, [this] { tell([&](User& user) { user.click(control()); }); });
+    connect(this, &QPushButton::clicked, this, [this] { perform([&](User& user) { user.click(control()); }); });
 }
 
-void CommandButtonWidget::follow()
+void CommandButtonWidget::refresh()
 {
-    place();
+    applyGeometry();
     setVisible(control().Visible);
 }
 

@@ -13,11 +13,11 @@ class OptionButtonWidget final : public WidgetOf<QRadioButton, OptionButton> {
 public:
     OptionButtonWidget(PanelWindow& window, OptionButton& option, QWidget* parent);
 
-    void follow() override;
+    void refresh() override;
 
 private:
     /// Makes Tab enter the options at the chosen one, or at the first if none is.
-    void followGroup();
+    void refreshTabStop();
 };
 
 /// A push button.
@@ -25,7 +25,7 @@ class CommandButtonWidget final : public WidgetOf<QPushButton, CommandButton> {
 public:
     CommandButtonWidget(PanelWindow& window, CommandButton& button, QWidget* parent);
 
-    void follow() override;
+    void refresh() override;
 };
 
 } // namespace ondelis

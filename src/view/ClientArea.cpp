@@ -42,25 +42,25 @@ ClientArea::ClientArea(QWidget* parent) : QMdiArea{parent}
     setOption(QMdiArea::DontMaximizeSubWindowOnActivation);
 }
 
-void ClientArea::bringIntoSight(const QWidget& widget)
+void ClientArea::ensureVisible(const QWidget& widget)
 {
-    reveal({surroundingsOf(widget)}, viewport()->size());
+    reveal({paddedGeometryOf(widget)}, viewport()->size());
 }
 
-void ClientArea::bringPanelsIntoSight()
+void ClientArea::ensurePanelsVisible()
 {
     QRect all;
     for (const QMdiSubWindow* panel : subWindowList())
         if (!panel->isHidden())
-            all |= placeOf(*panel);
+            all |= geometryOf(*panel);
     const QSize room = contentsRect().size();
     const bool roomForAll = all.size().boundedTo(room) == all.size();
     QList<QRect> places{all};
     if (const QMdiSubWindow* const active = activeSubWindow())
-        places.append(placeOf(*active));
+        places.append(geometryOf(*active));
     const QWidget* const focused = QApplication::focusWidget();
     if (viewport()->isAncestorOf(focused))
-        places.append(surroundingsOf(*focused) & places.last());
+        places.append(paddedGeometryOf(*focused) & places.last());
     reveal(places, roomForAll ? room : viewport()->size());
 }
 
@@ -87,7 +87,7 @@ void ClientArea::resizeEvent(QResizeEvent* event)
     // Not at once: the base class may be placing its scroll bars, and would use the position it scrolled from.
     if (!std::exchange(resized_, true))
         QMetaObject::invokeMethod(
-            this, [this] { followResize(); }, Qt::QueuedConnection);
+            this, [this] { scrollAfterResize(); }, Qt::QueuedConnection);
 }
 
 void ClientArea::scrollContentsBy(int dx, int dy)
@@ -97,23 +97,23 @@ void ClientArea::scrollContentsBy(int dx, int dy)
     viewport()->update(); // the panels have moved over the picture, which has not moved
 }
 
-void ClientArea::followResize()
+void ClientArea::scrollAfterResize()
 {
     resized_ = false;
     if (QApplication::mouseButtons() == Qt::NoButton) // under a mouse button nothing must move away
-        bringPanelsIntoSight();
+        ensurePanelsVisible();
 }
 
-QRect ClientArea::placeOf(const QWidget& widget) const
+QRect ClientArea::geometryOf(const QWidget& widget) const
 {
-    const QPoint scrolled{horizontalScrollBar()->value(), verticalScrollBar()->value()};
-    return {widget.mapTo(viewport(), QPoint{}) + scrolled, widget.size()};
+    const QPoint scrollOffset{horizontalScrollBar()->value(), verticalScrollBar()->value()};
+    return {widget.mapTo(viewport(), QPoint{}) + scrollOffset, widget.size()};
 }
 
-QRect ClientArea::surroundingsOf(const QWidget& widget) const
+QRect ClientArea::paddedGeometryOf(const QWidget& widget) const
 {
     constexpr int around = 8; // pixels
-    return placeOf(widget).adjusted(-around, -around, around, around);
+    return geometryOf(widget).adjusted(-around, -around, around, around);
 }
 
 void ClientArea::reveal(const QList<QRect>& places, const QSize& seen)

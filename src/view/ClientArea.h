@@ -14,10 +14,10 @@ public:
     explicit ClientArea(QWidget* parent);
 
     /// Scrolls until the widget, which is on a panel, can be seen.
-    void bringIntoSight(const QWidget& widget);
+    void ensureVisible(const QWidget& widget);
     /// Scrolls until all panels can be seen; if there is no room for that, the active one, or at least its beginning;
     /// and in any case what has the keyboard.
-    void bringPanelsIntoSight();
+    void ensurePanelsVisible();
     /// Whether no part of a panel is out of sight.
     [[nodiscard]] bool showsAll() const;
 
@@ -27,11 +27,11 @@ protected:
     void scrollContentsBy(int dx, int dy) override;
 
 private:
-    void followResize();
+    void scrollAfterResize();
     /// Where the widget would be if nothing were scrolled.
-    [[nodiscard]] QRect placeOf(const QWidget& widget) const;
+    [[nodiscard]] QRect geometryOf(const QWidget& widget) const;
     /// Its place with a little room around it.
-    [[nodiscard]] QRect surroundingsOf(const QWidget& widget) const;
+    [[nodiscard]] QRect paddedGeometryOf(const QWidget& widget) const;
     /// Scrolls until the places can be seen in a view of this size; of those that do not fit together, the later ones.
     void reveal(const QList<QRect>& places, const QSize& seen);
 

@@ -47,12 +47,12 @@ double contrast(const QColor& one, const QColor& other)
     return (lighter + 0.05) / (darker + 0.05);
 }
 
-QColor readable(const QColor& color, const QColor& background, double enough)
+QColor readable(const QColor& color, const QColor& background, double minContrast)
 {
     constexpr int steps = 50;
     const QColor extreme = blackOrWhite(background);
     QColor mixed = color;
-    for (int step = 1; step <= steps && contrast(mixed, background) < enough; ++step) {
+    for (int step = 1; step <= steps && contrast(mixed, background) < minContrast; ++step) {
         const auto mix = [&](int from, int to) { return from + (to - from) * step / steps; };
         mixed
             = {mix(color.red(), extreme.red()), mix(color.green(), extreme.green()), mix(color.blue(), extreme.blue())};
@@ -60,7 +60,7 @@ QColor readable(const QColor& color, const QColor& background, double enough)
     return mixed;
 }
 
-QColor turned(const QColor& color, const QColor& ground)
+QColor inverted(const QColor& color, const QColor& background)
 {
     constexpr int brightest = 255;
     const int luma = (54 * color.red() + 183 * color.green() + 19 * color.blue()) / 256; // by ITU-R BT.709
@@ -68,23 +68,24 @@ QColor turned(const QColor& color, const QColor& ground)
         const int light = std::clamp(channel + brightest - 2 * luma, 0, brightest);
         return light + dark * (brightest - light) / brightest;
     };
-    return {turn(color.red(), ground.red()), turn(color.green(), ground.green()), turn(color.blue(), ground.blue())};
+    return {turn(color.red(), background.red()), turn(color.green(), background.green()),
+        turn(color.blue(), background.blue())};
 }
 
-QColor shown(Color color, QPalette::ColorRole ground)
+QColor shown(Color color, QPalette::ColorRole background)
 {
     const QPalette palette = QApplication::palette();
     const QColor plain = toQColor(color);
-    return isDark(palette) ? turned(plain, palette.color(ground)) : plain;
+    return isDark(palette) ? inverted(plain, palette.color(background)) : plain;
 }
 
-QColor shownStroke(Color color, const QColor& ground, double enough)
+QColor shownStroke(Color color, const QColor& background, double minContrast)
 {
-    const QColor plain = readable(toQColor(color), ground, enough);
+    const QColor plain = readable(toQColor(color), background, minContrast);
     if (!isDark(QApplication::palette()))
         return plain;
-    const QColor turnedRound = readable(turned(toQColor(color), ground), ground, enough);
-    return colorfulness(plain) > colorfulness(turnedRound) ? plain : turnedRound;
+    const QColor invertedFirst = readable(inverted(toQColor(color), background), background, minContrast);
+    return colorfulness(plain) > colorfulness(invertedFirst) ? plain : invertedFirst;
 }
 
 void Colors::applyToField(QWidget& widget, Color background, Color text)

@@ -22,20 +22,20 @@ inline constexpr double lineContrast = 3; ///< what a line needs to be seen with
 inline constexpr double quietContrast = 1.6; ///< what holds a group together without drawing the eye
 
 /// The colour, mixed with as much black or white as it needs to have that contrast with the background.
-[[nodiscard]] QColor readable(const QColor& color, const QColor& background, double enough = textContrast);
+[[nodiscard]] QColor readable(const QColor& color, const QColor& background, double minContrast = textContrast);
 
 /// A colour for dark windows, from one meant for light ones: the luma is inverted, the hue stays, and white becomes the
 /// dark background.
-[[nodiscard]] QColor turned(const QColor& color, const QColor& ground);
+[[nodiscard]] QColor inverted(const QColor& color, const QColor& background);
 
 /// The colour of a control as it is shown: itself on light palettes, inverted on dark ones, where white becomes that
 /// role.
-[[nodiscard]] QColor shown(Color color, QPalette::ColorRole ground);
+[[nodiscard]] QColor shown(Color color, QPalette::ColorRole background);
 
 /// The colour of a text or a line as it is shown on that background, with that contrast. On dark palettes it is
 /// inverted too, unless that would leave less of its hue than making it readable as it is: a pure blue, inverted, can
 /// hardly be told from white.
-[[nodiscard]] QColor shownStroke(Color color, const QColor& ground, double enough = textContrast);
+[[nodiscard]] QColor shownStroke(Color color, const QColor& background, double minContrast = textContrast);
 
 /// The colours of one widget: those that its control asks for, and the system's elsewhere.
 class Colors {

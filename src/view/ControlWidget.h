@@ -13,7 +13,8 @@
 
 namespace ondelis {
 
-/// Shows a control in a sub-window: follows the control's properties, and tells the desk what the user does with it.
+/// The widget of a control in a sub-window: shows the control's properties, and reports to the runtime what the user
+/// does with it.
 class ControlWidget {
 public:
     explicit ControlWidget(PanelWindow& window) : window_{window} { }
@@ -23,14 +24,14 @@ public:
 
     [[nodiscard]] virtual QWidget& widget() = 0;
     /// Shows the properties that the control has now. Called only while the panel is loaded.
-    virtual void follow() = 0;
+    virtual void refresh() = 0;
     /// The system's colours have changed.
     void forgetColors() { colors_.forget(); }
 
 protected:
     [[nodiscard]] PanelWindow& panelWindow() const { return window_; }
     /// The panel is closed, or closed and reopened in another window: reading a property would load it again.
-    [[nodiscard]] bool gone() const { return window_.gone(); }
+    [[nodiscard]] bool detached() const { return window_.detached(); }
 
     [[nodiscard]] Colors& colors() { return colors_; }
 
@@ -54,33 +55,33 @@ protected:
 
     [[nodiscard]] Shown& control() const { return control_; }
 
-    /// Tells the desk what the user does with the control; shows it again even if that was refused.
+    /// Runs an action of the user on the control; shows the control again even if that was refused.
     template <class Action>
-    void tell(Action&& action)
+    void perform(Action&& action)
     {
-        if (gone())
+        if (detached())
             return;
         panelWindow().view().perform([&](User& user) {
             action(user);
-            if (!gone())
+            if (!detached())
                 panelWindow().view().controlChanged(control_);
         });
     }
 
-    void tellFocus()
+    void reportFocus()
     {
-        tell([this](User& user) { user.focus(control_); });
+        perform([this](User& user) { user.focus(control_); });
     }
 
     void focusInEvent(QFocusEvent* event) override
     {
         Base::focusInEvent(event);
-        tellFocus();
+        reportFocus();
     }
 
-    /// Puts the widget at its design place, on the panel or in its frame.
-    void place() { place(control_.at().Top); }
-    void place(double top)
+    /// Gives the widget the place and size of its design, on the panel or in its frame.
+    void applyGeometry() { applyGeometry(control_.at().Top); }
+    void applyGeometry(double top)
     {
         Box at = control_.at();
         at.Top = top;

@@ -8,14 +8,14 @@
 namespace ondelis {
 namespace {
 
-void copyOn(QAction& action, const QString& text)
+void copyWhenTriggered(QAction& action, const QString& text)
 {
     QObject::connect(&action, &QAction::triggered, &action, [text] { QGuiApplication::clipboard()->setText(text); });
 }
 
 /// Whether an entry of a context menu is the one that copies: which letter is underlined depends on the kind of field,
 /// and the key follows the text.
-bool copies(const QAction* entry)
+bool isCopyAction(const QAction* entry)
 {
     const auto plain
         = [](const QString& words) { return words.section(QLatin1Char{'\t'}, 0, 0).remove(QLatin1Char{'&'}); };
@@ -24,7 +24,7 @@ bool copies(const QAction* entry)
 
 } // namespace
 
-bool copyWhole(const QKeyEvent& event, bool selected, const QString& text)
+bool copyAll(const QKeyEvent& event, bool selected, const QString& text)
 {
     if (!event.matches(QKeySequence::Copy) || selected || text.isEmpty())
         return false;
@@ -32,22 +32,22 @@ bool copyWhole(const QKeyEvent& event, bool selected, const QString& text)
     return true;
 }
 
-void popUp(QMenu* menu, const QPoint& place, bool selected, const QString& text)
+void showFieldMenu(QMenu* menu, const QPoint& place, bool selected, const QString& text)
 {
     const QList<QAction*> actions = menu->actions();
-    const auto copy = std::ranges::find_if(actions, copies);
+    const auto copy = std::ranges::find_if(actions, isCopyAction);
     if (copy != actions.end() && !selected && !text.isEmpty()) {
         (*copy)->setEnabled(true); // the field's own copying does nothing without a selection
-        copyOn(**copy, text);
+        copyWhenTriggered(**copy, text);
     }
     menu->setAttribute(Qt::WA_DeleteOnClose);
     menu->popup(place);
 }
 
-void popUpCopy(QWidget& widget, const QPoint& place, const QString& text)
+void showCopyMenu(QWidget& widget, const QPoint& place, const QString& text)
 {
     auto* const menu = new QMenu{&widget};
-    copyOn(*menu->addAction(QLineEdit::tr("&Copy")), text);
+    copyWhenTriggered(*menu->addAction(QLineEdit::tr("&Copy")), text);
     menu->setAttribute(Qt::WA_DeleteOnClose);
     menu->popup(place);
 }

@@ -10,14 +10,14 @@ namespace ondelis {
 // enough to copy it.
 
 /// Copies the whole text on the copy key if nothing is selected. True if it has done so.
-[[nodiscard]] bool copyWhole(const QKeyEvent& event, bool selected, const QString& text);
+[[nodiscard]] bool copyAll(const QKeyEvent& event, bool selected, const QString& text);
 
 /// The context menu of a field, which the toolkit has made, with its entry "Copier" enabled even if nothing is
 /// selected: then it copies the whole text. The menu deletes itself when it closes.
-void popUp(QMenu* menu, const QPoint& place, bool selected, const QString& text);
+void showFieldMenu(QMenu* menu, const QPoint& place, bool selected, const QString& text);
 
 /// The context menu of a text that takes no keyboard: "Copier", which copies all of it. It deletes itself when it
 /// closes.
-void popUpCopy(QWidget& widget, const QPoint& place, const QString& text);
+void showCopyMenu(QWidget& widget, const QPoint& place, const QString& text);
 
 } // namespace ondelis

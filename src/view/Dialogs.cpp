@@ -29,7 +29,7 @@ void run(QMessageBox& dialog)
 
 } // namespace
 
-Answer ask(QWidget& window, const MessageBox& box)
+Answer showMessageBox(QWidget& window, const MessageBox& box)
 {
     QMessageBox dialog{
         QMessageBox::NoIcon, toQString(box.title), toQString(box.prompt), QMessageBox::NoButton, &window};
@@ -46,10 +46,10 @@ Answer ask(QWidget& window, const MessageBox& box)
     return dialog.clickedButton() == yes ? Answer::Yes : Answer::No;
 }
 
-void tell(QWidget& window, const Fault& fault)
+void showFaultBox(QWidget& window, const Fault& fault)
 {
     const std::string number = std::to_string(fault.number());
-    ask(window, {.prompt = "Erreur " + number + " : " + fault.text() + ".\n\nLe programme va s'arrêter."});
+    showMessageBox(window, {.prompt = "Erreur " + number + " : " + fault.text() + ".\n\nLe programme va s'arrêter."});
 }
 
 } // namespace ondelis

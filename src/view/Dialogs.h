@@ -2,15 +2,15 @@
 
 #include <QWidget>
 
-#include "forms/Surroundings.h"
+#include "forms/Host.h"
 #include "kit/Fault.h"
 
 namespace ondelis {
 
 /// Shows a message box over the window and waits for the answer.
-Answer ask(QWidget& window, const MessageBox& box);
+Answer showMessageBox(QWidget& window, const MessageBox& box);
 
 /// Names the fault that ends the program, and waits until it has been read.
-void tell(QWidget& window, const Fault& fault);
+void showFaultBox(QWidget& window, const Fault& fault);
 
 } // namespace ondelis

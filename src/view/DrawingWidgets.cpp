@@ -20,10 +20,10 @@ void Drawing::paint(QWidget& widget, const QRect& into)
     const double ratio = widget.devicePixelRatioF();
     const QSize pixels = into.size() * ratio;
     const QPalette& palette = widget.palette();
-    const QColor ground = isDark(palette) ? palette.color(QPalette::Window) : QColor{};
+    const QColor background = isDark(palette) ? palette.color(QPalette::Window) : QColor{};
     const QString family = widget.font().family();
-    if (rendered_.size() != pixels || darkGround_ != ground || family_ != family) {
-        darkGround_ = ground;
+    if (rendered_.size() != pixels || darkBackground_ != background || family_ != family) {
+        darkBackground_ = background;
         family_ = family;
         rendered_ = render(pixels);
         rendered_.setDevicePixelRatio(ratio);
@@ -31,13 +31,13 @@ void Drawing::paint(QWidget& widget, const QRect& into)
     QPainter{&widget}.drawPixmap(into.topLeft(), rendered_);
 }
 
-QByteArray Drawing::darkened(const QByteArray& svg, const QColor& ground)
+QByteArray Drawing::darkened(const QByteArray& svg, const QColor& background)
 {
     constexpr int length = 7; // of a colour as written, "#1f2d3d"
     QByteArray dark = svg;
     for (qsizetype at = dark.indexOf("\"#"); at >= 0; at = dark.indexOf("\"#", at + length)) {
         const QColor light{QString::fromLatin1(dark.mid(at + 1, length))};
-        dark.replace(at + 1, length, turned(light, ground).name().toLatin1());
+        dark.replace(at + 1, length, inverted(light, background).name().toLatin1());
     }
     return dark;
 }
@@ -48,7 +48,7 @@ QPixmap Drawing::render(const QSize& pixels) const
     if (!file.open(QIODevice::ReadOnly))
         return {};
     const QByteArray svg = file.readAll();
-    QSvgRenderer renderer{darkGround_.isValid() ? darkened(svg, darkGround_) : svg};
+    QSvgRenderer renderer{darkBackground_.isValid() ? darkened(svg, darkBackground_) : svg};
     renderer.setAspectRatioMode(Qt::KeepAspectRatio);
     QPixmap pixmap{pixels};
     pixmap.fill(Qt::transparent);
@@ -64,9 +64,9 @@ FrameWidget::FrameWidget(PanelWindow& window, Frame& frame, QWidget* parent)
     setAutoFillBackground(true);
 }
 
-void FrameWidget::follow()
+void FrameWidget::refresh()
 {
-    place();
+    applyGeometry();
     setVisible(control().Visible);
 }
 
@@ -83,9 +83,9 @@ PictureWidget::PictureWidget(PanelWindow& window, Picture& picture, QWidget* par
 {
 }
 
-void PictureWidget::follow()
+void PictureWidget::refresh()
 {
-    place();
+    applyGeometry();
     setVisible(control().Visible);
 }
 

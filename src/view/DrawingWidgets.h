@@ -18,7 +18,7 @@ public:
 
     /// A drawing for dark windows, from its source for light ones. Colours that it writes as rgb(...) belong to things
     /// that look the same on both, and stay.
-    [[nodiscard]] static QByteArray darkened(const QByteArray& svg, const QColor& ground);
+    [[nodiscard]] static QByteArray darkened(const QByteArray& svg, const QColor& background);
 
     /// Paints the drawing as large as it fits, in the middle of a part of the widget.
     void paint(QWidget& widget, const QRect& into);
@@ -29,7 +29,7 @@ private:
     QString file_;
     QPixmap rendered_;
     QString family_; ///< of the lettering
-    QColor darkGround_; ///< invalid on light windows
+    QColor darkBackground_; ///< invalid on light windows
 };
 
 /// A titled group of controls, or a titled drawing. It hides captions and drawings of the panel that lie under it.
@@ -37,7 +37,7 @@ class FrameWidget final : public WidgetOf<QGroupBox, Frame> {
 public:
     FrameWidget(PanelWindow& window, Frame& frame, QWidget* parent);
 
-    void follow() override;
+    void refresh() override;
 
 protected:
     void paintEvent(QPaintEvent* event) override;
@@ -51,7 +51,7 @@ class PictureWidget final : public WidgetOf<QWidget, Picture> {
 public:
     PictureWidget(PanelWindow& window, Picture& picture, QWidget* parent);
 
-    void follow() override;
+    void refresh() override;
 
 protected:
     void paintEvent(QPaintEvent* event) override;

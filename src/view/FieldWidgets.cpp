@@ -6,7 +6,7 @@
 #include <QSignalBlocker>
 #include <QWheelEvent>
 
-#include "forms/Desk.h"
+#include "forms/Runtime.h"
 #include "view/Copying.h"
 #include "view/Fonts.h"
 
@@ -41,86 +41,86 @@ TextBoxWidget::TextBoxWidget(PanelWindow& window, TextBox& box, QWidget* parent)
 {
     setFont(fontOf(box.design().font, *parent));
     setAlignment(horizontal(box.design().align));
-    connect(this, &QLineEdit::textChanged, this, [this] { tellText(); });
+    connect(this, &QLineEdit::textChanged, this, [this] { reportText(); });
 }
 
-void TextBoxWidget::follow()
+void TextBoxWidget::refresh()
 {
-    place(Double{control().Top}.value());
-    followText();
+    applyGeometry(Double{control().Top}.value());
+    refreshText();
     setReadOnly(control().Locked);
     colors().applyToField(*this, control().BackColor, control().ForeColor);
     setVisible(control().Visible);
 }
 
-void TextBoxWidget::followText()
+void TextBoxWidget::refreshText()
 {
     const QSignalBlocker quiet{this};
     const QString stored = toQString(control().Text.get());
     if (stored != text()) {
         setText(stored);
         // A text shows its start, but in the field being typed in the caret stays where typing continues.
-        if (panelWindow().panel().desk().focused() != &control())
+        if (panelWindow().panel().runtime().focused() != &control())
             setCursorPosition(0);
     }
 }
 
-void TextBoxWidget::tellText()
+void TextBoxWidget::reportText()
 {
-    const QString told = text();
-    const QString after = told.mid(cursorPosition());
-    tell([&](User& user) { user.edit(control(), toText(told.left(cursorPosition())), toText(after)); });
+    const QString entered = text();
+    const QString after = entered.mid(cursorPosition());
+    perform([&](User& user) { user.edit(control(), toText(entered.left(cursorPosition())), toText(after)); });
     // What was put in may have been cut: typing continues after it.
-    if (!gone() && text() != told && text().endsWith(after))
+    if (!detached() && text() != entered && text().endsWith(after))
         setCursorPosition(static_cast<int>(text().size() - after.size()));
 }
 
-bool TextBoxWidget::tellKey(char32_t character)
+bool TextBoxWidget::reportKey(char32_t character)
 {
     if (isReadOnly())
         return true;
     bool rewritten = false;
-    tell([&](User& user) { rewritten = user.key(control(), character); });
-    return !gone() && !(rewritten && character == backspaceKey);
+    perform([&](User& user) { rewritten = user.key(control(), character); });
+    return !detached() && !(rewritten && character == backspaceKey);
 }
 
 void TextBoxWidget::keyPressEvent(QKeyEvent* event)
 {
-    if (copyWhole(*event, hasSelectedText(), text()))
+    if (copyAll(*event, hasSelectedText(), text()))
         return;
     const char32_t character = enteredBy(*event);
-    if (character == 0 || tellKey(character))
+    if (character == 0 || reportKey(character))
         LineField::keyPressEvent(event);
 }
 
 void TextBoxWidget::inputMethodEvent(QInputMethodEvent* event)
 {
     for (const char32_t character : event->commitString().toUcs4())
-        tellKey(character);
-    if (!gone())
+        reportKey(character);
+    if (!detached())
         LineField::inputMethodEvent(event);
 }
 
 void TextBoxWidget::contextMenuEvent(QContextMenuEvent* event)
 {
-    popUp(createStandardContextMenu(), event->globalPos(), hasSelectedText(), text());
+    showFieldMenu(createStandardContextMenu(), event->globalPos(), hasSelectedText(), text());
 }
 
 TextAreaWidget::TextAreaWidget(PanelWindow& window, TextBox& box, QWidget* parent) : WidgetOf{window, box, parent}
 {
     setFont(fontOf(box.design().font, *parent));
     setTabChangesFocus(true);
-    connect(this, &QPlainTextEdit::textChanged, this, [this] { tellText(); });
+    connect(this, &QPlainTextEdit::textChanged, this, [this] { reportText(); });
 }
 
-void TextAreaWidget::follow()
+void TextAreaWidget::refresh()
 {
-    place(Double{control().Top}.value());
+    applyGeometry(Double{control().Top}.value());
     const QSignalBlocker quiet{this};
     const QString stored = toQString(control().Text.get());
     if (stored != toPlainText()) {
         setPlainText(stored);
-        if (panelWindow().panel().desk().focused() == &control())
+        if (panelWindow().panel().runtime().focused() == &control())
             moveCursor(QTextCursor::End);
     }
     setReadOnly(control().Locked);
@@ -132,13 +132,13 @@ void TextAreaWidget::follow()
 
 void TextAreaWidget::keyPressEvent(QKeyEvent* event)
 {
-    if (!copyWhole(*event, textCursor().hasSelection(), toPlainText()))
+    if (!copyAll(*event, textCursor().hasSelection(), toPlainText()))
         QPlainTextEdit::keyPressEvent(event);
 }
 
 void TextAreaWidget::contextMenuEvent(QContextMenuEvent* event)
 {
-    popUp(createStandardContextMenu(), event->globalPos(), textCursor().hasSelection(), toPlainText());
+    showFieldMenu(createStandardContextMenu(), event->globalPos(), textCursor().hasSelection(), toPlainText());
 }
 
 void TextAreaWidget::wheelEvent(QWheelEvent* event)
@@ -150,11 +150,11 @@ void TextAreaWidget::wheelEvent(QWheelEvent* event)
         QPlainTextEdit::wheelEvent(event);
 }
 
-void TextAreaWidget::tellText()
+void TextAreaWidget::reportText()
 {
-    const QString told = toPlainText();
+    const QString entered = toPlainText();
     const int caret = textCursor().position();
-    tell([&](User& user) { user.edit(control(), toText(told.left(caret)), toText(told.mid(caret))); });
+    perform([&](User& user) { user.edit(control(), toText(entered.left(caret)), toText(entered.mid(caret))); });
 }
 
 MaskEdBoxWidget::MaskEdBoxWidget(PanelWindow& window, MaskEdBox& box, QWidget* parent) : WidgetOf{window, box, parent}
@@ -162,9 +162,9 @@ MaskEdBoxWidget::MaskEdBoxWidget(PanelWindow& window, MaskEdBox& box, QWidget* p
     setReadOnly(true);
 }
 
-void MaskEdBoxWidget::follow()
+void MaskEdBoxWidget::refresh()
 {
-    place();
+    applyGeometry();
     setText(toQString(hasFocus() ? control().Text.get() : control().display()));
     setCursorPosition(0);
     colors().applyToField(*this, control().design().BackColor, windowTextColor);
@@ -172,20 +172,20 @@ void MaskEdBoxWidget::follow()
 
 void MaskEdBoxWidget::keyPressEvent(QKeyEvent* event)
 {
-    if (!copyWhole(*event, hasSelectedText(), text()))
+    if (!copyAll(*event, hasSelectedText(), text()))
         LineField::keyPressEvent(event);
 }
 
 void MaskEdBoxWidget::contextMenuEvent(QContextMenuEvent* event)
 {
-    popUp(createStandardContextMenu(), event->globalPos(), hasSelectedText(), text());
+    showFieldMenu(createStandardContextMenu(), event->globalPos(), hasSelectedText(), text());
 }
 
 void MaskEdBoxWidget::focusOutEvent(QFocusEvent* event)
 {
     LineField::focusOutEvent(event);
-    if (!gone())
-        follow();
+    if (!detached())
+        refresh();
 }
 
 } // namespace ondelis

@@ -13,7 +13,7 @@ class TextBoxWidget final : public WidgetOf<LineField, TextBox> {
 public:
     TextBoxWidget(PanelWindow& window, TextBox& box, QWidget* parent);
 
-    void follow() override;
+    void refresh() override;
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;
@@ -21,11 +21,11 @@ protected:
     void contextMenuEvent(QContextMenuEvent* event) override;
 
 private:
-    void followText();
-    void tellText();
+    void refreshText();
+    void reportText();
     /// Shows the panel a key before it lands. False if it must no longer land: the handler rewrote the text on a
     /// backspace, or the panel is gone.
-    bool tellKey(char32_t character);
+    bool reportKey(char32_t character);
 };
 
 /// A field of several lines.
@@ -33,7 +33,7 @@ class TextAreaWidget final : public WidgetOf<QPlainTextEdit, TextBox> {
 public:
     TextAreaWidget(PanelWindow& window, TextBox& box, QWidget* parent);
 
-    void follow() override;
+    void refresh() override;
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;
@@ -41,7 +41,7 @@ protected:
     void wheelEvent(QWheelEvent* event) override;
 
 private:
-    void tellText();
+    void reportText();
 };
 
 /// A display that shows its number in exponent form, and its text while it has the keyboard.
@@ -49,7 +49,7 @@ class MaskEdBoxWidget final : public WidgetOf<LineField, MaskEdBox> {
 public:
     MaskEdBoxWidget(PanelWindow& window, MaskEdBox& box, QWidget* parent);
 
-    void follow() override;
+    void refresh() override;
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;

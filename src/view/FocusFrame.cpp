@@ -6,7 +6,7 @@
 
 namespace ondelis {
 
-FocusFrame::FocusFrame(QWidget* surroundings) : QFocusFrame{surroundings}
+FocusFrame::FocusFrame(QWidget* parent) : QFocusFrame{parent}
 {
     hide();
 }

@@ -8,7 +8,7 @@ namespace ondelis {
 /// all. It is hidden until it is given a control.
 class FocusFrame final : public QFocusFrame {
 public:
-    explicit FocusFrame(QWidget* surroundings);
+    explicit FocusFrame(QWidget* parent);
 
 protected:
     void paintEvent(QPaintEvent* event) override;

@@ -17,9 +17,9 @@ LabelWidget::LabelWidget(PanelWindow& window, Label& label, QWidget* parent) : W
     setAlignment(horizontal(label.design().align) | (severalLines ? Qt::AlignTop : Qt::AlignVCenter));
 }
 
-void LabelWidget::follow()
+void LabelWidget::refresh()
 {
-    place(Double{control().Top}.value());
+    applyGeometry(Double{control().Top}.value());
     const QString caption = toQString(control().Caption.get());
     if (caption != text()) // each call is announced to screen readers
         setText(caption);
@@ -32,8 +32,8 @@ void LabelWidget::follow()
 
 void LabelWidget::contextMenuEvent(QContextMenuEvent* event)
 {
-    if (!gone() && control().written() && !text().isEmpty())
-        popUpCopy(*this, event->globalPos(), text());
+    if (!detached() && control().written() && !text().isEmpty())
+        showCopyMenu(*this, event->globalPos(), text());
     else
         event->ignore();
 }

@@ -13,7 +13,7 @@ class LabelWidget final : public WidgetOf<QLabel, Label> {
 public:
     LabelWidget(PanelWindow& window, Label& label, QWidget* parent);
 
-    void follow() override;
+    void refresh() override;
 
 protected:
     void contextMenuEvent(QContextMenuEvent* event) override;

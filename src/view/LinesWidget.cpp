@@ -10,7 +10,7 @@ namespace ondelis {
 namespace {
 
 /// The part of a line that runs through an area, if any. A result can give a line too long for the painter.
-std::optional<QLineF> partInside(const QLineF& line, const QRectF& area)
+std::optional<QLineF> clipped(const QLineF& line, const QRectF& area)
 {
     double from = 0;
     double to = 1;
@@ -42,7 +42,7 @@ std::optional<QLineF> LinesWidget::painted(const Line& line) const
     return stroke == strokes_.end() ? std::nullopt : std::optional{stroke->line};
 }
 
-void LinesWidget::follow()
+void LinesWidget::refresh()
 {
     const Scale scale{*this};
     strokes_.clear();
@@ -52,7 +52,7 @@ void LinesWidget::follow()
     rectangles_.clear();
     for (const Shape* shape : shapes_)
         rectangles_.push_back(scale.pixels(shape->at()));
-    cover();
+    fitGeometry();
     update();
 }
 
@@ -68,7 +68,7 @@ void LinesWidget::draw(const Line& line, const Scale& scale)
         stroke.area = scale.pixels(around->at()).adjusted(1, 1, -1, -1);
         const double beyond = stroke.width; // so that the ends of a cut line lie out of sight
         const QRectF reach = QRectF{stroke.area}.adjusted(-beyond, -beyond, beyond, beyond);
-        const std::optional<QLineF> inside = partInside(stroke.line, reach);
+        const std::optional<QLineF> inside = clipped(stroke.line, reach);
         if (!inside)
             return;
         stroke.line = *inside;
@@ -76,7 +76,7 @@ void LinesWidget::draw(const Line& line, const Scale& scale)
     strokes_.push_back(stroke);
 }
 
-void LinesWidget::cover()
+void LinesWidget::fitGeometry()
 {
     QRectF area;
     for (const Stroke& stroke : strokes_) {

@@ -21,7 +21,7 @@ public:
     [[nodiscard]] std::optional<QLineF> painted(const Line& line) const;
 
     QWidget& widget() override { return *this; }
-    void follow() override;
+    void refresh() override;
 
 protected:
     void paintEvent(QPaintEvent* event) override;
@@ -38,7 +38,7 @@ private:
 
     void draw(const Line& line, const Scale& scale);
     /// Makes the widget reach from the upper left corner of the panel to the far end of what it paints.
-    void cover();
+    void fitGeometry();
 
     std::vector<const Line*> lines_;
     std::vector<const Shape*> shapes_;

@@ -13,18 +13,18 @@ ListBoxWidget::ListBoxWidget(PanelWindow& window, ListBox& list, QWidget* parent
     setEditTriggers(NoEditTriggers);
 }
 
-void ListBoxWidget::follow()
+void ListBoxWidget::refresh()
 {
-    const QScopedValueRollback following{following_, true};
-    place();
-    followRows();
+    const QScopedValueRollback refreshing{refreshing_, true};
+    applyGeometry();
+    refreshRows();
     const int row = control().ListIndex.get().value();
     setCurrentRow(row, QItemSelectionModel::ClearAndSelect);
     colors().applyToField(*this, control().BackColor, windowTextColor);
     setVisible(control().Visible);
 }
 
-void ListBoxWidget::followRows()
+void ListBoxWidget::refreshRows()
 {
     QStringList rows;
     for (const std::string& text : control().items())
@@ -46,7 +46,7 @@ bool ListBoxWidget::event(QEvent* event)
     ++events_;
     const bool done = QListWidget::event(event);
     --events_;
-    tellChoice();
+    reportChoice();
     return done;
 }
 
@@ -55,7 +55,7 @@ bool ListBoxWidget::viewportEvent(QEvent* event)
     ++events_;
     const bool done = QListWidget::viewportEvent(event);
     --events_;
-    tellChoice();
+    reportChoice();
     return done;
 }
 
@@ -64,7 +64,7 @@ void ListBoxWidget::mousePressEvent(QMouseEvent* event)
     if (event->button() != Qt::LeftButton) // the base class would choose by any button
         return;
     setFocus(Qt::MouseFocusReason);
-    if (gone())
+    if (detached())
         return;
     QListWidget::mousePressEvent(event);
     // A click on the row already chosen is reported too: some lists listen to it.
@@ -76,12 +76,12 @@ void ListBoxWidget::focusInEvent(QFocusEvent* event)
     // The base class would choose the first row.
     QAbstractScrollArea::focusInEvent(event); // NOLINT(bugprone-parent-virtual-call)
     viewport()->update();
-    tellFocus();
+    reportFocus();
 }
 
 void ListBoxWidget::currentChanged(const QModelIndex& current, const QModelIndex& previous)
 {
-    // The class in between would tell screen readers that the keyboard is here now.
+    // The class in between would report to screen readers that the keyboard is here now.
     if (hasFocus())
         QListWidget::currentChanged(current, previous);
     else
@@ -91,19 +91,19 @@ void ListBoxWidget::currentChanged(const QModelIndex& current, const QModelIndex
 void ListBoxWidget::selectionChanged(const QItemSelection& selected, const QItemSelection& deselected)
 {
     QListWidget::selectionChanged(selected, deselected);
-    if (following_)
+    if (refreshing_)
         return;
     chosen_ = true;
     if (events_ == 0) // not by mouse or key: a screen reader did it
-        tellChoice();
+        reportChoice();
 }
 
-void ListBoxWidget::tellChoice()
+void ListBoxWidget::reportChoice()
 {
     if (events_ > 0 || !chosen_)
         return;
     chosen_ = false;
-    tell([&](User& user) { user.choose(control(), currentRow()); });
+    perform([&](User& user) { user.choose(control(), currentRow()); });
 }
 
 } // namespace ondelis

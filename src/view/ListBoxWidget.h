@@ -12,7 +12,7 @@ class ListBoxWidget final : public WidgetOf<QListWidget, ListBox> {
 public:
     ListBoxWidget(PanelWindow& window, ListBox& list, QWidget* parent);
 
-    void follow() override;
+    void refresh() override;
 
 protected:
     bool event(QEvent* event) override;
@@ -25,12 +25,12 @@ protected:
 private:
     static constexpr double rowHeight = 240; ///< twips
 
-    void followRows();
-    /// Tells the desk which row the user has chosen, once the base class is done with the event.
-    void tellChoice();
+    void refreshRows();
+    /// Reports to the runtime which row the user has chosen, once the base class is done with the event.
+    void reportChoice();
 
     bool chosen_ = false; ///< by the event that the base class is working on
-    bool following_ = false;
+    bool refreshing_ = false;
     unsigned events_ = 0; ///< that the base class is working on
 };
 

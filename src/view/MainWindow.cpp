@@ -45,10 +45,10 @@ MainWindow::MainWindow(View& view, MDIOndelis& frame) : view_{view}, frame_{fram
     makeShortcuts();
 }
 
-void MainWindow::follow()
+void MainWindow::refresh()
 {
     setWindowTitle(toQString(frame_.Caption.get()));
-    takePlace();
+    applyGeometry();
 }
 
 bool MainWindow::eventFilter(QObject* watched, QEvent* event)
@@ -83,21 +83,21 @@ void MainWindow::paintEvent(QPaintEvent* event)
 void MainWindow::showEvent(QShowEvent* event)
 {
     QMainWindow::showEvent(event);
-    tellPlace();
+    reportGeometry();
 }
 
 void MainWindow::moveEvent(QMoveEvent* event)
 {
     QMainWindow::moveEvent(event);
-    tellPlace();
-    keepInSight();
+    reportGeometry();
+    keepContentsVisible();
 }
 
 void MainWindow::resizeEvent(QResizeEvent* event)
 {
     QMainWindow::resizeEvent(event);
-    tellPlace();
-    keepInSight();
+    reportGeometry();
+    keepContentsVisible();
 }
 
 void MainWindow::makeMenu()
@@ -124,7 +124,7 @@ void MainWindow::makeShortcuts()
         [this] { menuBar()->setActiveAction(menuBar()->actions().front()); });
 }
 
-QRect MainWindow::toldPlace() const
+QRect MainWindow::statedGeometry() const
 {
     return Scale{*this}.pixels({.Left = Double{frame_.Left}.value(),
         .Top = Double{frame_.Top}.value(),
@@ -137,14 +137,14 @@ QSize MainWindow::border() const
     return frameGeometry().size() - geometry().size();
 }
 
-void MainWindow::takePlace()
+void MainWindow::applyGeometry()
 {
-    const QRect outer = toldPlace();
+    const QRect outer = statedGeometry();
     resize(outer.size() - border());
     move(outer.topLeft());
 }
 
-void MainWindow::tellPlace()
+void MainWindow::reportGeometry()
 {
     if (!isVisible() || isMinimized())
         return;
@@ -153,18 +153,18 @@ void MainWindow::tellPlace()
     if (!bordered_ && !border().isNull()) {
         bordered_ = true;
         if (!isMaximized()) {
-            takePlace();
+            applyGeometry();
             return;
         }
     }
-    if (frameGeometry() == toldPlace())
+    if (frameGeometry() == statedGeometry())
         return;
     const Scale scale{*this};
-    frame_.placed({scale.twips(frameGeometry().x()), scale.twips(frameGeometry().y())},
+    frame_.geometryChanged({scale.twips(frameGeometry().x()), scale.twips(frameGeometry().y())},
         {scale.twips(frameGeometry().width()), scale.twips(frameGeometry().height())});
 }
 
-void MainWindow::keepInSight()
+void MainWindow::keepContentsVisible()
 {
     const QRect screens = screen()->availableVirtualGeometry();
     const QRect inner = geometry();

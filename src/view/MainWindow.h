@@ -16,7 +16,7 @@ public:
 
     [[nodiscard]] ClientArea& area() const { return *area_; }
     /// Shows caption, place and size of the frame.
-    void follow();
+    void refresh();
 
 protected:
     /// Passes on keys that reach a drop-down after it has been left: fast typing outruns the system.
@@ -31,14 +31,14 @@ private:
     void makeMenu();
     void makeShortcuts();
     /// Where the frame says that the window is, its border included; pixels.
-    [[nodiscard]] QRect toldPlace() const;
+    [[nodiscard]] QRect statedGeometry() const;
     /// What a window manager adds to the window.
     [[nodiscard]] QSize border() const;
-    void takePlace();
-    /// Tells the frame where the user has put the window.
-    void tellPlace();
+    void applyGeometry();
+    /// Reports to the frame where the user has put the window.
+    void reportGeometry();
     /// Keeps menu and client area in the part of the window that can be seen, where it is larger than the screen.
-    void keepInSight();
+    void keepContentsVisible();
 
     View& view_;
     MDIOndelis& frame_;

@@ -18,7 +18,7 @@
 #include "view/TabOrder.h"
 #include "view/Texts.h"
 #include "view/View.h"
-#include "view/WidgetMaker.h"
+#include "view/WidgetFactory.h"
 
 namespace ondelis {
 
@@ -36,7 +36,7 @@ PanelWindow::PanelWindow(View& view, FeuilleCalcul& panel)
 
 PanelWindow::~PanelWindow()
 {
-    leave(); // widgets that lose the keyboard while they are destroyed must not report it
+    detach(); // widgets that lose the keyboard while they are destroyed must not report it
     if (QWidget* const keyboard = focusWidget()) // the base class would, once this one is already destroyed
         keyboard->clearFocus();
     disconnect(qApp, nullptr, this, nullptr);
@@ -57,27 +57,27 @@ Control* PanelWindow::controlOf(const QWidget* widget) const
     return found == panel_.controls().end() ? nullptr : *found;
 }
 
-void PanelWindow::follow()
+void PanelWindow::refresh()
 {
-    const QScopedValueRollback following{following_, true};
+    const QScopedValueRollback refreshing{refreshing_, true};
     setWindowTitle(toQString(panel_.Caption.get()));
     names_.rename(nullptr, panel_.Caption);
     const Scale scale{*this};
     setFixedSize(scale.pixels(Double{panel_.Width}.value()), scale.pixels(Double{panel_.Height}.value()));
     const QPoint corner{scale.pixels(Double{panel_.Left}.value()), scale.pixels(Double{panel_.Top}.value())};
-    move(corner - scrolled());
+    move(corner - scrollOffset());
     fitTitle();
 }
 
-void PanelWindow::follow(const Control& control)
+void PanelWindow::refresh(const Control& control)
 {
     ControlWidget* const shown = find(control);
     if (shown == nullptr)
         return;
     const int y = shown->widget().y();
-    shown->follow();
+    shown->refresh();
     if (focusFrame_ != nullptr && shown->widget().y() != y) // all widgets are there, and one has moved
-        orderTabs(*this);
+        updateTabOrder(*this);
 }
 
 void PanelWindow::activate()
@@ -98,29 +98,29 @@ void PanelWindow::activate()
 void PanelWindow::closeEvent(QCloseEvent* event)
 {
     event->ignore(); // the window goes once the panel is unloaded and no handler runs
-    if (!gone_)
+    if (!detached_)
         view_.perform([this](User& user) { user.close(panel_); });
 }
 
 void PanelWindow::moveEvent(QMoveEvent* event)
 {
     QMdiSubWindow::moveEvent(event);
-    if (gone_ || following_ || mdiArea() == nullptr)
+    if (detached_ || refreshing_ || mdiArea() == nullptr)
         return;
     const Scale scale{*this};
-    const QPoint told{scale.pixels(Double{panel_.Left}.value()), scale.pixels(Double{panel_.Top}.value())};
-    if (corner() != told)
-        panel_.placed({scale.twips(corner().x()), scale.twips(corner().y())});
+    const QPoint stated{scale.pixels(Double{panel_.Left}.value()), scale.pixels(Double{panel_.Top}.value())};
+    if (corner() != stated)
+        panel_.moved({scale.twips(corner().x()), scale.twips(corner().y())});
 }
 
 void PanelWindow::changeEvent(QEvent* event)
 {
     QMdiSubWindow::changeEvent(event);
-    if (event->type() != QEvent::PaletteChange || gone_)
+    if (event->type() != QEvent::PaletteChange || detached_)
         return;
     for (const auto& [control, shown] : widgets_) {
         shown->forgetColors();
-        shown->follow();
+        shown->refresh();
     }
 }
 
@@ -132,13 +132,13 @@ void PanelWindow::makeWidgets()
     form->setFont(font);
     setWidget(form);
 
-    WidgetMaker maker{*this};
+    WidgetFactory factory{*this};
     for (Control* control : panel_.controls())
-        if (ControlWidget* const made = maker.make(*control))
+        if (ControlWidget* const made = factory.make(*control))
             widgets_.emplace(control, made);
-    maker.stack();
+    factory.stack();
     for (Control* control : panel_.controls())
-        follow(*control);
+        refresh(*control);
 
     focusFrame_ = new FocusFrame{form};
     connect(qApp, &QApplication::focusChanged, this, [this] { markFocus(); });
@@ -146,7 +146,7 @@ void PanelWindow::makeWidgets()
 
 void PanelWindow::markFocus()
 {
-    if (gone_)
+    if (detached_)
         return;
     // Not what the signal says: the window passes the keyboard on to a control inside its own signal, so that the last
     // signal to arrive is about the window.
@@ -155,7 +155,7 @@ void PanelWindow::markFocus()
     focusFrame_->setWidget(mine ? focused : nullptr);
     // Under a mouse button nothing must move away.
     if (mine && QApplication::mouseButtons() == Qt::NoButton)
-        view_.mainWindow().area().bringIntoSight(*focused);
+        view_.mainWindow().area().ensureVisible(*focused);
 }
 
 void PanelWindow::makeMenu()
@@ -183,10 +183,10 @@ void PanelWindow::fitTitle()
 
 QPoint PanelWindow::corner() const
 {
-    return pos() + scrolled();
+    return pos() + scrollOffset();
 }
 
-QPoint PanelWindow::scrolled() const
+QPoint PanelWindow::scrollOffset() const
 {
     const QMdiArea* const area = mdiArea();
     return area == nullptr ? QPoint{}

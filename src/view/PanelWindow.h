@@ -20,8 +20,8 @@ public:
     ~PanelWindow() override;
 
     /// The panel is closed. From now on nothing of it is read.
-    void leave() { gone_ = true; }
-    [[nodiscard]] bool gone() const { return gone_; }
+    void detach() { detached_ = true; }
+    [[nodiscard]] bool detached() const { return detached_; }
 
     [[nodiscard]] View& view() const { return view_; }
     [[nodiscard]] FeuilleCalcul& panel() const { return panel_; }
@@ -34,9 +34,9 @@ public:
     [[nodiscard]] Control* controlOf(const QWidget* widget) const;
 
     /// Shows caption, place and size of the panel.
-    void follow();
+    void refresh();
     /// Shows the properties of a control.
-    void follow(const Control& control);
+    void refresh(const Control& control);
 
     /// Brings the panel before the others; the first time with the keyboard in its first field, the text selected.
     void activate();
@@ -55,16 +55,16 @@ private:
     void fitTitle();
     /// The upper left corner in the client area of the main window, which may be scrolled.
     [[nodiscard]] QPoint corner() const;
-    [[nodiscard]] QPoint scrolled() const;
+    [[nodiscard]] QPoint scrollOffset() const;
 
     View& view_;
     FeuilleCalcul& panel_;
     std::unordered_map<const Control*, ControlWidget*> widgets_;
     AccessibleNames names_;
     FocusFrame* focusFrame_ = nullptr;
-    bool gone_ = false;
+    bool detached_ = false;
     bool activated_ = false;
-    bool following_ = false;
+    bool refreshing_ = false;
 };
 
 } // namespace ondelis

@@ -11,7 +11,7 @@
 namespace ondelis {
 namespace {
 
-/// Tells screen readers the values of the control, not the positions of the widget.
+/// Reports to screen readers the values of the control, not the positions of the widget.
 class ScrollBarAccessible final : public QAccessibleWidget, public QAccessibleValueInterface {
 public:
     explicit ScrollBarAccessible(ScrollBarWidget& bar) : QAccessibleWidget{&bar, QAccessible::ScrollBar}, bar_{bar} { }
@@ -53,12 +53,12 @@ ScrollBarWidget::ScrollBarWidget(PanelWindow& window, ScrollBar& bar, Qt::Orient
     setContextMenuPolicy(Qt::NoContextMenu);
     setSingleStep(bar.design().SmallChange.value());
     setPageStep(bar.design().LargeChange.value());
-    connect(this, &QScrollBar::valueChanged, this, [this] { tellValue(); });
+    connect(this, &QScrollBar::valueChanged, this, [this] { reportValue(); });
 }
 
-void ScrollBarWidget::follow()
+void ScrollBarWidget::refresh()
 {
-    place();
+    applyGeometry();
     const QSignalBlocker quiet{this};
     const int before = shownValue();
     min_ = control().Min.get().value();
@@ -77,7 +77,7 @@ void ScrollBarWidget::mousePressEvent(QMouseEvent* event)
     if (event->button() != Qt::LeftButton) // the middle one would move the slider under the pointer
         return;
     setFocus(Qt::MouseFocusReason);
-    if (!gone())
+    if (!detached())
         QScrollBar::mousePressEvent(event);
 }
 
@@ -121,15 +121,15 @@ void ScrollBarWidget::keyPressEvent(QKeyEvent* event)
     }
 }
 
-void ScrollBarWidget::tellValue()
+void ScrollBarWidget::reportValue()
 {
     const unsigned boxes = panelWindow().view().boxesShown();
-    tell([&](User& user) { user.move(control(), shownValue()); });
+    perform([&](User& user) { user.move(control(), shownValue()); });
     if (panelWindow().view().boxesShown() != boxes)
-        letGo();
+        releaseSlider();
 }
 
-void ScrollBarWidget::letGo()
+void ScrollBarWidget::releaseSlider()
 {
     setRepeatAction(SliderNoAction);
     setSliderDown(false);

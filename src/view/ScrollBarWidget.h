@@ -14,7 +14,7 @@ class ScrollBarWidget final : public WidgetOf<QScrollBar, ScrollBar> {
 public:
     ScrollBarWidget(PanelWindow& window, ScrollBar& bar, Qt::Orientation orientation, QWidget* parent);
 
-    void follow() override;
+    void refresh() override;
 
     /// The limits and the value of the control, as reported to screen readers.
     [[nodiscard]] int limitAtStart() const { return min_; }
@@ -30,9 +30,9 @@ protected:
 private:
     [[nodiscard]] int positionOf(int value) const { return min_ <= max_ ? value - min_ : min_ - value; }
     [[nodiscard]] int valueAt(int position) const { return min_ <= max_ ? min_ + position : min_ - position; }
-    void tellValue();
+    void reportValue();
     /// Treats the mouse button as released: it was let go over a box, unseen by the bar.
-    void letGo();
+    void releaseSlider();
 
     int min_ = 0;
     int max_ = 0;

@@ -21,27 +21,27 @@ constexpr int focusDarkness = 125;
 /// A title bar's background is, at its lightest, a third more luminous than its colour.
 constexpr double titleContrast = 6;
 
-void mend(QPalette& palette, QPalette::ColorGroup group)
+void ensureContrast(QPalette& palette, QPalette::ColorGroup group)
 {
     const auto color = [&](QPalette::ColorRole role) { return palette.color(group, role); };
-    const auto mendRole = [&](QPalette::ColorRole role, const QColor& background) {
+    const auto ensureRoleContrast = [&](QPalette::ColorRole role, const QColor& background) {
         palette.setColor(group, role, readable(color(role), background));
     };
-    mendRole(QPalette::WindowText, color(QPalette::Window));
-    mendRole(QPalette::ButtonText, color(QPalette::Button));
-    mendRole(QPalette::Text, color(QPalette::Base));
-    mendRole(QPalette::Text, color(QPalette::Base).lighter(menuLightness));
-    mendRole(QPalette::ToolTipText, color(QPalette::ToolTipBase));
+    ensureRoleContrast(QPalette::WindowText, color(QPalette::Window));
+    ensureRoleContrast(QPalette::ButtonText, color(QPalette::Button));
+    ensureRoleContrast(QPalette::Text, color(QPalette::Base));
+    ensureRoleContrast(QPalette::Text, color(QPalette::Base).lighter(menuLightness));
+    ensureRoleContrast(QPalette::ToolTipText, color(QPalette::ToolTipBase));
     // Not its text, which is mostly black or white: selected rows should keep their hue.
     palette.setColor(group, QPalette::Highlight,
         readable(color(QPalette::Highlight), color(QPalette::HighlightedText), rowContrast));
 }
 
 /// The colour of an edge on a window, and that of the edge of what has the keyboard.
-QColor edgeColor(const QPalette& palette, double enough)
+QColor edgeColor(const QPalette& palette, double minContrast)
 {
     const QColor window = palette.color(QPalette::Window);
-    return readable(window.darker(edgeDarkness), window, enough);
+    return readable(window.darker(edgeDarkness), window, minContrast);
 }
 
 QColor focusColor(const QPalette& palette)
@@ -51,16 +51,16 @@ QColor focusColor(const QPalette& palette)
 }
 
 /// The option of a round edge, with colours from which Fusion makes a visible one.
-QStyleOptionButton seen(const QStyleOptionButton& option)
+QStyleOptionButton withVisibleEdge(const QStyleOptionButton& option)
 {
-    QStyleOptionButton mended{option};
-    mended.palette.setColor(QPalette::Window, edgeColor(option.palette, lineContrast).lighter(edgeDarkness));
-    mended.palette.setColor(QPalette::Highlight, focusColor(option.palette).lighter(focusDarkness));
-    return mended;
+    QStyleOptionButton adjusted{option};
+    adjusted.palette.setColor(QPalette::Window, edgeColor(option.palette, lineContrast).lighter(edgeDarkness));
+    adjusted.palette.setColor(QPalette::Highlight, focusColor(option.palette).lighter(focusDarkness));
+    return adjusted;
 }
 
 /// The picture of a button in the colour of its text: Fusion's own are dark on all windows.
-QIcon inked(const QStyleOptionToolButton& button)
+QIcon recolored(const QStyleOptionToolButton& button)
 {
     QPixmap picture = button.icon.pixmap(button.iconSize);
     QPainter painter{&picture};
@@ -79,18 +79,18 @@ void drawFieldEdge(QPainter& painter, const QStyleOption& option)
 }
 
 /// Fills the rim of a title bar, where Fusion makes the corners round with lines that fall between pixels.
-void fillRim(QPainter& painter, const QRectF& bar, const QBrush& ground)
+void fillRim(QPainter& painter, const QRectF& bar, const QBrush& background)
 {
     constexpr double across = 3;
     constexpr double down = 2;
-    painter.fillRect(QRectF{bar.left(), bar.top(), bar.width(), down}, ground);
+    painter.fillRect(QRectF{bar.left(), bar.top(), bar.width(), down}, background);
     const QRectF side{bar.left(), bar.top(), across, bar.height() - down};
-    painter.fillRect(side, ground);
-    painter.fillRect(side.translated(bar.width() - across, 0), ground);
+    painter.fillRect(side, background);
+    painter.fillRect(side.translated(bar.width() - across, 0), background);
 }
 
 /// The background of a title bar, as Fusion shades it.
-QBrush titleGround(const QRectF& bar, const QColor& color)
+QBrush titleBackground(const QRectF& bar, const QColor& color)
 {
     QLinearGradient shades{bar.topLeft(), bar.bottomLeft()};
     shades.setStops({{0, color.lighter(114)}, {0.5, color.lighter(102)}, {0.51, color.darker(104)}, {1, color}});
@@ -112,7 +112,7 @@ void Style::polish(QPalette& palette)
 {
     QProxyStyle::polish(palette);
     for (const auto group : {QPalette::Active, QPalette::Inactive, QPalette::Disabled})
-        mend(palette, group);
+        ensureContrast(palette, group);
 }
 
 int Style::pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const
@@ -146,9 +146,9 @@ void Style::drawControl(
 {
     if (element == CE_ToolButtonLabel) // only a narrow menu bar has such a button, for what it has no room for
         if (const auto* const button = qstyleoption_cast<const QStyleOptionToolButton*>(option)) {
-            QStyleOptionToolButton mended{*button};
-            mended.icon = inked(*button);
-            QProxyStyle::drawControl(element, &mended, painter, widget);
+            QStyleOptionToolButton adjusted{*button};
+            adjusted.icon = recolored(*button);
+            QProxyStyle::drawControl(element, &adjusted, painter, widget);
             return;
         }
     const auto* const heading = qstyleoption_cast<const QStyleOptionMenuItem*>(option);
@@ -185,18 +185,18 @@ void Style::drawComplexControl(
     if (control != CC_TitleBar || title == nullptr || !(active || isDark(title->palette))) {
         QProxyStyle::drawComplexControl(control, option, painter, widget);
         if (control == CC_TitleBar)
-            fillRim(*painter, option->rect, titleGround(option->rect, option->palette.color(QPalette::Window)));
+            fillRim(*painter, option->rect, titleBackground(option->rect, option->palette.color(QPalette::Window)));
         return;
     }
     // Fusion writes an active title in white, on a shadow of the text's colour. In an inactive one it draws the cross
     // of the close box in black: on a dark window that title is drawn as an active one too, on the window's colour.
-    QStyleOptionTitleBar mended{*title};
-    const QColor ground = title->palette.color(active ? QPalette::Highlight : QPalette::Window);
-    mended.titleBarState |= State_Active;
-    mended.palette.setColor(QPalette::Highlight, readable(ground, Qt::white, titleContrast));
-    mended.palette.setColor(QPalette::Text, Qt::black);
-    QProxyStyle::drawComplexControl(control, &mended, painter, widget);
-    fillRim(*painter, title->rect, titleGround(title->rect, mended.palette.color(QPalette::Highlight)));
+    QStyleOptionTitleBar adjusted{*title};
+    const QColor background = title->palette.color(active ? QPalette::Highlight : QPalette::Window);
+    adjusted.titleBarState |= State_Active;
+    adjusted.palette.setColor(QPalette::Highlight, readable(background, Qt::white, titleContrast));
+    adjusted.palette.setColor(QPalette::Text, Qt::black);
+    QProxyStyle::drawComplexControl(control, &adjusted, painter, widget);
+    fillRim(*painter, title->rect, titleBackground(title->rect, adjusted.palette.color(QPalette::Highlight)));
 }
 
 void Style::drawPrimitive(
@@ -205,8 +205,8 @@ void Style::drawPrimitive(
     switch (element) {
     case PE_IndicatorRadioButton:
         if (const auto* const button = qstyleoption_cast<const QStyleOptionButton*>(option)) {
-            const QStyleOptionButton mended = seen(*button);
-            QProxyStyle::drawPrimitive(element, &mended, painter, widget);
+            const QStyleOptionButton adjusted = withVisibleEdge(*button);
+            QProxyStyle::drawPrimitive(element, &adjusted, painter, widget);
         }
         return;
     case PE_PanelLineEdit:

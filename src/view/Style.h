@@ -10,7 +10,7 @@ class Style final : public QProxyStyle {
 public:
     Style() : QProxyStyle{QStringLiteral("fusion")} { }
 
-    /// Makes each text of the system's palette readable on its ground.
+    /// Makes each text of the system's palette readable on its background.
     void polish(QPalette& palette) override;
     using QProxyStyle::polish;
 

@@ -10,7 +10,7 @@
 
 namespace ondelis {
 
-void orderTabs(const PanelWindow& window)
+void updateTabOrder(const PanelWindow& window)
 {
     std::vector<QWidget*> stops;
     std::vector<QWidget*> moved;

@@ -20,19 +20,19 @@ namespace ondelis {
 namespace {
 
 /// Counts up by one for the duration of a scope.
-class Counted {
+class ScopedCount {
 public:
-    explicit Counted(unsigned& counter) : counter_{++counter} { }
-    ~Counted() { --counter_; }
-    Counted(const Counted&) = delete;
-    Counted& operator=(const Counted&) = delete;
+    explicit ScopedCount(unsigned& counter) : counter_{++counter} { }
+    ~ScopedCount() { --counter_; }
+    ScopedCount(const ScopedCount&) = delete;
+    ScopedCount& operator=(const ScopedCount&) = delete;
 
 private:
     unsigned& counter_;
 };
 
-template <class Noted>
-void note(std::vector<Noted*>& list, Noted& one)
+template <class Changed>
+void addOnce(std::vector<Changed*>& list, Changed& one)
 {
     if (std::ranges::find(list, &one) == list.end())
         list.push_back(&one);
@@ -45,7 +45,7 @@ View::View() = default;
 View::~View()
 {
     for (const auto& [panel, window] : windows_)
-        window->leave();
+        window->detach();
 }
 
 void View::open(MDIOndelis& frame)
@@ -53,7 +53,7 @@ void View::open(MDIOndelis& frame)
     frame_ = &frame;
     mainWindow_ = std::make_unique<MainWindow>(*this, frame);
     frame.start();
-    show();
+    refresh();
     mainWindow_->show();
 }
 
@@ -70,14 +70,14 @@ PanelWindow* View::find(const FeuilleCalcul& panel) const
 
 void View::perform(const std::function<void(User&)>& action)
 {
-    if (waitingBoxes_ > 0 || showing_ || frame_->desk().ended())
+    if (waitingBoxes_ > 0 || refreshing_ || frame_->runtime().ended())
         return;
     {
-        const Counted running{actions_};
-        User user{frame_->desk()};
+        const ScopedCount running{actions_};
+        User user{frame_->runtime()};
         action(user);
     }
-    show();
+    refresh();
     deleteClosedWindows();
 }
 
@@ -93,46 +93,46 @@ void View::close()
 
 void View::showGuide()
 {
-    if (waits())
+    if (isBusy())
         return;
     const QMdiSubWindow* const active = mainWindow_->area().activeSubWindow();
     openGuide(
         *mainWindow_, active == nullptr ? QStringLiteral("index") : active->objectName(), [this](const QString& words) {
-            if (waits())
+            if (isBusy())
                 return;
-            const Counted waiting{waitingBoxes_};
-            ask(*mainWindow_, {.prompt = words.toStdString()});
+            const ScopedCount waiting{waitingBoxes_};
+            showMessageBox(*mainWindow_, {.prompt = words.toStdString()});
         });
 }
 
-bool View::waits() const
+bool View::isBusy() const
 {
-    return waitingBoxes_ > 0 || actions_ > 0 || frame_->desk().ended();
+    return waitingBoxes_ > 0 || actions_ > 0 || frame_->runtime().ended();
 }
 
 Answer View::showBox(const MessageBox& box)
 {
-    show();
-    const Counted waiting{waitingBoxes_};
+    refresh();
+    const ScopedCount waiting{waitingBoxes_};
     ++boxesShown_;
-    return ask(*mainWindow_, box);
+    return showMessageBox(*mainWindow_, box);
 }
 
 void View::showFault(const Fault& fault)
 {
-    show();
-    const Counted waiting{waitingBoxes_};
+    refresh();
+    const ScopedCount waiting{waitingBoxes_};
     ++boxesShown_;
-    tell(*mainWindow_, fault);
+    showFaultBox(*mainWindow_, fault);
 }
 
 void View::runPendingEvents()
 {
-    show();
+    refresh();
     QCoreApplication::processEvents();
 }
 
-Extent View::screen() const
+Size View::screen() const
 {
     // If there was a screen at the start, the toolkit keeps one, or a substitute for it, to the end.
     const QScreen& screen = *QGuiApplication::primaryScreen();
@@ -142,36 +142,36 @@ Extent View::screen() const
 
 void View::frameChanged()
 {
-    frameNoted_ = true;
+    frameChanged_ = true;
 }
 
 void View::panelLoaded(FeuilleCalcul& panel)
 {
-    note(notedPanels_, panel);
+    addOnce(changedPanels_, panel);
 }
 
 void View::panelChanged(FeuilleCalcul& panel)
 {
-    note(notedPanels_, panel);
+    addOnce(changedPanels_, panel);
 }
 
 void View::panelRaised(FeuilleCalcul& panel)
 {
-    note(notedPanels_, panel);
+    addOnce(changedPanels_, panel);
     if (raised_ == nullptr) // the first one is what the person asked for, the others accompany it
         raised_ = &panel;
 }
 
 void View::panelUnloaded(FeuilleCalcul& panel)
 {
-    std::erase(notedPanels_, &panel);
-    std::erase_if(notedControls_, [&](const Control* control) { return &control->panel() == &panel; });
+    std::erase(changedPanels_, &panel);
+    std::erase_if(changedControls_, [&](const Control* control) { return &control->panel() == &panel; });
     if (raised_ == &panel)
         raised_ = nullptr;
     if (focused_ != nullptr && &focused_->panel() == &panel)
         focused_ = nullptr;
     if (const auto found = windows_.find(&panel); found != windows_.end()) {
-        found->second->leave();
+        found->second->detach();
         closedWindows_.push_back(found->second);
         windows_.erase(found);
     }
@@ -179,7 +179,7 @@ void View::panelUnloaded(FeuilleCalcul& panel)
 
 void View::controlChanged(Control& control)
 {
-    note(notedControls_, control);
+    addOnce(changedControls_, control);
 }
 
 void View::focusMoved(Control& control)
@@ -191,40 +191,40 @@ void View::programEnded(int status)
 {
     status_ = status;
     for (const auto& [panel, window] : windows_)
-        window->leave();
+        window->detach();
     QCoreApplication::exit(status);
 }
 
-void View::show()
+void View::refresh()
 {
     if (status_)
         return;
     {
-        const QScopedValueRollback showing{showing_, true};
-        showWindows();
-        showControls();
+        const QScopedValueRollback refreshing{refreshing_, true};
+        refreshWindows();
+        refreshControls();
     }
-    tellFocus();
+    reportFocus();
 }
 
-void View::showWindows()
+void View::refreshWindows()
 {
-    if (std::exchange(frameNoted_, false))
-        mainWindow_->follow();
+    if (std::exchange(frameChanged_, false))
+        mainWindow_->refresh();
     ClientArea& area = mainWindow_->area();
     for (PanelWindow* window : closedWindows_)
         if (window->mdiArea() != nullptr)
             area.removeSubWindow(window);
     QMdiSubWindow* const active = area.activeSubWindow();
-    for (FeuilleCalcul* panel : std::exchange(notedPanels_, {}))
+    for (FeuilleCalcul* panel : std::exchange(changedPanels_, {}))
         if (panel->loaded())
-            showWindow(*panel);
+            refreshWindow(*panel);
     // The area activates whatever appears, even a panel that has only been written to.
     if (raised_ == nullptr && active != nullptr && !active->isHidden())
         area.setActiveSubWindow(active);
 }
 
-void View::showWindow(FeuilleCalcul& panel)
+void View::refreshWindow(FeuilleCalcul& panel)
 {
     PanelWindow* window = find(panel);
     if (window == nullptr && panel.visible()) {
@@ -235,17 +235,17 @@ void View::showWindow(FeuilleCalcul& panel)
     if (window == nullptr)
         return;
     opened_ = opened_ || (panel.visible() && window->isHidden());
-    window->follow();
+    window->refresh();
     window->setVisible(panel.visible());
 }
 
-void View::showControls()
+void View::refreshControls()
 {
     const FeuilleCalcul* const raised = std::exchange(raised_, nullptr);
     const Control* const focused = std::exchange(focused_, nullptr);
-    for (Control* control : std::exchange(notedControls_, {}))
+    for (Control* control : std::exchange(changedControls_, {}))
         if (PanelWindow* const window = find(control->panel()))
-            window->follow(*control);
+            window->refresh(*control);
     // A panel that appears has the keyboard in its first control, or where its code has put it.
     if (raised != nullptr)
         if (PanelWindow* const window = find(*raised))
@@ -255,15 +255,15 @@ void View::showControls()
             if (ControlWidget* const shown = window->find(*focused))
                 shown->widget().setFocus(Qt::OtherFocusReason);
     if (std::exchange(opened_, false))
-        mainWindow_->area().bringPanelsIntoSight();
+        mainWindow_->area().ensurePanelsVisible();
 }
 
-void View::tellFocus()
+void View::reportFocus()
 {
     const QWidget* const focused = QApplication::focusWidget();
     for (const auto& [panel, window] : windows_)
         if (Control* const control = window->controlOf(focused)) {
-            if (control != frame_->desk().focused() && panel->visible() && control->focusable())
+            if (control != frame_->runtime().focused() && panel->visible() && control->focusable())
                 perform([control](User& user) { user.focus(*control); });
             return;
         }

@@ -6,8 +6,8 @@
 #include <unordered_map>
 #include <vector>
 
-#include "forms/Desk.h"
-#include "forms/Surroundings.h"
+#include "forms/Host.h"
+#include "forms/Runtime.h"
 #include "forms/User.h"
 
 namespace ondelis {
@@ -17,14 +17,14 @@ class MDIOndelis;
 class PanelWindow;
 struct MenuEntry;
 
-/// The world around the desk, implemented with Qt. While handlers run nothing of Qt is touched: what they change is
-/// noted, and shown once the user's action is over, or before a handler waits.
-class View final : public Surroundings {
+/// The host of the runtime, implemented with Qt. While handlers run nothing of Qt is touched: what they change is
+/// recorded, and shown once the user's action is over, or before a handler waits.
+class View final : public Host {
 public:
     View();
     ~View() override;
 
-    /// Opens the main window and starts the program. The frame and its desk must live until `programEnded`.
+    /// Opens the main window and starts the program. The frame and its runtime must live until `programEnded`.
     void open(MDIOndelis& frame);
     /// Runs the program to its end; returns its exit status.
     int run();
@@ -48,7 +48,7 @@ public:
     Answer showBox(const MessageBox& box) override;
     void showFault(const Fault& fault) override;
     void runPendingEvents() override;
-    [[nodiscard]] Extent screen() const override;
+    [[nodiscard]] Size screen() const override;
 
     void frameChanged() override;
     void panelLoaded(FeuilleCalcul& panel) override;
@@ -61,15 +61,15 @@ public:
 
 private:
     /// A handler or a box waits, or the program has ended.
-    [[nodiscard]] bool waits() const;
-    /// Shows all that was noted.
-    void show();
-    void showWindows();
-    void showWindow(FeuilleCalcul& panel);
-    void showControls();
-    /// Tells the desk which control has the keyboard after what was shown: one that has appeared, or the one after one
-    /// that has gone.
-    void tellFocus();
+    [[nodiscard]] bool isBusy() const;
+    /// Shows all that has changed.
+    void refresh();
+    void refreshWindows();
+    void refreshWindow(FeuilleCalcul& panel);
+    void refreshControls();
+    /// Reports to the runtime which control has the keyboard after what was shown: one that has appeared, or the one
+    /// after one that has gone.
+    void reportFocus();
     void deleteClosedWindows();
 
     std::unique_ptr<MainWindow> mainWindow_;
@@ -77,16 +77,16 @@ private:
     std::unordered_map<const FeuilleCalcul*, PanelWindow*> windows_;
 
     // What handlers have changed and is not shown yet.
-    bool frameNoted_ = false;
-    std::vector<FeuilleCalcul*> notedPanels_;
-    std::vector<Control*> notedControls_;
+    bool frameChanged_ = false;
+    std::vector<FeuilleCalcul*> changedPanels_;
+    std::vector<Control*> changedControls_;
     FeuilleCalcul* raised_ = nullptr; ///< the first of them
     Control* focused_ = nullptr;
 
     bool opened_ = false; ///< a panel has come on screen and may be out of sight there
     std::vector<PanelWindow*> closedWindows_; ///< kept until no handler started by one of their widgets is running
     unsigned actions_ = 0; ///< that run now, one inside the other
-    bool showing_ = false;
+    bool refreshing_ = false;
     unsigned waitingBoxes_ = 0;
     unsigned boxesShown_ = 0;
     std::optional<int> status_; ///< of the ended program

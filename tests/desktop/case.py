@@ -23,7 +23,7 @@ class DesktopCase(unittest.TestCase):
         self.addCleanup(self.program.close)
         self.person = Person(self.desktop, self.program)
 
-    def ends(self, status: int) -> None:
+    def assert_ends(self, status: int) -> None:
         """The program ends by itself, with that status and without any output."""
         self.assertEqual(self.program.exit_status(), status)
-        self.assertEqual(self.program.complaints(), "")
+        self.assertEqual(self.program.error_output(), "")

@@ -16,18 +16,18 @@ from gi.repository import GLib
 
 T = TypeVar("T")
 
-PATIENCE = 20.0  # seconds; what takes longer will not come
+TIMEOUT = 20.0  # seconds; what takes longer will not come
 
 
-def until(look: Callable[[], T], what: str | Callable[[], str]) -> T:
+def wait_for(look: Callable[[], T], what: str | Callable[[], str]) -> T:
     """Looks again and again until there is something to see, and returns it."""
-    deadline = time.monotonic() + PATIENCE
+    deadline = time.monotonic() + TIMEOUT
     while time.monotonic() < deadline:
         with contextlib.suppress(GLib.Error):  # what disappears while a screen reader looks at it counts as absent
             if seen := look():
                 return seen
         time.sleep(0.005)
-    raise AssertionError(f"not in {PATIENCE:g} s: {what if isinstance(what, str) else what()}")
+    raise AssertionError(f"not in {TIMEOUT:g} s: {what if isinstance(what, str) else what()}")
 
 
 def start(words: list[str], inherited: tuple[int, ...] = (), **environment: str) -> subprocess.Popen[bytes]:
@@ -54,8 +54,8 @@ def stop(process: subprocess.Popen[bytes]) -> None:
 
 
 class Desktop:
-    """A screen of our own, with a window manager or, where that is "", without one; and the hands on its mouse and its
-    keyboard."""
+    """A screen of our own, with a window manager or, where that is "", without one; and its mouse and
+    its keyboard."""
 
     def __init__(self, size: str = "1920x1080", manager: str = "openbox") -> None:
         self._server, display = start_server(
@@ -63,9 +63,9 @@ class Desktop:
                          "-nolisten", "tcp"])
         self.display = f":{display}"
         self._manager = start([manager], DISPLAY=self.display) if manager else None
-        until(lambda: not manager or self.hands("get_num_desktops").returncode == 0, "a window manager")
+        wait_for(lambda: not manager or self.xdotool("get_num_desktops").returncode == 0, "a window manager")
 
-    def hands(self, *words: str) -> subprocess.CompletedProcess[str]:
+    def xdotool(self, *words: str) -> subprocess.CompletedProcess[str]:
         """Moves the mouse, presses buttons and keys: real events of the X server, by xdotool."""
         return subprocess.run(["xdotool", *words], env={**os.environ, "DISPLAY": self.display}, text=True,
                               capture_output=True, check=False)
@@ -83,7 +83,7 @@ class Desktop:
         subprocess.run(["xrandr", "--output", "screen", *state], env={**os.environ, "DISPLAY": self.display},
                        capture_output=True, check=screen)
 
-    def break_down(self) -> None:
+    def kill_server(self) -> None:
         """The X server dies."""
         stop(self._server)
 
@@ -116,14 +116,14 @@ class Program:
     """The program, as it runs on a desktop. What it says on its standard error is kept."""
 
     def __init__(self, desktop: Desktop, file: Path | None = None, **environment: str) -> None:
-        self._complaints = tempfile.TemporaryFile()
+        self._errors = tempfile.TemporaryFile()
         self._process = subprocess.Popen(
-            [file or os.environ["ONDELIS"]], stdin=subprocess.DEVNULL, stdout=self._complaints, stderr=self._complaints,
+            [file or os.environ["ONDELIS"]], stdin=subprocess.DEVNULL, stdout=self._errors, stderr=self._errors,
             env={**os.environ, "DISPLAY": desktop.display, "QT_QPA_PLATFORM": "xcb", "LC_ALL": "C.UTF-8",
                  **environment})
         self.id = self._process.pid
 
-    def runs(self) -> bool:
+    def is_running(self) -> bool:
         return self._process.poll() is None
 
     def memory(self, figure: str) -> int:
@@ -133,15 +133,15 @@ class Program:
 
     def exit_status(self) -> int:
         """Waits for the end. A signal that ended the program is a negative status."""
-        return self._process.wait(PATIENCE)
+        return self._process.wait(TIMEOUT)
 
     def terminate(self) -> None:
         self._process.terminate()
 
-    def complaints(self) -> str:
-        self._complaints.seek(0)
-        return self._complaints.read().decode()
+    def error_output(self) -> str:
+        self._errors.seek(0)
+        return self._errors.read().decode()
 
     def close(self) -> None:
         stop(self._process)
-        self._complaints.close()
+        self._errors.close()

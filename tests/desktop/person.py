@@ -1,4 +1,4 @@
-"""A person at the program: a screen reader for eyes, the mouse and the keyboard of the desktop for hands."""
+"""A person at the program, who reads by a screen reader, and acts by the mouse and the keyboard of the desktop."""
 
 from __future__ import annotations
 
@@ -9,17 +9,17 @@ from collections.abc import Iterator
 
 import gi
 
-from desktop import Desktop, Program, start_server, stop, until
+from desktop import Desktop, Program, start_server, stop, wait_for
 
 gi.require_version("Atspi", "2.0")
 from gi.repository import Atspi  # noqa: E402
 
 Role, State = Atspi.Role, Atspi.StateType
-Thing = Atspi.Accessible  # what a screen reader sees: a window, a field, an entry of a menu
+Accessible = Atspi.Accessible  # what a screen reader sees: a window, a field, an entry of a menu
 
 
 def listen() -> None:
-    """Starts the bus on which programs tell screen readers what they show, for this process and all that it starts."""
+    """Starts the bus on which programs report to screen readers, for this process and all that it starts."""
     folder = tempfile.TemporaryDirectory()  # unaffected by the settings of whoever runs the test, and by other tests
     atexit.register(folder.cleanup)
     os.environ.update(HOME=folder.name, XDG_RUNTIME_DIR=folder.name)
@@ -33,23 +33,23 @@ def listen() -> None:
 listen()
 
 
-def children(thing: Thing) -> list[Thing]:
-    return [child for index in range(thing.get_child_count()) if (child := thing.get_child_at_index(index))]
+def children(accessible: Accessible) -> list[Accessible]:
+    return [child for index in range(accessible.get_child_count()) if (child := accessible.get_child_at_index(index))]
 
 
-def has(thing: Thing, state: State) -> bool:
-    return bool(thing.get_state_set().contains(state))
+def has(accessible: Accessible, state: State) -> bool:
+    return bool(accessible.get_state_set().contains(state))
 
 
-def on_screen(thing: Thing) -> bool:
+def on_screen(accessible: Accessible) -> bool:
     # The toolkit reports a panel that reaches beyond the main window as absent, but not its contents.
-    return has(thing, State.VISIBLE) or (
-        thing.get_role() == Role.FRAME and any(has(part, State.VISIBLE) for part in children(thing)))
+    return has(accessible, State.VISIBLE) or (
+        accessible.get_role() == Role.FRAME and any(has(part, State.VISIBLE) for part in children(accessible)))
 
 
-def below(thing: Thing) -> Iterator[Thing]:
-    """All that is on screen inside a thing, in the order in which it was made."""
-    for child in children(thing):
+def below(accessible: Accessible) -> Iterator[Accessible]:
+    """All that is on screen inside an accessible, in the order in which it was made."""
+    for child in children(accessible):
         if on_screen(child):
             yield child
             yield from below(child)
@@ -61,13 +61,13 @@ class Person:
     def __init__(self, desktop: Desktop, program: Program) -> None:
         self._desktop = desktop
         self._program = program
-        self.window: Thing = until(self._main_window, "the main window of the program")
-        until(lambda: has(self.window, State.ACTIVE), "the keyboard in the main window")
+        self.window: Accessible = wait_for(self._main_window, "the main window of the program")
+        wait_for(lambda: has(self.window, State.ACTIVE), "the keyboard in the main window")
         self._menu = self.find(Role.MENU_BAR, "")
 
-    # Eyes
+    # What the person sees
 
-    def windows(self) -> list[Thing]:
+    def windows(self) -> list[Accessible]:
         """The windows of the program: the main one, and its message boxes."""
         programs = [one for one in children(Atspi.get_desktop(0)) if one.get_process_id() == self._program.id]
         return [window for one in programs for window in children(one) if on_screen(window)]
@@ -83,28 +83,28 @@ class Person:
         entries = [entry for title in titles for drop_down in children(title) for entry in children(drop_down)]
         return [str(one.get_name()) for one in titles + [entry for entry in entries if has(entry, State.FOCUSED)]]
 
-    def find(self, role: Role, name: str, within: Thing | None = None) -> Thing:
+    def find(self, role: Role, name: str, within: Accessible | None = None) -> Accessible:
         """What is on screen under that name."""
-        def look() -> Thing | None:
+        def look() -> Accessible | None:
             inside = below(within or self.window)
             return next((one for one in inside if one.get_role() == role and one.get_name() == name), None)
-        return until(look, f'{role.value_nick} "{name}"')
+        return wait_for(look, f'{role.value_nick} "{name}"')
 
-    def reads(self, name: str) -> str:
+    def text_of(self, name: str) -> str:
         """The text of the field of that name."""
         return str(Atspi.Text.get_text(self.find(Role.TEXT, name), 0, -1))
 
-    def box(self, title: str) -> Thing:
+    def box(self, title: str) -> Accessible:
         """The message box of that title."""
-        def look() -> Thing | None:
+        def look() -> Accessible | None:
             boxes = (one for one in self.windows() if one.get_role() == Role.ALERT and one.get_name() == title)
             return next(boxes, None)
-        return until(look, f'the box "{title}"')
+        return wait_for(look, f'the box "{title}"')
 
-    # Hands
+    # What the person does
 
     def press(self, *keys: str) -> None:
-        self._desktop.hands("key", *keys)
+        self._desktop.xdotool("key", *keys)
 
     def pick(self, menu: str, entry: str) -> None:
         """Picks an entry of the menu with the mouse."""
@@ -119,20 +119,20 @@ class Person:
         entries = [str(one.get_name()) for drop_down in children(title) for one in children(drop_down)]
         # The key Down opens the first drop-down, on its first entry.
         self.press("F10", "Down", *["Right"] * titles.index(menu), *["Down"] * entries.index(entry))
-        until(lambda: self.highlighted() == [menu, entry],
-              lambda: f'a highlight on "{entry}" under "{menu}", not on {self.highlighted()}')
+        wait_for(lambda: self.highlighted() == [menu, entry],
+                 lambda: f'a highlight on "{entry}" under "{menu}", not on {self.highlighted()}')
         self.press("Return")
 
-    def click(self, thing: Thing, button: str = "1") -> None:
-        place = Atspi.Component.get_extents(thing, Atspi.CoordType.SCREEN)
-        self._desktop.hands("mousemove", str(place.x + place.width // 2), str(place.y + place.height // 2),
-                            "click", button)
+    def click(self, accessible: Accessible, button: str = "1") -> None:
+        place = Atspi.Component.get_extents(accessible, Atspi.CoordType.SCREEN)
+        self._desktop.xdotool("mousemove", str(place.x + place.width // 2), str(place.y + place.height // 2),
+                              "click", button)
 
     def write(self, name: str, text: str) -> None:
         """Clicks into a field and types over what is there."""
         self.click(self.find(Role.TEXT, name))
         self.press("ctrl+a")
-        self._desktop.hands("type", "--delay", "1", "--", text)
+        self._desktop.xdotool("type", "--delay", "1", "--", text)
 
     def answer(self, title: str, button: str) -> str:
         """Clicks a button of the message box with that title; returns what the box said."""
@@ -145,7 +145,7 @@ class Person:
         """Clicks a row of the list of that name."""
         self.click(self.find(Role.LIST_ITEM, row, self.find(Role.LIST, name)))
 
-    def _main_window(self) -> Thing | None:
-        if not self._program.runs():
-            raise AssertionError(f"the program has ended: {self._program.complaints()}")
+    def _main_window(self) -> Accessible | None:
+        if not self._program.is_running():
+            raise AssertionError(f"the program has ended: {self._program.error_output()}")
         return next((one for one in self.windows() if one.get_role() == Role.FRAME), None)

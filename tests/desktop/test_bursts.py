@@ -4,7 +4,7 @@ from __future__ import annotations
 
 import unittest
 
-from desktop import Desktop, Program, until
+from desktop import Desktop, Program, wait_for
 from person import Person, Role
 
 
@@ -18,12 +18,12 @@ class Bursts(unittest.TestCase):
                 self.addCleanup(program.close)
                 person = Person(desktop, program)
                 for burst in range(25):
-                    desktop.hands("key", "--delay", "0", "F10", "Down", *["Right"] * 5, "Return", "7")
+                    desktop.xdotool("key", "--delay", "0", "F10", "Down", *["Right"] * 5, "Return", "7")
                     person.find(Role.TEXT, "Puissance en entrée")
-                    until(lambda: person.reads("Puissance en entrée") == "7",
-                          lambda: f'"7" in burst {burst}, not "{person.reads("Puissance en entrée")}"')
+                    wait_for(lambda: person.text_of("Puissance en entrée") == "7",
+                             lambda: f'"7" in burst {burst}, not "{person.text_of("Puissance en entrée")}"')
                     person.press("ctrl+w")
-                    until(lambda: not person.panels(), "no panel")
+                    wait_for(lambda: not person.panels(), "no panel")
 
 
 if __name__ == "__main__":

@@ -7,7 +7,7 @@ import subprocess
 import unittest
 
 from case import DesktopCase
-from desktop import until
+from desktop import wait_for
 from person import Role
 
 
@@ -24,12 +24,12 @@ class Clipboard(DesktopCase):
         return program.communicate(text)[0] or ""  # the child process serves the text that it keeps for others
 
     def shows(self, field: str, expected: str) -> None:
-        until(lambda: self.person.reads(field) == expected,
-              lambda: f'"{expected}" in the field "{field}", which shows "{self.person.reads(field)}"')
+        wait_for(lambda: self.person.text_of(field) == expected,
+                 lambda: f'"{expected}" in the field "{field}", which shows "{self.person.text_of(field)}"')
 
     def copied(self, expected: str) -> None:
-        until(lambda: self.xclip("clipboard", "-o") == expected,
-              lambda: f'"{expected}" in the clipboard, which holds "{self.xclip("clipboard", "-o")}"')
+        wait_for(lambda: self.xclip("clipboard", "-o") == expected,
+                 lambda: f'"{expected}" in the clipboard, which holds "{self.xclip("clipboard", "-o")}"')
 
     def copy_by_menu(self) -> None:
         """Chooses the first entry of the context menu that is open, "Copier"; screen readers do not see menus."""

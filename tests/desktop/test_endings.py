@@ -5,7 +5,7 @@ from __future__ import annotations
 import unittest
 
 from case import DesktopCase
-from desktop import until
+from desktop import wait_for
 from person import Atspi, Role
 
 
@@ -33,26 +33,26 @@ class Endings(DesktopCase):
     def test_quitter_by_mouse(self) -> None:
         self.start()
         self.person.pick("Fin de travail", "Quitter")
-        self.ends(0)
+        self.assert_ends(0)
 
     def test_quitter_by_key(self) -> None:
         self.start()
         self.person.pick_by_key("Fin de travail", "Quitter")
-        self.ends(0)
+        self.assert_ends(0)
 
     def test_close_box(self) -> None:
         self.start()
         inside = Atspi.Component.get_extents(self.person.window, Atspi.CoordType.SCREEN)
         # The window manager has put a title bar above the window, with the close box at its right end.
-        self.desktop.hands("mousemove", str(inside.x + inside.width - 9), str(inside.y - 11), "click", "1")
-        self.ends(0)
+        self.desktop.xdotool("mousemove", str(inside.x + inside.width - 9), str(inside.y - 11), "click", "1")
+        self.assert_ends(0)
 
     def test_key_of_the_window_manager(self) -> None:
         self.start()
         self.person.pick("Le timer 555", "Astable")
-        until(self.person.panels, "the panel")
+        wait_for(self.person.panels, "the panel")
         self.person.press("alt+F4")
-        self.ends(0)
+        self.assert_ends(0)
 
     def test_fault(self) -> None:
         self.start()
@@ -64,7 +64,7 @@ class Endings(DesktopCase):
         self.person.write("Capacite en ...", "1000")  # the third 0 makes it take the root of a negative number
         said = self.person.answer("Ondelis", "OK")
         self.assertEqual(said, "Erreur 5 : Argument ou appel incorrect.\n\nLe programme va s'arrêter.")
-        self.ends(1)
+        self.assert_ends(1)
 
 
 if __name__ == "__main__":

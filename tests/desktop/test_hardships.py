@@ -10,10 +10,10 @@ import unittest
 from pathlib import Path
 
 from case import DesktopCase
-from desktop import PATIENCE, french_settings, until, without_plugins
+from desktop import TIMEOUT, french_settings, wait_for, without_plugins
 from person import Atspi, Role
 
-DUSK = "3D4A5D"  # the colour that stands for the picture of the client area
+MEAN_COLOR = "3D4A5D"  # the colour that stands for the picture of the client area
 
 
 class Hardships(DesktopCase):
@@ -26,19 +26,19 @@ class Hardships(DesktopCase):
     def works(self) -> None:
         for section, diameter in [("12", "3"), ("1", "1")]:
             self.person.write("Section du fil", section)
-            until(lambda: self.person.reads("Diametre du fil").startswith(diameter), f"a diameter of {diameter}")
+            wait_for(lambda: self.person.text_of("Diametre du fil").startswith(diameter), f"a diameter of {diameter}")
 
     def test_locale_that_does_not_exist(self) -> None:
         self.start(LC_ALL="xx_YY.UTF-8")
         self.open_section()
-        self.assertEqual(self.person.reads("Diametre du fil"), "1.12")
+        self.assertEqual(self.person.text_of("Diametre du fil"), "1.12")
 
     def test_locale_in_an_older_encoding(self) -> None:
         folder = Path(self.enterContext(tempfile.TemporaryDirectory()))
         self.start(**french_settings(folder, "ISO-8859-1"))
         self.person.pick_by_key("Ponts diviseurs", "Pont de résistances avec charge")
         self.person.write("Valeur R1", "1 0")  # the blank is what separates thousands there
-        until(lambda: self.person.reads("Résitance vue de l'alimentation") == "19,9", "a whole of 19.9 ohms")
+        wait_for(lambda: self.person.text_of("Résitance vue de l'alimentation") == "19,9", "a whole of 19.9 ohms")
 
     def test_no_plugin_for_any_picture(self) -> None:
         folder = Path(self.enterContext(tempfile.TemporaryDirectory()))
@@ -46,17 +46,18 @@ class Hardships(DesktopCase):
         self.person.pick("Antennes", "HB9CV HF")
         panel = self.person.find(Role.FRAME, "HB9CV pour bandes HF")
         place = Atspi.Component.get_extents(panel, Atspi.CoordType.SCREEN)
-        self.assertNotEqual(self.desktop.color(place.x + 20, place.y + 40), DUSK)
+        self.assertNotEqual(self.desktop.color(place.x + 20, place.y + 40), MEAN_COLOR)
         tip = [self.desktop.color(place.x + 13, place.y + y) for y in range(4, 12)]
         self.assertTrue(any(color > "E0" and color[4:] < "90" for color in tip), f"no wave in the title bar: {tip}")
         self.open_section()
-        until(lambda: self.desktop.color(place.x + 20, place.y + 40) == DUSK, "a plain area where the panel was")
+        wait_for(lambda: self.desktop.color(place.x + 20, place.y + 40) == MEAN_COLOR,
+                 "a plain area where the panel was")
         self.person.pick("Fin de travail", "Quitter")
-        self.ends(0)
+        self.assert_ends(0)
 
     def test_little_memory(self) -> None:
         self.start()
-        until(lambda: self.desktop.color(960, 540) != DUSK, "the picture of the client area")
+        wait_for(lambda: self.desktop.color(960, 540) != MEAN_COLOR, "the picture of the client area")
         passing = self.program.memory("VmHWM") - self.program.memory("VmRSS")
         self.assertLess(passing, 1500)  # decoded, the whole picture takes 4700
 
@@ -64,7 +65,7 @@ class Hardships(DesktopCase):
         self.start(size="800x600")  # the frame reaches beyond it on all sides
         self.open_section()
         self.person.pick("Fin de travail", "Quitter")
-        self.ends(0)
+        self.assert_ends(0)
 
     def test_screen_unplugged(self) -> None:
         self.start()
@@ -74,7 +75,7 @@ class Hardships(DesktopCase):
         self.desktop.plug(True)
         self.open_section()
         self.person.pick("Fin de travail", "Quitter")
-        self.ends(0)
+        self.assert_ends(0)
 
 
 class Ends(DesktopCase):
@@ -83,9 +84,9 @@ class Ends(DesktopCase):
     def search_traps(self) -> None:
         self.person.pick("Antennes", "Trappes en coaxial")
         self.person.write("Frequence de resonance MHz", "0.1")
-        before = self.person.reads("Reatance inductive")
+        before = self.person.text_of("Reatance inductive")
         self.person.click(self.person.find(Role.PUSH_BUTTON, "Calculer"))
-        until(lambda: self.person.reads("Reatance inductive") != before, "a search")
+        wait_for(lambda: self.person.text_of("Reatance inductive") != before, "a search")
 
     def open_box(self) -> None:
         self.person.pick("Filtres", "Filtre en Pi f(Ze, Zs, Q)")
@@ -102,7 +103,7 @@ class Ends(DesktopCase):
         for platform in ["linuxfb:fb=/dev/null", f"offscreen:configfile={folder}/none.json"]:
             with self.subTest(platform):
                 program = subprocess.run([os.environ["ONDELIS"]], env={**os.environ, "QT_QPA_PLATFORM": platform},
-                                         capture_output=True, text=True, timeout=PATIENCE, check=False)
+                                         capture_output=True, text=True, timeout=TIMEOUT, check=False)
                 self.assertEqual(program.returncode, 1)
                 self.assertIn("Ondelis ne trouve pas d'écran : lancez-le dans une session graphique.\n",
                               program.stderr)
@@ -113,15 +114,15 @@ class Ends(DesktopCase):
             with self.subTest(meanwhile.__name__):
                 self.start()
                 meanwhile()
-                self.desktop.break_down()
+                self.desktop.kill_server()
                 self.assertEqual(self.program.exit_status(), 1)
-                self.assertIn("X11 connection broke", self.program.complaints())
+                self.assertIn("X11 connection broke", self.program.error_output())
 
     def test_terminated_while_a_box_waits(self) -> None:
         self.start()
         self.open_box()
         self.program.terminate()
-        self.ends(-signal.SIGTERM)
+        self.assert_ends(-signal.SIGTERM)
 
 
 if __name__ == "__main__":

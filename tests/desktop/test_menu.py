@@ -9,7 +9,7 @@ from pathlib import Path
 from typing import Any
 
 from case import DesktopCase
-from desktop import until
+from desktop import wait_for
 
 sys.path.insert(0, str(Path(__file__).resolve().parents[2] / "tools" / "guide"))
 
@@ -44,14 +44,14 @@ class Menu(DesktopCase):
         tree = menus()
         for title, entries in tree.items():
             for entry in entries:
-                until(lambda: self.person.highlighted() == [title, entry],
-                      lambda: f'a highlight on "{entry}", not on {self.person.highlighted()}')
+                wait_for(lambda: self.person.highlighted() == [title, entry],
+                         lambda: f'a highlight on "{entry}", not on {self.person.highlighted()}')
                 self.person.press("Down")
             self.person.press("Right")
         first = next([title, *entries][:2] for title, entries in tree.items())
-        until(lambda: self.person.highlighted() == first, "the first entry again")
+        wait_for(lambda: self.person.highlighted() == first, "the first entry again")
         self.person.press("Escape", "Escape")
-        until(lambda: not self.person.highlighted(), "no highlight in the menu")
+        wait_for(lambda: not self.person.highlighted(), "no highlight in the menu")
 
     def test_clicks_open_all_panels(self) -> None:
         self.start()
@@ -64,8 +64,8 @@ class Menu(DesktopCase):
                     self.person.pick(title, entry)
                     for box in answer["messages"]:  # one panel asks whether to go on
                         self.person.answer(box["title"], "Oui")
-                    until(lambda: self.person.panels() == answer["panels"],
-                          lambda: f"{answer['panels']} on screen, not {self.person.panels()}")
+                    wait_for(lambda: self.person.panels() == answer["panels"],
+                             lambda: f"{answer['panels']} on screen, not {self.person.panels()}")
 
 
 if __name__ == "__main__":

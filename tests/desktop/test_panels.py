@@ -11,7 +11,7 @@ import tempfile
 import unittest
 from pathlib import Path
 
-from desktop import Desktop, Program, french_settings, until
+from desktop import Desktop, Program, french_settings, wait_for
 from person import Person, Role
 
 
@@ -35,7 +35,7 @@ class Panels:
         """Opens a panel: by the keyboard in the region with the comma, by the mouse in the other one."""
         pick = self.person.pick_by_key if self.comma else self.person.pick
         pick(menu, entry)
-        until(lambda: caption in self.person.panels(), f'the panel "{caption}"')
+        wait_for(lambda: caption in self.person.panels(), f'the panel "{caption}"')
 
     def write(self, field: str, text: str) -> None:
         self.person.write(field, text)
@@ -45,8 +45,8 @@ class Panels:
         return number.replace(".", ",") if self.comma else number
 
     def shows(self, field: str, expected: str) -> None:
-        until(lambda: self.person.reads(field) == expected,
-              lambda: f'"{expected}" in the field "{field}", which shows "{self.person.reads(field)}"')
+        wait_for(lambda: self.person.text_of(field) == expected,
+                 lambda: f'"{expected}" in the field "{field}", which shows "{self.person.text_of(field)}"')
 
     def says(self, label: str) -> None:
         self.person.find(Role.LABEL, label)

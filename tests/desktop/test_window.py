@@ -5,7 +5,7 @@ from __future__ import annotations
 import time
 import unittest
 
-from desktop import Desktop, Program, until
+from desktop import Desktop, Program, wait_for
 import person  # noqa: F401  it starts the bus that one of the window managers wants
 
 WIDTH, HEIGHT = 1298, 1000  # pixels: the frame at 96 dots per inch
@@ -18,17 +18,17 @@ class Window(unittest.TestCase):
         self.addCleanup(self.desktop.close)
         self.program = Program(self.desktop, **environment)
         self.addCleanup(self.program.close)
-        self.window = until(self.find, "the main window")
+        self.window = wait_for(self.find, "the main window")
         before = self.geometry()
         while before != (before := self.rest()):  # the window manager puts its border around it
             pass
 
     def find(self) -> str:
-        self.assertTrue(self.program.runs())
-        return self.desktop.hands("search", "--onlyvisible", "--name", "Veloris").stdout.strip()
+        self.assertTrue(self.program.is_running())
+        return self.desktop.xdotool("search", "--onlyvisible", "--name", "Veloris").stdout.strip()
 
     def geometry(self) -> dict[str, int]:
-        lines = self.desktop.hands("getwindowgeometry", "--shell", self.window).stdout.split()
+        lines = self.desktop.xdotool("getwindowgeometry", "--shell", self.window).stdout.split()
         return {name: int(value) for name, value in (line.split("=") for line in lines)}
 
     def size(self) -> tuple[int, int]:
@@ -37,33 +37,33 @@ class Window(unittest.TestCase):
     def rest(self) -> dict[str, int]:
         """Where the window is after a while."""
         time.sleep(0.4)  # the only way to see that nothing happens
-        self.assertTrue(self.program.runs(), "the program has ended")
+        self.assertTrue(self.program.is_running(), "the program has ended")
         return self.geometry()
 
     def move(self, x: int, y: int) -> None:
-        self.desktop.hands("windowmove", self.window, str(x), str(y))
+        self.desktop.xdotool("windowmove", self.window, str(x), str(y))
 
     def point_at_title(self, x: int) -> None:
         """Moves the mouse to the title bar, that far from the left of the window."""
-        self.desktop.hands("mousemove", "--window", self.window, "--", str(x), "-12")
+        self.desktop.xdotool("mousemove", "--window", self.window, "--", str(x), "-12")
 
     def restore(self) -> None:
         """Some window managers shrink a window to the screen; a double click on its title bar restores its size."""
         if self.size()[0] <= self.screen[0]:
             self.point_at_title(300)
-            self.desktop.hands("click", "--repeat", "2", "--delay", "80", "1")
+            self.desktop.xdotool("click", "--repeat", "2", "--delay", "80", "1")
             self.rest()
             self.assertGreater(self.size()[0], self.screen[0])
 
     def drag(self, end: tuple[int, int]) -> None:
         """Drags what the mouse points at to another point of the screen."""
-        place = dict(line.split("=") for line in self.desktop.hands("getmouselocation", "--shell").stdout.split())
+        place = dict(line.split("=") for line in self.desktop.xdotool("getmouselocation", "--shell").stdout.split())
         start = int(place["X"]), int(place["Y"])
-        self.desktop.hands("mousedown", "1")
+        self.desktop.xdotool("mousedown", "1")
         for step in range(1, 11):
             place = (a + (b - a) * step // 10 for a, b in zip(start, end))
-            self.desktop.hands("mousemove", *map(str, place))
-        self.desktop.hands("mouseup", "1")
+            self.desktop.xdotool("mousemove", *map(str, place))
+        self.desktop.xdotool("mouseup", "1")
 
     def moves_everywhere(self) -> None:
         size = self.size()

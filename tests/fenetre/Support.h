@@ -9,7 +9,7 @@
 #include <gtest/gtest.h>
 
 #include "Pilote.h"
-#include "Window.h"
+#include "WindowBackend.h"
 
 namespace ondelis::fenetre {
 
@@ -42,8 +42,8 @@ protected:
         act(widget);
     }
 
-    Window body;
-    pilote::Pilote driver{body};
+    WindowBackend backend;
+    pilote::Pilote driver{backend};
 };
 
 } // namespace ondelis::fenetre

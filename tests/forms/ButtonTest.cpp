@@ -6,8 +6,10 @@ namespace {
 /// Two options and a button on the panel, two options in a frame.
 class Choix final : public FeuilleCalcul {
 public:
-    explicit Choix(Desk& desk)
-        : FeuilleCalcul{desk, {.name = "Choix", .Caption = "", .Width = 6000, .Height = 4000}} { }
+    explicit Choix(Runtime& runtime)
+        : FeuilleCalcul{runtime, {.name = "Choix", .Caption = "", .Width = 6000, .Height = 4000}}
+    {
+    }
 
     OptionButton OptF{this, "OptF", {.Caption = "F", .Value = true}, &Choix::OptF_Click};
     OptionButton OptL{this, "OptL", {.Caption = "L"}, &Choix::OptL_Click};
@@ -26,10 +28,10 @@ private:
     void BtnCalculer_Click() { log.emplace_back(BtnCalculer.Value ? "pressed" : "calcul"); }
 };
 
-class ButtonTest : public DeskTest {
+class ButtonTest : public RuntimeTest {
 protected:
     ButtonTest() { panel.Show(); }
-    Choix& panel = desk.get<Choix>();
+    Choix& panel = runtime.get<Choix>();
 };
 
 TEST_F(ButtonTest, anOptionRaisesClickWhenItBecomesTheChosenOne)
@@ -73,7 +75,7 @@ TEST_F(ButtonTest, theUserChoosesAnOptionOnce)
     user.click(panel.OptL);
     user.click(panel.OptL);
     EXPECT_EQ(panel.log, Log{"L alone"});
-    EXPECT_EQ(desk.focused(), &panel.OptL);
+    EXPECT_EQ(runtime.focused(), &panel.OptL);
 }
 
 TEST_F(ButtonTest, anOptionHasItsDesignValueAgainAfterUnload)

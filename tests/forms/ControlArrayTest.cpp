@@ -6,8 +6,8 @@ namespace {
 
 class Tableau final : public FeuilleCalcul {
 public:
-    explicit Tableau(Desk& desk)
-        : FeuilleCalcul{desk, {.name = "Tableau", .Caption = "", .Width = 6000, .Height = 4000}}
+    explicit Tableau(Runtime& runtime)
+        : FeuilleCalcul{runtime, {.name = "Tableau", .Caption = "", .Width = 6000, .Height = 4000}}
     {
     }
 
@@ -32,9 +32,9 @@ private:
     void TxtUSec_Change() { log.emplace_back("TxtUSec_Change"); }
 };
 
-class ControlArrayTest : public DeskTest {
+class ControlArrayTest : public RuntimeTest {
 protected:
-    Tableau& panel = desk.get<Tableau>();
+    Tableau& panel = runtime.get<Tableau>();
 };
 
 TEST_F(ControlArrayTest, hasOneDesignAnElement)

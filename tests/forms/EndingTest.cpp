@@ -6,7 +6,10 @@ namespace {
 /// Buttons whose handlers wait, fault and end, each within another one.
 class Fins final : public FeuilleCalcul {
 public:
-    explicit Fins(Desk& desk) : FeuilleCalcul{desk, {.name = "Fins", .Caption = "", .Width = 6000, .Height = 4000}} { }
+    explicit Fins(Runtime& runtime)
+        : FeuilleCalcul{runtime, {.name = "Fins", .Caption = "", .Width = 6000, .Height = 4000}}
+    {
+    }
 
     CommandButton BtnBoite{this, "BtnBoite", {}, &Fins::BtnBoite_Click};
     CommandButton BtnAttente{this, "BtnAttente", {}, &Fins::BtnAttente_Click};
@@ -43,7 +46,7 @@ private:
     }
     void BtnFin_Click()
     {
-        desk().End();
+        runtime().End();
         log.emplace_back("after the end");
     }
     void TxtA_Change()
@@ -61,8 +64,8 @@ private:
 /// Shows a box while it loads.
 class Bavarde final : public FeuilleCalcul {
 public:
-    explicit Bavarde(Desk& desk)
-        : FeuilleCalcul{desk, {.name = "Bavarde", .Caption = "", .Width = 6000, .Height = 4000}}
+    explicit Bavarde(Runtime& runtime)
+        : FeuilleCalcul{runtime, {.name = "Bavarde", .Caption = "", .Width = 6000, .Height = 4000}}
     {
     }
 
@@ -76,18 +79,18 @@ private:
     }
 };
 
-class EndingTest : public DeskTest {
+class EndingTest : public RuntimeTest {
 protected:
     EndingTest() { panel.Show(); }
-    Fins& panel = desk.get<Fins>();
+    Fins& panel = runtime.get<Fins>();
 };
 
 TEST_F(EndingTest, aFaultIsShownAndEndsTheProgramWithStatusOne)
 {
     user.click(panel.BtnFaute);
-    EXPECT_EQ(world.fault, FaultKind::DivisionByZero);
-    EXPECT_EQ(world.endings, std::vector<int>{1});
-    EXPECT_TRUE(desk.ended());
+    EXPECT_EQ(host.fault, FaultKind::DivisionByZero);
+    EXPECT_EQ(host.endings, std::vector<int>{1});
+    EXPECT_TRUE(runtime.ended());
     EXPECT_TRUE(panel.log.empty());
 }
 
@@ -97,7 +100,7 @@ TEST_F(EndingTest, aFaultLeavesAllNestedHandlers)
     user.type(panel.TxtA, "ab");
     EXPECT_EQ(panel.TxtA.Text, "a");
     EXPECT_TRUE(panel.log.empty());
-    EXPECT_EQ(world.endings, std::vector<int>{1});
+    EXPECT_EQ(host.endings, std::vector<int>{1});
 }
 
 TEST_F(EndingTest, endLeavesAllNestedHandlersWithStatusZero)
@@ -105,41 +108,41 @@ TEST_F(EndingTest, endLeavesAllNestedHandlersWithStatusZero)
     panel.atChange = [this] { panel.BtnFin.Value = true; };
     user.type(panel.TxtA, "ab");
     EXPECT_TRUE(panel.log.empty());
-    EXPECT_EQ(world.fault, std::nullopt);
-    EXPECT_EQ(world.endings, std::vector<int>{0});
+    EXPECT_EQ(host.fault, std::nullopt);
+    EXPECT_EQ(host.endings, std::vector<int>{0});
 }
 
 TEST_F(EndingTest, nothingHappensAfterTheEnd)
 {
-    desk.close();
+    runtime.close();
     EXPECT_TRUE(user.click(panel.BtnBoite).has_value());
     EXPECT_TRUE(user.type(panel.TxtA, "x").has_value());
     EXPECT_TRUE(user.close(panel).has_value());
-    desk.perform([] { FAIL() << "performed after the end"; });
-    desk.close();
-    EXPECT_TRUE(world.boxes.empty());
-    EXPECT_EQ(world.endings, std::vector<int>{0});
+    runtime.perform([] { FAIL() << "performed after the end"; });
+    runtime.close();
+    EXPECT_TRUE(host.boxes.empty());
+    EXPECT_EQ(host.endings, std::vector<int>{0});
 }
 
 TEST_F(EndingTest, aBoxTellsItsPromptButtonsAndTitleAndGivesTheAnswer)
 {
-    world.onBox = [](const MessageBox&) { return Answer::No; };
+    host.onBox = [](const MessageBox&) { return Answer::No; };
     EXPECT_EQ(panel.ask("Encore\tun ?\nVraiment ?", 4, "Titre"), Answer::No);
-    EXPECT_EQ(world.boxes.back().prompt, "Encore\tun ?\nVraiment ?");
-    EXPECT_EQ(world.boxes.back().buttons, 4);
-    EXPECT_EQ(world.boxes.back().title, "Titre");
+    EXPECT_EQ(host.boxes.back().prompt, "Encore\tun ?\nVraiment ?");
+    EXPECT_EQ(host.boxes.back().buttons, 4);
+    EXPECT_EQ(host.boxes.back().title, "Titre");
 }
 
 TEST_F(EndingTest, aBoxWithOneButtonBearsTheTitleOfTheApplication)
 {
     user.click(panel.BtnBoite);
-    EXPECT_EQ(world.boxes.back().buttons, 0);
-    EXPECT_EQ(world.boxes.back().title, "Ondelis");
+    EXPECT_EQ(host.boxes.back().buttons, 0);
+    EXPECT_EQ(host.boxes.back().title, "Ondelis");
 }
 
 TEST_F(EndingTest, aBoxHoldsTheHandlerUntilItIsAnswered)
 {
-    world.onBox = [this](const MessageBox&) {
+    host.onBox = [this](const MessageBox&) {
         EXPECT_TRUE(panel.log.empty());
         return Answer::Ok;
     };
@@ -150,27 +153,27 @@ TEST_F(EndingTest, aBoxHoldsTheHandlerUntilItIsAnswered)
 TEST_F(EndingTest, closingTheProgramWhileABoxIsOpenLeavesTheHandlers)
 {
     panel.atChange = [this] { panel.BtnBoite.Value = true; };
-    world.onBox = [this](const MessageBox&) {
-        desk.close();
+    host.onBox = [this](const MessageBox&) {
+        runtime.close();
         return Answer::Ok;
     };
     user.type(panel.TxtA, "x");
     EXPECT_TRUE(panel.log.empty());
-    EXPECT_EQ(world.endings, std::vector<int>{0});
-    EXPECT_EQ(world.fault, std::nullopt);
+    EXPECT_EQ(host.endings, std::vector<int>{0});
+    EXPECT_EQ(host.fault, std::nullopt);
 }
 
 TEST_F(EndingTest, closingThePanelWhileABoxIsOpenLeavesItsHandlers)
 {
     panel.atChange = [this] { panel.BtnBoite.Value = true; };
-    world.onBox = [this](const MessageBox&) {
+    host.onBox = [this](const MessageBox&) {
         EXPECT_FALSE(user.close(panel).has_value());
         return Answer::Ok;
     };
     user.type(panel.TxtA, "xy");
     EXPECT_TRUE(panel.log.empty());
     EXPECT_FALSE(panel.loaded());
-    EXPECT_FALSE(desk.ended());
+    EXPECT_FALSE(runtime.ended());
     panel.Show();
     EXPECT_EQ(panel.TxtA.Text, "");
 }
@@ -178,18 +181,18 @@ TEST_F(EndingTest, closingThePanelWhileABoxIsOpenLeavesItsHandlers)
 TEST_F(EndingTest, closingThePanelWhileAKeyIsSeenLetsNoCharacterLand)
 {
     panel.boxAtKey = true;
-    world.onBox = [this](const MessageBox&) {
+    host.onBox = [this](const MessageBox&) {
         user.close(panel);
         return Answer::Ok;
     };
     user.type(panel.TxtA, "xy");
     EXPECT_FALSE(panel.loaded());
-    EXPECT_EQ(world.boxes.size(), 1U);
+    EXPECT_EQ(host.boxes.size(), 1U);
 }
 
 TEST_F(EndingTest, aHandlerOfAnEarlierLoadingDoesNotGoOnInALaterOne)
 {
-    world.onPending = [this] {
+    host.onPending = [this] {
         panel.Unload();
         panel.Show();
     };
@@ -201,7 +204,7 @@ TEST_F(EndingTest, aHandlerOfAnEarlierLoadingDoesNotGoOnInALaterOne)
 TEST_F(EndingTest, pendingEventsRunWithinTheHandler)
 {
     bool once = false;
-    world.onPending = [&] {
+    host.onPending = [&] {
         if (!std::exchange(once, true))
             user.click(panel.BtnAttente);
         panel.log.emplace_back("pending");
@@ -213,25 +216,25 @@ TEST_F(EndingTest, pendingEventsRunWithinTheHandler)
 TEST_F(EndingTest, aFaultOfAPendingEventLeavesTheWaitingHandlersToo)
 {
     panel.atChange = [this] { panel.BtnAttente.Value = true; };
-    world.onPending = [this] { user.click(panel.BtnFaute); };
+    host.onPending = [this] { user.click(panel.BtnFaute); };
     user.type(panel.TxtA, "x");
     EXPECT_TRUE(panel.log.empty());
-    EXPECT_EQ(world.fault, FaultKind::DivisionByZero);
-    EXPECT_EQ(world.endings, std::vector<int>{1});
+    EXPECT_EQ(host.fault, FaultKind::DivisionByZero);
+    EXPECT_EQ(host.endings, std::vector<int>{1});
 }
 
 TEST_F(EndingTest, anEndOfAPendingEventLeavesTheWaitingHandlersToo)
 {
-    world.onPending = [this] { user.click(panel.BtnFin); };
+    host.onPending = [this] { user.click(panel.BtnFin); };
     user.click(panel.BtnAttente);
     EXPECT_TRUE(panel.log.empty());
-    EXPECT_EQ(world.endings, std::vector<int>{0});
+    EXPECT_EQ(host.endings, std::vector<int>{0});
 }
 
 TEST_F(EndingTest, closingThePanelTwoLoopsDeepLeavesBothHandlers)
 {
     int depth = 0;
-    world.onPending = [&] {
+    host.onPending = [&] {
         if (++depth == 1)
             user.click(panel.BtnAttente);
         else
@@ -245,58 +248,58 @@ TEST_F(EndingTest, closingThePanelTwoLoopsDeepLeavesBothHandlers)
 
 TEST_F(EndingTest, aPanelOpenedByAPendingEventLoadsWholeThoughTheWaitingOneIsGone)
 {
-    world.onPending = [this] {
-        desk.perform([this] {
+    host.onPending = [this] {
+        runtime.perform([this] {
             panel.Unload();
-            desk.get<Bavarde>().Show();
+            runtime.get<Bavarde>().Show();
         });
     };
     user.click(panel.BtnAttente);
     EXPECT_TRUE(panel.log.empty());
-    EXPECT_TRUE(desk.get<Bavarde>().visible());
-    EXPECT_EQ(desk.get<Bavarde>().TxtA.Text, "chargée");
+    EXPECT_TRUE(runtime.get<Bavarde>().visible());
+    EXPECT_EQ(runtime.get<Bavarde>().TxtA.Text, "chargée");
 }
 
 TEST_F(EndingTest, closingTheProgramWhileAPanelLoadsLeavesItsFormLoad)
 {
-    world.onBox = [this](const MessageBox&) {
-        desk.close();
+    host.onBox = [this](const MessageBox&) {
+        runtime.close();
         return Answer::Ok;
     };
-    desk.perform([this] { desk.get<Bavarde>().Show(); });
-    EXPECT_EQ(desk.get<Bavarde>().TxtA.Text, "");
-    EXPECT_FALSE(desk.get<Bavarde>().visible());
+    runtime.perform([this] { runtime.get<Bavarde>().Show(); });
+    EXPECT_EQ(runtime.get<Bavarde>().TxtA.Text, "");
+    EXPECT_FALSE(runtime.get<Bavarde>().visible());
 }
 
 TEST_F(EndingTest, aPanelThatLoadsCannotBeClosedYet)
 {
-    world.onBox = [this](const MessageBox&) {
-        EXPECT_TRUE(user.close(desk.get<Bavarde>()).has_value());
+    host.onBox = [this](const MessageBox&) {
+        EXPECT_TRUE(user.close(runtime.get<Bavarde>()).has_value());
         return Answer::Ok;
     };
-    desk.perform([this] { desk.get<Bavarde>().Show(); });
-    EXPECT_TRUE(desk.get<Bavarde>().visible());
+    runtime.perform([this] { runtime.get<Bavarde>().Show(); });
+    EXPECT_TRUE(runtime.get<Bavarde>().visible());
 }
 
 TEST_F(EndingTest, nothingCanBeDoneWhileTheFaultIsRead)
 {
-    world.onFault = [this] {
+    host.onFault = [this] {
         EXPECT_TRUE(user.click(panel.BtnBoite).has_value());
-        desk.close();
+        runtime.close();
     };
     user.click(panel.BtnFaute);
     EXPECT_TRUE(panel.log.empty());
-    EXPECT_EQ(world.endings, std::vector<int>{1});
+    EXPECT_EQ(host.endings, std::vector<int>{1});
 }
 
 TEST_F(EndingTest, afterTheHandlersAreLeftTheNextActionIsAsEver)
 {
-    world.onBox = [this](const MessageBox&) {
+    host.onBox = [this](const MessageBox&) {
         user.close(panel);
         return Answer::Ok;
     };
     user.click(panel.BtnBoite);
-    world.onBox = [](const MessageBox&) { return Answer::Ok; };
+    host.onBox = [](const MessageBox&) { return Answer::Ok; };
     panel.Show();
     user.click(panel.BtnBoite);
     EXPECT_EQ(panel.log, Log{"after the box"});

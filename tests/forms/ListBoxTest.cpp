@@ -5,7 +5,8 @@ namespace {
 
 class Listes final : public FeuilleCalcul {
 public:
-    explicit Listes(Desk& desk) : FeuilleCalcul{desk, {.name = "Listes", .Caption = "", .Width = 6000, .Height = 4000}}
+    explicit Listes(Runtime& runtime)
+        : FeuilleCalcul{runtime, {.name = "Listes", .Caption = "", .Width = 6000, .Height = 4000}}
     {
     }
 
@@ -24,10 +25,10 @@ private:
     void LstTete_GotFocus() { log.emplace_back("clavier"); }
 };
 
-class ListBoxTest : public DeskTest {
+class ListBoxTest : public RuntimeTest {
 protected:
     ListBoxTest() { panel.Show(); }
-    Listes& panel = desk.get<Listes>();
+    Listes& panel = runtime.get<Listes>();
 };
 
 TEST_F(ListBoxTest, opensWithItsDesignItemsAndNoChosenRow)
@@ -169,7 +170,7 @@ TEST_F(ListBoxTest, refusesTheUserARowThatIsNotThere)
 {
     EXPECT_TRUE(user.choose(panel.LstUnite, 3).has_value());
     EXPECT_TRUE(user.choose(panel.LstUnite, -1).has_value());
-    EXPECT_EQ(desk.focused(), nullptr);
+    EXPECT_EQ(runtime.focused(), nullptr);
     EXPECT_TRUE(panel.log.empty());
 }
 

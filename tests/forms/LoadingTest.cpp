@@ -3,11 +3,11 @@
 namespace ondelis::tests {
 namespace {
 
-/// Notes each Form_Load, and does there what the test asks.
+/// Records each Form_Load, and does there what the test asks.
 class Fiche final : public FeuilleCalcul {
 public:
-    explicit Fiche(Desk& desk)
-        : FeuilleCalcul{desk, {.name = "Fiche", .Caption = "Fiche", .Width = 6000, .Height = 4000}}
+    explicit Fiche(Runtime& runtime)
+        : FeuilleCalcul{runtime, {.name = "Fiche", .Caption = "Fiche", .Width = 6000, .Height = 4000}}
     {
     }
 
@@ -40,18 +40,18 @@ private:
 /// Refers to the other panel while it loads.
 class Compagne final : public FeuilleCalcul {
 public:
-    explicit Compagne(Desk& desk)
-        : FeuilleCalcul{desk, {.name = "Compagne", .Caption = "", .Width = 3000, .Height = 2000}}
+    explicit Compagne(Runtime& runtime)
+        : FeuilleCalcul{runtime, {.name = "Compagne", .Caption = "", .Width = 3000, .Height = 2000}}
     {
     }
 
 private:
-    void Form_Load() override { desk().get<Fiche>().TxtC.Text = "lié"; }
+    void Form_Load() override { runtime().get<Fiche>().TxtC.Text = "lié"; }
 };
 
-class LoadingTest : public DeskTest {
+class LoadingTest : public RuntimeTest {
 protected:
-    Fiche& panel = desk.get<Fiche>();
+    Fiche& panel = runtime.get<Fiche>();
 
     void expectLoadedAndVisible() const
     {
@@ -66,13 +66,13 @@ TEST_F(LoadingTest, theFirstReferenceMakesThePanelAndLoadsNothing)
     EXPECT_FALSE(panel.loaded());
     EXPECT_FALSE(panel.visible());
     EXPECT_EQ(panel.loads, 0);
-    EXPECT_TRUE(world.log.empty());
-    EXPECT_TRUE(desk.loadedPanels().empty());
+    EXPECT_TRUE(host.log.empty());
+    EXPECT_TRUE(runtime.loadedPanels().empty());
 }
 
 TEST_F(LoadingTest, thereIsOneInstanceOfAPanel)
 {
-    EXPECT_EQ(&desk.get<Fiche>(), &panel);
+    EXPECT_EQ(&runtime.get<Fiche>(), &panel);
 }
 
 TEST_F(LoadingTest, showLoadsOnceAndMakesVisible)
@@ -80,7 +80,7 @@ TEST_F(LoadingTest, showLoadsOnceAndMakesVisible)
     panel.Show();
     panel.Show();
     expectLoadedAndVisible();
-    EXPECT_EQ(world.log, (Log{"loaded Fiche", "changed Fiche", "raised Fiche", "raised Fiche"}));
+    EXPECT_EQ(host.log, (Log{"loaded Fiche", "changed Fiche", "raised Fiche", "raised Fiche"}));
 }
 
 TEST_F(LoadingTest, readingATextLoadsAndShows)
@@ -228,7 +228,7 @@ TEST_F(LoadingTest, unloadDropsTheControlsAndKeepsTheVariables)
     panel.TxtC.BackColor = 0xC0E0FF;
     panel.Caption = "Autre";
     panel.Left = 300;
-    desk.Unload<Fiche>();
+    runtime.Unload<Fiche>();
     EXPECT_FALSE(panel.loaded());
     EXPECT_FALSE(panel.visible());
     EXPECT_EQ(panel.Capacite, "12");
@@ -245,15 +245,15 @@ TEST_F(LoadingTest, unloadDropsTheControlsAndKeepsTheVariables)
 TEST_F(LoadingTest, unloadOfAPanelThatIsNotLoadedHasNoEffect)
 {
     panel.Unload();
-    desk.Unload<Fiche>();
-    desk.Unload<Compagne>();
+    runtime.Unload<Fiche>();
+    runtime.Unload<Compagne>();
     EXPECT_EQ(panel.loads, 0);
-    EXPECT_TRUE(world.log.empty());
+    EXPECT_TRUE(host.log.empty());
     panel.Show();
     panel.Unload();
-    world.log.clear();
+    host.log.clear();
     panel.Unload();
-    EXPECT_TRUE(world.log.empty());
+    EXPECT_TRUE(host.log.empty());
 }
 
 TEST_F(LoadingTest, unloadRaisesNoChange)
@@ -266,25 +266,25 @@ TEST_F(LoadingTest, unloadRaisesNoChange)
 TEST_F(LoadingTest, unloadTakesTheKeyboardAway)
 {
     panel.TxtC.SetFocus();
-    EXPECT_EQ(desk.focused(), &panel.TxtC);
+    EXPECT_EQ(runtime.focused(), &panel.TxtC);
     panel.Unload();
-    EXPECT_EQ(desk.focused(), nullptr);
+    EXPECT_EQ(runtime.focused(), nullptr);
 }
 
 TEST_F(LoadingTest, unloadOfAnotherPanelLeavesTheKeyboardWhereItIs)
 {
-    desk.get<Compagne>().Show();
+    runtime.get<Compagne>().Show();
     panel.TxtC.SetFocus();
-    desk.Unload<Compagne>();
-    EXPECT_EQ(desk.focused(), &panel.TxtC);
+    runtime.Unload<Compagne>();
+    EXPECT_EQ(runtime.focused(), &panel.TxtC);
 }
 
 TEST_F(LoadingTest, aStoreIntoAnotherPanelLoadsAndShowsIt)
 {
-    desk.get<Compagne>().Show();
+    runtime.get<Compagne>().Show();
     expectLoadedAndVisible();
     EXPECT_EQ(panel.TxtC.Text, "lié");
-    EXPECT_EQ(desk.loadedPanels(), (std::vector<FeuilleCalcul*>{&desk.get<Compagne>(), &panel}));
+    EXPECT_EQ(runtime.loadedPanels(), (std::vector<FeuilleCalcul*>{&runtime.get<Compagne>(), &panel}));
 }
 
 TEST_F(LoadingTest, theCloseBoxUnloads)
@@ -307,7 +307,7 @@ TEST_F(LoadingTest, setFocusOnAHiddenFieldIsAFault)
 {
     panel.TxtC.Visible = false;
     EXPECT_EQ(faultOf([&] { panel.TxtC.SetFocus(); }), FaultKind::InvalidArgument);
-    EXPECT_EQ(desk.focused(), nullptr);
+    EXPECT_EQ(runtime.focused(), nullptr);
 }
 
 TEST_F(LoadingTest, aControlIsFoundByItsName)

@@ -6,7 +6,8 @@ namespace {
 
 class Masque final : public FeuilleCalcul {
 public:
-    explicit Masque(Desk& desk) : FeuilleCalcul{desk, {.name = "Masque", .Caption = "", .Width = 6000, .Height = 4000}}
+    explicit Masque(Runtime& runtime)
+        : FeuilleCalcul{runtime, {.name = "Masque", .Caption = "", .Width = 6000, .Height = 4000}}
     {
     }
 
@@ -19,9 +20,9 @@ public:
     }
 };
 
-class MaskEdBoxTest : public DeskTest {
+class MaskEdBoxTest : public RuntimeTest {
 protected:
-    Masque& panel = desk.get<Masque>();
+    Masque& panel = runtime.get<Masque>();
 };
 
 TEST_F(MaskEdBoxTest, showsANumberInExponentFormWithThreeDecimals)

@@ -8,8 +8,8 @@ namespace {
 /// A Form_Load with a fault in a statement of its own, and one in a handler that a statement runs.
 class Defauts final : public FeuilleCalcul {
 public:
-    explicit Defauts(Desk& desk)
-        : FeuilleCalcul{desk, {.name = "Defauts", .Caption = "", .Width = 6000, .Height = 4000}}
+    explicit Defauts(Runtime& runtime)
+        : FeuilleCalcul{runtime, {.name = "Defauts", .Caption = "", .Width = 6000, .Height = 4000}}
     {
     }
 
@@ -42,26 +42,26 @@ private:
     void TxtB_Change()
     {
         if (endInside)
-            desk().End();
+            runtime().End();
         log.push_back(CStr(CDbl(TxtB.Text)));
         log.emplace_back("never: nothing is resumed in here");
     }
 };
 
-class ResumeNextTest : public DeskTest { };
+class ResumeNextTest : public RuntimeTest { };
 
 TEST_F(ResumeNextTest, aFaultEndsItsStatementAndTheNextOneRuns)
 {
-    auto& panel = desk.get<Defauts>();
-    desk.perform([&] { panel.Show(); });
+    auto& panel = runtime.get<Defauts>();
+    runtime.perform([&] { panel.Show(); });
     EXPECT_EQ(panel.log, (Log{"first", "A begins", "last"}));
-    EXPECT_EQ(world.fault, std::nullopt);
-    EXPECT_FALSE(desk.ended());
+    EXPECT_EQ(host.fault, std::nullopt);
+    EXPECT_FALSE(runtime.ended());
 }
 
 TEST_F(ResumeNextTest, storesBeforeTheFaultStand)
 {
-    auto& panel = desk.get<Defauts>();
+    auto& panel = runtime.get<Defauts>();
     panel.Show();
     EXPECT_EQ(panel.TxtA.Text, "x");
     EXPECT_EQ(panel.TxtB.Text, "x");
@@ -71,20 +71,20 @@ TEST_F(ResumeNextTest, storesBeforeTheFaultStand)
 
 TEST_F(ResumeNextTest, theSameFaultAfterFormLoadEndsTheProgram)
 {
-    auto& panel = desk.get<Defauts>();
+    auto& panel = runtime.get<Defauts>();
     panel.Show();
     user.type(panel.TxtA, "y");
-    EXPECT_EQ(world.fault, FaultKind::TypeMismatch);
-    EXPECT_EQ(world.endings, std::vector<int>{1});
+    EXPECT_EQ(host.fault, FaultKind::TypeMismatch);
+    EXPECT_EQ(host.endings, std::vector<int>{1});
 }
 
 TEST_F(ResumeNextTest, anEndInsideAStatementIsNotPassedOver)
 {
-    auto& panel = desk.get<Defauts>();
+    auto& panel = runtime.get<Defauts>();
     panel.endInside = true;
-    desk.perform([&] { panel.Show(); });
+    runtime.perform([&] { panel.Show(); });
     EXPECT_EQ(panel.log, (Log{"first", "A begins"}));
-    EXPECT_EQ(world.endings, std::vector<int>{0});
+    EXPECT_EQ(host.endings, std::vector<int>{0});
 }
 
 } // namespace

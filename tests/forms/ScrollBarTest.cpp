@@ -6,7 +6,8 @@ namespace {
 
 class Barres final : public FeuilleCalcul {
 public:
-    explicit Barres(Desk& desk) : FeuilleCalcul{desk, {.name = "Barres", .Caption = "", .Width = 6000, .Height = 4000}}
+    explicit Barres(Runtime& runtime)
+        : FeuilleCalcul{runtime, {.name = "Barres", .Caption = "", .Width = 6000, .Height = 4000}}
     {
     }
 
@@ -26,10 +27,10 @@ private:
     void TxtFreq_Change() { HscrFreq.Value = CInt(Val(TxtFreq.Text)); }
 };
 
-class ScrollBarTest : public DeskTest {
+class ScrollBarTest : public RuntimeTest {
 protected:
     ScrollBarTest() { panel.Show(); }
-    Barres& panel = desk.get<Barres>();
+    Barres& panel = runtime.get<Barres>();
 };
 
 TEST_F(ScrollBarTest, raisesChangeForANewValueOnly)
@@ -109,7 +110,7 @@ TEST_F(ScrollBarTest, mirrorsAFieldUntilNothingChanges)
 TEST_F(ScrollBarTest, endsTheProgramWhenAFieldDrivesItOutside)
 {
     user.replace(panel.TxtFreq, "500");
-    EXPECT_EQ(world.fault, FaultKind::InvalidPropertyValue);
+    EXPECT_EQ(host.fault, FaultKind::InvalidPropertyValue);
 }
 
 TEST_F(ScrollBarTest, refusesTheUserAValueOutside)
@@ -119,7 +120,7 @@ TEST_F(ScrollBarTest, refusesTheUserAValueOutside)
     EXPECT_TRUE(user.move(panel.HscrFreq, -100000).has_value());
     EXPECT_FALSE(user.move(panel.HscrFreq, 100).has_value());
     EXPECT_EQ(panel.log, Log{"freq 100"});
-    EXPECT_EQ(desk.focused(), &panel.HscrFreq);
+    EXPECT_EQ(runtime.focused(), &panel.HscrFreq);
 }
 
 TEST_F(ScrollBarTest, hasItsDesignLimitsAgainAfterUnload)

@@ -6,8 +6,8 @@ namespace {
 /// A field that fills a second one, which fills a third one.
 class Chaine final : public FeuilleCalcul {
 public:
-    explicit Chaine(Desk& desk)
-        : FeuilleCalcul{desk, {.name = "Chaine", .Caption = "Chaîne", .Width = 6000, .Height = 4000}}
+    explicit Chaine(Runtime& runtime)
+        : FeuilleCalcul{runtime, {.name = "Chaine", .Caption = "Chaîne", .Width = 6000, .Height = 4000}}
     {
     }
 
@@ -36,9 +36,9 @@ private:
     void TxtC_Change() { log.push_back("C with " + std::string{TxtC.Text}); }
 };
 
-class StoreTest : public DeskTest {
+class StoreTest : public RuntimeTest {
 protected:
-    Chaine& panel = desk.get<Chaine>();
+    Chaine& panel = runtime.get<Chaine>();
 };
 
 TEST_F(StoreTest, runsTheWholeNestedChainBeforeTheNextStatement)
@@ -138,15 +138,15 @@ TEST_F(StoreTest, ofAPositionBeyondSingleIsAnOverflow)
 TEST_F(StoreTest, tellsTheViewBeforeTheHandlerRuns)
 {
     panel.Show();
-    world.log.clear();
+    host.log.clear();
     panel.TxtB.Text = "x";
-    EXPECT_EQ(world.log, (Log{"control TxtB", "control TxtC"}));
+    EXPECT_EQ(host.log, (Log{"control TxtB", "control TxtC"}));
 }
 
 TEST_F(StoreTest, tellsTheViewOnlyWhatIsNew)
 {
     panel.Show();
-    world.log.clear();
+    host.log.clear();
     panel.TxtA.BackColor = 0xFFFFC0;
     panel.TxtA.BackColor = 0xFFFFC0;
     panel.TxtA.Locked = false;
@@ -154,14 +154,14 @@ TEST_F(StoreTest, tellsTheViewOnlyWhatIsNew)
     panel.LblA.Caption = "A";
     panel.Caption = "Chaîne";
     panel.Caption = "Autre";
-    EXPECT_EQ(world.log, (Log{"control TxtA", "control TxtA", "changed Chaine"}));
+    EXPECT_EQ(host.log, (Log{"control TxtA", "control TxtA", "changed Chaine"}));
 }
 
 /// A field that its own `Change` rewrites, as a `Calculer` does.
 class Recalcul final : public FeuilleCalcul {
 public:
-    explicit Recalcul(Desk& desk)
-        : FeuilleCalcul{desk, {.name = "Recalcul", .Caption = "", .Width = 6000, .Height = 4000}}
+    explicit Recalcul(Runtime& runtime)
+        : FeuilleCalcul{runtime, {.name = "Recalcul", .Caption = "", .Width = 6000, .Height = 4000}}
     {
     }
 
@@ -178,7 +178,7 @@ private:
 
 TEST_F(StoreTest, endsAChainWhereNothingChanges)
 {
-    auto& recalcul = desk.get<Recalcul>();
+    auto& recalcul = runtime.get<Recalcul>();
     recalcul.TxtA.Text = "x";
     EXPECT_EQ(recalcul.TxtA.Text, "fixe");
     EXPECT_EQ(recalcul.passes, 2);

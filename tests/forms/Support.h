@@ -8,17 +8,17 @@
 #include <gtest/gtest.h>
 
 #include "forms/Controls.h"
-#include "forms/Desk.h"
 #include "forms/FeuilleCalcul.h"
-#include "forms/Surroundings.h"
+#include "forms/Host.h"
+#include "forms/Runtime.h"
 #include "forms/User.h"
 
 namespace ondelis::tests {
 
 using Log = std::vector<std::string>;
 
-/// A world that a test can look at, and that acts where the test tells it to.
-class TestSurroundings final : public Surroundings {
+/// A host that a test can inspect, and that acts as the test says.
+class TestHost final : public Host {
 public:
     /// What happens while a box is open; the answer.
     std::function<Answer(const MessageBox&)> onBox = [](const MessageBox&) { return Answer::Ok; };
@@ -27,11 +27,11 @@ public:
     /// What happens when pending events run.
     std::function<void()> onPending = [] {};
 
-    Extent screenSize{.Width = 28800, .Height = 16200};
+    Size screenSize{.Width = 28800, .Height = 16200};
     std::vector<MessageBox> boxes;
     std::optional<FaultKind> fault;
     std::vector<int> endings; ///< the status of each end of the program: there must never be two
-    Log log; ///< what the view is told
+    Log log; ///< what is reported to the view
 
     Answer showBox(const MessageBox& box) override
     {
@@ -44,7 +44,7 @@ public:
         onFault();
     }
     void runPendingEvents() override { onPending(); }
-    [[nodiscard]] Extent screen() const override { return screenSize; }
+    [[nodiscard]] Size screen() const override { return screenSize; }
 
     void frameChanged() override { log.emplace_back("frame"); }
     void panelLoaded(FeuilleCalcul& panel) override { log.push_back("loaded " + panel.design().name); }
@@ -56,12 +56,12 @@ public:
     void programEnded(int status) override { endings.push_back(status); }
 };
 
-/// A desk in such a world, and a user at it.
-class DeskTest : public testing::Test {
+/// A runtime in such a host, and a user at it.
+class RuntimeTest : public testing::Test {
 protected:
-    TestSurroundings world;
-    Desk desk{world};
-    User user{desk};
+    TestHost host;
+    Runtime runtime{host};
+    User user{runtime};
 };
 
 /// The kind of the fault that an action throws; nothing if it throws none.

@@ -6,7 +6,8 @@ namespace {
 
 class Saisie final : public FeuilleCalcul {
 public:
-    explicit Saisie(Desk& desk) : FeuilleCalcul{desk, {.name = "Saisie", .Caption = "", .Width = 6000, .Height = 4000}}
+    explicit Saisie(Runtime& runtime)
+        : FeuilleCalcul{runtime, {.name = "Saisie", .Caption = "", .Width = 6000, .Height = 4000}}
     {
     }
 
@@ -43,14 +44,14 @@ private:
     void TxtRemis_KeyPress(Integer& /*KeyAscii*/) { TxtRemis.Text = "100"; }
 };
 
-class UserTest : public DeskTest {
+class UserTest : public RuntimeTest {
 protected:
     UserTest()
     {
         panel.Show();
-        world.log.clear();
+        host.log.clear();
     }
-    Saisie& panel = desk.get<Saisie>();
+    Saisie& panel = runtime.get<Saisie>();
 };
 
 TEST_F(UserTest, eachKeyIsSeenBeforeItEntersTheField)
@@ -100,7 +101,7 @@ TEST_F(UserTest, backspaceTakesNothingMoreWhereTheHandlerRewroteTheText)
     user.backspace(panel.TxtEfface);
     EXPECT_EQ(panel.TxtEfface.Text, "");
     user.backspace(panel.TxtEfface);
-    EXPECT_EQ(world.fault, FaultKind::InvalidArgument);
+    EXPECT_EQ(host.fault, FaultKind::InvalidArgument);
 }
 
 TEST_F(UserTest, aRewrittenTextStandsUnderBackspaceAndGoesOnUnderAKey)
@@ -225,9 +226,9 @@ TEST_F(UserTest, aLockedFieldRefusesKeysAndPastesButTakesTheKeyboard)
     EXPECT_TRUE(user.backspace(panel.TxtRes).has_value());
     EXPECT_TRUE(user.replace(panel.TxtRes, "2").has_value());
     EXPECT_EQ(panel.TxtRes.Text, "1");
-    EXPECT_EQ(desk.focused(), nullptr);
+    EXPECT_EQ(runtime.focused(), nullptr);
     EXPECT_FALSE(user.focus(panel.TxtRes).has_value());
-    EXPECT_EQ(desk.focused(), &panel.TxtRes);
+    EXPECT_EQ(runtime.focused(), &panel.TxtRes);
 }
 
 TEST_F(UserTest, aHiddenFieldRefusesEverything)
@@ -261,7 +262,7 @@ TEST_F(UserTest, anActionGivesItsControlTheKeyboardFirst)
 {
     user.type(panel.TxtA, "1");
     user.type(panel.TxtA, "2");
-    EXPECT_EQ(world.log, (Log{"focus TxtA", "control TxtA", "control TxtA"}));
+    EXPECT_EQ(host.log, (Log{"focus TxtA", "control TxtA", "control TxtA"}));
 }
 
 TEST_F(UserTest, theViewIsToldWhereTheHandlerRewroteTheText)

@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "OddTexts.h"
-#include "Words.h"
+#include "Tokenizer.h"
 #include "shell/Menu.h"
 
 namespace ondelis::fuzz {
@@ -21,7 +21,7 @@ std::string RandomUser::region()
     return std::string{dice_.one(regions)};
 }
 
-std::string RandomUser::next(const Desk& desk)
+std::string RandomUser::next(const Runtime& runtime)
 {
     if (minimised_ && dice_.percent(60)) {
         minimised_ = false;
@@ -30,15 +30,15 @@ std::string RandomUser::next(const Desk& desk)
     if (dice_.percent(2))
         return dice_.percent(50) ? "answer yes" : "answer no";
     if (dice_.percent(2))
-        return toWindows(desk);
-    const bool mayWait = std::ranges::any_of(desk.loadedPanels(),
+        return toWindows(runtime);
+    const bool mayWait = std::ranges::any_of(runtime.loadedPanels(),
         [](const FeuilleCalcul* panel) { return std::ranges::find(waiting, panel->design().name) != waiting.end(); });
-    return (dice_.percent(mayWait ? 15 : 1) ? "meanwhile " : "") + gesture(desk);
+    return (dice_.percent(mayWait ? 15 : 1) ? "meanwhile " : "") + gesture(runtime);
 }
 
-std::string RandomUser::gesture(const Desk& desk)
+std::string RandomUser::gesture(const Runtime& runtime)
 {
-    const auto& panels = desk.loadedPanels();
+    const auto& panels = runtime.loadedPanels();
     if (panels.empty() || dice_.percent(3))
         return menuEntry();
     const FeuilleCalcul& panel = *dice_.one(panels);
@@ -47,9 +47,9 @@ std::string RandomUser::gesture(const Desk& desk)
     return onPanel(panel);
 }
 
-std::string RandomUser::toWindows(const Desk& desk)
+std::string RandomUser::toWindows(const Runtime& runtime)
 {
-    const auto& panels = desk.loadedPanels();
+    const auto& panels = runtime.loadedPanels();
     switch (dice_.below(5)) {
     case 0:
         minimised_ = true;
@@ -90,42 +90,42 @@ std::string RandomUser::onPanel(const FeuilleCalcul& panel)
 
 std::string RandomUser::onControl(Control& control)
 {
-    const std::string target = control.panel().design().name + '.' + control.name();
+    const std::string path = control.panel().design().name + '.' + control.name();
     if (dice_.percent(3))
-        return "focus " + target;
+        return "focus " + path;
     if (auto* const box = dynamic_cast<TextBox*>(&control))
-        return write(*box, target);
+        return write(*box, path);
     if (auto* const list = dynamic_cast<ListBox*>(&control))
         if (const int rows = list->ListCount().value(); rows > 0)
-            return "select " + target + ' ' + std::to_string(dice_.between(0, rows - 1));
+            return "select " + path + ' ' + std::to_string(dice_.between(0, rows - 1));
     if (auto* const bar = dynamic_cast<ScrollBar*>(&control); bar != nullptr && dice_.percent(15))
-        return held(target, {"back", "forward"});
+        return held(path, {"back", "forward"});
     if (auto* const bar = dynamic_cast<ScrollBar*>(&control))
-        return "scroll " + target + ' ' + std::to_string(position(*bar));
+        return "scroll " + path + ' ' + std::to_string(position(*bar));
     if (dynamic_cast<OptionButton*>(&control) != nullptr || dynamic_cast<CommandButton*>(&control) != nullptr)
-        return "click " + target;
-    return "focus " + target;
+        return "click " + path;
+    return "focus " + path;
 }
 
-std::string RandomUser::write(TextBox& box, const std::string& target)
+std::string RandomUser::write(TextBox& box, const std::string& path)
 {
     if (dice_.percent(oddity_ > 10 ? 25 : 10))
-        return "backspace " + target;
+        return "backspace " + path;
     if (dice_.percent(3))
-        return held(target, {"backspace", R"("5")", R"("-")", R"(".")", R"("e")"});
+        return held(path, {"backspace", R"("5")", R"("-")", R"(".")", R"("e")"});
     // Keys land after what is there: a number grows by a key or two before it is replaced.
     if (dice_.percent(20) && !std::string{box.Text}.empty())
-        return "type " + target + ' ' + std::to_string(dice_.below(10));
+        return "type " + path + ' ' + std::to_string(dice_.below(10));
     // Each key of a long text would be a step of its own: long texts are pasted.
     const std::string written = text();
     const std::string_view command = written.size() <= 20 && dice_.percent(30) ? "type " : "replace ";
-    return std::string{command} + target + ' ' + pilote::inQuotes(written);
+    return std::string{command} + path + ' ' + pilote::inQuotes(written);
 }
 
-std::string RandomUser::held(const std::string& target, std::initializer_list<std::string_view> keys)
+std::string RandomUser::held(const std::string& path, std::initializer_list<std::string_view> keys)
 {
     const std::string key{std::data(keys)[dice_.below(keys.size())]};
-    return "hold " + target + ' ' + key + ' ' + std::to_string(dice_.between(2, 40));
+    return "hold " + path + ' ' + key + ' ' + std::to_string(dice_.between(2, 40));
 }
 
 int RandomUser::position(ScrollBar& bar)

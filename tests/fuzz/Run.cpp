@@ -16,7 +16,7 @@ namespace ondelis::fuzz {
 namespace {
 
 /// Whether the last command, or something that was done meanwhile, may end the program with this fault.
-bool isKnown(const Outcome& outcome)
+bool isAllowed(const Outcome& outcome)
 {
     if (allowed(outcome.subject, outcome.fault))
         return true;
@@ -39,7 +39,7 @@ std::string wrong(const Outcome& outcome)
         return outcome.subject + ": " + outcome.trouble;
     if (!outcome.difference.where.empty())
         return outcome.subject + ": differs in " + outcome.difference.where;
-    if (!outcome.fault.empty() && !isKnown(outcome))
+    if (!outcome.fault.empty() && !isAllowed(outcome))
         return outcome.subject + ": " + outcome.fault;
     return "";
 }
@@ -56,22 +56,22 @@ void writeScenario(const std::string& file, const std::string& words, const Outc
 
 } // namespace
 
-int run(const NewSubject& newSubject, const Length& length, std::uint64_t seed)
+int run(const TargetFactory& makeTarget, const Budget& budget, std::uint64_t seed)
 {
     std::cout << "users from seed " << seed << std::endl;
     std::map<std::string, int> faults; ///< those that are allowed, by panel
     std::map<std::string, int> findings;
     std::uint64_t steps = 0;
     std::uint64_t user = seed;
-    const auto end = std::chrono::steady_clock::now() + length.time;
-    for (; steps < length.actions || std::chrono::steady_clock::now() < end; ++user) {
-        const Outcome outcome = playUser(newSubject, user);
+    const auto end = std::chrono::steady_clock::now() + budget.time;
+    for (; steps < budget.actions || std::chrono::steady_clock::now() < end; ++user) {
+        const Outcome outcome = playUser(makeTarget, user);
         steps += outcome.commands.size();
         if (const std::string words = wrong(outcome); !words.empty()) {
             if (++findings[words] > 1)
                 continue;
             const std::string file = "fuzz-" + std::to_string(user) + ".scn";
-            writeScenario(file, words, shrunk(newSubject, outcome));
+            writeScenario(file, words, shrunk(makeTarget, outcome));
             std::cout << "FOUND " << words << ": " << file << std::endl;
         } else if (!outcome.fault.empty()) {
             ++faults[outcome.subject + ": " + outcome.fault];
@@ -94,7 +94,7 @@ std::uint64_t whole(std::string_view word)
     return number;
 }
 
-void keepEndsOfProcesses()
+void blockChildSignals()
 {
     sigset_t ends;
     sigemptyset(&ends);

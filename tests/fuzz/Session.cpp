@@ -23,15 +23,15 @@
 namespace ondelis::fuzz {
 namespace {
 
-constexpr int stepsOfAUser = 250;
+constexpr int stepsPerUser = 250;
 
-/// What a session is played for.
-struct Aim {
+/// How a session is played.
+struct Mode {
     double longestStep; ///< seconds of the session's own processor time
     bool digests;
 };
-constexpr Aim findings{.longestStep = 10, .digests = false};
-constexpr Aim comparison{.longestStep = 60, .digests = true};
+constexpr Mode findings{.longestStep = 10, .digests = false};
+constexpr Mode comparison{.longestStep = 60, .digests = true};
 
 /// To look for leaks takes as long as twenty steps: it is done after the session of one user in so many.
 constexpr std::uint64_t usersALeakSearch = 8;
@@ -74,7 +74,7 @@ private:
 };
 
 template <std::size_t size>
-void keep(std::array<char, size>& place, std::string_view text)
+void copyInto(std::array<char, size>& place, std::string_view text)
 {
     const std::size_t length = std::min(text.size(), size - 1);
     std::memcpy(place.data(), text.data(), length);
@@ -99,39 +99,39 @@ void digest(std::uint64_t& sum, std::string_view text)
 /// The program in the session's process.
 class Session {
 public:
-    Session(Log& log, const Aim& aim, const NewSubject& newSubject)
-        : log_{log}, digests_{aim.digests}, subject_{newSubject()}
+    Session(Log& log, const Mode& mode, const TargetFactory& makeTarget)
+        : log_{log}, digests_{mode.digests}, target_{makeTarget()}
     {
     }
 
-    [[nodiscard]] const Desk& desk() const { return subject_->desk(); }
+    [[nodiscard]] const Runtime& runtime() const { return target_->runtime(); }
     [[nodiscard]] bool over() const
     {
-        return desk().ended() || log_.length + 16384 > Log::capacity || !std::string_view{log_.where.data()}.empty();
+        return runtime().ended() || log_.length + 16384 > Log::capacity || !std::string_view{log_.where.data()}.empty();
     }
 
     void carryOut(const std::string& command)
     {
         const std::size_t before = log_.length;
         std::ranges::copy(command + '\n', log_.lines.begin() + static_cast<std::ptrdiff_t>(before));
-        keep(log_.subject, subjectOf(command));
+        copyInto(log_.subject, subjectOf(command));
         log_.stepBegan = processorTime(CLOCK_PROCESS_CPUTIME_ID);
         log_.length = before + command.size() + 1;
-        const pilote::Json reply = subject_->answer(command);
+        const pilote::Json reply = target_->answer(command);
         if (reply.contains("error"))
             throw std::logic_error{command};
-        const Difference difference = subject_->difference();
-        keep(log_.where, difference.where);
-        keep(log_.expectation, difference.expectation);
+        const Difference difference = target_->difference();
+        copyInto(log_.where, difference.where);
+        copyInto(log_.expectation, difference.expectation);
         if (reply.contains("refused") && difference.where.empty())
             log_.length = before;
         else if (reply.contains("fault") && reply["fault"].is_string())
-            keep(log_.fault, reply["fault"].get<std::string>());
+            copyInto(log_.fault, reply["fault"].get<std::string>());
         if (!digests_)
             return;
         digest(log_.digest, command);
         digest(log_.digest, text(reply));
-        if (++commands_ % commandsALook == 0)
+        if (++commands_ % commandsPerLook == 0)
             look();
     }
 
@@ -139,7 +139,7 @@ public:
     void look()
     {
         if (digests_)
-            digest(log_.digest, text(subject_->answer("state")));
+            digest(log_.digest, text(target_->answer("state")));
     }
 
 private:
@@ -148,12 +148,12 @@ private:
         return json.dump(-1, ' ', false, pilote::Json::error_handler_t::replace);
     }
 
-    static constexpr int commandsALook = 8; // looking takes far longer than a command
+    static constexpr int commandsPerLook = 8; // looking takes far longer than a command
 
     Log& log_;
     bool digests_;
     int commands_ = 0;
-    std::unique_ptr<Subject> subject_;
+    std::unique_ptr<Target> target_;
 };
 
 /// Waits for the end of the session's process, and ends it if a step takes too long. Returns what was wrong with its
@@ -171,8 +171,8 @@ std::string watch(pid_t child, const Log& log, double longestStep)
     std::size_t length = log.length;
     auto last = std::chrono::steady_clock::now();
     while (waitpid(child, &status, WNOHANG) == 0) {
-        const timespec aMoment{.tv_sec = 0, .tv_nsec = 100'000'000};
-        sigtimedwait(&ends, nullptr, &aMoment);
+        const timespec pollInterval{.tv_sec = 0, .tv_nsec = 100'000'000};
+        sigtimedwait(&ends, nullptr, &pollInterval);
         hangs = processorTime(clock) - log.stepBegan > longestStep;
         if (log.length != length) {
             length = log.length;
@@ -191,7 +191,7 @@ std::string watch(pid_t child, const Log& log, double longestStep)
 }
 
 Outcome play(
-    const Aim& aim, const NewSubject& newSubject, bool looksForLeaks, const std::function<void(Session&)>& what)
+    const Mode& mode, const TargetFactory& makeTarget, bool looksForLeaks, const std::function<void(Session&)>& what)
 {
     SharedLog shared;
     Log& log = *shared;
@@ -200,7 +200,7 @@ Outcome play(
         throw std::runtime_error{"no process for a session"};
     if (child == 0) {
         {
-            Session session{log, aim, newSubject};
+            Session session{log, mode, makeTarget};
             what(session);
             session.look();
         }
@@ -209,7 +209,7 @@ Outcome play(
         std::exit(0); // the sanitizer looks for them on the way out
     }
     Outcome outcome{
-        .commands = {}, .subject = {}, .fault = {}, .trouble = watch(child, log, aim.longestStep), .difference = {}};
+        .commands = {}, .subject = {}, .fault = {}, .trouble = watch(child, log, mode.longestStep), .difference = {}};
     outcome.subject = log.subject.data();
     outcome.fault = log.fault.data();
     outcome.difference = {.where = log.where.data(), .expectation = log.expectation.data()};
@@ -222,14 +222,14 @@ Outcome play(
     return outcome;
 }
 
-Outcome playUser(const Aim& aim, const NewSubject& newSubject, std::uint64_t seed)
+Outcome playUser(const Mode& mode, const TargetFactory& makeTarget, std::uint64_t seed)
 {
-    return play(aim, newSubject, seed % usersALeakSearch == 0, [seed](Session& session) {
+    return play(mode, makeTarget, seed % usersALeakSearch == 0, [seed](Session& session) {
         RandomUser user{seed};
         session.carryOut(user.region());
         session.carryOut("start");
-        for (int step = 0; step < stepsOfAUser && !session.over(); ++step)
-            session.carryOut(user.next(session.desk()));
+        for (int step = 0; step < stepsPerUser && !session.over(); ++step)
+            session.carryOut(user.next(session.runtime()));
     });
 }
 
@@ -237,23 +237,23 @@ Outcome playUser(const Aim& aim, const NewSubject& newSubject, std::uint64_t see
 
 std::string_view subjectOf(std::string_view command)
 {
-    const std::string_view target = command.substr(command.find(' ') + 1);
-    return target.substr(0, target.find_first_of(". "));
+    const std::string_view path = command.substr(command.find(' ') + 1);
+    return path.substr(0, path.find_first_of(". "));
 }
 
-Outcome playUser(const NewSubject& newSubject, std::uint64_t seed)
+Outcome playUser(const TargetFactory& makeTarget, std::uint64_t seed)
 {
-    return playUser(findings, newSubject, seed);
+    return playUser(findings, makeTarget, seed);
 }
 
 Outcome watchUser(std::uint64_t seed)
 {
-    return playUser(comparison, newHeadless, seed);
+    return playUser(comparison, makeHeadlessTarget, seed);
 }
 
-Outcome playAgain(const NewSubject& newSubject, const std::vector<std::string>& commands)
+Outcome playAgain(const TargetFactory& makeTarget, const std::vector<std::string>& commands)
 {
-    return play(findings, newSubject, true, [&commands](Session& session) {
+    return play(findings, makeTarget, true, [&commands](Session& session) {
         [[maybe_unused]] const std::FILE* const silence
             = std::freopen("/dev/null", "w", stderr); // the sanitizers have reported it already
         for (const std::string& command : commands)

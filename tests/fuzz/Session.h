@@ -5,7 +5,7 @@
 #include <string_view>
 #include <vector>
 
-#include "Subject.h"
+#include "Target.h"
 
 namespace ondelis::fuzz {
 
@@ -23,13 +23,13 @@ struct Outcome {
 [[nodiscard]] std::string_view subjectOf(std::string_view command);
 
 /// A random user works for a while, in a process of its own.
-[[nodiscard]] Outcome playUser(const NewSubject& newSubject, std::uint64_t seed);
+[[nodiscard]] Outcome playUser(const TargetFactory& makeTarget, std::uint64_t seed);
 
 /// A user of the program with no window, and a digest of each command, its answer and what the panels then showed. How
 /// fast the program is does not count: a step may take a minute.
 [[nodiscard]] Outcome watchUser(std::uint64_t seed);
 
 /// The same commands once more, in a process of their own; those that are refused now are left out.
-[[nodiscard]] Outcome playAgain(const NewSubject& newSubject, const std::vector<std::string>& commands);
+[[nodiscard]] Outcome playAgain(const TargetFactory& makeTarget, const std::vector<std::string>& commands);
 
 } // namespace ondelis::fuzz

@@ -13,7 +13,7 @@ bool sameEnd(const Outcome& one, const Outcome& other)
 
 } // namespace
 
-Outcome shrunk(const NewSubject& newSubject, Outcome outcome)
+Outcome shrunk(const TargetFactory& makeTarget, Outcome outcome)
 {
     constexpr int mostTries = 300;
     int tries = 0;
@@ -23,7 +23,7 @@ Outcome shrunk(const NewSubject& newSubject, Outcome outcome)
             const auto last = first + static_cast<std::ptrdiff_t>(std::min(cut, outcome.commands.size() - from));
             std::vector<std::string> fewer{outcome.commands.begin(), first};
             fewer.insert(fewer.end(), last, outcome.commands.end());
-            if (Outcome shorter = playAgain(newSubject, fewer); sameEnd(shorter, outcome))
+            if (Outcome shorter = playAgain(makeTarget, fewer); sameEnd(shorter, outcome))
                 outcome = std::move(shorter);
             else
                 from += cut;

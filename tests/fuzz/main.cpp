@@ -34,14 +34,14 @@ int main(int argc, char** argv)
     using namespace ondelis::fuzz;
     const std::span words{argv, static_cast<std::size_t>(argc)};
     try {
-        keepEndsOfProcesses();
+        blockChildSignals();
         if (argc == 4 && std::string_view{words[1]} == "ends") {
             printEnds(whole(words[2]), whole(words[3]));
             return 0;
         }
         const std::uint64_t seconds = argc > 1 ? whole(words[1]) : 60;
         const std::uint64_t seed = argc > 2 ? whole(words[2]) : std::random_device{}();
-        return run(newHeadless, {.time = std::chrono::seconds{seconds}}, seed) == 0 ? 0 : 1;
+        return run(makeHeadlessTarget, {.time = std::chrono::seconds{seconds}}, seed) == 0 ? 0 : 1;
     } catch (const std::exception& error) {
         std::cerr << "usage: fuzz [SECONDS [SEED]], or fuzz ends SEED USERS: " << error.what() << '\n';
         return 2;

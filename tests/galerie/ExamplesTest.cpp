@@ -9,7 +9,7 @@
 #include "FormCheck.h"
 #include "Gallery.h"
 #include "Support.h"
-#include "Words.h"
+#include "Tokenizer.h"
 #include "forms/Controls.h"
 #include "view/ControlWidget.h"
 
@@ -36,9 +36,9 @@ protected:
     {
         const std::filesystem::path folder = scratch.path().toStdString();
         std::ofstream{folder / (panel + ".txt")} << example;
-        const auto subjects = allSubjects();
+        const auto items = galleryItems();
         try {
-            Gallery{folder, folder, looks.front()}.draw(*std::ranges::find(subjects, panel, &Subject::panel));
+            Gallery{folder, folder, looks.front()}.draw(*std::ranges::find(items, panel, &GalleryItem::panel));
             return {};
         } catch (const Refused& refused) {
             return std::string{refused.what()}.substr(folder.string().size() + 1);
@@ -48,20 +48,20 @@ protected:
     [[nodiscard]] QImage picture(const char* name) const { return QImage{scratch.filePath(QString::fromUtf8(name))}; }
 
     /// The panel of the example.
-    static Subject subject()
+    static GalleryItem item()
     {
-        const auto subjects = allSubjects();
-        const auto found = std::ranges::find(subjects, GetParam(), &Subject::panel);
-        if (found == subjects.end())
+        const auto items = galleryItems();
+        const auto found = std::ranges::find(items, GetParam(), &GalleryItem::panel);
+        if (found == items.end())
             throw std::invalid_argument{"no panel has this name: " + GetParam()};
         return *found;
     }
 
     /// The lines of diagrams that reach beyond their frames.
-    static QStringList cutLines(const Desk& desk)
+    static QStringList cutLines(const Runtime& runtime)
     {
         QStringList names;
-        for (const FeuilleCalcul* panel : desk.loadedPanels())
+        for (const FeuilleCalcul* panel : runtime.loadedPanels())
             for (const Control* control : panel->controls()) {
                 const auto* const line = dynamic_cast<const Line*>(control);
                 if (line == nullptr || line->design().within == nullptr || !line->Visible)
@@ -93,7 +93,7 @@ TEST_F(ExamplesTest, aPictureShowsWhatHasBeenTyped)
 TEST_P(ExamplesTest, everyExampleOfThePanelsPlays)
 {
     try {
-        Gallery{EXAMPLES, scratch.path().toStdString(), looks.front()}.draw(subject());
+        Gallery{EXAMPLES, scratch.path().toStdString(), looks.front()}.draw(item());
     } catch (const Refused& refused) {
         FAIL() << refused.what();
     }
@@ -101,25 +101,25 @@ TEST_P(ExamplesTest, everyExampleOfThePanelsPlays)
 
 TEST_P(ExamplesTest, noExampleCutsAResult)
 {
-    const Subject shown = subject();
-    Player player;
-    player.play("menu " + shown.entry);
-    const Desk& desk = player.frame().desk();
+    const GalleryItem shown = item();
+    WindowedProgram program;
+    program.play("menu " + shown.entry);
+    const Runtime& runtime = program.frame().runtime();
     Typed typed;
     QStringList faults;
     std::ifstream in{std::filesystem::path{EXAMPLES} / (shown.panel + ".txt")};
     for (std::string line; std::getline(in, line);) {
-        pilote::Words words{line};
+        pilote::Tokenizer words{line};
         if (words.atEnd())
             continue;
         if (words.next() != "picture") {
-            player.play(line);
-            if (const auto* const box = dynamic_cast<const TextBox*>(desk.focused()))
+            program.play(line);
+            if (const auto* const box = dynamic_cast<const TextBox*>(runtime.focused()))
                 typed[box] = toQString(box->Text.get());
             continue;
         }
-        for (const FeuilleCalcul* panel : desk.loadedPanels())
-            if (const PanelWindow* const window = player.view().find(*panel))
+        for (const FeuilleCalcul* panel : runtime.loadedPanels())
+            if (const PanelWindow* const window = program.view().find(*panel))
                 for (const FormFault& fault : faultsOf(*window, typed))
                     faults.append(QString::fromStdString(line) + QStringLiteral(": ") + fault.line());
     }
@@ -128,20 +128,20 @@ TEST_P(ExamplesTest, noExampleCutsAResult)
 
 TEST_P(ExamplesTest, everyDiagramStaysInside)
 {
-    const Subject shown = subject();
-    Player player;
-    player.play("menu " + shown.entry);
-    QStringList beyond = cutLines(player.frame().desk());
+    const GalleryItem shown = item();
+    WindowedProgram program;
+    program.play("menu " + shown.entry);
+    QStringList beyond = cutLines(program.frame().runtime());
     std::ifstream in{std::filesystem::path{EXAMPLES} / (shown.panel + ".txt")};
     for (std::string line; std::getline(in, line);) {
-        pilote::Words words{line};
+        pilote::Tokenizer words{line};
         if (words.atEnd())
             continue;
         if (words.next() == "picture")
-            for (const QString& name : cutLines(player.frame().desk()))
+            for (const QString& name : cutLines(program.frame().runtime()))
                 beyond.append(QString::fromStdString(line) + QStringLiteral(": ") + name);
         else
-            player.play(line);
+            program.play(line);
     }
     EXPECT_EQ(beyond.join(QLatin1Char{'\n'}), QString{});
 }

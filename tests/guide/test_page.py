@@ -35,13 +35,13 @@ class PageTest(unittest.TestCase):
         wanted = SECTIONS if self.has_fields() else ["Exemple", "À savoir"]
         self.assertEqual(self.page.sections, wanted)
 
-    def test_tells_of_every_field(self):
-        told = {name for field in self.page.fields() for name in field.controls}
+    def test_describes_every_field(self):
+        described = {name for field in self.page.fields() for name in field.controls}
         fields = {plain(name) for name, control in self.controls.items() if control["kind"] in FIELDS}
-        self.assertEqual(fields - told, set(), "fields that the page does not tell of")
-        self.assertEqual(told - {plain(name) for name in self.controls}, set(), "what the panel has not")
+        self.assertEqual(fields - described, set(), "fields that the page does not describe")
+        self.assertEqual(described - {plain(name) for name in self.controls}, set(), "what the panel has not")
 
-    def test_examples_go_as_told_in_both_regions(self):
+    def test_examples_hold_in_both_regions(self):
         examples = self.page.blocks("exemple")
         self.assertEqual({decimal for block in examples for decimal in block.decimals}, {".", ","})
         for block in examples:
@@ -50,7 +50,7 @@ class PageTest(unittest.TestCase):
                 with self.subTest(decimal=decimal):
                     example.play(PILOTE, self.page, block.lines, decimal)
 
-    def test_figures_are_as_exact_as_told(self):
+    def test_figures_are_as_exact_as_stated(self):
         if not self.has_fields():
             return
         self.assertEqual(len(self.page.blocks("exactitude")), 1)

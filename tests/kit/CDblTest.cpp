@@ -9,7 +9,7 @@
 namespace ondelis {
 namespace {
 
-using test::faultOf;
+using tests::faultOf;
 
 struct Row {
     const char* text;
@@ -32,7 +32,7 @@ void expectMismatch(const Region& inside, std::initializer_list<const char*> tex
 
 TEST(CDbl, readsNumbersOfAPointRegion)
 {
-    expect(test::english,
+    expect(tests::english,
         {
             {"0", 0},
             {"12", 12},
@@ -51,7 +51,7 @@ TEST(CDbl, readsNumbersOfAPointRegion)
 
 TEST(CDbl, readsNumbersOfACommaRegion)
 {
-    expect(test::german,
+    expect(tests::german,
         {
             {"12", 12},
             {"12,5", 12.5},
@@ -63,7 +63,7 @@ TEST(CDbl, readsNumbersOfACommaRegion)
 
 TEST(CDbl, readsNumbersOfACommaRegionWithBlanks)
 {
-    for (const Region& inside : {test::french, test::olderFrench})
+    for (const Region& inside : {tests::french, tests::olderFrench})
         expect(inside,
             {
                 {"12", 12},
@@ -80,43 +80,43 @@ TEST(CDbl, readsNumbersOfACommaRegionWithBlanks)
 
 TEST(CDbl, readsNumbersOfARegionWithApostrophes)
 {
-    expect(test::swiss,
+    expect(tests::swiss,
         {
             {"12.5", 12.5},
             {"1\u2019234.5", 1234.5},
             {"1'234.5", 1234.5},
             {"-1'234\u2019567", -1234567},
         });
-    expectMismatch(test::swiss, {"'5", "\u20195", "1.5'5", "1''2", "1 234", "1,234", "1\u2018234"});
+    expectMismatch(tests::swiss, {"'5", "\u20195", "1.5'5", "1''2", "1 234", "1,234", "1\u2018234"});
     const Region typed{.decimal = ".", .thousands = "'"};
     expect(typed, {{"1'234.5", 1234.5}});
     expectMismatch(typed, {"1\u2019234"});
-    for (const Region& inside : {test::english, test::german, test::french})
+    for (const Region& inside : {tests::english, tests::german, tests::french})
         expectMismatch(inside, {"1'234", "1\u2019234"});
 }
 
 TEST(CDbl, readsAThousandsSeparatorAsItIsTyped)
 {
-    expect(test::english, {{"1,", 1}, {"1,2", 12}, {"1,23", 123}, {"1,234", 1234}, {"1,2345", 12345}});
-    expect(test::french, {{"1 ", 1}, {"1 2", 12}, {"1 23", 123}, {"1 234", 1234}});
-    expect(test::swiss, {{"1'", 1}, {"1'2", 12}, {"1'23", 123}, {"1'234", 1234}});
+    expect(tests::english, {{"1,", 1}, {"1,2", 12}, {"1,23", 123}, {"1,234", 1234}, {"1,2345", 12345}});
+    expect(tests::french, {{"1 ", 1}, {"1 2", 12}, {"1 23", 123}, {"1 234", 1234}});
+    expect(tests::swiss, {{"1'", 1}, {"1'2", 12}, {"1'23", 123}, {"1'234", 1234}});
 }
 
 TEST(CDbl, readsAnExponentMarkedByEOrD)
 {
-    expect(test::english,
+    expect(tests::english,
         {{"1e3", 1000}, {"1E3", 1000}, {"1d3", 1000}, {"1D3", 1000}, {"25e-1", 2.5}, {"1,000.5d+2", 100050}});
 }
 
 TEST(CDbl, leavesOutBlanksAroundTheNumber)
 {
-    expect(test::english, {{" 12.5", 12.5}, {"12.5 ", 12.5}, {"\t12.5\n", 12.5}});
-    expect(test::german, {{" 12,5 ", 12.5}});
+    expect(tests::english, {{" 12.5", 12.5}, {"12.5 ", 12.5}, {"\t12.5\n", 12.5}});
+    expect(tests::german, {{" 12,5 ", 12.5}});
 }
 
 TEST(CDbl, ofATextThatIsNoNumberIsATypeMismatch)
 {
-    for (const Region& inside : {test::english, test::german, test::french, test::olderFrench})
+    for (const Region& inside : {tests::english, tests::german, tests::french, tests::olderFrench})
         expectMismatch(inside,
             {"", " ", "abc", "12abc", "12 kHz", "-", "+", ".", ",", "-.", "--3", "- 3", "3-", "1e", "1e+", "e5",
                 "1e2e3", "1d2d3", "1..5", "1,,5,,e", "inf", "nan", "-inf", "0x10", "&HFF", "1;5", "€", "1e1,000",
@@ -125,26 +125,26 @@ TEST(CDbl, ofATextThatIsNoNumberIsATypeMismatch)
 
 TEST(CDbl, ofAPointInACommaRegionIsATypeMismatch)
 {
-    for (const Region& inside : {test::german, test::french, test::olderFrench})
+    for (const Region& inside : {tests::german, tests::french, tests::olderFrench})
         expectMismatch(
             inside, {"12.5", ".5", "5.", "1.5e3", "1.234", "-1.234", "1.234,5", "1.234.567,25", "1,5.5", "1,5.555"});
 }
 
 TEST(CDbl, ofASecondDecimalSeparatorIsATypeMismatch)
 {
-    expectMismatch(test::english, {"1.5.5", "1.5,5", "1.,5"});
-    expectMismatch(test::german, {"1,5,5"});
+    expectMismatch(tests::english, {"1.5.5", "1.5,5", "1.,5"});
+    expectMismatch(tests::german, {"1,5,5"});
 }
 
 TEST(CDbl, ofAThousandsSeparatorWithoutADigitAheadIsATypeMismatch)
 {
-    expectMismatch(test::english, {",5", "-,5", ",234"});
-    expectMismatch(test::french, {"\u202f5"});
+    expectMismatch(tests::english, {",5", "-,5", ",234"});
+    expectMismatch(tests::french, {"\u202f5"});
 }
 
 TEST(CDbl, ofInnerBlanksInAPointRegionIsATypeMismatch)
 {
-    expectMismatch(test::english, {"1 000", "1\u00a0000", "1 . 5", "1 e3"});
+    expectMismatch(tests::english, {"1 000", "1\u00a0000", "1 . 5", "1 e3"});
 }
 
 TEST(CDbl, knowsNoThousandsSeparatorWhereTheRegionHasNone)
@@ -158,13 +158,13 @@ TEST(CDbl, beyondTheRangeIsAnOverflow)
 {
     for (const char* text : {"1e309", "-1e309", "1d309", "1.8e308", "1e99999999999999999999"})
         EXPECT_EQ(faultOf([&] { return CDbl(text); }), FaultKind::Overflow) << text;
-    const ScopedRegion scope{test::french};
+    const ScopedRegion scope{tests::french};
     EXPECT_EQ(faultOf([] { return CDbl("1,8e308"); }), FaultKind::Overflow);
 }
 
 TEST(CDbl, tooSmallIsZero)
 {
-    expect(test::english, {{"1e-400", 0}, {"-1e-400", 0}});
+    expect(tests::english, {{"1e-400", 0}, {"-1e-400", 0}});
 }
 
 TEST(CIntOfText, readsByTheRegionAndRoundsTiesToEven)
@@ -172,7 +172,7 @@ TEST(CIntOfText, readsByTheRegionAndRoundsTiesToEven)
     EXPECT_EQ(CInt("2.5"), 2);
     EXPECT_EQ(CInt("3.5"), 4);
     EXPECT_EQ(CInt("1,000"), 1000);
-    const ScopedRegion scope{test::french};
+    const ScopedRegion scope{tests::french};
     EXPECT_EQ(CInt("2,5"), 2);
     EXPECT_EQ(CInt("-3,5"), -4);
 }

@@ -9,7 +9,7 @@
 namespace ondelis {
 namespace {
 
-using test::faultOf;
+using tests::faultOf;
 
 constexpr double largest = std::numeric_limits<double>::max();
 constexpr double tiniest = std::numeric_limits<double>::denorm_min();

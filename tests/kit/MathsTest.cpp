@@ -11,7 +11,7 @@
 namespace ondelis {
 namespace {
 
-using test::faultOf;
+using tests::faultOf;
 
 struct Row {
     double from;
@@ -168,16 +168,16 @@ TEST(CuttingToDecimals, truncatesTheProductAsItRounds)
         {-0.001, "0"},
     };
     for (const auto& [number, text] : cases)
-        EXPECT_EQ(CStr(Cut(Double{number}, 100)), text);
+        EXPECT_EQ(CStr(Truncate(Double{number}, 100)), text);
 }
 
 TEST(CuttingToDecimals, keepsThreeOrFourWhereAskedTo)
 {
     const Double x = 12.34567;
-    EXPECT_EQ(CStr(Cut(x, 1000)), "12.345");
-    EXPECT_EQ(CStr(Cut(x, 10000)), "12.3456");
-    EXPECT_EQ(Str(Cut(x, 100)), " 12.34");
-    EXPECT_EQ(Str(Cut(x, 1000)), " 12.345");
+    EXPECT_EQ(CStr(Truncate(x, 1000)), "12.345");
+    EXPECT_EQ(CStr(Truncate(x, 10000)), "12.3456");
+    EXPECT_EQ(Str(Truncate(x, 100)), " 12.34");
+    EXPECT_EQ(Str(Truncate(x, 1000)), " 12.345");
 }
 
 } // namespace

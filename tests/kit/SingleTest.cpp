@@ -9,7 +9,7 @@
 namespace ondelis {
 namespace {
 
-using test::faultOf;
+using tests::faultOf;
 
 TEST(Single, roundsWhenItIsStored)
 {

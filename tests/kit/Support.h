@@ -5,10 +5,10 @@
 #include <optional>
 #include <ostream>
 
+#include "kit/CheckedInteger.h"
 #include "kit/Double.h"
 #include "kit/Fault.h"
 #include "kit/Region.h"
-#include "kit/Whole.h"
 
 namespace ondelis {
 
@@ -20,7 +20,7 @@ inline void PrintTo(Double x, std::ostream* out)
 }
 
 template <class Repr>
-void PrintTo(Whole<Repr> n, std::ostream* out)
+void PrintTo(CheckedInteger<Repr> n, std::ostream* out)
 {
     *out << n.value();
 }
@@ -32,7 +32,7 @@ inline void PrintTo(FaultKind kind, std::ostream* out)
 
 } // namespace ondelis
 
-namespace ondelis::test {
+namespace ondelis::tests {
 
 /// The kind of the fault that an action throws; nothing if it throws none.
 template <class Action>
@@ -55,4 +55,4 @@ inline const Region french{.decimal = ",", .thousands = "\u202f"};
 inline const Region swiss{.decimal = ".", .thousands = "\u2019"};
 inline const Region olderFrench{.decimal = ",", .thousands = "\u00a0"};
 
-} // namespace ondelis::test
+} // namespace ondelis::tests

@@ -8,13 +8,13 @@
 #include <vector>
 
 #include "Support.h"
+#include "kit/CheckedInteger.h"
 #include "kit/Maths.h"
-#include "kit/Whole.h"
 
 namespace ondelis {
 namespace {
 
-using test::faultOf;
+using tests::faultOf;
 
 /// A number that the compiler does not know beforehand, so that it can only draw conclusions about it.
 Double unknown(double number)

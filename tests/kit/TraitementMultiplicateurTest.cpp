@@ -7,7 +7,7 @@
 namespace ondelis {
 namespace {
 
-using test::faultOf;
+using tests::faultOf;
 
 struct Row {
     double number;
@@ -85,7 +85,7 @@ TEST(TraitementMultiplicateur, truncatesAtSixDecimals)
 
 TEST(TraitementMultiplicateur, writesAPointInEveryRegion)
 {
-    const ScopedRegion inside{test::french};
+    const ScopedRegion inside{tests::french};
     EXPECT_EQ(TraitementMultiplicateur(1500), " 1.5 Kilo");
 }
 

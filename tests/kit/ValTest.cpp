@@ -11,7 +11,7 @@
 namespace ondelis {
 namespace {
 
-using test::faultOf;
+using tests::faultOf;
 
 struct Row {
     const char* text;
@@ -194,7 +194,7 @@ TEST(Val, weighsTheDigitsOfALongNumberAgainstItsExponent)
 
 TEST(Val, readsAPointInEveryRegion)
 {
-    for (const Region& inside : {test::english, test::german, test::french, test::olderFrench}) {
+    for (const Region& inside : {tests::english, tests::german, tests::french, tests::olderFrench}) {
         const ScopedRegion scope{inside};
         expect({{"12.5", 12.5}, {"12,5", 12}, {"12,75", 12}, {"1.000", 1}, {"1 000", 1000}});
     }

@@ -4,7 +4,7 @@
     mutants.py BUILD [FILE...] [--number N] [--sample N] [--seed N]
 
 BUILD is the folder of a finished release build. Without FILE all sources of src/kit, forms, panels and shell are
-tried, a panel's header with its source. Survivors are printed; those in unseen.toml are not tried.
+tried, a panel's header with its source. Survivors are printed; those in equivalent.toml are not tried.
 """
 
 import argparse
@@ -22,7 +22,7 @@ from functools import cache
 from pathlib import Path
 
 import sites
-from workshop import HERE, ROOT, SOURCES, Broken, Build, Workshop
+from builder import HERE, ROOT, SOURCES, CompileError, Build, Builder
 
 FLOORS = ("kit", "forms", "panels", "shell")
 SCENARIOS = ROOT / "tests/scenarios"
@@ -37,7 +37,7 @@ class Mutant:
     change: sites.Change
     number: int
 
-    def told(self, texts):
+    def describe(self, texts):
         line = texts[self.path].split("\n")[self.change.line - 1].strip()
         return f"{self.path.relative_to(ROOT)}:{self.change.line}: {self.change.old} -> {self.change.new}\n    {line}"
 
@@ -45,7 +45,7 @@ class Mutant:
 @dataclass
 class Result:
     name: str
-    noticed: int = 0
+    killed: int = 0
     listed: int = 0
     stillborn: int = 0
     survivors: list = None
@@ -56,11 +56,11 @@ def lines_of(name):
     return {line.strip() for line in (SOURCES / name).read_text(encoding="utf-8").splitlines()}
 
 
-class Unseen:
+class Equivalents:
     """The changes that nobody can see, and why."""
 
     def __init__(self):
-        self.entries = tomllib.loads((HERE / "unseen.toml").read_text(encoding="utf-8"))["unseen"]
+        self.entries = tomllib.loads((HERE / "equivalent.toml").read_text(encoding="utf-8"))["equivalent"]
         self.used = set()
 
     def has(self, path, line, change):
@@ -71,7 +71,7 @@ class Unseen:
                 return True
         return False
 
-    def idle(self, paths):
+    def stale(self, paths):
         """What is listed and stands nowhere, and what is listed for these files and no longer matches any change."""
         names = {str(path.relative_to(SOURCES)) for path in paths}
         listed = {(entry["file"], line) for entry in self.entries for line in entry["lines"]}
@@ -86,18 +86,18 @@ class Trial:
         self.shared = all("panels" in path.parts for path in paths)
         self.texts = {path: path.read_text(encoding="utf-8") for path in paths}
         self.result = Result("/".join(paths[0].relative_to(SOURCES).with_suffix("").parts), survivors=[])
-        self.workshop = Workshop(build)
+        self.builder = Builder(build)
         own = sorted(SCENARIOS.rglob(f"{paths[0].stem}.scn")) + sorted(SCENARIOS.rglob(f"{paths[0].stem}-*.scn"))
         others = sorted(set(SCENARIOS.rglob("*.scn")) - set(own))
         self.plays = [list(map(str, files)) for files in (own, others) if files]
 
-    def choose(self, unseen, number, dice):
+    def choose(self, equivalents, number, dice):
         """At most that many changes, at random; all of them without a number."""
         found = []
         for path in self.paths:
             lines = self.texts[path].split("\n")
             for change in sites.changes(self.texts[path], path.suffix == ".h"):
-                if unseen.has(path, lines[change.line - 1].strip(), change):
+                if equivalents.has(path, lines[change.line - 1].strip(), change):
                     self.result.listed += 1
                 else:
                     found.append((path, change))
@@ -129,7 +129,7 @@ class Trial:
             try:
                 programs = self.programs(self.instrumented(mutants))
                 break
-            except Broken as broken:
+            except CompileError as broken:
                 kept = [mutant for mutant in mutants
                         if mutant.change.line not in broken.lines(self.copy(mutant.path))]
                 if len(kept) == len(mutants) > 1:
@@ -139,20 +139,20 @@ class Trial:
                 if not kept or len(mutants) == 1:
                     return left
                 mutants = kept
-        if self.noticed(programs, 0):
+        if self.killed(programs, 0):
             raise SystemExit(f"{self.result.name}: without a change something fails already")
         for mutant in mutants:
-            self.count(mutant, self.noticed(programs, mutant.number))
+            self.count(mutant, self.killed(programs, mutant.number))
         return left
 
     def play_alone(self, mutant):
         text, change = self.texts[mutant.path], mutant.change
         try:
             programs = self.programs({mutant.path: text[:change.start] + change.new + text[change.end:]})
-        except Broken:
+        except CompileError:
             self.result.stillborn += 1
             return
-        self.count(mutant, self.noticed(programs, 0))
+        self.count(mutant, self.killed(programs, 0))
 
     def instrumented(self, mutants):
         texts = {}
@@ -172,24 +172,24 @@ class Trial:
         return texts
 
     def copy(self, path):
-        return self.workshop.folder / path.relative_to(SOURCES)
+        return self.builder.folder / path.relative_to(SOURCES)
 
     def programs(self, texts):
         texts = {**self.texts, **texts}
-        objects = [self.workshop.compile(unit, texts, self.shared) for unit in self.units]
+        objects = [self.builder.compile(unit, texts, self.shared) for unit in self.units]
         compiler, _ = self.build.flags(self.units[0])
-        return [self.workshop.link(compiler, name, objects) for name in ("pilote", *self.tests)]
+        return [self.builder.link(compiler, name, objects) for name in ("pilote", *self.tests)]
 
-    def noticed(self, programs, number):
+    def killed(self, programs, number):
         pilote, *tests = programs
         return any(fails([pilote, *files], number) for files in self.plays) \
             or any(fails([test, "--gtest_brief=1", "--gtest_fail_fast"], number) for test in tests)
 
-    def count(self, mutant, noticed):
-        if noticed:
-            self.result.noticed += 1
+    def count(self, mutant, killed):
+        if killed:
+            self.result.killed += 1
         else:
-            self.result.survivors.append(mutant.told(self.texts))
+            self.result.survivors.append(mutant.describe(self.texts))
 
 
 def fails(command, number):
@@ -239,37 +239,37 @@ def main():
     parser.add_argument("--number", type=int, help="of changes a file; all of them where it is not given")
     parser.add_argument("--sample", type=int, help="of files, by chance")
     parser.add_argument("--seed", type=int, default=1)
-    wish = parser.parse_args()
+    options = parser.parse_args()
 
-    dice = random.Random(wish.seed)
+    dice = random.Random(options.seed)
     files = all_files()
-    if wish.files:
-        wanted = {path.resolve() for path in wish.files}
+    if options.files:
+        wanted = {path.resolve() for path in options.files}
         files = [paths for paths in files if wanted & set(paths)]
-    if wish.sample is not None:
-        files = dice.sample([paths for paths in files if paths[0].suffix == ".cpp"], wish.sample)
-    build, unseen = Build(wish.build), Unseen()
+    if options.sample is not None:
+        files = dice.sample([paths for paths in files if paths[0].suffix == ".cpp"], options.sample)
+    build, equivalents = Build(options.build), Equivalents()
     trials = [trial(build, paths) for paths in files]
     for one in trials:
-        one.choose(unseen, wish.number, dice)
+        one.choose(equivalents, options.number, dice)
     sums, survivors = defaultdict(Counter), 0
     with ThreadPoolExecutor(os.cpu_count()) as pool:
         runs = [pool.submit(one.run) for one in trials if one.mutants]
         for done in as_completed(runs):
             result = done.result()
             left = len(result.survivors)
-            print(f"{result.name}: {result.noticed} noticed, {left} survived, {result.listed} listed, "
+            print(f"{result.name}: {result.killed} killed, {left} survived, {result.listed} listed, "
                   f"{result.stillborn} do not compile", *result.survivors, sep="\n  ", flush=True)
             survivors += left
             sums[str(Path(result.name).parent)].update(
-                noticed=result.noticed, survived=left, listed=result.listed, tried=result.noticed + left)
+                killed=result.killed, survived=left, listed=result.listed, tried=result.killed + left)
     for folder, sum_ in sorted(sums.items()):
-        print(f"{folder}: {sum_['tried']} tried, {sum_['noticed']} noticed, {sum_['survived']} survived, "
+        print(f"{folder}: {sum_['tried']} tried, {sum_['killed']} killed, {sum_['survived']} survived, "
               f"{sum_['listed']} listed")
-    idle = unseen.idle([path for paths in files for path in paths])
-    for name, line in idle:
-        print(f"unseen.toml: {name} has no such change: {line}")
-    return 1 if survivors or idle else 0
+    stale = equivalents.stale([path for paths in files for path in paths])
+    for name, line in stale:
+        print(f"equivalent.toml: {name} has no such change: {line}")
+    return 1 if survivors or stale else 0
 
 
 if __name__ == "__main__":

@@ -55,21 +55,21 @@ def tokens(text):
 def changes(text, header):
     """All changes of a source, in the order of their places."""
     found = []
-    toks = tokens(text)
-    shut = shut_places(text)
-    for index, token in enumerate(toks):
-        if any(start <= token.start() < end for start, end in shut):
+    code = tokens(text)
+    excluded = excluded_places(text)
+    for index, token in enumerate(code):
+        if any(start <= token.start() < end for start, end in excluded):
             continue
-        made = one_token(text, toks, index, header)
+        made = one_token(text, code, index, header)
         found += made
-    found += statements(text, toks)
+    found += statements(text, code)
     found.sort(key=lambda change: (change.start, -change.end))
     for change in found:
         change.line = text.count("\n", 0, change.start) + 1
     return found
 
 
-def shut_places(text):
+def excluded_places(text):
     """The parts of a text that say where controls stand."""
     spans = []
     for match in PLACES.finditer(text):
@@ -81,20 +81,20 @@ def shut_places(text):
     return spans
 
 
-def one_token(text, toks, index, header):
-    token = toks[index]
+def one_token(text, code, index, header):
+    token = code[index]
     kind, old = token.lastgroup, token.group()
     start, end = token.span()
-    before = toks[index - 1].group() if index else ""
-    behind = toks[index + 1].group() if index + 1 < len(toks) else ""
+    before = code[index - 1].group() if index else ""
+    behind = code[index + 1].group() if index + 1 < len(code) else ""
     if kind == "number":
-        return numbers(text, toks, index, header)
+        return numbers(text, code, index, header)
     if kind == "string":
         return strings(text, start, end, old)
     if kind == "name" and old in WORDS and before != "consteval":
         return [either(start, end, old, WORDS[old])]
-    if kind == "name" and old in ALIGN and before == "::" and toks[index - 2].group() == "Align":
-        return [either(toks[index - 2].start(), end, "Align::" + old, "Align::" + ALIGN[old])]
+    if kind == "name" and old in ALIGN and before == "::" and code[index - 2].group() == "Align":
+        return [either(code[index - 2].start(), end, "Align::" + old, "Align::" + ALIGN[old])]
     if kind != "sign" or before == "operator":
         return []
     if old == "!" and behind != "=":
@@ -117,18 +117,18 @@ def either(start, end, old, new):
     return Change(start, end, old, new, f"ondelis_mutants::either(@, {new}, ", ")")
 
 
-def numbers(text, toks, index, header):
-    token = toks[index]
+def numbers(text, code, index, header):
+    token = code[index]
     start, end = token.span()
     old = token.group()
-    before = toks[index - 1].group() if index else ""
+    before = code[index - 1].group() if index else ""
     earlier = text[text.rfind("\n", 0, start) + 1:start]
     if re.search(r"<[^<>=;]*$", earlier) and re.match(r"[^<>=;()]*>", text[end:]):
         return []  # a template's argument: the size of a table
     if before == "case" or header and is_place(text, start, earlier):
         return []  # beside another label, or layout
     sign = ""
-    if before == "-" and toks[index - 1].end() == start and toks[index - 2].group() in "(,={?:<>==!=return+-*/":
+    if before == "-" and code[index - 1].end() == start and code[index - 2].group() in "(,={?:<>==!=return+-*/":
         start, sign = start - 1, "-"
     return [either(start, end, sign + old, new) for new in other_numbers(sign, old)]
 
@@ -192,30 +192,30 @@ STATEMENT = re.compile(
     r"(?:\*|\+\+|--)?(?:::)?[^\W\d]\w*(?:<[\w:, ]+>)?(?:(?:\.|->|::)\w+|\([^()]*\)|\[[^\[\]]*\])*\s*(?:[-+*/]?=(?!=)|\(|\+\+|--|;)")
 
 
-def statements(text, toks):
+def statements(text, code):
     """Statements that can be left out: those that begin a line, but declarations."""
-    for index, token in enumerate(toks):
+    for index, token in enumerate(code):
         start = token.start()
         line = text[text.rfind("\n", 0, start) + 1:start]
         if not line or not STATEMENT_BEGINS.fullmatch(line) or token.group() in KEYWORDS:
             continue
-        if index == 0 or toks[index - 1].group() not in (";", "{", "}", ")", ":", "else"):
+        if index == 0 or code[index - 1].group() not in (";", "{", "}", ")", ":", "else"):
             continue
         match = STATEMENT.match(text, start)
         if token.group() != "return" and not match:
             continue
-        if token.group() == "return" and toks[index + 1].group() != ";":
+        if token.group() == "return" and code[index + 1].group() != ";":
             continue
-        end = statement_end(toks, index)
+        end = statement_end(code, index)
         if end is None:
             continue
         old = " ".join(text[start:end].split())
         yield Change(start, end, old, ";", "{ if (!ondelis_mutants::on(@)) { ", " } }")
 
 
-def statement_end(toks, index):
+def statement_end(code, index):
     depth = 0
-    for token in toks[index:]:
+    for token in code[index:]:
         sign = token.group() if token.lastgroup == "sign" else ""
         depth += {"(": 1, "{": 1, "[": 1, ")": -1, "}": -1, "]": -1}.get(sign, 0)
         if depth < 0:

@@ -8,20 +8,20 @@ namespace ondelis::tests {
 namespace {
 
 /// The search for the turns, one round after the other.
-class TrapSearchTest : public DeskTest {
+class TrapSearchTest : public RuntimeTest {
 protected:
-    AntennesTrappesCoaxiales& panel = desk.get<AntennesTrappesCoaxiales>();
+    AntennesTrappesCoaxiales& panel = runtime.get<AntennesTrappesCoaxiales>();
 
     void open()
     {
-        desk.perform([&] { panel.Show(); });
+        runtime.perform([&] { panel.Show(); });
     }
 
     /// Acts once, in a round of the next search.
     template <class Action>
     void inRound(int wanted, Action action)
     {
-        world.onPending = [wanted, action, round = 0]() mutable {
+        host.onPending = [wanted, action, round = 0]() mutable {
             if (++round == wanted)
                 action();
         };
@@ -31,7 +31,7 @@ protected:
 TEST_F(TrapSearchTest, pendingEventsRunOnceInEachRound)
 {
     int rounds = 0;
-    world.onPending = [&] { ++rounds; };
+    host.onPending = [&] { ++rounds; };
     open();
     EXPECT_EQ(rounds, 415);
 
@@ -40,14 +40,14 @@ TEST_F(TrapSearchTest, pendingEventsRunOnceInEachRound)
     user.replace(panel.TxtDiamMandrin, "20");
     user.click(panel.BtnCalculer);
     EXPECT_EQ(rounds, 1001);
-    EXPECT_EQ(world.boxes.size(), 1U);
+    EXPECT_EQ(host.boxes.size(), 1U);
 }
 
 TEST_F(TrapSearchTest, theReactancesConvergeFromRoundToRound)
 {
     open();
     std::vector<double> differences;
-    world.onPending = [&] {
+    host.onPending = [&] {
         const Double difference = Val(panel.TxtReactanceCapacitive.Text) - Val(panel.TxtReactanceInductive.Text);
         differences.push_back(Abs(difference).value());
     };
@@ -81,18 +81,18 @@ TEST_F(TrapSearchTest, closingThePanelLeavesTheSearch)
     inRound(100, [&] { user.close(panel); });
     user.click(panel.BtnCalculer);
     EXPECT_FALSE(panel.loaded());
-    EXPECT_FALSE(desk.ended());
-    world.onPending = [] {};
+    EXPECT_FALSE(runtime.ended());
+    host.onPending = [] {};
     open();
     EXPECT_EQ(panel.TxtNombreTours.Text, "7.75");
 }
 
 TEST_F(TrapSearchTest, closingTheProgramWhileThePanelOpensLeavesTheSearch)
 {
-    inRound(100, [&] { desk.close(); });
+    inRound(100, [&] { runtime.close(); });
     open();
-    EXPECT_EQ(world.endings, std::vector<int>{0});
-    EXPECT_EQ(world.fault, std::nullopt);
+    EXPECT_EQ(host.endings, std::vector<int>{0});
+    EXPECT_EQ(host.fault, std::nullopt);
     EXPECT_FALSE(panel.visible());
 }
 

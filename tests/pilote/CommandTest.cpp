@@ -62,8 +62,8 @@ TEST_F(CommandTest, endsByTheCloseBoxOfTheFrame)
 TEST_F(CommandTest, usesTheRegionForItsOwnProgramOnly)
 {
     {
-        Headless otherBody;
-        Pilote other{otherBody};
+        HeadlessBackend otherBackend;
+        Pilote other{otherBackend};
         other.answer("region , .");
         EXPECT_EQ(ondelis::region().decimal, ",");
     }

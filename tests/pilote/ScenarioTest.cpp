@@ -6,7 +6,7 @@
 
 #include <gtest/gtest.h>
 
-#include "Headless.h"
+#include "HeadlessBackend.h"
 
 namespace ondelis::pilote {
 namespace {
@@ -20,8 +20,8 @@ protected:
             = testing::TempDir() + "ondelis-" + testing::UnitTest::GetInstance()->current_test_info()->name() + ".scn";
         std::ofstream{file} << lines;
         std::ostringstream out;
-        Headless body;
-        const Tally tally = playScenario(file, body, out);
+        HeadlessBackend backend;
+        const Tally tally = playScenario(file, backend, out);
         std::remove(file.c_str());
         printed = out.str();
         for (auto at = printed.find(file); at != std::string::npos; at = printed.find(file))
@@ -89,9 +89,9 @@ TEST_F(ScenarioTest, startsAFreshProgramForEachFile)
 TEST_F(ScenarioTest, failsOnAFileThatCannotBeRead)
 {
     std::ostringstream out;
-    Headless body;
-    EXPECT_EQ(playScenario(testing::TempDir() + "no such file", body, out).failures, 1);
-    EXPECT_EQ(playScenario(testing::TempDir(), body, out).failures, 1);
+    HeadlessBackend backend;
+    EXPECT_EQ(playScenario(testing::TempDir() + "no such file", backend, out).failures, 1);
+    EXPECT_EQ(playScenario(testing::TempDir(), backend, out).failures, 1);
 }
 
 } // namespace

@@ -5,7 +5,7 @@
 
 #include <gtest/gtest.h>
 
-#include "Headless.h"
+#include "HeadlessBackend.h"
 #include "Pilote.h"
 
 namespace ondelis::pilote {
@@ -25,8 +25,8 @@ protected:
         say("menu MenuCircuitOscillant");
     }
 
-    Headless body;
-    Pilote driver{body};
+    HeadlessBackend backend;
+    Pilote driver{backend};
 };
 
 } // namespace ondelis::pilote

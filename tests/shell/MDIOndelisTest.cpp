@@ -20,7 +20,7 @@ TEST_F(MDIOndelisTest, startsCentredOnTheScreenWithItsSizeAndCaption)
 
 TEST_F(MDIOndelisTest, startsPartlyOffAScreenThatIsTooSmall)
 {
-    world.screenSize = {.Width = 15360, .Height = 11520};
+    host.screenSize = {.Width = 15360, .Height = 11520};
     frame.start();
     EXPECT_EQ(Double{frame.Left}, -2055);
     EXPECT_EQ(Double{frame.Top}, -1740);
@@ -29,16 +29,16 @@ TEST_F(MDIOndelisTest, startsPartlyOffAScreenThatIsTooSmall)
 TEST_F(MDIOndelisTest, startsWithNoPanelOpen)
 {
     frame.start();
-    EXPECT_TRUE(desk.loadedPanels().empty());
-    EXPECT_FALSE(desk.ended());
+    EXPECT_TRUE(runtime.loadedPanels().empty());
+    EXPECT_FALSE(runtime.ended());
 }
 
 TEST_F(MDIOndelisTest, quitterEndsTheProgramAtOnce)
 {
     frame.start();
     EXPECT_TRUE(click("MenuQuitter"));
-    EXPECT_EQ(world.endings, std::vector<int>{0});
-    EXPECT_TRUE(world.boxes.empty());
+    EXPECT_EQ(host.endings, std::vector<int>{0});
+    EXPECT_TRUE(host.boxes.empty());
 }
 
 TEST_F(MDIOndelisTest, itsCloseBoxEndsTheProgramAtOnce)
@@ -46,8 +46,8 @@ TEST_F(MDIOndelisTest, itsCloseBoxEndsTheProgramAtOnce)
     frame.start();
     click("MenuCircuitOscillant");
     frame.close();
-    EXPECT_EQ(world.endings, std::vector<int>{0});
-    EXPECT_TRUE(world.boxes.empty());
+    EXPECT_EQ(host.endings, std::vector<int>{0});
+    EXPECT_TRUE(host.boxes.empty());
 }
 
 TEST_F(MDIOndelisTest, anEntryClosesThePanelThatIsOpen)
@@ -56,7 +56,7 @@ TEST_F(MDIOndelisTest, anEntryClosesThePanelThatIsOpen)
     click("MenuCircuitOscillant");
     click("mnuSelfNbSpires");
     EXPECT_EQ(panel("CircuitsOscillants"), nullptr);
-    EXPECT_EQ(desk.loadedPanels().size(), 1U);
+    EXPECT_EQ(runtime.loadedPanels().size(), 1U);
 }
 
 TEST_F(MDIOndelisTest, anEntryClosesAllPanels)
@@ -65,9 +65,9 @@ TEST_F(MDIOndelisTest, anEntryClosesAllPanels)
     for (const MenuEntry* const entry : panelEntries())
         for (const MenuStep& step : entry->steps) // nothing is closed before
             step(frame);
-    EXPECT_EQ(desk.loadedPanels().size(), 42U);
+    EXPECT_EQ(runtime.loadedPanels().size(), 42U);
     frame.click({.control = "mnuEssai", .caption = "Essai", .steps = {}});
-    EXPECT_TRUE(desk.loadedPanels().empty());
+    EXPECT_TRUE(runtime.loadedPanels().empty());
 }
 
 TEST_F(MDIOndelisTest, anEntryClosesAHiddenPanelToo)
@@ -76,7 +76,7 @@ TEST_F(MDIOndelisTest, anEntryClosesAHiddenPanelToo)
     click("mnuSelfNbSpires");
     panel("CalculNombreSpires")->Hide();
     click("MenuCircuitOscillant");
-    EXPECT_EQ(desk.loadedPanels(), std::vector<FeuilleCalcul*>{panel("CircuitsOscillants")});
+    EXPECT_EQ(runtime.loadedPanels(), std::vector<FeuilleCalcul*>{panel("CircuitsOscillants")});
 }
 
 TEST_F(MDIOndelisTest, theEntryOfTheOpenPanelRestartsIt)
@@ -98,7 +98,7 @@ TEST_F(MDIOndelisTest, aPanelClosedByTheUserOpensAgain)
     frame.start();
     click("MenuCircuitOscillant");
     user.close(*panel("CircuitsOscillants"));
-    EXPECT_TRUE(desk.loadedPanels().empty());
+    EXPECT_TRUE(runtime.loadedPanels().empty());
     click("MenuCircuitOscillant");
     EXPECT_NE(panel("CircuitsOscillants"), nullptr);
 }
@@ -106,7 +106,7 @@ TEST_F(MDIOndelisTest, aPanelClosedByTheUserOpensAgain)
 TEST_F(MDIOndelisTest, panelsAreCentredInTheFrameAsTheUserLeftIt)
 {
     frame.start();
-    frame.placed({.Width = 100, .Height = 200}, {.Width = 12000, .Height = 9000});
+    frame.geometryChanged({.Left = 100, .Top = 200}, {.Width = 12000, .Height = 9000});
     click("MenuCircuitOscillant");
     const FeuilleCalcul& open = *panel("CircuitsOscillants");
     EXPECT_EQ(Double{open.Left}, (Double{12000} - open.Width) / 2);
@@ -118,7 +118,7 @@ TEST_F(MDIOndelisTest, nothingOpensAfterTheEnd)
     frame.start();
     frame.close();
     click("MenuCircuitOscillant");
-    EXPECT_TRUE(desk.loadedPanels().empty());
+    EXPECT_TRUE(runtime.loadedPanels().empty());
 }
 
 TEST_F(MDIOndelisTest, twoListsOfAllPanelsListenToAClickOnTheChosenRow)
@@ -127,7 +127,7 @@ TEST_F(MDIOndelisTest, twoListsOfAllPanelsListenToAClickOnTheChosenRow)
     std::set<std::string> listening;
     for (const MenuEntry* const entry : panelEntries()) {
         frame.click(*entry);
-        for (const FeuilleCalcul* const open : desk.loadedPanels())
+        for (const FeuilleCalcul* const open : runtime.loadedPanels())
             for (const Control* const control : open->controls())
                 if (const auto* const list = dynamic_cast<const ListBox*>(control);
                     list != nullptr && list->design().clickOnChosenRow)
@@ -136,7 +136,7 @@ TEST_F(MDIOndelisTest, twoListsOfAllPanelsListenToAClickOnTheChosenRow)
     EXPECT_EQ(listening, (std::set<std::string>{"CondensateurFixe.LstDielectrique", "Transformateur.LstTole"}));
 }
 
-/// Notes the stores into a position.
+/// Records the stores into a position.
 struct Form {
     Double Width = 1000;
     Double Height = 500;

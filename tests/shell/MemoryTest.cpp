@@ -25,10 +25,10 @@ protected:
         for (std::size_t opening = 0; opening < count; ++opening) {
             const MenuEntry& entry = *panelEntries()[opening % panelEntries().size()];
             frame.click(entry);
-            ASSERT_FALSE(desk.ended()) << entry.control;
-            ASSERT_LE(desk.loadedPanels().size(), 2U) << entry.control;
-            world.log.clear();
-            world.boxes.clear();
+            ASSERT_FALSE(runtime.ended()) << entry.control;
+            ASSERT_LE(runtime.loadedPanels().size(), 2U) << entry.control;
+            host.log.clear();
+            host.boxes.clear();
         }
     }
 };

@@ -104,7 +104,7 @@ protected:
         expectPanel(opening.panel, opening.caption, opening.place);
         if (opening.companion)
             expectPanel("CalculNombreSpires", companionCaption, *opening.companion);
-        EXPECT_EQ(desk.loadedPanels().size(), opening.companion ? 2U : 1U);
+        EXPECT_EQ(runtime.loadedPanels().size(), opening.companion ? 2U : 1U);
     }
 };
 
@@ -120,12 +120,12 @@ TEST_P(PlacingTest, restartsTheSameInTheSamePlaces)
     frame.start();
     ASSERT_TRUE(click(GetParam().entry));
     FeuilleCalcul& first = *panel(GetParam().panel);
-    const unsigned loading = first.loading();
+    const unsigned loads = first.loadCount();
     first.Left = 0;
     first.Top = 0;
     click(GetParam().entry);
     EXPECT_EQ(panel(GetParam().panel), &first);
-    EXPECT_EQ(first.loading(), loading + 1);
+    EXPECT_EQ(first.loadCount(), loads + 1);
     expectAllOf(GetParam());
 }
 
@@ -135,7 +135,7 @@ TEST_P(PlacingTest, goesWhenAnotherEntryIsClicked)
     ASSERT_TRUE(click(GetParam().entry));
     const bool itself = GetParam().panel == "CircuitsOscillants";
     click(itself ? "mnuSelfNbSpires" : "MenuCircuitOscillant");
-    EXPECT_EQ(desk.loadedPanels().size(), 1U);
+    EXPECT_EQ(runtime.loadedPanels().size(), 1U);
     EXPECT_EQ(panel(GetParam().panel), nullptr);
 }
 
@@ -152,7 +152,7 @@ TEST_F(CompanionTest, standsBesideTheShortenedDipole)
     frame.start();
     for (int time = 0; time < 2; ++time) {
         click("mnuDipoleRaccourci");
-        ASSERT_EQ(desk.loadedPanels().size(), 2U);
+        ASSERT_EQ(runtime.loadedPanels().size(), 2U);
         FeuilleCalcul& dipole = *panel("AntennesDipolesRaccourcis");
         EXPECT_EQ(dipole.Caption, "Dipoles raccourcis");
         EXPECT_EQ(dipole.Left.get(), Single{(Double{19470} - dipole.Width) / 5});

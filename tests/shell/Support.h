@@ -6,10 +6,10 @@
 
 namespace ondelis::tests {
 
-/// The frame of the program, started on the screen of the test's world.
-class FrameTest : public DeskTest {
+/// The frame of the program, started on the screen of the test's host.
+class FrameTest : public RuntimeTest {
 protected:
-    MDIOndelis frame{desk};
+    MDIOndelis frame{runtime};
 
     /// Clicks an entry of the menu; false if there is none of that name.
     bool click(std::string_view control)
@@ -24,7 +24,7 @@ protected:
     /// The panel of that class if it is loaded, else null.
     [[nodiscard]] FeuilleCalcul* panel(std::string_view name) const
     {
-        for (FeuilleCalcul* const loaded : desk.loadedPanels())
+        for (FeuilleCalcul* const loaded : runtime.loadedPanels())
             if (loaded->design().name == name)
                 return loaded;
         return nullptr;

@@ -119,7 +119,7 @@ TEST_F(BoxesTest, aFaultIsNamedAndEndsTheProgram)
     EXPECT_EQ(reader.seen.at(0).buttons, QStringList{"OK"});
     EXPECT_TRUE(reader.seen.at(0).text.contains(QStringLiteral("11")));
     EXPECT_TRUE(reader.seen.at(0).text.contains(QStringLiteral("Division par zéro")));
-    EXPECT_TRUE(program.desk.ended());
+    EXPECT_TRUE(program.runtime.ended());
 }
 
 TEST_F(BoxesTest, theCloseBoxEndsTheProgram)
@@ -127,7 +127,7 @@ TEST_F(BoxesTest, theCloseBoxEndsTheProgram)
     Program program;
     QTimer::singleShot(0, &program.view.mainWindow(), [&] { program.view.mainWindow().close(); });
     EXPECT_EQ(program.view.run(), 0);
-    EXPECT_TRUE(program.desk.ended());
+    EXPECT_TRUE(program.runtime.ended());
 }
 
 TEST_F(BoxesTest, quitterEndsTheProgram)
@@ -136,7 +136,7 @@ TEST_F(BoxesTest, quitterEndsTheProgram)
     program.open<TestPanel>();
     QTimer::singleShot(0, &program.view.mainWindow(), [&] { program.pick("MenuQuitter"); });
     EXPECT_EQ(program.view.run(), 0);
-    EXPECT_TRUE(program.desk.ended());
+    EXPECT_TRUE(program.runtime.ended());
 }
 
 TEST_F(BoxesTest, theEndInsideABoxLeavesTheHandler)
@@ -219,7 +219,7 @@ TEST_F(BoxesTest, aPanelClosedWhileEventsRunLeavesItsHandler)
     EXPECT_EQ(panel.events, (std::vector<std::string>{"TxtA_KeyPress 49", "TxtA_Change"}));
     EXPECT_FALSE(panel.loaded());
     EXPECT_EQ(program.view.find(panel), nullptr);
-    EXPECT_FALSE(program.desk.ended());
+    EXPECT_FALSE(program.runtime.ended());
     panel.onA = [] {};
     program.open<TestPanel>();
     EXPECT_TRUE(program.window(panel).isVisible());
@@ -251,7 +251,7 @@ TEST_F(BoxesTest, aPanelThatIsRestartedWhileEventsRunStaysFresh)
 TEST_F(BoxesTest, aBoxInFormLoadComesBeforeThePanel)
 {
     Program program;
-    auto& panel = program.desk.get<TestPanel>();
+    auto& panel = program.runtime.get<TestPanel>();
     panel.onLoad = [&] { panel.MsgBox("Bonjour"); };
     Reader reader{{"OK"}};
     bool onScreen = true;

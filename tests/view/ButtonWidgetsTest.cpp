@@ -56,7 +56,7 @@ TEST_F(ButtonWidgetsTest, aButtonIsPressedByMouseAndByKey)
     QTest::keyClick(&button, Qt::Key_Space);
     QTest::keyClick(&button, Qt::Key_Return);
     EXPECT_EQ(panel.events, (std::vector<std::string>(3, "BtnGo_Click")));
-    EXPECT_EQ(program.desk.focused(), &panel.BtnGo);
+    EXPECT_EQ(program.runtime.focused(), &panel.BtnGo);
 }
 
 TEST_F(ButtonWidgetsTest, codeMovesTheKeyboard)
@@ -66,7 +66,7 @@ TEST_F(ButtonWidgetsTest, codeMovesTheKeyboard)
     panel.onGo = [&] { panel.TxtC.SetFocus(); };
     QTest::mouseClick(&program.widget(panel.BtnGo), Qt::LeftButton);
     EXPECT_TRUE(program.widget(panel.TxtC).hasFocus());
-    EXPECT_EQ(program.desk.focused(), &panel.TxtC);
+    EXPECT_EQ(program.runtime.focused(), &panel.TxtC);
 }
 
 TEST_F(ButtonWidgetsTest, theWheelChoosesNothing)

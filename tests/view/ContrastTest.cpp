@@ -11,9 +11,9 @@
 
 #include "Contrast.h"
 #include "Desktop.h"
+#include "PanelSession.h"
 #include "Program.h"
 #include "TestPanel.h"
-#include "Walk.h"
 #include "view/Colors.h"
 
 namespace ondelis {
@@ -110,8 +110,8 @@ TEST_F(ContrastTest, theCheckFindsAPoorTitleAndMenu)
     EXPECT_GT(contrastFaultsOfMenus(*program.view.mainWindow().menuBar()).size(), 40);
     program.open<TestPanel>();
     program.pick("MenuThomson"); // two panels, one of which has no keyboard
-    const QStringList faults = contrastFaultsOf(program.window(*program.desk.loadedPanels().front()))
-        + contrastFaultsOf(program.window(*program.desk.loadedPanels().back()));
+    const QStringList faults = contrastFaultsOf(program.window(*program.runtime.loadedPanels().front()))
+        + contrastFaultsOf(program.window(*program.runtime.loadedPanels().back()));
     EXPECT_EQ(faults.filter(QStringLiteral("(title)")).size() > 0, true);
 }
 
@@ -185,7 +185,7 @@ TEST_P(ContrastTest, theCloseBoxIsSeen)
     const ScopedDesktop look = palette(GetParam());
     Program program;
     program.pick("MenuThomson"); // two panels, one of which has no keyboard
-    for (const FeuilleCalcul* panel : program.desk.loadedPanels())
+    for (const FeuilleCalcul* panel : program.runtime.loadedPanels())
         report(contrastFaultsOf(program.window(*panel)));
 }
 
@@ -257,10 +257,10 @@ TEST_P(ContrastTest, panels)
 {
     const ScopedDesktop look = palette(GetParam());
     QStringList faults;
-    Walk walk;
+    PanelSession session;
     for (const MenuEntry* entry : panelEntries()) {
-        walk.open(*entry);
-        walk.choose([&](PanelWindow& window) { faults += contrastFaultsOf(window); });
+        session.open(*entry);
+        session.choose([&](PanelWindow& window) { faults += contrastFaultsOf(window); });
     }
     faults.removeDuplicates();
     report(faults);

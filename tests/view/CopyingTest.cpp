@@ -124,7 +124,7 @@ TEST_F(CopyingTest, theResultsOfATimerCanBeCopied)
 {
     Program program;
     program.pick("MenuAstable");
-    const auto& panel = program.desk.get<Astable>();
+    const auto& panel = program.runtime.get<Astable>();
     QStringList taken;
     for (const Control* control : panel.controls()) {
         const auto* const label = dynamic_cast<const Label*>(control);

@@ -8,8 +8,8 @@ namespace ondelis {
 /// A form with one fault of each kind.
 class CrookedPanel final : public FeuilleCalcul {
 public:
-    explicit CrookedPanel(Desk& desk)
-        : FeuilleCalcul{desk,
+    explicit CrookedPanel(Runtime& runtime)
+        : FeuilleCalcul{runtime,
             {.name = "CrookedPanel",
                 .Caption = "Un panneau dont le titre est plus long que ce que sa largeur permet d'écrire",
                 .Width = 6000,

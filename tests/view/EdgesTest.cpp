@@ -1,8 +1,8 @@
 #include <QPainter>
 
 #include "Edges.h"
+#include "PanelSession.h"
 #include "Program.h"
-#include "Walk.h"
 #include "shell/Menu.h"
 
 namespace ondelis {
@@ -37,13 +37,13 @@ TEST_F(EdgesTest, theCheckFindsEachFault)
 
 TEST_F(EdgesTest, allEdgesAreThere)
 {
-    Walk walk;
+    PanelSession session;
     QStringList missing;
     int things = 0;
     for (const MenuEntry* entry : panelEntries()) {
-        walk.open(*entry);
+        session.open(*entry);
         QCoreApplication::processEvents();
-        walk.lookAt([&](PanelWindow& window) {
+        session.lookAt([&](PanelWindow& window) {
             things += edgedThings(window);
             missing.append(missingEdges(window));
         });

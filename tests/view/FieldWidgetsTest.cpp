@@ -32,7 +32,7 @@ TEST_F(FieldWidgetsTest, typingMovesTheResults)
 {
     Program program;
     program.pick("MenuCircuitOscillant");
-    auto& panel = program.desk.get<CircuitsOscillants>();
+    auto& panel = program.runtime.get<CircuitsOscillants>();
     QTest::keyClicks(&program.widget(panel.TxtFreq), QStringLiteral("1"));
     QTest::keyClicks(&program.widget(panel.TxtRes), QStringLiteral("1000"));
     QTest::keyClicks(&program.widget(panel.TxtCapa), QStringLiteral("1000"));
@@ -47,21 +47,21 @@ TEST_F(FieldWidgetsTest, typingMovesTheResults)
 TEST_F(FieldWidgetsTest, aPanelOpensWithTheKeyboardInItsFirstField)
 {
     Program program;
-    program.desk.get<TestPanel>().onLoad = [&] { program.desk.get<TestPanel>().TxtA.Text = "100"; };
+    program.runtime.get<TestPanel>().onLoad = [&] { program.runtime.get<TestPanel>().TxtA.Text = "100"; };
     auto& panel = program.open<TestPanel>();
     auto& first = program.widget<QLineEdit>(panel.TxtA);
     EXPECT_TRUE(first.hasFocus());
     EXPECT_EQ(first.selectedText(), QStringLiteral("100"));
-    EXPECT_EQ(program.desk.focused(), &panel.TxtA);
+    EXPECT_EQ(program.runtime.focused(), &panel.TxtA);
 }
 
 TEST_F(FieldWidgetsTest, aPanelOpensWithTheKeyboardWhereItsCodeHasPutIt)
 {
     Program program;
-    program.desk.get<TestPanel>().onLoad = [&] { program.desk.get<TestPanel>().TxtC.SetFocus(); };
+    program.runtime.get<TestPanel>().onLoad = [&] { program.runtime.get<TestPanel>().TxtC.SetFocus(); };
     auto& panel = program.open<TestPanel>();
     EXPECT_TRUE(program.widget(panel.TxtC).hasFocus());
-    EXPECT_EQ(program.desk.focused(), &panel.TxtC);
+    EXPECT_EQ(program.runtime.focused(), &panel.TxtC);
 }
 
 TEST_F(FieldWidgetsTest, eachKeyIsOneChange)
@@ -256,7 +256,7 @@ TEST_F(FieldWidgetsTest, aLockedFieldCanBeReadAndCopied)
     auto& field = program.widget<QLineEdit>(panel.TxtB);
     QTest::mouseClick(&field, Qt::LeftButton);
     EXPECT_TRUE(field.hasFocus());
-    EXPECT_EQ(program.desk.focused(), &panel.TxtB);
+    EXPECT_EQ(program.runtime.focused(), &panel.TxtB);
     QTest::keyClicks(&field, QStringLiteral("9"));
     QTest::keyClick(&field, Qt::Key_Backspace);
     EXPECT_EQ(std::string{panel.TxtB.Text}, "4.7 Kilo");

@@ -103,7 +103,7 @@ TEST_F(FocusFrameTest, theMarkIsSeenAroundAnOptionWithoutCaption)
 {
     Program program;
     program.pick("MenuThomson");
-    const auto& panel = program.desk.get<FormuleDeThomson>();
+    const auto& panel = program.runtime.get<FormuleDeThomson>();
     for (const OptionButton* option : {&panel.OptF, &panel.OptL})
         EXPECT_GT(mark(program, *option, panel.TxtSelf), 1);
 }
@@ -169,7 +169,7 @@ TEST_F(FocusFrameTest, nothingIsMarkedOnAPanelOfTexts)
 {
     Program program;
     program.pick("MenuLogiciel");
-    EXPECT_FALSE(program.window(program.desk.get<Apropos>()).form().findChild<QFocusFrame*>()->isVisible());
+    EXPECT_FALSE(program.window(program.runtime.get<Apropos>()).form().findChild<QFocusFrame*>()->isVisible());
 }
 
 TEST_F(FocusFrameTest, thereIsNoMarkWithoutTheKeyboard)

@@ -5,8 +5,8 @@
 #include "CrookedPanel.h"
 #include "Desktop.h"
 #include "FormCheck.h"
+#include "PanelSession.h"
 #include "Program.h"
-#include "Walk.h"
 
 namespace ondelis {
 namespace {
@@ -72,10 +72,10 @@ TEST_P(FormsTest, looks)
     const ScopedDesktop look{family(), GetParam().points, false};
     EXPECT_EQ(QFontInfo{QApplication::font()}.family(), family());
     std::set<QString> faults;
-    Walk walk;
+    PanelSession session;
     for (const MenuEntry* entry : panelEntries()) {
-        walk.open(*entry);
-        walk.choose([&](PanelWindow& window) {
+        session.open(*entry);
+        session.choose([&](PanelWindow& window) {
             EXPECT_EQ(QFontInfo{window.form().font()}.family(), family());
             for (const FormFault& fault : faultsOf(window))
                 faults.insert(fault.line());

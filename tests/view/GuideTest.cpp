@@ -15,7 +15,7 @@ protected:
     QTemporaryDir desktop;
     const QByteArray path = qgetenv("PATH");
 
-    /// The desktop's command: it notes what it is to show, and ends as `end` says.
+    /// The desktop's command: it records what it is to show, and ends as `end` says.
     void installBrowser(const QString& end)
     {
         QFile command{desktop.filePath("xdg-open")};

@@ -73,7 +73,7 @@ TEST_P(KeyboardTest, tabWalksThroughEveryPanel)
     program.pick(GetParam()->control);
     program.view.mainWindow().activateWindow(); // a box may have been before it, and there is no window manager
     ASSERT_TRUE(QTest::qWaitForWindowActive(&program.view.mainWindow()));
-    for (const FeuilleCalcul* panel : program.desk.loadedPanels()) {
+    for (const FeuilleCalcul* panel : program.runtime.loadedPanels()) {
         const QStringList stops = stopsOf(*panel);
         if (stops.isEmpty())
             continue;
@@ -98,7 +98,7 @@ TEST_F(KeyboardTest, tabFollowsFieldsThatCodeMoves)
 {
     Program program;
     program.pick("mnuCoaxiauxSectionCarree");
-    const auto& panel = program.desk.get<CoaxSectCarree>();
+    const auto& panel = program.runtime.get<CoaxSectCarree>();
     const auto walked = [&] {
         QStringList stops;
         for (int i = 0; i < 4; ++i) {
@@ -137,7 +137,7 @@ TEST_F(KeyboardTest, arrowsChooseAnOption)
 {
     Program program;
     program.pick("MenuThomson");
-    auto& panel = program.desk.get<FormuleDeThomson>();
+    auto& panel = program.runtime.get<FormuleDeThomson>();
     program.widget(panel.OptF).setFocus();
     press(program, Qt::Key_Down);
     EXPECT_TRUE(panel.OptL.Value);
@@ -239,20 +239,20 @@ TEST_F(KeyboardTest, keysPickAnEntry)
     pressInMenu(program, Qt::Key_Down);
     pressInMenu(program, Qt::Key_Return);
     // The test's own panel stays.
-    ASSERT_TRUE(QTest::qWaitFor([&] { return program.desk.loadedPanels().size() == 2; }));
-    EXPECT_EQ(program.desk.loadedPanels().back()->design().name, "SectionDiametre");
+    ASSERT_TRUE(QTest::qWaitFor([&] { return program.runtime.loadedPanels().size() == 2; }));
+    EXPECT_EQ(program.runtime.loadedPanels().back()->design().name, "SectionDiametre");
     EXPECT_EQ(menuBar(program).activeAction(), nullptr);
     ASSERT_TRUE(QTest::qWaitFor([] { return focused() == QStringLiteral("TxtS"); }));
     QTest::keyClicks(QApplication::focusWidget(), QStringLiteral("2"));
-    EXPECT_EQ(program.desk.focused()->name(), "TxtS");
+    EXPECT_EQ(program.runtime.focused()->name(), "TxtS");
 }
 
 TEST_F(KeyboardTest, keysGoFromAFilterToItsCompanion)
 {
     Program program;
     program.pick("MenuPasseHaut");
-    const auto& filter = program.desk.get<FiltrePasseHaut>();
-    const auto& companion = program.desk.get<CalculNombreSpires>();
+    const auto& filter = program.runtime.get<FiltrePasseHaut>();
+    const auto& companion = program.runtime.get<CalculNombreSpires>();
     program.widget(filter.TxtZCharge).setFocus();
     press(program, Qt::Key_Tab, Qt::ControlModifier);
     QTest::keyRelease(program.view.mainWindow().windowHandle(), Qt::Key_Control);
@@ -272,9 +272,9 @@ TEST_F(KeyboardTest, keysCloseAPanelWithoutControls)
 {
     Program program;
     program.pick("MenuLogiciel");
-    EXPECT_EQ(program.desk.loadedPanels().size(), 1U);
+    EXPECT_EQ(program.runtime.loadedPanels().size(), 1U);
     press(program, Qt::Key_F4, Qt::ControlModifier);
-    EXPECT_TRUE(program.desk.loadedPanels().empty());
+    EXPECT_TRUE(program.runtime.loadedPanels().empty());
 }
 
 TEST_F(KeyboardTest, otherKeysCloseAPanelAndTheProgram)
@@ -285,7 +285,7 @@ TEST_F(KeyboardTest, otherKeysCloseAPanelAndTheProgram)
     EXPECT_FALSE(panel.loaded());
     program.open<TestPanel>();
     press(program, Qt::Key_Q, Qt::ControlModifier);
-    EXPECT_TRUE(program.desk.ended());
+    EXPECT_TRUE(program.runtime.ended());
 }
 
 TEST_F(KeyboardTest, keysThatReachADropDownTooLateAreNotLost)
@@ -311,12 +311,12 @@ TEST_F(KeyboardTest, aPanelThatIsOnlyWrittenToLeavesTheKeyboard)
 {
     Program program;
     auto& panel = program.open<TestPanel>();
-    panel.onA = [&] { program.desk.get<CalculNombreSpires>().TxtS.Text = panel.TxtA.Text.get(); };
+    panel.onA = [&] { program.runtime.get<CalculNombreSpires>().TxtS.Text = panel.TxtA.Text.get(); };
     press(program, Qt::Key_1);
-    EXPECT_TRUE(program.desk.get<CalculNombreSpires>().visible());
+    EXPECT_TRUE(program.runtime.get<CalculNombreSpires>().visible());
     press(program, Qt::Key_2);
     EXPECT_EQ(focused(), QStringLiteral("TxtA"));
-    EXPECT_EQ(std::string{program.desk.get<CalculNombreSpires>().TxtS.Text}, "12");
+    EXPECT_EQ(std::string{program.runtime.get<CalculNombreSpires>().TxtS.Text}, "12");
 }
 
 TEST_F(KeyboardTest, spaceAndEnterPressAButton)

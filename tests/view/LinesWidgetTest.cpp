@@ -12,8 +12,8 @@ namespace {
 /// Two lines that start in an area and run far beyond it: only one of them is kept inside.
 class LinesPanel final : public FeuilleCalcul {
 public:
-    explicit LinesPanel(Desk& desk)
-        : FeuilleCalcul{desk, {.name = "LinesPanel", .Caption = "Traits", .Width = 6000, .Height = 6000}}
+    explicit LinesPanel(Runtime& runtime)
+        : FeuilleCalcul{runtime, {.name = "LinesPanel", .Caption = "Traits", .Width = 6000, .Height = 6000}}
     {
     }
 
@@ -67,7 +67,7 @@ TEST_F(LinesWidgetTest, framesAndFieldsCoverCaptions)
 {
     Program program;
     program.pick("mnuLPDA");
-    auto& panel = program.desk.get<AntennesLPDA1>();
+    auto& panel = program.runtime.get<AntennesLPDA1>();
     const auto seen = [&] { return program.window(panel).form().grab().toImage(); };
     for (const bool notes : {false, true}) { // in place of its frame one of two fields may show
         if (notes)

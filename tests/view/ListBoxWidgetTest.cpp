@@ -70,7 +70,7 @@ TEST_F(ListBoxWidgetTest, onlyTheLeftButtonGivesAListTheKeyboard)
     for (const Qt::MouseButton button : {Qt::RightButton, Qt::MiddleButton}) {
         clickOnWindow(list, 1, button);
         EXPECT_TRUE(field.hasFocus());
-        EXPECT_EQ(program.desk.focused(), &panel.TxtA);
+        EXPECT_EQ(program.runtime.focused(), &panel.TxtA);
     }
     EXPECT_TRUE(panel.events.empty());
     clickOnWindow(list, 1, Qt::LeftButton);
@@ -82,7 +82,7 @@ TEST_F(ListBoxWidgetTest, aRightClickLeavesTheHeadingOfTheCatalogue)
 {
     Program program;
     program.pick("MenuCoaxiauxCourants");
-    auto& panel = program.desk.get<RVListeCoaxiaux>();
+    auto& panel = program.runtime.get<RVListeCoaxiaux>();
     QTest::mouseClick(&program.widget(panel.OptVF), Qt::LeftButton, {}, {12, 8});
     click(program.widget<QListWidget>(panel.LstCritere), 0);
     EXPECT_EQ(std::string{panel.LblCriteres.Caption}, "Velocite");
@@ -131,7 +131,7 @@ TEST_F(ListBoxWidgetTest, theChosenLaminationIsDesignedAgain)
 {
     Program program;
     program.pick("mnuCalcTransfo");
-    auto& panel = program.desk.get<Transformateur>();
+    auto& panel = program.runtime.get<Transformateur>();
     auto& list = program.widget<QListWidget>(panel.LstTole);
     auto& current = program.widget<QLineEdit>(panel.Secondaires(0).TxtIsec);
     current.setFocus();

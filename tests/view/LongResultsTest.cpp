@@ -1,7 +1,7 @@
 #include "FormCheck.h"
+#include "PanelSession.h"
 #include "Program.h"
 #include "Typist.h"
-#include "Walk.h"
 #include "forms/FeuilleCalcul.h"
 #include "kit/Fault.h"
 
@@ -11,8 +11,8 @@ namespace {
 /// A panel whose input is awkward for every other field.
 class NarrowPanel final : public FeuilleCalcul {
 public:
-    explicit NarrowPanel(Desk& desk)
-        : FeuilleCalcul{desk, {.name = "NarrowPanel", .Caption = "Trop étroit", .Width = 6000, .Height = 6000}}
+    explicit NarrowPanel(Runtime& runtime)
+        : FeuilleCalcul{runtime, {.name = "NarrowPanel", .Caption = "Trop étroit", .Width = 6000, .Height = 6000}}
     {
     }
 
@@ -45,10 +45,10 @@ private:
 class LongResultsTest : public testing::TestWithParam<const MenuEntry*> {
 protected:
     /// The worst fault at each place while a typist works.
-    static QStringList faultsDuring(Walk& walk, int rounds)
+    static QStringList faultsDuring(PanelSession& session, int rounds)
     {
         std::map<QString, FormFault> worst;
-        Typist typist{walk, [&](PanelWindow& window, const Typed& typed) {
+        Typist typist{session, [&](PanelWindow& window, const Typed& typed) {
                           for (const FormFault& fault : faultsOf(window, typed)) {
                               const QString key = fault.missing > 0 ? fault.place : fault.line();
                               const auto [found, added] = worst.emplace(key, fault);
@@ -66,14 +66,14 @@ protected:
 
 TEST_F(LongResultsTest, theTypistFindsEachFault)
 {
-    Walk walk;
+    PanelSession session;
     int openings = 0;
-    walk.open([&](Program& program) {
+    session.open([&](Program& program) {
         program.open<NarrowPanel>();
         ++openings;
     });
     QStringList places;
-    for (const QString& line : faultsDuring(walk, 40))
+    for (const QString& line : faultsDuring(session, 40))
         places.append(line.section(QLatin1Char{':'}, 0, 0).section(QLatin1Char{'.'}, -1));
     const QStringList expected{
         QStringLiteral("LblCut"), QStringLiteral("TxtA"), QStringLiteral("TxtCut"), QStringLiteral("TxtOpen")};
@@ -83,9 +83,9 @@ TEST_F(LongResultsTest, theTypistFindsEachFault)
 
 TEST_P(LongResultsTest, panels)
 {
-    Walk walk;
-    walk.open(*GetParam());
-    const QStringList faults = faultsDuring(walk, 40);
+    PanelSession session;
+    session.open(*GetParam());
+    const QStringList faults = faultsDuring(session, 40);
     EXPECT_TRUE(faults.isEmpty()) << qPrintable(faults.join(QLatin1Char{'\n'}));
 }
 

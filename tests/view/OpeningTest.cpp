@@ -39,7 +39,7 @@ protected:
     static QList<const PanelWindow*> windows(const Program& program)
     {
         QList<const PanelWindow*> shown;
-        for (const FeuilleCalcul* panel : program.desk.loadedPanels())
+        for (const FeuilleCalcul* panel : program.runtime.loadedPanels())
             if (panel->visible())
                 shown.append(&program.window(*panel));
         return shown;
@@ -122,7 +122,7 @@ TEST_P(OpeningTest, itHasTheKeyboard)
     const PanelWindow& panel = *windows(program).first();
     EXPECT_EQ(program.view.mainWindow().area().activeSubWindow(), &panel);
     const Control* const first = firstField(panel.panel());
-    EXPECT_EQ(program.desk.focused(), first);
+    EXPECT_EQ(program.runtime.focused(), first);
     if (first == nullptr)
         return;
     const QWidget& widget = program.widget(*first);

@@ -13,7 +13,7 @@
 #include <vector>
 
 #include "Support.h"
-#include "forms/Desk.h"
+#include "forms/Runtime.h"
 #include "shell/MDIOndelis.h"
 #include "view/ControlWidget.h"
 #include "view/MainWindow.h"
@@ -25,8 +25,8 @@ namespace ondelis {
 /// The program, on screen, as a test uses it.
 struct Program {
     View view;
-    Desk desk{view};
-    MDIOndelis frame{desk};
+    Runtime runtime{view};
+    MDIOndelis frame{runtime};
 
     Program()
     {
@@ -42,15 +42,15 @@ struct Program {
     template <class Panel>
     Panel& open()
     {
-        view.perform([this](User&) { desk.get<Panel>().Show(); });
-        return desk.get<Panel>();
+        view.perform([this](User&) { runtime.get<Panel>().Show(); });
+        return runtime.get<Panel>();
     }
 
     /// Code stores something, outside any action of the user.
     template <class Store>
     void store(Store&& store)
     {
-        view.perform([&](User&) { desk.perform(store); });
+        view.perform([&](User&) { runtime.perform(store); });
     }
 
     [[nodiscard]] PanelWindow& window(const FeuilleCalcul& panel) const { return *view.find(panel); }
@@ -63,7 +63,7 @@ struct Program {
     }
 };
 
-/// A person at a message box: notes what it says and presses the buttons that the test names, one per box.
+/// A person at a message box: records what it says and presses the buttons that the test names, one per box.
 class Reader {
 public:
     explicit Reader(QStringList answers) : answers_{std::move(answers)}

@@ -15,7 +15,7 @@ namespace ondelis {
 namespace {
 
 /// What a screen reader must find in place of a control.
-struct Told {
+struct Accessible {
     QAccessible::Role role = QAccessible::NoRole;
     QString name;
     QString value; ///< of a field or a bar
@@ -26,13 +26,13 @@ struct Told {
 };
 
 /// Says what a control is, by its properties alone.
-class Teller final : private ControlVisitor {
+class ExpectedAccessible final : private ControlVisitor {
 public:
-    Told of(Control& control)
+    Accessible of(Control& control)
     {
-        told_ = {};
+        expected_ = {};
         control.accept(*this);
-        return told_;
+        return expected_;
     }
 
 private:
@@ -53,83 +53,83 @@ private:
     }
 
     template <class Labelled>
-    void tell(QAccessible::Role role, Labelled& control)
+    void describe(QAccessible::Role role, Labelled& control)
     {
         panel_ = &control.panel();
-        told_.role = role;
-        told_.name = nameOf(labelOf(control));
+        expected_.role = role;
+        expected_.name = nameOf(labelOf(control));
     }
 
     void visit(TextBox& box) override
     {
-        tell(QAccessible::EditableText, box);
-        told_.value = toQString(box.Text.get());
-        told_.readOnly = box.Locked;
+        describe(QAccessible::EditableText, box);
+        expected_.value = toQString(box.Text.get());
+        expected_.readOnly = box.Locked;
     }
     void visit(MaskEdBox& box) override
     {
-        tell(QAccessible::EditableText, box);
-        told_.value = toQString(box.display());
-        told_.readOnly = true;
+        describe(QAccessible::EditableText, box);
+        expected_.value = toQString(box.display());
+        expected_.readOnly = true;
     }
     void visit(ListBox& list) override
     {
-        tell(QAccessible::List, list);
+        describe(QAccessible::List, list);
         for (const std::string& row : list.items())
-            told_.rows.append(toQString(row));
-        told_.chosen = list.ListIndex.get().value();
+            expected_.rows.append(toQString(row));
+        expected_.chosen = list.ListIndex.get().value();
     }
     void visit(OptionButton& option) override
     {
-        tell(QAccessible::RadioButton, option);
+        describe(QAccessible::RadioButton, option);
         if (!std::string_view{option.design().Caption}.empty())
-            told_.name = toQString(option.design().Caption);
-        told_.checked = option.Value;
+            expected_.name = toQString(option.design().Caption);
+        expected_.checked = option.Value;
     }
     void visit(CommandButton& button) override
     {
-        told_.role = QAccessible::PushButton;
-        told_.name = toQString(button.design().Caption);
+        expected_.role = QAccessible::PushButton;
+        expected_.name = toQString(button.design().Caption);
     }
     void visit(ScrollBar& bar) override
     {
-        tell(QAccessible::ScrollBar, bar);
-        told_.value = QString::number(bar.Value.get().value());
+        describe(QAccessible::ScrollBar, bar);
+        expected_.value = QString::number(bar.Value.get().value());
     }
     void visit(Label& label) override
     {
-        told_.role = QAccessible::StaticText;
-        told_.name = toQString(label.Caption.get());
+        expected_.role = QAccessible::StaticText;
+        expected_.name = toQString(label.Caption.get());
     }
     void visit(Frame& frame) override
     {
-        told_.role = QAccessible::Grouping;
-        told_.name = toQString(frame.design().Caption);
+        expected_.role = QAccessible::Grouping;
+        expected_.name = toQString(frame.design().Caption);
     }
     void visit(Picture& /*picture*/) override { }
     void visit(Line& /*line*/) override { }
     void visit(Shape& /*shape*/) override { }
 
     FeuilleCalcul* panel_ = nullptr;
-    Told told_;
+    Accessible expected_;
 };
 
 /// What a screen reader does find.
-Told found(QWidget& widget)
+Accessible found(QWidget& widget)
 {
-    QAccessibleInterface& told = *QAccessible::queryAccessibleInterface(&widget);
-    Told found;
-    found.role = told.role();
-    found.name = told.text(QAccessible::Name);
+    QAccessibleInterface& accessible = *QAccessible::queryAccessibleInterface(&widget);
+    Accessible found;
+    found.role = accessible.role();
+    found.name = accessible.text(QAccessible::Name);
     if (found.role == QAccessible::EditableText)
-        found.value = told.textInterface()->text(0, told.textInterface()->characterCount());
-    else if (told.valueInterface() != nullptr)
-        found.value = told.valueInterface()->currentValue().toString();
-    found.readOnly = found.role == QAccessible::EditableText && told.state().readOnly;
-    found.checked = told.state().checked;
+        found.value = accessible.textInterface()->text(0, accessible.textInterface()->characterCount());
+    else if (accessible.valueInterface() != nullptr)
+        found.value = accessible.valueInterface()->currentValue().toString();
+    found.readOnly = found.role == QAccessible::EditableText && accessible.state().readOnly;
+    found.checked = accessible.state().checked;
     if (found.role == QAccessible::List)
-        for (int row = 0; row < told.childCount(); ++row) {
-            QAccessibleInterface& item = *told.child(row);
+        for (int row = 0; row < accessible.childCount(); ++row) {
+            QAccessibleInterface& item = *accessible.child(row);
             if (item.role() != QAccessible::ListItem)
                 continue;
             if (item.state().selected)
@@ -140,7 +140,7 @@ Told found(QWidget& widget)
 }
 
 /// Every difference, in words.
-QStringList differences(const Told& wanted, const Told& found)
+QStringList differences(const Accessible& wanted, const Accessible& found)
 {
     QStringList words;
     const auto compare = [&](const char* what, const auto& one, const auto& other) {
@@ -166,7 +166,7 @@ protected:
         QStringList faults;
         for (Control* control : window.panel().controls()) {
             ControlWidget* const shown = window.find(*control);
-            const Told wanted = Teller{}.of(*control);
+            const Accessible wanted = ExpectedAccessible{}.of(*control);
             if (shown == nullptr || wanted.role == QAccessible::NoRole || !control->onScreen())
                 continue;
             for (const QString& difference : differences(wanted, found(shown->widget())))
@@ -185,11 +185,11 @@ protected:
         for (Control* control : window.panel().controls()) {
             if (!control->focusable() || dynamic_cast<CommandButton*>(control) != nullptr)
                 continue;
-            const Told told = Teller{}.of(*control);
+            const Accessible accessible = ExpectedAccessible{}.of(*control);
             const QString key = QStringLiteral("%1 %2 %3")
-                                    .arg(told.role)
+                                    .arg(accessible.role)
                                     .arg(reinterpret_cast<quintptr>(control->container())) // NOLINT
-                                    .arg(told.name);
+                                    .arg(accessible.name);
             const auto [known, isFirst] = first.emplace(key, control);
             if (!isFirst)
                 twins.append(toQString(known->second->name() + " " + control->name()));
@@ -209,14 +209,14 @@ TEST_P(ScreenReaderTest, everyPanelIsRead)
         "TxtSpiresFerPul TxtSpiresFerrite", "VScrollSpiresFerPul VScrollSpiresFerrite",
         "TxtInductanceFerPul TxtInductanceFerrite", "TxtUSec(0) TxtUSec(1)", "TxtIsec(0) TxtIsec(1)",
         "TxtPap(0) TxtPap(1)", "TxtSpires(0) TxtSpires(1)", "TxtDiamFil(0) TxtDiamFil(1)"};
-    for (const FeuilleCalcul* panel : program.desk.loadedPanels()) {
+    for (const FeuilleCalcul* panel : program.runtime.loadedPanels()) {
         const PanelWindow& window = program.window(*panel);
         EXPECT_EQ(faultsOf(window), QStringList{});
         for (const QString& twin : twinsOn(window))
             EXPECT_TRUE(knownTwins.contains(twin)) << qPrintable(twin);
-        QAccessibleInterface& told = *QAccessible::queryAccessibleInterface(program.view.find(*panel));
-        EXPECT_EQ(told.role(), QAccessible::Window);
-        EXPECT_EQ(told.text(QAccessible::Name), toQString(panel->Caption.get()));
+        QAccessibleInterface& accessible = *QAccessible::queryAccessibleInterface(program.view.find(*panel));
+        EXPECT_EQ(accessible.role(), QAccessible::Window);
+        EXPECT_EQ(accessible.text(QAccessible::Name), toQString(panel->Caption.get()));
     }
 }
 
@@ -225,7 +225,7 @@ TEST_F(ScreenReaderTest, aFieldIsRead)
     Program program;
     auto& panel = program.open<TestPanel>();
     program.store([&] { panel.TxtB.Text = "4.7 Kilo"; });
-    const Told result = found(program.widget(panel.TxtB));
+    const Accessible result = found(program.widget(panel.TxtB));
     EXPECT_EQ(result.role, QAccessible::EditableText);
     EXPECT_EQ(result.name, QStringLiteral("Résultat"));
     EXPECT_EQ(result.value, QStringLiteral("4.7 Kilo"));
@@ -256,7 +256,7 @@ TEST_F(ScreenReaderTest, aNameIsThatOfTheCaptionThatIsShown)
 {
     Program program;
     program.pick("mnuHB9CV_HF");
-    auto& panel = program.desk.get<HB9CV_HF>();
+    auto& panel = program.runtime.get<HB9CV_HF>();
     const auto name = [&] { return found(program.widget(panel.TxtTmatch)).name; };
     EXPECT_EQ(name(), QStringLiteral("0.25 * Lambda / 2 (m)"));
     const ScreenReader reader;
@@ -272,7 +272,7 @@ TEST_F(ScreenReaderTest, whatHasNoLabelIsNamedAfterItsPanel)
 {
     Program program;
     program.pick("MenuCircuitOscillant");
-    auto& panel = program.desk.get<CircuitsOscillants>();
+    auto& panel = program.runtime.get<CircuitsOscillants>();
     EXPECT_EQ(found(program.widget(panel.LstCalcul)).name, QStringLiteral("Circuits résonants"));
     program.store([&] { panel.Caption = "Autre titre"; });
     EXPECT_EQ(found(program.widget(panel.LstCalcul)).name, QStringLiteral("Autre titre"));
@@ -282,7 +282,7 @@ TEST_F(ScreenReaderTest, resultsInFieldsAreAnnounced)
 {
     Program program;
     program.pick("MenuCircuitOscillant");
-    auto& panel = program.desk.get<CircuitsOscillants>();
+    auto& panel = program.runtime.get<CircuitsOscillants>();
     QTest::keyClicks(&program.widget(panel.TxtFreq), QStringLiteral("1"));
     QTest::keyClicks(&program.widget(panel.TxtRes), QStringLiteral("1000"));
     QTest::keyClicks(&program.widget(panel.TxtCapa), QStringLiteral("100"));
@@ -298,7 +298,7 @@ TEST_F(ScreenReaderTest, fieldsThatARowFillsAreAnnounced)
 {
     Program program;
     program.pick("MenuCoaxiauxCourants");
-    auto& panel = program.desk.get<RVListeCoaxiaux>();
+    auto& panel = program.runtime.get<RVListeCoaxiaux>();
     const ScreenReader reader;
     QTest::keyClick(&program.widget(panel.LstResultat), Qt::Key_Home);
     EXPECT_FALSE(panel.TxtRef.Locked);
@@ -335,7 +335,7 @@ TEST_F(ScreenReaderTest, resultsInLabelsAreAnnounced)
 {
     Program program;
     program.pick("MenuAstable");
-    auto& panel = program.desk.get<Astable>();
+    auto& panel = program.runtime.get<Astable>();
     const ScreenReader reader;
     QTest::keyClick(&program.widget(panel.HscrFreq), Qt::Key_Right);
     for (const Label* result : {&panel.LblFreq, &panel.LblR1, &panel.LblR2})
@@ -368,7 +368,7 @@ TEST_F(ScreenReaderTest, newRowsAreAnnounced)
 {
     Program program;
     program.pick("MenuCoaxiauxCourants");
-    auto& panel = program.desk.get<RVListeCoaxiaux>();
+    auto& panel = program.runtime.get<RVListeCoaxiaux>();
     const ScreenReader reader;
     QTest::keyClick(&program.widget(panel.OptVF), Qt::Key_Space);
     EXPECT_TRUE(std::ranges::any_of(ScreenReader::heardOf(program.widget(panel.LstCritere)),
@@ -420,9 +420,9 @@ TEST_F(ScreenReaderTest, aBoxIsRead)
         EXPECT_EQ(box.role(), QAccessible::AlertMessage);
         read.append(box.text(QAccessible::Name));
         for (QWidget* part : box.object()->findChildren<QWidget*>())
-            if (QAccessibleInterface& told = *QAccessible::queryAccessibleInterface(part);
-                told.role() == QAccessible::StaticText || told.role() == QAccessible::PushButton)
-                read.append(told.text(QAccessible::Name));
+            if (QAccessibleInterface& accessible = *QAccessible::queryAccessibleInterface(part);
+                accessible.role() == QAccessible::StaticText || accessible.role() == QAccessible::PushButton)
+                read.append(accessible.text(QAccessible::Name));
     };
     QTest::mouseClick(&program.widget(panel.BtnGo), Qt::LeftButton);
     for (const char* part : {"Filtre", "Continuer ?", "Oui", "Non"})

@@ -103,7 +103,7 @@ TEST_F(ScrollBarWidgetTest, theWheelPassesOverABarThatLacksTheKeyboard)
     scrolled.setValue(scrolled.minimum());
     turnWheel(bar, -1);
     EXPECT_EQ(panel.VscrA.Value.get().value(), 50);
-    EXPECT_EQ(program.desk.focused(), &panel.TxtA);
+    EXPECT_EQ(program.runtime.focused(), &panel.TxtA);
     EXPECT_GT(scrolled.value(), scrolled.minimum());
 
     bar.setFocus();
@@ -123,10 +123,10 @@ TEST_F(ScrollBarWidgetTest, otherButtonsMoveNoBar)
         for (const QPoint place : {QPoint{3, 5}, QPoint{bar.width() / 4, 5}, QPoint{bar.width() - 3, 5}})
             QTest::mouseClick(bar.window()->windowHandle(), button, {}, bar.mapTo(bar.window(), place));
     EXPECT_EQ(panel.HscrA.Value.get().value(), 50);
-    EXPECT_EQ(program.desk.focused(), &panel.TxtA); // the wheel must not move it then either
+    EXPECT_EQ(program.runtime.focused(), &panel.TxtA); // the wheel must not move it then either
     QTest::mouseClick(bar.window()->windowHandle(), Qt::LeftButton, {}, bar.mapTo(bar.window(), QPoint{3, 5}));
     EXPECT_EQ(panel.HscrA.Value.get().value(), 48);
-    EXPECT_EQ(program.desk.focused(), &panel.HscrA);
+    EXPECT_EQ(program.runtime.focused(), &panel.HscrA);
 }
 
 TEST_F(ScrollBarWidgetTest, theSliderStandsWhereTheValueIs)

@@ -33,7 +33,7 @@ protected:
     static QStringList controlsOutOfSight(const Program& program)
     {
         QStringList faults;
-        for (const FeuilleCalcul* panel : program.desk.loadedPanels())
+        for (const FeuilleCalcul* panel : program.runtime.loadedPanels())
             for (const Control* control : panel->controls()) {
                 if (!control->focusable())
                     continue;
@@ -51,7 +51,7 @@ protected:
         QScrollBar& across = *program.view.mainWindow().area().horizontalScrollBar();
         QScrollBar& down = *program.view.mainWindow().area().verticalScrollBar();
         QStringList faults;
-        for (const FeuilleCalcul* panel : program.desk.loadedPanels()) {
+        for (const FeuilleCalcul* panel : program.runtime.loadedPanels()) {
             const PanelWindow& window = program.window(*panel);
             across.setValue(across.minimum());
             down.setValue(down.minimum());
@@ -116,7 +116,7 @@ TEST_P(SmallScreenTest, everythingCanBeReached)
 TEST_F(SmallScreenTest, aPanelComesIntoSightAsItOpens)
 {
     Program program;
-    auto& panel = program.desk.get<TestPanel>();
+    auto& panel = program.runtime.get<TestPanel>();
     panel.onLoad = [&] { panel.Left = 24000; };
     program.open<TestPanel>();
     EXPECT_TRUE(QTest::qWaitFor([&] { return seen(program).contains(onScreen(program.widget(panel.TxtA))); }));
@@ -142,7 +142,7 @@ TEST_F(SmallScreenTest, whatWasClickedStaysInSightToo)
     MainWindow& window = program.view.mainWindow();
     window.setGeometry(100, 100, 1200, 700);
     program.pick("MenuThomson");
-    const auto& companion = program.desk.get<CalculNombreSpires>();
+    const auto& companion = program.runtime.get<CalculNombreSpires>();
     QWidget& field = program.widget(companion.TxtS);
     QTest::mouseClick(window.windowHandle(), Qt::LeftButton, {}, field.mapTo(&window, field.rect().center()));
     EXPECT_TRUE(field.hasFocus());

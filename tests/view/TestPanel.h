@@ -12,8 +12,8 @@ namespace ondelis {
 /// One control of each class. The test decides what its procedures do.
 class TestPanel final : public FeuilleCalcul {
 public:
-    explicit TestPanel(Desk& desk)
-        : FeuilleCalcul{desk, {.name = "TestPanel", .Caption = "Panneau d'essai", .Width = 9000, .Height = 7200}}
+    explicit TestPanel(Runtime& runtime)
+        : FeuilleCalcul{runtime, {.name = "TestPanel", .Caption = "Panneau d'essai", .Width = 9000, .Height = 7200}}
     {
     }
 
@@ -54,22 +54,22 @@ public:
 
 private:
     void Form_Load() override { onLoad(); }
-    void TxtA_Change() { tell("TxtA_Change", onA); }
+    void TxtA_Change() { record("TxtA_Change", onA); }
     void TxtA_KeyPress(Integer& KeyAscii)
     {
         events.push_back("TxtA_KeyPress " + std::to_string(KeyAscii.value()));
         onKey(KeyAscii);
     }
     void TxtC_Change() { events.emplace_back("TxtC_Change"); }
-    void LstU_Click() { tell("LstU_Click", onRow); }
+    void LstU_Click() { record("LstU_Click", onRow); }
     void LstU_GotFocus() { events.emplace_back("LstU_GotFocus"); }
     void LstR_Click() { events.emplace_back("LstR_Click"); }
     void OptX_Click() { events.emplace_back("OptX_Click"); }
     void OptY_Click() { events.emplace_back("OptY_Click"); }
-    void BtnGo_Click() { tell("BtnGo_Click", onGo); }
-    void Hscr_Change() { tell("Hscr_Change", onBar); }
+    void BtnGo_Click() { record("BtnGo_Click", onGo); }
+    void Hscr_Change() { record("Hscr_Change", onBar); }
 
-    void tell(const char* event, const std::function<void()>& then)
+    void record(const char* event, const std::function<void()>& then)
     {
         events.emplace_back(event);
         then();

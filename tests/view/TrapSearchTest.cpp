@@ -33,7 +33,7 @@ protected:
         int fired_ = 0;
     };
 
-    /// Notes the text of a field each time that it is painted.
+    /// Records the text of a field each time that it is painted.
     class PaintedTexts final : public QObject {
     public:
         explicit PaintedTexts(QLineEdit& field) : field_{field} { field.installEventFilter(this); }
@@ -53,7 +53,7 @@ protected:
     static Traps& openTraps(Program& program)
     {
         program.pick("mnuTrappesCoaxiales");
-        return program.desk.get<Traps>();
+        return program.runtime.get<Traps>();
     }
 
     /// A person's new value of a field.
@@ -75,11 +75,11 @@ protected:
         const Meanwhile picking{[&] { program.pick("mnuGammaMatch"); }};
         search();
         EXPECT_TRUE(picking.done);
-        const Traps& panel = program.desk.get<Traps>();
+        const Traps& panel = program.runtime.get<Traps>();
         EXPECT_FALSE(panel.loaded());
         EXPECT_EQ(program.view.find(panel), nullptr);
-        EXPECT_TRUE(program.window(program.desk.get<GammaMatch>()).isVisible());
-        EXPECT_FALSE(program.desk.ended());
+        EXPECT_TRUE(program.window(program.runtime.get<GammaMatch>()).isVisible());
+        EXPECT_FALSE(program.runtime.ended());
     }
 };
 
@@ -138,7 +138,7 @@ TEST_F(TrapSearchTest, closingThePanelLeavesTheSearch)
     EXPECT_TRUE(closing.done);
     EXPECT_FALSE(panel.loaded());
     EXPECT_EQ(program.view.find(panel), nullptr);
-    EXPECT_FALSE(program.desk.ended());
+    EXPECT_FALSE(program.runtime.ended());
     openTraps(program);
     EXPECT_TRUE(program.window(panel).isVisible());
     EXPECT_EQ(program.widget<QLineEdit>(panel.TxtNombreTours).text(), QStringLiteral("7.75"));
@@ -152,7 +152,7 @@ TEST_F(TrapSearchTest, closingTheProgramLeavesTheSearch)
     QTimer::singleShot(0, &program.view.mainWindow(), [&] { clickCalculer(program, panel); });
     EXPECT_EQ(program.view.run(), 0);
     EXPECT_TRUE(closing.done);
-    EXPECT_TRUE(program.desk.ended());
+    EXPECT_TRUE(program.runtime.ended());
 }
 
 TEST_F(TrapSearchTest, closingTheProgramWhileThePanelOpensLeavesTheSearch)
@@ -162,7 +162,7 @@ TEST_F(TrapSearchTest, closingTheProgramWhileThePanelOpensLeavesTheSearch)
     QTimer::singleShot(0, &program.view.mainWindow(), [&] { openTraps(program); });
     EXPECT_EQ(program.view.run(), 0);
     EXPECT_TRUE(closing.done);
-    EXPECT_FALSE(program.desk.get<Traps>().visible());
+    EXPECT_FALSE(program.runtime.get<Traps>().visible());
 }
 
 TEST_F(TrapSearchTest, aFaultInsideTheSearchEndsTheProgram)

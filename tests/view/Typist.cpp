@@ -19,18 +19,18 @@ void Typist::work(int rounds)
 
 void Typist::round()
 {
-    const std::vector<FeuilleCalcul*> panels = walk_.program().desk.loadedPanels();
+    const std::vector<FeuilleCalcul*> panels = session_.program().runtime.loadedPanels();
     for (const FeuilleCalcul* panel : panels)
         for (Control* control : panel->controls()) {
             const auto gesture = control->focusable() ? gestureOn(*control) : nullptr;
             if (!gesture)
                 continue;
-            if (!walk_.act(gesture)) {
+            if (!session_.perform(gesture)) {
                 typed_.clear();
                 return; // these panels are gone
             }
-            noteTyped(*control);
-            walk_.lookAt([&](PanelWindow& window) { look_(window, typed_); });
+            recordTyped(*control);
+            session_.lookAt([&](PanelWindow& window) { look_(window, typed_); });
         }
 }
 
@@ -59,7 +59,7 @@ std::function<void(User&)> Typist::gestureOn(Control& control)
     return nullptr;
 }
 
-void Typist::noteTyped(const Control& control)
+void Typist::recordTyped(const Control& control)
 {
     const auto* const box = dynamic_cast<const TextBox*>(&control);
     if (box == nullptr || number_.isEmpty())

@@ -4,7 +4,7 @@
 #include <random>
 
 #include "FormCheck.h"
-#include "Walk.h"
+#include "PanelSession.h"
 #include "forms/Controls.h"
 
 namespace ondelis {
@@ -15,8 +15,8 @@ class Typist {
 public:
     using Look = std::function<void(PanelWindow& window, const Typed& typed)>;
 
-    /// Looks at the panels of the walk after each action.
-    Typist(Walk& walk, Look look) : walk_{walk}, look_{std::move(look)} { }
+    /// Looks at the panels of the session after each action.
+    Typist(PanelSession& session, Look look) : session_{session}, look_{std::move(look)} { }
 
     /// Goes through all controls of the open panels, that many times.
     void work(int rounds);
@@ -25,10 +25,10 @@ private:
     void round();
     /// What the person does with a control now.
     [[nodiscard]] std::function<void(User&)> gestureOn(Control& control);
-    void noteTyped(const Control& control);
+    void recordTyped(const Control& control);
     [[nodiscard]] unsigned oneOf(unsigned count) { return static_cast<unsigned>(random_() % count); }
 
-    Walk& walk_;
+    PanelSession& session_;
     Look look_;
     std::mt19937 random_;
     QString number_; ///< that was typed last

@@ -36,7 +36,7 @@ protected:
 TEST_F(WindowsTest, theStartMakesNoPanel)
 {
     const Program program;
-    EXPECT_TRUE(program.desk.loadedPanels().empty());
+    EXPECT_TRUE(program.runtime.loadedPanels().empty());
     EXPECT_TRUE(program.view.mainWindow().area().subWindowList().isEmpty());
     EXPECT_TRUE(program.view.mainWindow().findChildren<QLineEdit*>().isEmpty());
 }
@@ -73,7 +73,7 @@ TEST_F(WindowsTest, theUserResizesTheMainWindow)
     EXPECT_EQ(Double{program.frame.Width}.value(), scale.twips(program.view.mainWindow().frameGeometry().width()));
     EXPECT_EQ(Double{program.frame.Height}.value(), scale.twips(program.view.mainWindow().frameGeometry().height()));
     program.pick("MenuCircuitOscillant");
-    const auto& panel = program.desk.get<CircuitsOscillants>();
+    const auto& panel = program.runtime.get<CircuitsOscillants>();
     const QMdiSubWindow& window = program.window(panel);
     const QSize outer = program.view.mainWindow().frameGeometry().size();
     EXPECT_LE(qAbs(window.x() - (outer.width() - window.width()) / 2), 1);
@@ -183,7 +183,7 @@ TEST_F(WindowsTest, aHiddenPanelKeepsItsControls)
 TEST_F(WindowsTest, aLoadedPanelThatIsHiddenHasNoWidgets)
 {
     Program program;
-    auto& panel = program.desk.get<TestPanel>();
+    auto& panel = program.runtime.get<TestPanel>();
     program.store([&] { panel.Hide(); });
     EXPECT_TRUE(panel.loaded());
     EXPECT_EQ(program.view.find(panel), nullptr);
@@ -193,14 +193,14 @@ TEST_F(WindowsTest, openingAgainAndAgainLeavesNoWidgetBehind)
 {
     Program program;
     program.pick("MenuCircuitOscillant");
-    program.window(program.desk.get<CircuitsOscillants>()).close();
+    program.window(program.runtime.get<CircuitsOscillants>()).close();
     settle();
     const auto before = QApplication::allWidgets().size();
     for (int round = 0; round < 100; ++round) {
         program.pick("MenuCircuitOscillant");
         EXPECT_EQ(program.view.mainWindow().area().subWindowList().size(), 1);
     }
-    program.window(program.desk.get<CircuitsOscillants>()).close();
+    program.window(program.runtime.get<CircuitsOscillants>()).close();
     settle();
     EXPECT_EQ(QApplication::allWidgets().size(), before);
     EXPECT_TRUE(program.view.mainWindow().area().subWindowList().isEmpty());

@@ -43,7 +43,7 @@ double distance(const QPointF& point, const QLineF& line)
 }
 
 /// Whether a line reaches out of its diagram, and the part of it that runs inside is what is painted.
-bool isPartInside(const std::optional<QLineF>& painted, const QLineF& whole, const QRectF& diagram)
+bool isClipped(const std::optional<QLineF>& painted, const QLineF& whole, const QRectF& diagram)
 {
     if (diagram.contains(whole.p1()) && diagram.contains(whole.p2()))
         return false;
@@ -55,9 +55,9 @@ bool isPartInside(const std::optional<QLineF>& painted, const QLineF& whole, con
                 return false;
         return true;
     }
-    const auto ends = [&](const QPointF& shown, const QPointF& said) {
-        const bool cut = !diagram.contains(said) && !inner.contains(shown);
-        return cut ? distance(shown, whole) < sharpness : shown == said;
+    const auto ends = [&](const QPointF& shown, const QPointF& stated) {
+        const bool cut = !diagram.contains(stated) && !inner.contains(shown);
+        return cut ? distance(shown, whole) < sharpness : shown == stated;
     };
     return ends(painted->p1(), whole.p1()) && ends(painted->p2(), whole.p2());
 }
@@ -75,10 +75,10 @@ Json ControlReader::read(Control& control)
     control.accept(*this);
     const auto* const frame = qobject_cast<const QGroupBox*>(widgetOf<QWidget>(control).parentWidget());
     seenText("Frame", frame == nullptr ? QString{} : frame->objectName());
-    for (const auto& [member, value] : said_.items())
-        if (!looked_.contains(member))
-            throw std::logic_error{"nobody has looked for " + member + " of a " + said_["kind"].get<std::string>()};
-    return said_;
+    for (const auto& [member, value] : stated_.items())
+        if (!read_.contains(member))
+            throw std::logic_error{"nobody has looked for " + member + " of a " + stated_["kind"].get<std::string>()};
+    return stated_;
 }
 
 template <class Widget>
@@ -89,8 +89,8 @@ Widget& ControlReader::widgetOf(const Control& control) const
 
 void ControlReader::seen(const char* member, Json value)
 {
-    said_[member] = std::move(value);
-    looked_.insert(member);
+    stated_[member] = std::move(value);
+    read_.insert(member);
 }
 
 void ControlReader::seenText(const char* member, const QString& text)
@@ -103,21 +103,21 @@ void ControlReader::readVisible(const Control& control)
     seen("Visible", !widgetOf<QWidget>(control).isHidden());
 }
 
-void ControlReader::seenPlace(const char* member, const Property<Single>& said, int pixels, const QWidget& widget)
+void ControlReader::seenPlace(const char* member, const Property<Single>& stated, int pixels, const QWidget& widget)
 {
     const Scale scale{widget};
-    if (scale.pixels(Double{said}.value()) == pixels)
+    if (scale.pixels(Double{stated}.value()) == pixels)
         unseen(member);
     else
         seen(member, scale.twips(pixels));
 }
 
-void ControlReader::seenTextColor(const char* member, Color said, const QColor& painted, const QColor& ground)
+void ControlReader::seenTextColor(const char* member, Color stated, const QColor& painted, const QColor& background)
 {
-    const bool readableOnOwnGround = isSystemColor(said) && (painted == Qt::black || painted == Qt::white)
-        && contrast(painted, ground) >= textContrast;
-    const bool same = readableOnOwnGround || painted == shownStroke(said, ground);
-    seen(member, same ? plainColor(said) : colorOf(painted));
+    const bool readableOnOwnGround = isSystemColor(stated) && (painted == Qt::black || painted == Qt::white)
+        && contrast(painted, background) >= textContrast;
+    const bool same = readableOnOwnGround || painted == shownStroke(stated, background);
+    seen(member, same ? plainColor(stated) : colorOf(painted));
 }
 
 void ControlReader::seenType(const QWidget& widget, Qt::Alignment alignment)
@@ -162,9 +162,9 @@ void ControlReader::visit(Label& label)
 void ControlReader::visit(TextBox& box)
 {
     const auto& widget = widgetOf<QWidget>(box);
-    const QColor ground = widget.palette().color(QPalette::Base);
-    seen("BackColor", colorOf(ground));
-    seenTextColor("ForeColor", box.ForeColor, widget.palette().color(QPalette::Text), ground);
+    const QColor background = widget.palette().color(QPalette::Base);
+    seen("BackColor", colorOf(background));
+    seenTextColor("ForeColor", box.ForeColor, widget.palette().color(QPalette::Text), background);
     readVisible(box);
     seenPlace("Top", box.Top, widget.y(), widget);
     seenLabel(box.design().label, box.design().otherLabel, widget);
@@ -249,16 +249,16 @@ void ControlReader::visit(Line& line)
     unseen("BorderWidth");
     const Scale scale{widget};
     const auto pixels = [&](const Property<Single>& twips) { return scale.exact(Double{twips}.value()); };
-    const QLineF said{pixels(line.X1), pixels(line.Y1), pixels(line.X2), pixels(line.Y2)};
+    const QLineF stated{pixels(line.X1), pixels(line.Y1), pixels(line.X2), pixels(line.Y2)};
     const std::optional<QLineF> painted = widget.painted(line);
     const Shape* const diagram = line.design().within;
-    if (diagram != nullptr && line.Visible && isPartInside(painted, said, scale.pixels(diagram->at()))) {
+    if (diagram != nullptr && line.Visible && isClipped(painted, stated, scale.pixels(diagram->at()))) {
         for (const char* const member : {"X1", "Y1", "X2", "Y2", "Visible"})
             unseen(member); // what lies outside the diagram
         return;
     }
     seen("Visible", painted.has_value());
-    const QLineF shown = painted.value_or(said);
+    const QLineF shown = painted.value_or(stated);
     const auto end = [&](const char* member, double at) { seen(member, coordinate(at / scale.exact(1))); };
     end("X1", shown.x1());
     end("Y1", shown.y1());

@@ -6,7 +6,7 @@
 #include <set>
 #include <string>
 
-#include "Eyes.h"
+#include "Inspector.h"
 #include "forms/Controls.h"
 #include "view/PanelWindow.h"
 
@@ -20,8 +20,8 @@ using pilote::Json;
 /// Reads the members of a control from its widget.
 class ControlReader final : private ControlVisitor {
 public:
-    /// `said` is what the engine says about the control.
-    ControlReader(const PanelWindow& window, Json said) : window_{window}, said_(std::move(said)) { }
+    /// `stated` is what the engine says about the control.
+    ControlReader(const PanelWindow& window, Json stated) : window_{window}, stated_(std::move(stated)) { }
 
     /// The members that the engine states, as the widget shows them. Throws if one of them is neither read nor
     /// declared unseen.
@@ -43,24 +43,24 @@ private:
     template <class Widget>
     [[nodiscard]] Widget& widgetOf(const Control& control) const;
 
-    /// Notes what the widget shows for a member.
+    /// Records what the widget shows for a member.
     void seen(const char* member, Json value);
-    /// Notes that a member cannot be seen.
-    void unseen(const char* member) { looked_.insert(member); }
+    /// Records that a member cannot be seen.
+    void unseen(const char* member) { read_.insert(member); }
     void readVisible(const Control& control);
     /// A position in pixels, along one axis.
-    void seenPlace(const char* member, const Property<Single>& said, int pixels, const QWidget& widget);
+    void seenPlace(const char* member, const Property<Single>& stated, int pixels, const QWidget& widget);
     void seenText(const char* member, const QString& text);
     /// The colour of a text painted on that background; the engine says what it was before it was made readable.
-    void seenTextColor(const char* member, Color said, const QColor& painted, const QColor& ground);
+    void seenTextColor(const char* member, Color stated, const QColor& painted, const QColor& background);
     /// How a text is aligned in its widget, and its font.
     void seenType(const QWidget& widget, Qt::Alignment alignment);
     /// The caption by which a screen reader names the widget.
     void seenLabel(const Label* label, const Label* otherLabel, const QWidget& widget);
 
     const PanelWindow& window_;
-    Json said_;
-    std::set<std::string> looked_;
+    Json stated_;
+    std::set<std::string> read_;
 };
 
 } // namespace ondelis::fenetre

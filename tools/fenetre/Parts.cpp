@@ -30,12 +30,12 @@ QStyleOptionSlider optionOf(const QScrollBar& bar)
 }
 
 /// The range of a thumb.
-struct Course {
+struct Travel {
     int length; ///< pixels
     int now; ///< how far from its beginning it stands
 };
 
-Course courseOf(const QScrollBar& bar)
+Travel travelOf(const QScrollBar& bar)
 {
     const QRect groove = barPart(bar, QStyle::SC_ScrollBarGroove);
     const QRect thumb = barPart(bar, QStyle::SC_ScrollBarSlider);
@@ -72,16 +72,16 @@ QRect indicatorOf(const QAbstractButton& option)
     return option.style()->subElementRect(QStyle::SE_RadioButtonIndicator, &drawn, &option);
 }
 
-int thumbWay(const QScrollBar& bar, int position)
+int thumbDistance(const QScrollBar& bar, int position)
 {
-    const Course course = courseOf(bar);
-    return QStyle::sliderPositionFromValue(bar.minimum(), bar.maximum(), position, course.length) - course.now;
+    const Travel travel = travelOf(bar);
+    return QStyle::sliderPositionFromValue(bar.minimum(), bar.maximum(), position, travel.length) - travel.now;
 }
 
 int positionAfter(const QScrollBar& bar, int way)
 {
-    const Course course = courseOf(bar);
-    return QStyle::sliderValueFromPosition(bar.minimum(), bar.maximum(), course.now + way, course.length);
+    const Travel travel = travelOf(bar);
+    return QStyle::sliderValueFromPosition(bar.minimum(), bar.maximum(), travel.now + way, travel.length);
 }
 
 } // namespace ondelis::fenetre

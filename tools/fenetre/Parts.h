@@ -17,7 +17,7 @@ namespace ondelis::fenetre {
 [[nodiscard]] QRect indicatorOf(const QAbstractButton& option);
 
 /// How many pixels the thumb of a bar must be dragged to reach that position.
-[[nodiscard]] int thumbWay(const QScrollBar& bar, int position);
+[[nodiscard]] int thumbDistance(const QScrollBar& bar, int position);
 /// The position that a bar takes when its thumb is dragged by that many pixels.
 [[nodiscard]] int positionAfter(const QScrollBar& bar, int way);
 

@@ -12,7 +12,7 @@ namespace {
 constexpr int dotsPerInch = 96;
 constexpr int twipsPerInch = 1440;
 
-QJsonObject configuration(const Extent& size)
+QJsonObject configuration(const Size& size)
 {
     const auto pixels = [](double twips) { return qRound(twips * dotsPerInch / twipsPerInch); };
     const QJsonObject screen{{QStringLiteral("name"), QStringLiteral("screen")}, {QStringLiteral("x"), 0},
@@ -25,7 +25,7 @@ QJsonObject configuration(const Extent& size)
 
 } // namespace
 
-bool setOffscreenSize(const Extent& size)
+bool setOffscreenSize(const Size& size)
 {
     QPlatformNativeInterface* const platform = QGuiApplication::platformNativeInterface();
     // The platform's own tests set it up by this function, which it gives as a plain address.

@@ -8,7 +8,7 @@
 #include <string>
 
 #include "Program.h"
-#include "Window.h"
+#include "WindowBackend.h"
 #include "view/Application.h"
 
 #include <unistd.h>
@@ -16,7 +16,7 @@
 namespace {
 
 using namespace ondelis;
-using fenetre::Window;
+using fenetre::WindowBackend;
 
 /// Answers each line of standard input with one line of JSON. Between the lines anyone may use the window.
 class Conversation {
@@ -50,8 +50,8 @@ private:
         over_ = count <= 0;
     }
 
-    Window body_;
-    pilote::Pilote pilote_{body_};
+    WindowBackend backend_;
+    pilote::Pilote pilote_{backend_};
     QSocketNotifier input_{STDIN_FILENO, QSocketNotifier::Read};
     std::string heard_; ///< what was read and is not answered yet
     bool over_ = false;
@@ -68,7 +68,7 @@ int main(int argc, char** argv)
     const Application application{argc, argv};
     const std::span words{argv, static_cast<std::size_t>(argc)};
     if (argc > 1)
-        return pilote::playFiles(words.subspan(1), [] { return std::make_unique<Window>(); }) ? 0 : 1;
+        return pilote::playFiles(words.subspan(1), [] { return std::make_unique<WindowBackend>(); }) ? 0 : 1;
     Conversation{}.run();
     return 0;
 }

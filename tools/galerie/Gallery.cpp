@@ -3,31 +3,31 @@
 #include <fstream>
 #include <set>
 
-#include "ScriptedSurroundings.h"
-#include "Words.h"
+#include "ScriptedHost.h"
+#include "Tokenizer.h"
 #include "shell/Menu.h"
 
 namespace ondelis::galerie {
 
-std::vector<Subject> allSubjects()
+std::vector<GalleryItem> galleryItems()
 {
-    pilote::ScriptedSurroundings surroundings;
-    Desk desk{surroundings};
-    MDIOndelis frame{desk};
+    pilote::ScriptedHost host;
+    Runtime runtime{host};
+    MDIOndelis frame{runtime};
     frame.start();
-    std::vector<Subject> subjects;
+    std::vector<GalleryItem> items;
     for (const Menu& menu : menuTree())
         for (const MenuEntry& entry : menu.entries) {
             if (entry.control == quitEntry)
                 continue;
             frame.click(entry);
             // The companion is loaded after the panel beside which it stands.
-            subjects.push_back({.panel = std::string{desk.loadedPanels().front()->design().name},
+            items.push_back({.panel = std::string{runtime.loadedPanels().front()->design().name},
                 .entry = std::string{entry.control},
                 .caption = std::string{entry.caption},
                 .menu = std::string{menu.caption}});
         }
-    return subjects;
+    return items;
 }
 
 Gallery::Gallery(std::filesystem::path examples, std::filesystem::path pictures, const Look& look)
@@ -35,17 +35,17 @@ Gallery::Gallery(std::filesystem::path examples, std::filesystem::path pictures,
 {
 }
 
-void Gallery::draw(const Subject& subject) const
+void Gallery::draw(const GalleryItem& item) const
 {
-    Player player;
-    player.play("menu " + subject.entry);
-    take(player, subject.panel, subject.panel);
-    playExample(player, subject);
+    WindowedProgram program;
+    program.play("menu " + item.entry);
+    take(program, item.panel, item.panel);
+    playExample(program, item);
 }
 
-void Gallery::playExample(Player& player, const Subject& subject) const
+void Gallery::playExample(WindowedProgram& program, const GalleryItem& item) const
 {
-    const std::filesystem::path file = examples_ / (subject.panel + ".txt");
+    const std::filesystem::path file = examples_ / (item.panel + ".txt");
     if (!exists(file))
         return; // there is no more to see than when it opens
     std::ifstream in{file};
@@ -53,19 +53,19 @@ void Gallery::playExample(Player& player, const Subject& subject) const
     std::string line;
     for (int number = 1; std::getline(in, line); ++number) {
         try {
-            pilote::Words words{line};
+            pilote::Tokenizer words{line};
             if (words.atEnd())
                 continue;
             if (words.next() != "picture") {
-                player.play(line);
+                program.play(line);
                 continue;
             }
             const std::string name = words.next();
-            const std::string window = words.atEnd() ? subject.panel : words.next();
+            const std::string window = words.atEnd() ? item.panel : words.next();
             words.finish();
             if (!names.insert(name).second)
                 throw Refused{"a picture of this name has been taken"};
-            take(player, window, subject.panel + '-' + name);
+            take(program, window, item.panel + '-' + name);
         } catch (const std::runtime_error& error) {
             throw Refused{file.string() + ':' + std::to_string(number) + ": " + line + ": " + error.what()};
         }
@@ -74,9 +74,9 @@ void Gallery::playExample(Player& player, const Subject& subject) const
         throw Refused{file.string() + ": cannot be read"};
 }
 
-void Gallery::take(const Player& player, std::string_view window, const std::string& name) const
+void Gallery::take(const WindowedProgram& program, std::string_view window, const std::string& name) const
 {
-    player.picture(window, pictures_ / (name + '-' + look_ + ".png"));
+    program.picture(window, pictures_ / (name + '-' + look_ + ".png"));
 }
 
 } // namespace ondelis::galerie

@@ -6,12 +6,12 @@
 #include <vector>
 
 #include "Look.h"
-#include "Player.h"
+#include "WindowedProgram.h"
 
 namespace ondelis::galerie {
 
 /// A panel that the menu opens, without its companion.
-struct Subject {
+struct GalleryItem {
     std::string panel;
     std::string entry; ///< of the menu
     std::string caption; ///< of the entry
@@ -19,7 +19,7 @@ struct Subject {
 };
 
 /// All panels, in the order of the menu.
-[[nodiscard]] std::vector<Subject> allSubjects();
+[[nodiscard]] std::vector<GalleryItem> galleryItems();
 
 /// Takes pictures of panels in one look: as they open, and where their examples say so.
 class Gallery {
@@ -29,11 +29,11 @@ public:
 
     /// Takes a picture of one panel as it opens, in a fresh program, then plays its example. Throws Refused, with file
     /// and line if the example is at fault.
-    void draw(const Subject& subject) const;
+    void draw(const GalleryItem& item) const;
 
 private:
-    void playExample(Player& player, const Subject& subject) const;
-    void take(const Player& player, std::string_view window, const std::string& name) const;
+    void playExample(WindowedProgram& program, const GalleryItem& item) const;
+    void take(const WindowedProgram& program, std::string_view window, const std::string& name) const;
 
     std::filesystem::path examples_;
     std::filesystem::path pictures_;

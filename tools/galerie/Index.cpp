@@ -55,13 +55,13 @@ void writeIndex(const path& folder)
     std::ofstream page{folder / "index.html"};
     page << head;
     std::string menu;
-    for (const Subject& subject : allSubjects()) {
-        const std::vector<std::string> pictures = picturesOf(subject.panel, folder);
+    for (const GalleryItem& item : galleryItems()) {
+        const std::vector<std::string> pictures = picturesOf(item.panel, folder);
         if (pictures.empty())
             continue;
-        if (std::exchange(menu, subject.menu) != subject.menu)
-            page << "<h2>" << subject.menu << "</h2>\n";
-        page << "<h3>" << subject.caption << "</h3>\n";
+        if (std::exchange(menu, item.menu) != item.menu)
+            page << "<h2>" << item.menu << "</h2>\n";
+        page << "<h3>" << item.caption << "</h3>\n";
         for (const std::string& picture : pictures)
             show(picture, page);
     }

@@ -30,14 +30,14 @@ using namespace ondelis;
 using namespace ondelis::galerie;
 
 /// Those of the menu's panels that are named; all if no name is given. Throws Refused.
-std::vector<Subject> chosen(std::span<char* const> names)
+std::vector<GalleryItem> chosen(std::span<char* const> names)
 {
-    std::vector<Subject> all = allSubjects();
+    std::vector<GalleryItem> all = galleryItems();
     if (names.empty())
         return all;
-    std::vector<Subject> some;
+    std::vector<GalleryItem> some;
     for (const std::string name : names) {
-        const auto found = std::ranges::find(all, name, &Subject::panel);
+        const auto found = std::ranges::find(all, name, &GalleryItem::panel);
         if (found == all.end())
             throw Refused{"the menu opens no panel " + name};
         some.push_back(*found);
@@ -51,7 +51,7 @@ struct Folders {
 };
 
 /// Draws in this process, which takes on this look; returns its exit status.
-int drawAll(const Look& look, const std::vector<Subject>& subjects, const Folders& folders)
+int drawAll(const Look& look, const std::vector<GalleryItem>& items, const Folders& folders)
 {
     look.chooseResolution();
     std::string name{"galerie"};
@@ -61,8 +61,8 @@ int drawAll(const Look& look, const std::vector<Subject>& subjects, const Folder
     look.apply();
     const Gallery gallery{folders.examples, folders.pictures, look};
     try {
-        for (const Subject& subject : subjects)
-            gallery.draw(subject);
+        for (const GalleryItem& item : items)
+            gallery.draw(item);
         return 0;
     } catch (const Refused& refused) {
         std::cerr << "galerie: " << refused.what() << '\n';
@@ -71,13 +71,13 @@ int drawAll(const Look& look, const std::vector<Subject>& subjects, const Folder
 }
 
 /// Draws in a process for each look, all at once; returns whether all succeeded.
-bool drawEach(std::span<const Look> some, const std::vector<Subject>& subjects, const Folders& folders)
+bool drawEach(std::span<const Look> some, const std::vector<GalleryItem>& items, const Folders& folders)
 {
     std::vector<pid_t> processes;
     for (const Look& look : some) {
         processes.push_back(fork());
         if (processes.back() == 0)
-            std::exit(drawAll(look, subjects, folders));
+            std::exit(drawAll(look, items, folders));
     }
     bool good = true;
     for (const pid_t process : processes) {
@@ -104,11 +104,11 @@ int main(int argc, char** argv)
     }
     try {
         const Folders folders{.examples = openings ? "" : EXAMPLES, .pictures = words[0]};
-        const std::vector<Subject> subjects = chosen(words.subspan(1));
+        const std::vector<GalleryItem> items = chosen(words.subspan(1));
         std::filesystem::create_directories(folders.pictures);
         // A faulty example is reported once: by the first look, alone.
         const std::span all{looks};
-        if (!drawEach(all.first(1), subjects, folders) || !drawEach(all.subspan(1), subjects, folders))
+        if (!drawEach(all.first(1), items, folders) || !drawEach(all.subspan(1), items, folders))
             return 1;
         writeIndex(folders.pictures);
         return 0;

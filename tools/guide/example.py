@@ -13,33 +13,33 @@ def play(program, page, lines, decimal):
     """Opens the panel of the page by its menu entry, plays the lines, and returns the sentences that tell it, (kind,
     text), the kind being "do", "see" or "say". Raises Refused at the first line that does not go as it says, and if a
     box or a fault comes without a line that expects it."""
-    told, names = [], page.names()
+    sentences, names = [], page.names()
     with Session(program, decimal) as session:
         menu, caption = menu_path(session.state(), page.entry)
-        told.append(("do", f"Ouvrez « {caption} » dans le menu « {menu} »."))
+        sentences.append(("do", f"Ouvrez « {caption} » dans le menu « {menu} »."))
         answer = session.say("menu " + page.entry)
         panels, unexpected = shown(session, answer), news(answer)
         for line in lines:
             if line.startswith("#"):
-                told.append(("say", line.lstrip("# ")))
+                sentences.append(("say", line.lstrip("# ")))
                 continue
             if not line.strip():
                 continue
             line = localized(line, decimal)
             if line.startswith("expect "):
-                sentence = tell(words(line), panels, names)
+                sentence = narrate(words(line), panels, names)
                 session.say(line)
                 unexpected.discard(words(line)[1])
             else:
                 if unexpected:
                     break
-                sentence = tell(words(line), panels, names)
+                sentence = narrate(words(line), panels, names)
                 answer = session.say(line)
                 panels, unexpected = shown(session, answer), news(answer)
-            told.append(sentence)
+            sentences.append(sentence)
     if unexpected:
         raise Refused("not expected: " + " and ".join(unexpected))
-    return [sentence for sentence in told if sentence is not None]
+    return [sentence for sentence in sentences if sentence is not None]
 
 
 def shown(session, answer):
@@ -52,11 +52,11 @@ def news(answer):
     return {what for what, came in (("message", answer["messages"]), ("fault", answer["fault"])) if came}
 
 
-def tell(line, panels, names):
+def narrate(line, panels, names):
     """The sentence for a command or expectation. A control goes by its name in the page, or else by its caption."""
     verb, rest = line[0], line[1:]
     if verb == "expect":
-        return _tell_expectation(rest, panels, names)
+        return _narrate_expectation(rest, panels, names)
     if verb == "answer":
         return "do", "Répondez « Oui »." if rest == ["yes"] else "Répondez « Non »."
     if verb == "menu":
@@ -93,7 +93,7 @@ def separator_note(text):
     return " (avec un point)" if re.search(r"\d\.\d|^\.\d", text) else ""
 
 
-def _tell_expectation(rest, panels, names):
+def _narrate_expectation(rest, panels, names):
     if rest[0] == "message":
         lines = [" ".join(line.split()) for line in rest[1].splitlines() if line.strip()]
         return "see", f"Une boîte dit : « {' / '.join(lines)} »."

@@ -62,8 +62,8 @@ class Guide:
         if block.kind == "exactitude":
             script = SOURCE / "exactitude" / f"{page.panel}.py"
             return accuracy.table([accuracy.play(self.program, page.entry, case) for case in accuracy.cases(script)])
-        told = {decimal: example.play(self.program, page, block.lines, decimal) for decimal in block.decimals}
-        return story(told.get(SHOWN_REGION) or told["."])
+        played = {decimal: example.play(self.program, page, block.lines, decimal) for decimal in block.decimals}
+        return story(played.get(SHOWN_REGION) or played["."])
 
     def _fields(self, page, block):
         with Session(self.program, ".") as session:
@@ -126,10 +126,10 @@ def lower_first(title):
     return title if len(title) > 1 and not title[1].islower() else title[0].lower() + title[1:]
 
 
-def story(told):
+def story(sentences):
     """The sentences of an example: numbered steps, what one sees under the step that brings it."""
     text, step = [], 0
-    for kind, sentence in told:
+    for kind, sentence in sentences:
         if kind == "say":
             text += ["", sentence, ""]
         elif kind == "do":

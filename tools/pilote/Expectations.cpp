@@ -29,7 +29,7 @@ Json judged(const Json& wanted, const Json& got)
 }
 
 /// A text, a number, true, false, null, or an array of these.
-Json jsonValue(Words& words)
+Json jsonValue(Tokenizer& words)
 {
     if (words.quotedNext()) {
         Json text = words.next();
@@ -45,7 +45,7 @@ Json jsonValue(Words& words)
 }
 
 /// An object of captions by name.
-Json namedCaptions(Words& words)
+Json namedCaptions(Tokenizer& words)
 {
     Json value = Json::parse(words.rest(), nullptr, false);
     if (!value.is_object() || !std::ranges::all_of(value, [](const Json& v) { return v.is_string(); }))
@@ -64,7 +64,7 @@ Json captions(const Json& items)
 
 } // namespace
 
-Json Pilote::expect(Words& words)
+Json Pilote::expect(Tokenizer& words)
 {
     const std::string subject = words.next();
     if (subject == "message")
@@ -76,7 +76,7 @@ Json Pilote::expect(Words& words)
     if (subject == "refused")
         return expectRefused(words);
     if (subject == "menus")
-        return expectFound(namedCaptions(words), [&] { return captions(body_.eyes().menus()); });
+        return expectFound(namedCaptions(words), [&] { return captions(backend_.inspector().menus()); });
     if (subject == "menu")
         return expectEntries(words);
     if (subject.find('.') == std::string::npos)
@@ -84,10 +84,10 @@ Json Pilote::expect(Words& words)
     return expectMember(subject, words);
 }
 
-Json Pilote::expectMessage(Words& words)
+Json Pilote::expectMessage(Tokenizer& words)
 {
     const std::string prompt = words.next();
-    const auto& boxes = body_.boxes();
+    const auto& boxes = backend_.boxes();
     if (words.atEnd()) {
         const std::size_t next = expectedBoxes_++;
         return judged(prompt, next < boxes.size() ? Json(boxes[next].prompt) : Json{});
@@ -99,57 +99,60 @@ Json Pilote::expectMessage(Words& words)
         next < boxes.size() ? Json::array({boxes[next].prompt, boxes[next].title, boxes[next].buttons}) : Json{});
 }
 
-Json Pilote::expectNothing(Words& words)
+Json Pilote::expectNothing(Tokenizer& words)
 {
     const std::string what = words.next();
     words.finish();
     if (what == "message") {
-        const auto& boxes = body_.boxes();
+        const auto& boxes = backend_.boxes();
         return judged({}, expectedBoxes_ < boxes.size() ? Json(boxes[expectedBoxes_].prompt) : Json{});
     }
     if (what == "fault") {
-        const auto& fault = body_.fault();
+        const auto& fault = backend_.fault();
         return judged({}, fault ? Json(fault->what()) : Json{});
     }
     throw Malformed{"neither \"no message\" nor \"no fault\""};
 }
 
-Json Pilote::expectFault(Words& words)
+Json Pilote::expectFault(Tokenizer& words)
 {
     const std::string name = words.next();
     words.finish();
-    const auto& fault = body_.fault();
+    const auto& fault = backend_.fault();
     return judged(name, fault ? Json(fault->what()) : Json{});
 }
 
-Json Pilote::expectRefused(Words& words)
+Json Pilote::expectRefused(Tokenizer& words)
 {
     words.finish();
-    if (const Refusal refusal = refusal_ ? refusal_ : body_.meanwhileRefused())
+    if (const Refusal refusal = refusal_ ? refusal_ : backend_.meanwhileRefused())
         return {{"ok", true}, {"got", *refusal}};
     return {{"ok", false}, {"wanted", "refused"}, {"got", nullptr}};
 }
 
-Json Pilote::expectVisibility(const std::string& name, Words& words)
+Json Pilote::expectVisibility(const std::string& name, Tokenizer& words)
 {
     const std::string wanted = words.next();
     words.finish();
     if (wanted != "visible" && wanted != "hidden" && wanted != "unloaded")
         throw Malformed{"neither visible nor hidden nor unloaded: " + wanted};
     const FeuilleCalcul* const loaded = panel(name);
-    return judged(wanted, loaded == nullptr ? "unloaded" : body_.eyes().see(*loaded)["visible"] ? "visible" : "hidden");
+    return judged(wanted,
+        loaded == nullptr                                      ? "unloaded"
+            : backend_.inspector().inspect(*loaded)["visible"] ? "visible"
+                                                               : "hidden");
 }
 
-Json Pilote::expectMember(const std::string& target, Words& words)
+Json Pilote::expectMember(const std::string& path, Tokenizer& words)
 {
-    return expectFound(jsonValue(words), [&] { return member(target); });
+    return expectFound(jsonValue(words), [&] { return member(path); });
 }
 
-Json Pilote::expectEntries(Words& words)
+Json Pilote::expectEntries(Tokenizer& words)
 {
     const std::string name = words.next();
     return expectFound(namedCaptions(words), [&] {
-        for (const Json& menu : body_.eyes().menus())
+        for (const Json& menu : backend_.inspector().menus())
             if (menu["Name"] == name)
                 return captions(menu["Entries"]);
         throw Absent{"there is no such menu"};
@@ -167,26 +170,26 @@ Json Pilote::expectFound(const Json& wanted, const std::function<Json()>& look) 
     }
 }
 
-Json Pilote::member(const std::string& target) const
+Json Pilote::member(const std::string& path) const
 {
-    const std::size_t first = target.find('.');
-    const std::size_t last = target.rfind('.');
-    const std::string name = target.substr(0, first);
-    const std::string memberName = target.substr(last + 1);
+    const std::size_t first = path.find('.');
+    const std::size_t last = path.rfind('.');
+    const std::string name = path.substr(0, first);
+    const std::string memberName = path.substr(last + 1);
     Json state;
     if (name == "MDIOndelis" && first == last) {
-        state = body_.eyes().see(body_.frame());
+        state = backend_.inspector().inspect(backend_.frame());
     } else {
         const FeuilleCalcul* const loaded = panel(name);
         if (loaded == nullptr)
             throw Absent{"the panel is not loaded"};
         if (first == last) {
-            state = body_.eyes().see(*loaded);
+            state = backend_.inspector().inspect(*loaded);
         } else {
-            Control* const control = loaded->find(target.substr(first + 1, last - first - 1));
+            Control* const control = loaded->find(path.substr(first + 1, last - first - 1));
             if (control == nullptr)
                 throw Absent{"the panel has no such control"};
-            state = body_.eyes().see(*control);
+            state = backend_.inspector().inspect(*control);
         }
     }
     if (!state.contains(memberName))

@@ -11,7 +11,7 @@
 namespace ondelis::pilote {
 namespace {
 
-using Refusal = Hands::Refusal;
+using Refusal = Actor::Refusal;
 
 /// A whole number; the largest `int` if it is larger: no list and no bar goes that far.
 int whole(const std::string& word)
@@ -27,7 +27,7 @@ int whole(const std::string& word)
 }
 
 /// The next word, "PANEL.CONTROL".
-Hands::Target target(Words& words)
+Actor::ControlPath controlPath(Tokenizer& words)
 {
     const std::string word = words.next();
     const std::size_t dot = word.find('.');
@@ -36,97 +36,97 @@ Hands::Target target(Words& words)
     return {.panel = word.substr(0, dot), .control = word.substr(dot + 1)};
 }
 
-Gesture menu(Words& words)
+Gesture menu(Tokenizer& words)
 {
-    return [entry = words.next()](Hands& hands) { return hands.menu(entry); };
+    return [entry = words.next()](Actor& actor) { return actor.menu(entry); };
 }
 
-Gesture close(Words& words)
+Gesture close(Tokenizer& words)
 {
-    return [window = words.next()](Hands& hands) { return hands.close(window); };
+    return [window = words.next()](Actor& actor) { return actor.close(window); };
 }
 
-Gesture move(Words& words)
+Gesture move(Tokenizer& words)
 {
     const std::string window = words.next();
     const double left = readNumber(words.next());
     const double top = readNumber(words.next());
-    return [=](Hands& hands) { return hands.move(window, left, top); };
+    return [=](Actor& actor) { return actor.move(window, left, top); };
 }
 
-Gesture minimise(Words& words)
+Gesture minimise(Tokenizer& words)
 {
-    return [window = words.next()](Hands& hands) { return hands.minimise(window); };
+    return [window = words.next()](Actor& actor) { return actor.minimise(window); };
 }
 
-Gesture restore(Words& words)
+Gesture restore(Tokenizer& words)
 {
-    return [window = words.next()](Hands& hands) { return hands.restore(window); };
+    return [window = words.next()](Actor& actor) { return actor.restore(window); };
 }
 
-Gesture type(Words& words)
+Gesture type(Tokenizer& words)
 {
-    return [field = target(words), text = words.next()](Hands& hands) { return hands.type(field, text); };
+    return [field = controlPath(words), text = words.next()](Actor& actor) { return actor.type(field, text); };
 }
 
-Gesture backspace(Words& words)
+Gesture backspace(Tokenizer& words)
 {
-    return [field = target(words)](Hands& hands) { return hands.backspace(field); };
+    return [field = controlPath(words)](Actor& actor) { return actor.backspace(field); };
 }
 
-Gesture replace(Words& words)
+Gesture replace(Tokenizer& words)
 {
-    return [field = target(words), text = words.next()](Hands& hands) { return hands.replace(field, text); };
+    return [field = controlPath(words), text = words.next()](Actor& actor) { return actor.replace(field, text); };
 }
 
-Gesture click(Words& words)
+Gesture click(Tokenizer& words)
 {
-    return [button = target(words)](Hands& hands) { return hands.click(button); };
+    return [button = controlPath(words)](Actor& actor) { return actor.click(button); };
 }
 
-Gesture select(Words& words)
+Gesture select(Tokenizer& words)
 {
-    return [list = target(words), row = whole(words.next())](Hands& hands) { return hands.select(list, row); };
+    return [list = controlPath(words), row = whole(words.next())](Actor& actor) { return actor.select(list, row); };
 }
 
-Gesture scroll(Words& words)
+Gesture scroll(Tokenizer& words)
 {
-    return [bar = target(words), value = whole(words.next())](Hands& hands) { return hands.scroll(bar, value); };
+    return [bar = controlPath(words), value = whole(words.next())](Actor& actor) { return actor.scroll(bar, value); };
 }
 
-Gesture focus(Words& words)
+Gesture focus(Tokenizer& words)
 {
-    return [control = target(words)](Hands& hands) { return hands.focus(control); };
+    return [control = controlPath(words)](Actor& actor) { return actor.focus(control); };
 }
 
-Hands::Key keyOf(const std::string& word, bool quoted)
+Actor::Key keyOf(const std::string& word, bool quoted)
 {
     if (quoted && Len(word) == 1)
-        return Hands::Key::Character;
+        return Actor::Key::Character;
     if (!quoted && word == "backspace")
-        return Hands::Key::Backspace;
+        return Actor::Key::Backspace;
     if (!quoted && word == "back")
-        return Hands::Key::Back;
+        return Actor::Key::Back;
     if (!quoted && word == "forward")
-        return Hands::Key::Forward;
+        return Actor::Key::Forward;
     throw Malformed{"neither a character in quotes nor backspace, back or forward: " + word};
 }
 
-Gesture hold(Words& words)
+Gesture hold(Tokenizer& words)
 {
-    const Hands::Target control = target(words);
+    const Actor::ControlPath control = controlPath(words);
     const bool quoted = words.quotedNext();
     const std::string word = words.next();
-    const Hands::Key key = keyOf(word, quoted);
+    const Actor::Key key = keyOf(word, quoted);
     const int times = whole(words.next());
     if (times < 1 || times > 1000)
         throw Malformed{"not a count from 1 to 1000"};
-    return [=](Hands& hands) { return hands.hold(control, key, word, times); };
+    return [=](Actor& actor) { return actor.hold(control, key, word, times); };
 }
 
 struct Reader {
     std::string_view word;
-    Gesture (*read)(Words& words);
+    Gesture (*read)(Tokenizer& words);
 };
 
 constexpr std::array<Reader, 13> gestures{{
@@ -147,13 +147,13 @@ constexpr std::array<Reader, 13> gestures{{
 
 } // namespace
 
-Gesture readGesture(std::string_view word, Words& words)
+Gesture readGesture(std::string_view word, Tokenizer& words)
 {
     const auto* const found = std::ranges::find(gestures, word, &Reader::word);
     return found == gestures.end() ? Gesture{} : found->read(words);
 }
 
-Answer readAnswer(Words& words)
+Answer readAnswer(Tokenizer& words)
 {
     const std::string word = words.next();
     if (word != "yes" && word != "no")

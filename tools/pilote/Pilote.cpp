@@ -3,15 +3,15 @@
 #include <algorithm>
 #include <array>
 
+#include "EngineActor.h"
 #include "Gestures.h"
-#include "UserHands.h"
 #include "kit/Text.h"
 
 namespace ondelis::pilote {
 namespace {
 
 /// A size in twips.
-double extent(const std::string& word)
+double readLength(const std::string& word)
 {
     const double twips = readNumber(word);
     if (!(twips > 0))
@@ -24,7 +24,7 @@ double extent(const std::string& word)
 Json Pilote::answer(std::string_view line)
 {
     try {
-        Words words{line};
+        Tokenizer words{line};
         return run(words);
     } catch (const Malformed& malformed) {
         return {{"ok", false}, {"error", malformed.what()}};
@@ -44,17 +44,17 @@ const Pilote::Command* Pilote::find(std::string_view word)
     return found == commands.end() ? nullptr : found;
 }
 
-Json Pilote::run(Words& words)
+Json Pilote::run(Tokenizer& words)
 {
     const std::string word = words.next();
     if (word == "expect")
         return expect(words);
     if (word == "state") {
         words.finish();
-        if (const Refusal refusal = outOfTime(When::Running))
+        if (const Refusal refusal = untimely(When::Running))
             return {{"ok", false}, {"refused", *refusal}};
         Json state{{"ok", true}};
-        state.update(seeAll(body_.eyes(), body_.frame()));
+        state.update(inspectAll(backend_.inspector(), backend_.frame()));
         return state;
     }
     const Command* const command = find(word);
@@ -62,13 +62,13 @@ Json Pilote::run(Words& words)
     if (!gesture)
         throw Malformed{"no such command: " + word};
     words.finish();
-    body_.forget();
+    backend_.forget();
     expectedBoxes_ = 0;
-    refusal_ = outOfTime(command != nullptr ? command->when : When::Running);
+    refusal_ = untimely(command != nullptr ? command->when : When::Running);
     if (!refusal_)
-        refusal_ = gesture(body_.hands());
+        refusal_ = gesture(backend_.actor());
     if (word != "meanwhile")
-        body_.settle();
+        backend_.settle();
     return done();
 }
 
@@ -77,17 +77,17 @@ Json Pilote::done() const
     if (refusal_)
         return {{"ok", false}, {"refused", *refusal_}};
     Json messages = Json::array();
-    for (const MessageBox& box : body_.boxes())
+    for (const MessageBox& box : backend_.boxes())
         messages.push_back({{"prompt", box.prompt}, {"buttons", box.buttons}, {"title", box.title}});
-    const auto& fault = body_.fault();
+    const auto& fault = backend_.fault();
     Json reply{{"ok", true}, {"messages", std::move(messages)}, {"fault", fault ? Json(fault->what()) : Json{}},
         {"ended", ended()}};
-    if (const Refusal refusal = body_.meanwhileRefused())
+    if (const Refusal refusal = backend_.meanwhileRefused())
         reply["meanwhile"] = *refusal;
     return reply;
 }
 
-Pilote::Refusal Pilote::outOfTime(When when) const
+Pilote::Refusal Pilote::untimely(When when) const
 {
     if (ended())
         return "the program has ended";
@@ -98,55 +98,55 @@ Pilote::Refusal Pilote::outOfTime(When when) const
     return {};
 }
 
-Gesture Pilote::region(Words& words)
+Gesture Pilote::region(Tokenizer& words)
 {
     Region separators{.decimal = words.next(), .thousands = words.next()};
     if (Len(separators.decimal) != 1 || Len(separators.thousands) > 1 || separators.decimal == separators.thousands)
         throw Malformed{"not two separators: one character, and another one or none"};
-    return [separators](Hands& /*hands*/) -> Refusal {
+    return [separators](Actor& /*actor*/) -> Refusal {
         setRegion(separators);
         return {};
     };
 }
 
-Gesture Pilote::screen(Words& words)
+Gesture Pilote::screen(Tokenizer& words)
 {
-    const Extent size{.Width = extent(words.next()), .Height = extent(words.next())};
-    return [this, size](Hands& /*hands*/) { return body_.setScreen(size); };
+    const Size size{.Width = readLength(words.next()), .Height = readLength(words.next())};
+    return [this, size](Actor& /*actor*/) { return backend_.setScreen(size); };
 }
 
-Gesture Pilote::start(Words& /*words*/)
+Gesture Pilote::start(Tokenizer& /*words*/)
 {
-    return [this](Hands& /*hands*/) -> Refusal {
+    return [this](Actor& /*actor*/) -> Refusal {
         started_ = true;
-        body_.start();
+        backend_.start();
         return {};
     };
 }
 
-Gesture Pilote::answerNext(Words& words)
+Gesture Pilote::answerNext(Tokenizer& words)
 {
-    return [this, answer = readAnswer(words)](Hands& /*hands*/) -> Refusal {
-        body_.answer(answer);
+    return [this, answer = readAnswer(words)](Actor& /*actor*/) -> Refusal {
+        backend_.answer(answer);
         return {};
     };
 }
 
-Gesture Pilote::meanwhile(Words& words)
+Gesture Pilote::meanwhile(Tokenizer& words)
 {
     const std::string word = words.next();
     const Gesture gesture = readGesture(word, words);
     if (!gesture)
         throw Malformed{"no such gesture: " + word};
-    return [this, gesture](Hands& /*hands*/) -> Refusal {
-        body_.meanwhile(gesture);
+    return [this, gesture](Actor& /*actor*/) -> Refusal {
+        backend_.meanwhile(gesture);
         return {};
     };
 }
 
 FeuilleCalcul* Pilote::panel(std::string_view name) const
 {
-    return running() ? findPanel(body_.frame(), name) : nullptr;
+    return running() ? findPanel(backend_.frame(), name) : nullptr;
 }
 
 } // namespace ondelis::pilote

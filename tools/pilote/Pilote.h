@@ -4,9 +4,9 @@
 #include <string>
 #include <string_view>
 
-#include "Body.h"
-#include "Words.h"
-#include "forms/Desk.h"
+#include "Backend.h"
+#include "Tokenizer.h"
+#include "forms/Runtime.h"
 #include "kit/Region.h"
 
 namespace ondelis::pilote {
@@ -15,53 +15,53 @@ namespace ondelis::pilote {
 /// process.
 class Pilote {
 public:
-    explicit Pilote(Body& body) : body_{body} { }
+    explicit Pilote(Backend& backend) : backend_{backend} { }
 
     /// Carries out one line and answers it; never throws.
     Json answer(std::string_view line);
 
 private:
-    using Refusal = Hands::Refusal;
+    using Refusal = Actor::Refusal;
     enum class When { BeforeStart, Any, Running };
 
     /// A command that is not a gesture: its word, when it is allowed, and what reads the words after it.
     struct Command {
         std::string_view word;
         When when;
-        Gesture (Pilote::*read)(Words& words);
+        Gesture (Pilote::*read)(Tokenizer& words);
     };
     static const Command* find(std::string_view word);
 
-    Json run(Words& words);
+    Json run(Tokenizer& words);
     [[nodiscard]] Json done() const;
-    [[nodiscard]] Refusal outOfTime(When when) const;
+    [[nodiscard]] Refusal untimely(When when) const;
 
-    Gesture region(Words& words);
-    Gesture screen(Words& words);
-    Gesture start(Words& words);
-    Gesture answerNext(Words& words);
-    Gesture meanwhile(Words& words);
+    Gesture region(Tokenizer& words);
+    Gesture screen(Tokenizer& words);
+    Gesture start(Tokenizer& words);
+    Gesture answerNext(Tokenizer& words);
+    Gesture meanwhile(Tokenizer& words);
 
     // The expectations, in Expectations.cpp.
-    Json expect(Words& words);
-    Json expectMessage(Words& words);
-    Json expectNothing(Words& words);
-    Json expectFault(Words& words);
-    Json expectRefused(Words& words);
-    Json expectVisibility(const std::string& name, Words& words);
-    Json expectMember(const std::string& target, Words& words);
-    Json expectEntries(Words& words);
+    Json expect(Tokenizer& words);
+    Json expectMessage(Tokenizer& words);
+    Json expectNothing(Tokenizer& words);
+    Json expectFault(Tokenizer& words);
+    Json expectRefused(Tokenizer& words);
+    Json expectVisibility(const std::string& name, Tokenizer& words);
+    Json expectMember(const std::string& path, Tokenizer& words);
+    Json expectEntries(Tokenizer& words);
     /// Judges what `look` finds while the program runs; it throws Absent if it finds nothing.
     [[nodiscard]] Json expectFound(const Json& wanted, const std::function<Json()>& look) const;
     /// The value of "PANEL.Member" or "PANEL.CONTROL.Member"; throws Absent if there is none.
-    [[nodiscard]] Json member(const std::string& target) const;
+    [[nodiscard]] Json member(const std::string& path) const;
 
-    [[nodiscard]] bool ended() const { return body_.frame().desk().ended(); }
+    [[nodiscard]] bool ended() const { return backend_.frame().runtime().ended(); }
     [[nodiscard]] bool running() const { return started_ && !ended(); }
     /// Null if the panel is not loaded, or the program is not running.
     [[nodiscard]] FeuilleCalcul* panel(std::string_view name) const;
 
-    Body& body_;
+    Backend& backend_;
     ScopedRegion region_{Region{}};
     bool started_ = false;
 

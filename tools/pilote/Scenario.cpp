@@ -14,15 +14,18 @@ namespace {
 constexpr std::array<std::pair<const char*, const char*>, 3> kinds{
     {{"refused", "refused"}, {"meanwhile", "refused"}, {"fault", "fault"}}};
 
-class Player {
+class ScenarioPlayer {
 public:
-    Player(std::string file, Body& body, std::ostream& out) : file_{std::move(file)}, out_{out}, pilote_{body} { }
+    ScenarioPlayer(std::string file, Backend& backend, std::ostream& out)
+        : file_{std::move(file)}, out_{out}, pilote_{backend}
+    {
+    }
 
     void play(const std::string& line)
     {
         ++number_;
         try {
-            Words words{line};
+            Tokenizer words{line};
             if (words.atEnd())
                 return;
             if (words.next() == "expect")
@@ -36,13 +39,13 @@ public:
 
     Tally end()
     {
-        reportUnnamed();
+        reportUnexpected();
         return tally_;
     }
 
 private:
     /// What a command did that an expectation must name.
-    struct Unnamed {
+    struct Unexpected {
         int number;
         std::string line;
         const char* kind; // "refused" or "fault"
@@ -51,21 +54,21 @@ private:
 
     void command(const std::string& line)
     {
-        reportUnnamed();
+        reportUnexpected();
         const Json reply = pilote_.answer(line);
         if (reply.contains("error"))
             fail(number_, line, reply["error"].get<std::string>());
         for (const auto& [member, kind] : kinds)
             if (reply.contains(member) && reply[member].is_string())
-                unnamed_ = {.number = number_, .line = line, .kind = kind, .what = reply[member]};
+                unexpected_ = {.number = number_, .line = line, .kind = kind, .what = reply[member]};
     }
 
-    void expectation(const std::string& line, Words& words)
+    void expectation(const std::string& line, Tokenizer& words)
     {
         ++tally_.expectations;
         const Json reply = pilote_.answer(line);
-        if (unnamed_ && !words.atEnd() && words.next() == unnamed_->kind)
-            unnamed_.reset();
+        if (unexpected_ && !words.atEnd() && words.next() == unexpected_->kind)
+            unexpected_.reset();
         if (reply.contains("error"))
             fail(number_, line, reply["error"].get<std::string>());
         else if (!reply["ok"].get<bool>())
@@ -74,11 +77,11 @@ private:
                     + (reply.contains("why") ? ": " + reply["why"].get<std::string>() : ""));
     }
 
-    void reportUnnamed()
+    void reportUnexpected()
     {
-        if (unnamed_)
-            fail(unnamed_->number, unnamed_->line, std::string{unnamed_->kind} + ": " + unnamed_->what);
-        unnamed_.reset();
+        if (unexpected_)
+            fail(unexpected_->number, unexpected_->line, std::string{unexpected_->kind} + ": " + unexpected_->what);
+        unexpected_.reset();
     }
 
     void fail(int number, const std::string& line, const std::string& why)
@@ -91,16 +94,16 @@ private:
     std::ostream& out_;
     Pilote pilote_;
     int number_ = 0;
-    std::optional<Unnamed> unnamed_;
+    std::optional<Unexpected> unexpected_;
     Tally tally_;
 };
 
 } // namespace
 
-Tally playScenario(const std::string& file, Body& body, std::ostream& out)
+Tally playScenario(const std::string& file, Backend& backend, std::ostream& out)
 {
     std::ifstream in{file};
-    Player player{file, body, out};
+    ScenarioPlayer player{file, backend, out};
     std::string line;
     while (std::getline(in, line))
         player.play(line);

@@ -3,7 +3,7 @@
 #include <ostream>
 #include <string>
 
-#include "Body.h"
+#include "Backend.h"
 
 namespace ondelis::pilote {
 
@@ -15,6 +15,6 @@ struct Tally {
 
 /// Plays a scenario file in a program that has not started yet, and prints each line that fails. A refusal and a
 /// fault fail too, unless an expectation right after them names them; a line that is no command always fails.
-Tally playScenario(const std::string& file, Body& body, std::ostream& out);
+Tally playScenario(const std::string& file, Backend& backend, std::ostream& out);
 
 } // namespace ondelis::pilote

@@ -2,7 +2,7 @@
 #include <span>
 #include <string>
 
-#include "Headless.h"
+#include "HeadlessBackend.h"
 #include "Program.h"
 
 namespace {
@@ -13,8 +13,8 @@ using namespace ondelis::pilote;
 void converse()
 {
     std::ios::sync_with_stdio(false);
-    Headless body;
-    Pilote pilote{body};
+    HeadlessBackend backend;
+    Pilote pilote{backend};
     std::string line;
     while (std::getline(std::cin, line))
         std::cout << answerLine(pilote, line) << std::endl;
@@ -26,7 +26,7 @@ int main(int argc, char** argv)
 {
     if (argc > 1)
         return playFiles(std::span{argv, static_cast<std::size_t>(argc)}.subspan(1),
-                   [] { return std::make_unique<Headless>(); })
+                   [] { return std::make_unique<HeadlessBackend>(); })
             ? 0
             : 1;
     converse();

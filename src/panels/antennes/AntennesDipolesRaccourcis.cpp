@@ -1,6 +1,6 @@
 #include "panels/antennes/AntennesDipolesRaccourcis.h"
 
-#include "forms/Desk.h"
+#include "forms/Runtime.h"
 #include "kit/Conversions.h"
 #include "kit/Maths.h"
 #include "kit/TraitementMultiplicateur.h"
@@ -17,7 +17,7 @@ void AntennesDipolesRaccourcis::Form_Load()
         [&] { TxtF.Text = CStr(3.5); },
     });
 
-    auto& spires = desk().get<CalculNombreSpires>();
+    auto& spires = runtime().get<CalculNombreSpires>();
     resumeNext({
         [&] { spires.OptmmH.Value = true; },
         [&] { spires.TxtS.Text = CStr(85.205); },
@@ -65,7 +65,7 @@ void AntennesDipolesRaccourcis::Calculer()
     const Double w = (FreqDip * LongA / 2 - FreqDip * LongB) / 234;
     const Double T2 = (Log(24 * v / DiamFil) - 1) * (Pow(w, 2) - 1) / v;
     const Double K = 1000000 / (34 * Pi() * FreqDip);
-    const Double X = Cut(K * (T1 - T2), 100);
+    const Double X = Truncate(K * (T1 - T2), 100);
     TxtXL.Text = TraitementMultiplicateur(X);
     const Double L = X * (1 / (2 * Pi() * FreqDip * 1000000));
     TxtValSelf.Text = TraitementMultiplicateur(L);

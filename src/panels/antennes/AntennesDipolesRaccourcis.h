@@ -10,9 +10,9 @@ namespace ondelis {
 /// The loading coils that bring a dipole shorter than a half wave to resonance.
 class AntennesDipolesRaccourcis final : public FeuilleCalcul {
 public:
-    explicit AntennesDipolesRaccourcis(Desk& desk)
-        : FeuilleCalcul{
-            desk, {.name = "AntennesDipolesRaccourcis", .Caption = "Dipoles raccourcis", .Width = 5820, .Height = 6150}}
+    explicit AntennesDipolesRaccourcis(Runtime& runtime)
+        : FeuilleCalcul{runtime,
+            {.name = "AntennesDipolesRaccourcis", .Caption = "Dipoles raccourcis", .Width = 5820, .Height = 6150}}
     {
     }
 

@@ -72,7 +72,7 @@ void AntennesHighQLoop::BtnCalculer_Click()
     FreqMoy = (FreqMax - FreqMin) / 2 + FreqMin;
     TxtFreqMoy.Text = CStr(Pow(10, -6) * FreqMoy);
     LambdaMoy = 3 * Pow(10, 8) / FreqMoy;
-    TxtLambdaMoy.Text = CStr(Cut(LambdaMoy, 1000));
+    TxtLambdaMoy.Text = CStr(Truncate(LambdaMoy, 1000));
     DeltaFMoy = (DeltaFMax - DeltaFMin) / 2 + DeltaFMin;
     TxtDeltaFMoy.Text = CStr(Pow(10, -3) * DeltaFMoy);
     const Double p = LambdaMoy / LambdaSur; // perimeter
@@ -82,7 +82,7 @@ void AntennesHighQLoop::BtnCalculer_Click()
     Rayon = Cote / (2 * Sin(AngleCote));
     TxtRayon.Text = CStr(Fix(Rayon * 1000) / 10);
     Surface = Cote * 0.5 * Rayon * Cos(AngleCote) * NbCotes;
-    TxtSurface.Text = CStr(Cut(Surface, 10000));
+    TxtSurface.Text = CStr(Truncate(Surface, 10000));
     Inductance = Pow(10, -6) * InductancePolygone(NbCotes, NbSpires, Cote);
     TxtInductance.Text = CStr(Pow(10, 6) * Inductance);
 

@@ -9,9 +9,9 @@ namespace ondelis {
 /// A small tuned polygonal loop of high Q for a frequency band, and how it performs at both edges of the band.
 class AntennesHighQLoop final : public FeuilleCalcul {
 public:
-    explicit AntennesHighQLoop(Desk& desk)
+    explicit AntennesHighQLoop(Runtime& runtime)
         : FeuilleCalcul{
-            desk, {.name = "AntennesHighQLoop", .Caption = "Calcul des High Q Loop", .Width = 14220, .Height = 7740}}
+            runtime, {.name = "AntennesHighQLoop", .Caption = "Calcul des High Q Loop", .Width = 14220, .Height = 7740}}
     {
     }
 

@@ -147,11 +147,11 @@ void AntennesLPDA1::BtnCalculer1_Click()
     BandeS = BandeAr * BandeB;
     LambdaMax = 984 / FreqMin;
     LongBoom = Abs((1 - 1 / BandeS) * 0.25 * CotAlpha * LambdaMax);
-    TxtLonBoom.Text = Str(Cut(LongBoom * 0.3048, 1000));
+    TxtLonBoom.Text = Str(Truncate(LongBoom * 0.3048, 1000));
     if (FreqMax <= 30) {
         TxtZt.Text = "Epingle HF";
     } else {
-        LongStub = Cut(LambdaMax / 8 * 2.54, 100); // feet times 2.54, though shown as centimetres
+        LongStub = Truncate(LambdaMax / 8 * 2.54, 100); // feet times 2.54, though shown as centimetres
         TxtZt.Text = Str(LongStub) + " cm";
     }
     NbElements = 1 + Log(BandeS) / Log(1 / Theta);
@@ -178,11 +178,11 @@ void AntennesLPDA1::BtnCalculer2_Click()
     for (int i = 0; i <= n; ++i)
         TabDiametres(i) = TabLongueurs(i) * 12 / X;
     const Double RhoPrime = Rho / Sqr(Theta);
-    TxtRhoPrime.Text = Str(Cut(RhoPrime, 100000));
+    TxtRhoPrime.Text = Str(Truncate(RhoPrime, 100000));
     const Double Za = (Log(X) - 2.25) * 120;
     const Double T = 8 * RhoPrime * Za;
     ZZero = RZero * Sqr(1 + Pow(RZero / T, 2)) + Pow(RZero, 2) / T;
-    TxtZ0.Text = Str(Cut(ZZero, 100));
+    TxtZ0.Text = Str(Truncate(ZZero, 100));
     LblBalun.Caption = "Balun 1/" + Str(Int(RZero / 50));
     BtnSuite2.Visible = true;
     BtnRetour2.Visible = true;
@@ -199,9 +199,9 @@ void AntennesLPDA1::BtnCalculer3_Click()
     // In place: doing the step twice converts twice. The spacings are in feet and are taken for inches.
     const Integer n = CInt(NbElements - 1);
     for (int i = 0; i <= n; ++i) {
-        TabLongueurs(i) = Cut(TabLongueurs(i) * 0.3048, 1000);
-        TabEspacements(i) = Cut(TabEspacements(i) * 25.4, 100);
-        TabDiametres(i) = Cut(TabDiametres(i) * 25.4, 100);
+        TabLongueurs(i) = Truncate(TabLongueurs(i) * 0.3048, 1000);
+        TabEspacements(i) = Truncate(TabEspacements(i) * 25.4, 100);
+        TabDiametres(i) = Truncate(TabDiametres(i) * 25.4, 100);
     }
     BtnSuite3.Visible = true;
     BtnRetour3.Visible = true;

@@ -13,8 +13,8 @@ namespace ondelis {
 /// step shows the buttons of the next one: which buttons are visible is the only state of the sequence.
 class AntennesLPDA1 final : public FeuilleCalcul {
 public:
-    explicit AntennesLPDA1(Desk& desk)
-        : FeuilleCalcul{desk,
+    explicit AntennesLPDA1(Runtime& runtime)
+        : FeuilleCalcul{runtime,
             {.name = "AntennesLPDA1",
                 .Caption = "Eléments de base pour le calcul de la LPDA",
                 .Width = 15540,

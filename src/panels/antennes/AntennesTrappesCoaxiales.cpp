@@ -169,7 +169,7 @@ void AntennesTrappesCoaxiales::Calculer()
         DoEvents(); // the two reactances are seen to converge
         ++count;
         if (count > 1000) {
-            MsgBox("Diamètre de mandrin minimum : " + Str(Cut(DiamCoaxPouce * 7 * 25.4, 100)));
+            MsgBox("Diamètre de mandrin minimum : " + Str(Truncate(DiamCoaxPouce * 7 * 25.4, 100)));
             return;
         }
         bobiner();
@@ -184,12 +184,12 @@ void AntennesTrappesCoaxiales::Calculer()
     bobiner();
     TxtInductance.Text = CStr(arrondi(L, L < 1 ? 1000 : 100));
     TxtCapacitance.Text = CStr(arrondi(C, C >= 10 ? 10 : 100));
-    TxtNombreTours.Text = CStr(Cut(N, 100));
-    TxtLongueurBobinage.Text = CStr(Cut(H, 100) * 25.4);
+    TxtNombreTours.Text = CStr(Truncate(N, 100));
+    TxtLongueurBobinage.Text = CStr(Truncate(H, 100) * 25.4);
     const Double Lc = Pi() * D * N + 2; // length of the cable
-    TxtLongueurCoaxial.Text = CStr(Cut(Lc * 25.4, 100));
+    TxtLongueurCoaxial.Text = CStr(Truncate(Lc * 25.4, 100));
     const Double E = Fix(Lc * 8.8 + 0.5) / 10; // equivalent electrical length
-    TxtLongueurEffective.Text = CStr(Cut(E * 25.4, 100));
+    TxtLongueurEffective.Text = CStr(Truncate(E * 25.4, 100));
 }
 
 } // namespace ondelis

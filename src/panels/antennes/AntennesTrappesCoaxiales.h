@@ -13,8 +13,8 @@ namespace ondelis {
 /// resonance. Method of The ARRL Antenna Compendium, volume 2, 1989, page 100.
 class AntennesTrappesCoaxiales final : public FeuilleCalcul {
 public:
-    explicit AntennesTrappesCoaxiales(Desk& desk)
-        : FeuilleCalcul{desk,
+    explicit AntennesTrappesCoaxiales(Runtime& runtime)
+        : FeuilleCalcul{runtime,
             {.name = "AntennesTrappesCoaxiales",
                 .Caption = "Calcul de trappes en coaxial",
                 .Width = 14280,

@@ -9,8 +9,8 @@ namespace ondelis {
 /// Dimensions of a double quad antenna from its frequency.
 class DoubleQuad final : public FeuilleCalcul {
 public:
-    explicit DoubleQuad(Desk& desk)
-        : FeuilleCalcul{desk, {.name = "DoubleQuad", .Caption = "Double Quad", .Width = 11580, .Height = 3555}}
+    explicit DoubleQuad(Runtime& runtime)
+        : FeuilleCalcul{runtime, {.name = "DoubleQuad", .Caption = "Double Quad", .Width = 11580, .Height = 3555}}
     {
     }
 

@@ -146,7 +146,7 @@ void GammaMatch::BtnCalculer_Click()
         RA = RA / 2;
         XA = XA / 2;
     }
-    TxtLongPilote.Text = CStr(Cut(300000 / Freq * 0.97 / 2, 100));
+    TxtLongPilote.Text = CStr(Truncate(300000 / Freq * 0.97 / 2, 100));
 
     const Double a = FNCSH((4 * Pow(S, 2) - Pow(DE, 2) + Pow(DR, 2)) / (4 * S * DR));
     const Double b = FNCSH((4 * Pow(S, 2) + Pow(DE, 2) - Pow(DR, 2)) / (4 * S * DE));
@@ -164,9 +164,9 @@ void GammaMatch::BtnCalculer_Click()
     const Double Xc1 = (Pow(RA, 2) + Pow(XA, 2)) / X * (R0 / RA);
     const Double Xc2 = XA * (R0 / RA);
     const Double Lg = 305 * (G / 360 * (948 / Freq)); // mm
-    TxtGamma.Text = CStr(Cut(Lg, 100));
+    TxtGamma.Text = CStr(Truncate(Lg, 100));
     const Double C = 1000000 / (Freq * ((Xc2 + Xc1) * (2 * Pi()))); // pF
-    TxtCapa.Text = CStr(Cut(C, 100));
+    TxtCapa.Text = CStr(Truncate(C, 100));
 }
 
 } // namespace ondelis

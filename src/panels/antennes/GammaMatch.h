@@ -12,8 +12,8 @@ namespace ondelis {
 /// ARRL Antenna Book, 1985.
 class GammaMatch final : public FeuilleCalcul {
 public:
-    explicit GammaMatch(Desk& desk)
-        : FeuilleCalcul{desk, {.name = "GammaMatch", .Caption = "Gamma Match", .Width = 12240, .Height = 7755}}
+    explicit GammaMatch(Runtime& runtime)
+        : FeuilleCalcul{runtime, {.name = "GammaMatch", .Caption = "Gamma Match", .Width = 12240, .Height = 7755}}
     {
     }
 

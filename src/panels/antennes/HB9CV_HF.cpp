@@ -62,14 +62,14 @@ void HB9CV_HF::Calculer()
         return;
     // The factors cross the captions 0.25 and 0.30, and 0.32 stands under the caption 0.92: the panel's own figures.
     if (Option1.Value)
-        TxtTmatch.Text = CStr(Cut(LambdaHb * 0.3 / 2, 1000));
+        TxtTmatch.Text = CStr(Truncate(LambdaHb * 0.3 / 2, 1000));
     else
-        TxtTmatch.Text = CStr(Cut(LambdaHb * 0.25 / 2, 1000));
-    Txt092.Text = CStr(Cut(LambdaHb * 0.32 / 2, 1000));
-    Txt200.Text = CStr(Cut(LambdaHb / 200, 1000));
-    Txt8.Text = CStr(Cut(LambdaHb / 8, 1000));
-    Txt2.Text = CStr(Cut(LambdaHb / 2, 1000));
-    TxtDiam.Text = CStr(Cut(LambdaHb / CoeffHb, 1000));
+        TxtTmatch.Text = CStr(Truncate(LambdaHb * 0.25 / 2, 1000));
+    Txt092.Text = CStr(Truncate(LambdaHb * 0.32 / 2, 1000));
+    Txt200.Text = CStr(Truncate(LambdaHb / 200, 1000));
+    Txt8.Text = CStr(Truncate(LambdaHb / 8, 1000));
+    Txt2.Text = CStr(Truncate(LambdaHb / 2, 1000));
+    TxtDiam.Text = CStr(Truncate(LambdaHb / CoeffHb, 1000));
 }
 
 } // namespace ondelis

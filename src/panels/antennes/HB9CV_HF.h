@@ -9,8 +9,9 @@ namespace ondelis {
 /// Dimensions of a two-element phased beam of the HB9CV kind for the HF bands.
 class HB9CV_HF final : public FeuilleCalcul {
 public:
-    explicit HB9CV_HF(Desk& desk)
-        : FeuilleCalcul{desk, {.name = "HB9CV_HF", .Caption = "HB9CV pour bandes HF", .Width = 12150, .Height = 5175}}
+    explicit HB9CV_HF(Runtime& runtime)
+        : FeuilleCalcul{
+            runtime, {.name = "HB9CV_HF", .Caption = "HB9CV pour bandes HF", .Width = 12150, .Height = 5175}}
     {
     }
 

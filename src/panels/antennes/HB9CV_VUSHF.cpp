@@ -18,7 +18,7 @@ void HB9CV_VUSHF::TxtFreq_Change()
 {
     FreqHz = Pow(10, 6) * Val(TxtFreq.Text);
     LambdaVu = 3 * Pow(10, 8) / FreqHz;
-    TxtLambda.Text = CStr(Cut(LambdaVu, 1000));
+    TxtLambda.Text = CStr(Truncate(LambdaVu, 1000));
     Calculer();
 }
 
@@ -35,11 +35,11 @@ void HB9CV_VUSHF::Calculer()
     if (TxtFreq.Text == "" || TxtCoeff.Text == "")
         return;
     TxtDiam.Text = CStr(Fix(LambdaVu / CoeffVu * Pow(10, 6)) / 1000);
-    Txt092.Text = CStr(Cut(LambdaVu * 0.92 / 2, 1000));
-    Txt0125.Text = CStr(Cut(LambdaVu / 16, 1000));
-    TxtL8.Text = CStr(Cut(LambdaVu / 8, 1000));
-    TxtL16_2.Text = CStr(Cut(LambdaVu / 16, 1000));
-    TxtL2.Text = CStr(Cut(LambdaVu / 2, 1000));
+    Txt092.Text = CStr(Truncate(LambdaVu * 0.92 / 2, 1000));
+    Txt0125.Text = CStr(Truncate(LambdaVu / 16, 1000));
+    TxtL8.Text = CStr(Truncate(LambdaVu / 8, 1000));
+    TxtL16_2.Text = CStr(Truncate(LambdaVu / 16, 1000));
+    TxtL2.Text = CStr(Truncate(LambdaVu / 2, 1000));
 }
 
 } // namespace ondelis

@@ -9,8 +9,9 @@ namespace ondelis {
 /// Dimensions of the HB9CV beam for VHF, UHF and SHF.
 class HB9CV_VUSHF final : public FeuilleCalcul {
 public:
-    explicit HB9CV_VUSHF(Desk& desk)
-        : FeuilleCalcul{desk, {.name = "HB9CV_VUSHF", .Caption = "HB9CV VHF-UHF-SHF", .Width = 13230, .Height = 5175}}
+    explicit HB9CV_VUSHF(Runtime& runtime)
+        : FeuilleCalcul{
+            runtime, {.name = "HB9CV_VUSHF", .Caption = "HB9CV VHF-UHF-SHF", .Width = 13230, .Height = 5175}}
     {
     }
 

@@ -1,7 +1,7 @@
 #pragma once
 
+#include "kit/CheckedInteger.h"
 #include "kit/Double.h"
-#include "kit/Whole.h"
 
 namespace ondelis {
 

@@ -10,8 +10,8 @@ namespace ondelis {
 /// `TxtExposant`.
 class Cms final : public FeuilleCalcul {
 public:
-    explicit Cms(Desk& desk)
-        : FeuilleCalcul{desk, {.name = "Cms", .Caption = "Résistances CMS", .Width = 8760, .Height = 4320}}
+    explicit Cms(Runtime& runtime)
+        : FeuilleCalcul{runtime, {.name = "Cms", .Caption = "Résistances CMS", .Width = 8760, .Height = 4320}}
     {
     }
 

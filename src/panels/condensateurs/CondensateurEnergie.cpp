@@ -45,11 +45,11 @@ void CondensateurEnergie::Calculer()
 {
     if (Capa == 0 || Courant == 0 || Joules == 0)
         return;
-    Tension = Cut(Sqr((Joules * 2) / Capa), 100);
+    Tension = Truncate(Sqr((Joules * 2) / Capa), 100);
     TxtTension.Text = TraitementMultiplicateur(Tension);
-    Charge = Cut(Tension * Capa, 100);
+    Charge = Truncate(Tension * Capa, 100);
     TxtCoulombs.Text = TraitementMultiplicateur(Charge);
-    Temps = Cut(Charge / Courant, 100);
+    Temps = Truncate(Charge / Courant, 100);
     TxtTemps.Text = TraitementMultiplicateur(Temps);
 }
 

@@ -13,8 +13,8 @@ namespace ondelis {
 /// The fields stand inside sentences.
 class CondensateurEnergie final : public FeuilleCalcul {
 public:
-    explicit CondensateurEnergie(Desk& desk)
-        : FeuilleCalcul{desk,
+    explicit CondensateurEnergie(Runtime& runtime)
+        : FeuilleCalcul{runtime,
             {.name = "CondensateurEnergie",
                 .Caption = "Energie emmagasinée dans un condensateur",
                 .Width = 7500,

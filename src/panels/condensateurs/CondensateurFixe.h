@@ -14,9 +14,9 @@ namespace ondelis {
 /// Capacitance of a plane capacitor, and a table of twelve dielectrics.
 class CondensateurFixe final : public FeuilleCalcul {
 public:
-    explicit CondensateurFixe(Desk& desk)
+    explicit CondensateurFixe(Runtime& runtime)
         : FeuilleCalcul{
-            desk, {.name = "CondensateurFixe", .Caption = "Condensateurs fixes", .Width = 10050, .Height = 6480}}
+            runtime, {.name = "CondensateurFixe", .Caption = "Condensateurs fixes", .Width = 10050, .Height = 6480}}
     {
     }
 

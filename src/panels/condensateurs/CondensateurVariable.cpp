@@ -154,7 +154,7 @@ void CondensateurVariable::Calculer()
     const Double A0 = (Pow(RayonExt, 2) - Pow(RayonInt, 2)) * Pi(); // cm²
     const Double A1 = f * A0; // one pair of faces
     const Double A2 = NbIntervalles * A1; // all of them
-    TxtSurfUtile.Text = Str(Cut(A2, 10)) + " cm²";
+    TxtSurfUtile.Text = Str(Truncate(A2, 10)) + " cm²";
     const Double C = ((0.0885 * A2) / Espacement) / Pow(10, 12); // F
     TxtCapacite.Text = TraitementMultiplicateur(C);
 }

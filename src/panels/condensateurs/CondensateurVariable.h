@@ -14,9 +14,9 @@ namespace ondelis {
 /// of the two radii hold diameters.
 class CondensateurVariable final : public FeuilleCalcul {
 public:
-    explicit CondensateurVariable(Desk& desk)
-        : FeuilleCalcul{
-            desk, {.name = "CondensateurVariable", .Caption = "Condensateur variable", .Width = 9120, .Height = 5520}}
+    explicit CondensateurVariable(Runtime& runtime)
+        : FeuilleCalcul{runtime,
+            {.name = "CondensateurVariable", .Caption = "Condensateur variable", .Width = 9120, .Height = 5520}}
     {
     }
 

@@ -10,9 +10,9 @@ namespace ondelis {
 /// unchanged.
 class Decibels final : public FeuilleCalcul {
 public:
-    explicit Decibels(Desk& desk)
-        : FeuilleCalcul{
-            desk, {.name = "Decibels", .Caption = "Les dB en Puissance et en Tesnsion", .Width = 11040, .Height = 3600}}
+    explicit Decibels(Runtime& runtime)
+        : FeuilleCalcul{runtime,
+            {.name = "Decibels", .Caption = "Les dB en Puissance et en Tesnsion", .Width = 11040, .Height = 3600}}
     {
     }
 

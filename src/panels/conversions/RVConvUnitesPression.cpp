@@ -62,7 +62,7 @@ void RVConvUnitesPression::Convertir(const ListBox& unites, const std::vector<Do
     const Integer row = unites.ListIndex;
     const Double valeur = Val(TxtEntree.Text) * facteurs.at(static_cast<std::size_t>(row.value()));
     const bool entiere = &unites == &LsthPa && row == 0; // hPa to mm H2O alone is not cut to three decimals
-    TxtSortie.Text = CStr(entiere ? Term{valeur} : Cut(valeur, 1000));
+    TxtSortie.Text = CStr(entiere ? Term{valeur} : Truncate(valeur, 1000));
 }
 
 } // namespace ondelis

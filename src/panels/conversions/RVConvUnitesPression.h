@@ -13,8 +13,8 @@ namespace ondelis {
 /// Converts a pressure from one unit to another. A click on the wanted unit converts.
 class RVConvUnitesPression final : public FeuilleCalcul {
 public:
-    explicit RVConvUnitesPression(Desk& desk)
-        : FeuilleCalcul{desk,
+    explicit RVConvUnitesPression(Runtime& runtime)
+        : FeuilleCalcul{runtime,
             {.name = "RVConvUnitesPression",
                 .Caption = "Conversions unités de pression",
                 .Width = 5280,

@@ -9,8 +9,8 @@ namespace ondelis {
 /// The diameter of a wire from its cross-section.
 class SectionDiametre final : public FeuilleCalcul {
 public:
-    explicit SectionDiametre(Desk& desk)
-        : FeuilleCalcul{desk,
+    explicit SectionDiametre(Runtime& runtime)
+        : FeuilleCalcul{runtime,
             {.name = "SectionDiametre", .Caption = "De la section vers le diamètre !!!", .Width = 4350, .Height = 1725}}
     {
     }

@@ -4,8 +4,8 @@
 
 namespace ondelis {
 
-FiltreEliminationBande::FiltreEliminationBande(Desk& desk)
-    : SectionBande{desk, "FiltreEliminationBande", "Filtre à élimination de bande",
+FiltreEliminationBande::FiltreEliminationBande(Runtime& runtime)
+    : SectionBande{runtime, "FiltreEliminationBande", "Filtre à élimination de bande",
         {.picture = "elimination-bande",
             .captionF1 = "Fréquence de début en Hz",
             .captionF2 = "Fréquence de fin en Hz",

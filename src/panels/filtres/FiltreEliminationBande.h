@@ -7,7 +7,7 @@ namespace ondelis {
 /// The two inductors and capacitors of a band-stop section.
 class FiltreEliminationBande final : public SectionBande {
 public:
-    explicit FiltreEliminationBande(Desk& desk);
+    explicit FiltreEliminationBande(Runtime& runtime);
 
 private:
     void Form_Load() override;

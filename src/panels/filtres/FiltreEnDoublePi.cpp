@@ -1,6 +1,6 @@
 #include "panels/filtres/FiltreEnDoublePi.h"
 
-#include "forms/Desk.h"
+#include "forms/Runtime.h"
 #include "kit/ControleSigne.h"
 #include "kit/Conversions.h"
 #include "kit/Maths.h"
@@ -88,7 +88,7 @@ Double FiltreEnDoublePi::Controler(Double v)
 
 void FiltreEnDoublePi::Bobiner()
 {
-    auto& spires = desk().get<CalculNombreSpires>();
+    auto& spires = runtime().get<CalculNombreSpires>();
     spires.TxtS.Text = CStr(Val(TxtL1.Text)); // the figure without its multiplier word
     spires.TxtF.Text = "1";
     spires.TxtD.Text = "5";

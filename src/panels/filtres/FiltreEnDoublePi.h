@@ -9,9 +9,9 @@ namespace ondelis {
 /// A band-pass filter of two Pi sections in cascade, C1 L1 C2 and C3 L2 C4.
 class FiltreEnDoublePi final : public FeuilleCalcul {
 public:
-    explicit FiltreEnDoublePi(Desk& desk)
+    explicit FiltreEnDoublePi(Runtime& runtime)
         : FeuilleCalcul{
-            desk, {.name = "FiltreEnDoublePi", .Caption = "Filtre en douple Pi", .Width = 13050, .Height = 3450}}
+            runtime, {.name = "FiltreEnDoublePi", .Caption = "Filtre en douple Pi", .Width = 13050, .Height = 3450}}
     {
     }
 

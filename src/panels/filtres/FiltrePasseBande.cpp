@@ -4,8 +4,8 @@
 
 namespace ondelis {
 
-FiltrePasseBande::FiltrePasseBande(Desk& desk)
-    : SectionBande{desk, "FiltrePasseBande", "Filtre passe-bande",
+FiltrePasseBande::FiltrePasseBande(Runtime& runtime)
+    : SectionBande{runtime, "FiltrePasseBande", "Filtre passe-bande",
         {.picture = "passe-bande",
             .captionF1 = "Fréquence d'ouverture en Hz",
             .captionF2 = "Fréquence de coupure en Hz",

@@ -7,7 +7,7 @@ namespace ondelis {
 /// The two inductors and capacitors of a band-pass section.
 class FiltrePasseBande final : public SectionBande {
 public:
-    explicit FiltrePasseBande(Desk& desk);
+    explicit FiltrePasseBande(Runtime& runtime);
 
 private:
     void Form_Load() override;

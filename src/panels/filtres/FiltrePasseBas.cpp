@@ -5,8 +5,8 @@
 
 namespace ondelis {
 
-FiltrePasseBas::FiltrePasseBas(Desk& desk)
-    : SectionPasse{desk, "FiltrePasseBas", "Filtre passe-bas",
+FiltrePasseBas::FiltrePasseBas(Runtime& runtime)
+    : SectionPasse{runtime, "FiltrePasseBas", "Filtre passe-bas",
         {.picture = "passe-bas",
             .formulaL = "L = Z / ( Pi * F )",
             .formulaC = "C = 1 / ( Pi *Z * F )",

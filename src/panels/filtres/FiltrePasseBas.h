@@ -7,7 +7,7 @@ namespace ondelis {
 /// Inductor and capacitor of a low-pass section.
 class FiltrePasseBas final : public SectionPasse {
 public:
-    explicit FiltrePasseBas(Desk& desk);
+    explicit FiltrePasseBas(Runtime& runtime);
 
 private:
     void Form_Load() override;

@@ -26,7 +26,7 @@ const std::string promptL = "Un filtre en L nécessite que P = Pm et Q = Qm.\n\n
 /// Shows a number with three decimals, cut.
 void Afficher(TextBox& champ, Double x)
 {
-    champ.Text = CStr(Cut(x, 1000));
+    champ.Text = CStr(Truncate(x, 1000));
 }
 
 /// Shows a component; its value goes once through its 15-digit text.

@@ -10,9 +10,9 @@ namespace ondelis {
 /// its quality Q and its phase shift P. Formulas: The ARRL Antenna Compendium, 1989, vol. 2, p. 187.
 class FiltrePasseBasEnPi final : public FeuilleCalcul {
 public:
-    explicit FiltrePasseBasEnPi(Desk& desk)
-        : FeuilleCalcul{
-            desk, {.name = "FiltrePasseBasEnPi", .Caption = "Filtre passe bas Pi T L", .Width = 7500, .Height = 7200}}
+    explicit FiltrePasseBasEnPi(Runtime& runtime)
+        : FeuilleCalcul{runtime,
+            {.name = "FiltrePasseBasEnPi", .Caption = "Filtre passe bas Pi T L", .Width = 7500, .Height = 7200}}
     {
     }
 

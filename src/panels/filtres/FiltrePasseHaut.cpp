@@ -5,8 +5,8 @@
 
 namespace ondelis {
 
-FiltrePasseHaut::FiltrePasseHaut(Desk& desk)
-    : SectionPasse{desk, "FiltrePasseHaut", "Filtre passe haut",
+FiltrePasseHaut::FiltrePasseHaut(Runtime& runtime)
+    : SectionPasse{runtime, "FiltrePasseHaut", "Filtre passe haut",
         {.picture = "passe-haut",
             .formulaL = "L = Z / ( 4 * Pi * F )",
             .formulaC = "C = 1 / (4 * Pi *Z * F )",

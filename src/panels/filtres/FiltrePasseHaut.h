@@ -7,7 +7,7 @@ namespace ondelis {
 /// Inductor and capacitor of a high-pass section.
 class FiltrePasseHaut final : public SectionPasse {
 public:
-    explicit FiltrePasseHaut(Desk& desk);
+    explicit FiltrePasseHaut(Runtime& runtime);
 
 private:
     void Form_Load() override;

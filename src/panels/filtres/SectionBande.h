@@ -27,8 +27,9 @@ public:
 
     static constexpr Box drawing{675, 150, 4500, 2580};
 
-    SectionBande(Desk& desk, std::string name, std::string caption, const Texts& texts)
-        : FeuilleCalcul{desk, {.name = std::move(name), .Caption = std::move(caption), .Width = 5970, .Height = 6255}},
+    SectionBande(Runtime& runtime, std::string name, std::string caption, const Texts& texts)
+        : FeuilleCalcul{runtime,
+            {.name = std::move(name), .Caption = std::move(caption), .Width = 5970, .Height = 6255}},
           texts_{texts}
     {
     }

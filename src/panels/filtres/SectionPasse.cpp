@@ -1,6 +1,6 @@
 #include "panels/filtres/SectionPasse.h"
 
-#include "forms/Desk.h"
+#include "forms/Runtime.h"
 #include "kit/Conversions.h"
 #include "kit/TraitementMultiplicateur.h"
 #include "panels/resonance/CalculNombreSpires.h"
@@ -24,7 +24,7 @@ void SectionPasse::Calculer()
     if (F != 0 && Z != 0) {
         TxtSelf.Text = TraitementMultiplicateur(L());
         TxtCapa.Text = TraitementMultiplicateur(C());
-        auto& spires = desk().get<CalculNombreSpires>();
+        auto& spires = runtime().get<CalculNombreSpires>();
         spires.TxtS.Text = CStr(Val(TxtSelf.Text)); // the figure without its multiplier word
         Bobiner(spires);
     }

@@ -26,8 +26,9 @@ public:
 
     static constexpr Box drawing{675, 150, 4500, 2220};
 
-    SectionPasse(Desk& desk, std::string name, std::string caption, const Texts& texts)
-        : FeuilleCalcul{desk, {.name = std::move(name), .Caption = std::move(caption), .Width = 5970, .Height = 4980}},
+    SectionPasse(Runtime& runtime, std::string name, std::string caption, const Texts& texts)
+        : FeuilleCalcul{runtime,
+            {.name = std::move(name), .Caption = std::move(caption), .Width = 5970, .Height = 4980}},
           texts_{texts}
     {
     }

@@ -10,9 +10,9 @@ namespace ondelis {
 /// square for a wanted impedance. The result always stands last.
 class CoaxSectCarree final : public FeuilleCalcul {
 public:
-    explicit CoaxSectCarree(Desk& desk)
+    explicit CoaxSectCarree(Runtime& runtime)
         : FeuilleCalcul{
-            desk, {.name = "CoaxSectCarree", .Caption = "Coaxial section carrée", .Width = 4860, .Height = 5415}}
+            runtime, {.name = "CoaxSectCarree", .Caption = "Coaxial section carrée", .Width = 4860, .Height = 5415}}
     {
     }
 

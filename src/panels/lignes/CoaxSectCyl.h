@@ -9,9 +9,9 @@ namespace ondelis {
 /// The characteristic impedance of a coaxial line with a round outer conductor.
 class CoaxSectCyl final : public FeuilleCalcul {
 public:
-    explicit CoaxSectCyl(Desk& desk)
+    explicit CoaxSectCyl(Runtime& runtime)
         : FeuilleCalcul{
-            desk, {.name = "CoaxSectCyl", .Caption = "Coaxial section cylindrique", .Width = 8820, .Height = 3480}}
+            runtime, {.name = "CoaxSectCyl", .Caption = "Coaxial section cylindrique", .Width = 8820, .Height = 3480}}
     {
     }
 

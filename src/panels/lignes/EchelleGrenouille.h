@@ -10,9 +10,9 @@ namespace ondelis {
 /// three fields, at the same place.
 class EchelleGrenouille final : public FeuilleCalcul {
 public:
-    explicit EchelleGrenouille(Desk& desk)
+    explicit EchelleGrenouille(Runtime& runtime)
         : FeuilleCalcul{
-            desk, {.name = "EchelleGrenouille", .Caption = "Echelle a grenouille", .Width = 10440, .Height = 3045}}
+            runtime, {.name = "EchelleGrenouille", .Caption = "Echelle a grenouille", .Width = 10440, .Height = 3045}}
     {
     }
 

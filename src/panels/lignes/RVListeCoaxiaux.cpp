@@ -9,13 +9,13 @@ namespace {
 /// pF/m from pF per foot, truncated to two decimals.
 std::string pFParMetre(Double parPied)
 {
-    return Str(Cut(parPied / 0.3048, 100));
+    return Str(Truncate(parPied / 0.3048, 100));
 }
 
 /// mm from inches, truncated to two decimals.
 std::string millimetres(Double pouces)
 {
-    return Str(Cut(pouces * 25.4, 100));
+    return Str(Truncate(pouces * 25.4, 100));
 }
 
 } // namespace

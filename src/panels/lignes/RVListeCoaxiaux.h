@@ -14,8 +14,8 @@ namespace ondelis {
 /// search compares texts: the blank in front of a computed number is part of a match.
 class RVListeCoaxiaux final : public FeuilleCalcul {
 public:
-    explicit RVListeCoaxiaux(Desk& desk)
-        : FeuilleCalcul{desk,
+    explicit RVListeCoaxiaux(Runtime& runtime)
+        : FeuilleCalcul{runtime,
             {.name = "RVListeCoaxiaux",
                 .Caption = "Caractéristiques des coaxiaux usuels",
                 .Width = 8520,

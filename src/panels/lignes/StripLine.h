@@ -9,8 +9,8 @@ namespace ondelis {
 /// The inductance of a flat conductor.
 class StripLine final : public FeuilleCalcul {
 public:
-    explicit StripLine(Desk& desk)
-        : FeuilleCalcul{desk, {.name = "StripLine", .Caption = "Strip line", .Width = 9900, .Height = 3090}}
+    explicit StripLine(Runtime& runtime)
+        : FeuilleCalcul{runtime, {.name = "StripLine", .Caption = "Strip line", .Width = 9900, .Height = 3090}}
     {
     }
 

@@ -78,14 +78,14 @@ void PDResitancesParalleles::Calculer()
     const Double BrancheBasse = ValR2 + PotBas;
     const Double Rp = (BrancheBasse * ValRc) / (BrancheBasse + ValRc);
     const Double Rt = Rp + BrancheHaute;
-    TxtRAlim.Text = CStr(Cut(Rt, 100));
-    TxtPotR2Rc.Text = CStr(Cut(Rp, 100));
+    TxtRAlim.Text = CStr(Truncate(Rt, 100));
+    TxtPotR2Rc.Text = CStr(Truncate(Rp, 100));
     const Double Ip = Alim / Rt;
-    MebIp.Text = CStr(Cut(Ip, 100));
+    MebIp.Text = CStr(Truncate(Ip, 100));
     const Double Us = Rp * Ip;
-    MebUs.Text = CStr(Cut(Us, 100));
-    const Double Ic = Cut(Us / ValRc, 100);
-    MebIc.Text = CStr(Cut(Ic, 100)); // cut a second time: 0.29 becomes 0.28
+    MebUs.Text = CStr(Truncate(Us, 100));
+    const Double Ic = Truncate(Us / ValRc, 100);
+    MebIc.Text = CStr(Truncate(Ic, 100)); // truncated a second time: 0.29 becomes 0.28
 }
 
 } // namespace ondelis

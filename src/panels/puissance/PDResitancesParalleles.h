@@ -10,8 +10,8 @@ namespace ondelis {
 /// separators.
 class PDResitancesParalleles final : public FeuilleCalcul {
 public:
-    explicit PDResitancesParalleles(Desk& desk)
-        : FeuilleCalcul{desk,
+    explicit PDResitancesParalleles(Runtime& runtime)
+        : FeuilleCalcul{runtime,
             {.name = "PDResitancesParalleles",
                 .Caption = "1 Calcul de ponts diviseurs",
                 .Width = 10920,

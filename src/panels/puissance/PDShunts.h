@@ -9,8 +9,8 @@ namespace ondelis {
 /// A galvanometer turned into an ammeter by a resistor across it, or into a voltmeter by one in series; one at a time.
 class PDShunts final : public FeuilleCalcul {
 public:
-    explicit PDShunts(Desk& desk)
-        : FeuilleCalcul{desk, {.name = "PDShunts", .Caption = "Calculs des Shunts", .Width = 10260, .Height = 5820}}
+    explicit PDShunts(Runtime& runtime)
+        : FeuilleCalcul{runtime, {.name = "PDShunts", .Caption = "Calculs des Shunts", .Width = 10260, .Height = 5820}}
     {
     }
 

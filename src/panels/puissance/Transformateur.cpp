@@ -113,7 +113,7 @@ void Transformateur::LireSecondaires()
         IsecVal(i) = Val(Secondaires(i).TxtIsec.Text);
         if (UsecVal(i) != 0 && IsecVal(i) != 0) {
             PappVal(i) = UsecVal(i) * IsecVal(i);
-            Secondaires(i).TxtPap.Text = CStr(Cut(PappVal(i), 100));
+            Secondaires(i).TxtPap.Text = CStr(Truncate(PappVal(i), 100));
         }
     }
     PuissApparente();
@@ -128,7 +128,7 @@ void Transformateur::PuissApparente()
         SommePapp = SommePapp + PappVal(i);
         TxtPuissApp.Text = CStr(SommePapp);
         PuissancePrimaire = SommePapp / NetaTransfo(SommePapp);
-        TxtPuisPrim.Text = CStr(Cut(PuissancePrimaire, 100));
+        TxtPuisPrim.Text = CStr(Truncate(PuissancePrimaire, 100));
         LstTole.BackColor = white; // the list can now be clicked
     }
 }
@@ -160,24 +160,24 @@ void Transformateur::LstTole_Click()
     TxtPertes.Text = tole.pertes;
     const Double Beta = 1; // T
     SectionBrute = Sqr(PuissancePrimaire) * 1.1;
-    TxtSec.Text = CStr(Cut(SectionBrute, 100));
+    TxtSec.Text = CStr(Truncate(SectionBrute, 100));
     SectionCorrigee = Val(CStr(tole.coefficient)) * SectionBrute; // Val takes a point only
-    TxtSecBrute.Text = CStr(Cut(SectionCorrigee, 100));
+    TxtSecBrute.Text = CStr(Truncate(SectionCorrigee, 100));
     CoteA = Sqr(SectionCorrigee) / 2;
-    Txta.Text = CStr(Cut(CoteA, 100));
+    Txta.Text = CStr(Truncate(CoteA, 100));
     // 4.44 * 50 Hz as that product comes out, one step above 222.
     SpiresParVolt = Pow(10, 4) / (Beta * 222.00000000000003 * SectionCorrigee);
     SpiresParVolt = SpiresParVolt + PerteFil(PuissancePrimaire); // added as a plain number
 
     for (int i = 0; i < NbreEnrSec.value(); ++i)
-        Secondaires(i).TxtSpires.Text = CStr(Cut(UsecVal(i) * SpiresParVolt, 10));
-    TxtSpiresPrimaire.Text = CStr(Cut(SpiresParVolt * 220, 10));
+        Secondaires(i).TxtSpires.Text = CStr(Truncate(UsecVal(i) * SpiresParVolt, 10));
+    TxtSpiresPrimaire.Text = CStr(Truncate(SpiresParVolt * 220, 10));
 
     for (int i = 0; i < NbreEnrSec.value(); ++i) {
         const Double I = Val(Secondaires(i).TxtPap.Text) / Val(Secondaires(i).TxtUSec.Text);
-        Secondaires(i).TxtDiamFil.Text = CStr(Cut(DiametreFil(PappVal(i), I), 1000));
+        Secondaires(i).TxtDiamFil.Text = CStr(Truncate(DiametreFil(PappVal(i), I), 1000));
     }
-    TxtDiamFilPrim.Text = CStr(Cut(DiametreFil(PuissancePrimaire, PuissancePrimaire / 220), 1000));
+    TxtDiamFilPrim.Text = CStr(Truncate(DiametreFil(PuissancePrimaire, PuissancePrimaire / 220), 1000));
 }
 
 /// Wire diameter, mm, of a winding of P VA that carries I amperes. Above 1000 VA the section stays that of the wire

@@ -12,8 +12,8 @@ namespace ondelis {
 /// A mains transformer, 220 V and 50 Hz at the primary, with up to four secondaries: core, turns and wires.
 class Transformateur final : public FeuilleCalcul {
 public:
-    explicit Transformateur(Desk& desk)
-        : FeuilleCalcul{desk,
+    explicit Transformateur(Runtime& runtime)
+        : FeuilleCalcul{runtime,
             {.name = "Transformateur", .Caption = "Calcul de transformateur à 50Hz", .Width = 11280, .Height = 7140}}
     {
     }

@@ -10,8 +10,8 @@ namespace ondelis {
 /// that compute a coil.
 class CalculNombreSpires final : public FeuilleCalcul {
 public:
-    explicit CalculNombreSpires(Desk& desk)
-        : FeuilleCalcul{desk,
+    explicit CalculNombreSpires(Runtime& runtime)
+        : FeuilleCalcul{runtime,
             {.name = "CalculNombreSpires",
                 .Caption = "N = SQR((18 D + 40 L) / D²) par Kervane",
                 .Width = 10260,

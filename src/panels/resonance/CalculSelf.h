@@ -9,8 +9,8 @@ namespace ondelis {
 /// The inductance of a single-layer coil from its diameter, winding length and number of turns.
 class CalculSelf final : public FeuilleCalcul {
 public:
-    explicit CalculSelf(Desk& desk)
-        : FeuilleCalcul{desk, {.name = "CalculSelf", .Caption = "Valeur Self", .Width = 10575, .Height = 5970}}
+    explicit CalculSelf(Runtime& runtime)
+        : FeuilleCalcul{runtime, {.name = "CalculSelf", .Caption = "Valeur Self", .Width = 10575, .Height = 5970}}
     {
     }
 

@@ -9,8 +9,8 @@ namespace ondelis {
 /// The inductance of a winding on a toroidal core, for iron powder and for ferrite side by side.
 class CalculSurTores final : public FeuilleCalcul {
 public:
-    explicit CalculSurTores(Desk& desk)
-        : FeuilleCalcul{desk,
+    explicit CalculSurTores(Runtime& runtime)
+        : FeuilleCalcul{runtime,
             {.name = "CalculSurTores", .Caption = "Calcul des inductances sur tores", .Width = 14940, .Height = 4020}}
     {
     }

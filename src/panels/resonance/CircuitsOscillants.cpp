@@ -313,7 +313,7 @@ void CircuitsOscillants::AfficherResonance(Double hertz)
 {
     TxtResonance.Visible = true;
     LblResonance.Visible = true;
-    TxtResonance.Text = CStr(Cut(hertz, 100));
+    TxtResonance.Text = CStr(Truncate(hertz, 100));
 }
 
 } // namespace ondelis

@@ -15,9 +15,9 @@ namespace ondelis {
 /// Impedance, phase and resonance of seven simple circuits at one frequency.
 class CircuitsOscillants final : public FeuilleCalcul {
 public:
-    explicit CircuitsOscillants(Desk& desk)
+    explicit CircuitsOscillants(Runtime& runtime)
         : FeuilleCalcul{
-            desk, {.name = "CircuitsOscillants", .Caption = "Circuits résonants", .Width = 9720, .Height = 6900}}
+            runtime, {.name = "CircuitsOscillants", .Caption = "Circuits résonants", .Width = 9720, .Height = 6900}}
     {
     }
 

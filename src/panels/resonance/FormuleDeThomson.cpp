@@ -1,6 +1,6 @@
 #include "panels/resonance/FormuleDeThomson.h"
 
-#include "forms/Desk.h"
+#include "forms/Runtime.h"
 #include "kit/Conversions.h"
 #include "kit/Maths.h"
 #include "panels/resonance/CalculNombreSpires.h"
@@ -18,7 +18,7 @@ void FormuleDeThomson::Form_Load()
 
 void FormuleDeThomson::OptF_Click()
 {
-    desk().get<CalculNombreSpires>().Hide();
+    runtime().get<CalculNombreSpires>().Hide();
     OptionCalcul = "Frequence";
     Chercher(TxtFreq);
     Donner(TxtSelf);
@@ -28,8 +28,8 @@ void FormuleDeThomson::OptF_Click()
 void FormuleDeThomson::OptL_Click()
 {
     // Placed beside this panel, but not shown: if it was hidden earlier, it stays hidden.
-    desk().get<CalculNombreSpires>().Top = Top + 500;
-    desk().get<CalculNombreSpires>().Left = Width + Left + 500;
+    runtime().get<CalculNombreSpires>().Top = Top + 500;
+    runtime().get<CalculNombreSpires>().Left = Width + Left + 500;
     OptionCalcul = "Self";
     Donner(TxtFreq);
     TxtFreq.SetFocus();
@@ -39,7 +39,7 @@ void FormuleDeThomson::OptL_Click()
 
 void FormuleDeThomson::OptC_Click()
 {
-    desk().get<CalculNombreSpires>().Hide();
+    runtime().get<CalculNombreSpires>().Hide();
     OptionCalcul = "Capacite";
     Donner(TxtFreq);
     TxtFreq.SetFocus();

@@ -11,9 +11,9 @@ namespace ondelis {
 /// The resonance of an LC circuit, solved for the frequency, the inductance or the capacitance.
 class FormuleDeThomson final : public FeuilleCalcul {
 public:
-    explicit FormuleDeThomson(Desk& desk)
+    explicit FormuleDeThomson(Runtime& runtime)
         : FeuilleCalcul{
-            desk, {.name = "FormuleDeThomson", .Caption = "Formule de Thomson", .Width = 6540, .Height = 3585}}
+            runtime, {.name = "FormuleDeThomson", .Caption = "Formule de Thomson", .Width = 6540, .Height = 3585}}
     {
     }
 

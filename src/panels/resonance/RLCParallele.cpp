@@ -74,11 +74,11 @@ void RLCParallele::Calculer()
     const Double dy = Single{LRes.Y2 - LRes.Y1};
 
     // The length of the resultant on the screen, in twips.
-    TxtZ.Text = CStr(Cut(Sqr(Pow(dx, 2) + Pow(dy, 2)), 1000));
-    TxtXl.Text = CStr(Cut(Zl, 100));
-    TxtXc.Text = CStr(Cut(Xc, 100));
+    TxtZ.Text = CStr(Truncate(Sqr(Pow(dx, 2) + Pow(dy, 2)), 1000));
+    TxtXl.Text = CStr(Truncate(Zl, 100));
+    TxtXc.Text = CStr(Truncate(Xc, 100));
     if (dx > 0)
-        TxtPhi.Text = CStr(Cut(Atn(dy / dx) * 180 / Pi, 100));
+        TxtPhi.Text = CStr(Truncate(Atn(dy / dx) * 180 / Pi, 100));
     else if (I1 > I2)
         TxtPhi.Text = "90";
     else if (I1 == I2)

@@ -11,8 +11,8 @@ namespace ondelis {
 /// currents of the two branches, phase, and the diagram of the currents.
 class RLCParallele final : public FeuilleCalcul {
 public:
-    explicit RLCParallele(Desk& desk)
-        : FeuilleCalcul{desk,
+    explicit RLCParallele(Runtime& runtime)
+        : FeuilleCalcul{runtime,
             {.name = "RLCParallele", .Caption = "Resolution graphique RLC parallele", .Width = 8325, .Height = 7680}}
     {
     }

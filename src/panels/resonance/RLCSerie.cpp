@@ -72,7 +72,7 @@ void RLCSerie::Calculer()
     Tracer(Xl, Xc);
 
     const Double Z = Sqr(Pow(R, 2) + Pow(Xl - Xc, 2));
-    TxtZ.Text = CStr(Cut(Z, 100));
+    TxtZ.Text = CStr(Truncate(Z, 100));
     Double Phi;
     if (R > 0)
         Phi = Atn((Xl - Xc) / R);
@@ -80,7 +80,7 @@ void RLCSerie::Calculer()
         Phi = Pi() / 2; // the sign opposite to the limit of the phase above, as below
     else
         Phi = -Pi() / 2;
-    TxtPhi.Text = CStr(Cut(180 * Phi / Pi(), 100));
+    TxtPhi.Text = CStr(Truncate(180 * Phi / Pi(), 100));
 }
 
 void RLCSerie::Tracer(Double Xl, Double Xc)

@@ -11,9 +11,9 @@ namespace ondelis {
 /// of the impedances.
 class RLCSerie final : public FeuilleCalcul {
 public:
-    explicit RLCSerie(Desk& desk)
+    explicit RLCSerie(Runtime& runtime)
         : FeuilleCalcul{
-            desk, {.name = "RLCSerie", .Caption = "Résolution graphique RLC série", .Width = 9315, .Height = 7560}}
+            runtime, {.name = "RLCSerie", .Caption = "Résolution graphique RLC série", .Width = 9315, .Height = 7560}}
     {
     }
 

@@ -9,9 +9,9 @@ namespace ondelis {
 /// The inductance of a hairpin: a wire bent into a long U.
 class WireInductance final : public FeuilleCalcul {
 public:
-    explicit WireInductance(Desk& desk)
+    explicit WireInductance(Runtime& runtime)
         : FeuilleCalcul{
-            desk, {.name = "WireInductance", .Caption = "Inductance d'une épingle", .Width = 10050, .Height = 3150}}
+            runtime, {.name = "WireInductance", .Caption = "Inductance d'une épingle", .Width = 10050, .Height = 3150}}
     {
     }
 

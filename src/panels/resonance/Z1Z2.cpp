@@ -35,7 +35,7 @@ void Z1Z2::TxtNbSpZ1_Change()
 void Z1Z2::Calculer()
 {
     if (Z1 != 0 && Z2 != 0 && N1 != 0)
-        TxtNbSpZ2.Text = CStr(Cut(Sqr(Pow(N1, 2) * Z2 / Z1), 10));
+        TxtNbSpZ2.Text = CStr(Truncate(Sqr(Pow(N1, 2) * Z2 / Z1), 10));
 }
 
 } // namespace ondelis

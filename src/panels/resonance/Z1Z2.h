@@ -9,8 +9,8 @@ namespace ondelis {
 /// The turns of an auto-transformer for impedance Z2, from the turns for impedance Z1.
 class Z1Z2 final : public FeuilleCalcul {
 public:
-    explicit Z1Z2(Desk& desk)
-        : FeuilleCalcul{desk, {.name = "Z1Z2", .Caption = "Z1 vers Z2", .Width = 9930, .Height = 3105}}
+    explicit Z1Z2(Runtime& runtime)
+        : FeuilleCalcul{runtime, {.name = "Z1Z2", .Caption = "Z1 vers Z2", .Width = 9930, .Height = 3105}}
     {
     }
 

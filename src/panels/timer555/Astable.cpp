@@ -47,8 +47,8 @@ void Astable::CalculResistances()
     const Double SommeR = Periode / (Capacite * 0.693); // R1 + R2, the whole of the timing
     const Double R1 = SommeR / 4;
     const Double R2 = (SommeR * 3) / 4;
-    LblR1.Caption = "Résistance R1 = " + Str(Cut(R1, 100)) + " Ohms";
-    LblR2.Caption = "Résistance R2 = " + Str(Cut(R2, 100)) + " Ohms";
+    LblR1.Caption = "Résistance R1 = " + Str(Truncate(R1, 100)) + " Ohms";
+    LblR2.Caption = "Résistance R2 = " + Str(Truncate(R2, 100)) + " Ohms";
 }
 
 } // namespace ondelis

@@ -10,8 +10,8 @@ namespace ondelis {
 /// The two resistors of a 555 timer in astable connection for a wanted frequency and a given capacitor.
 class Astable final : public FeuilleCalcul {
 public:
-    explicit Astable(Desk& desk)
-        : FeuilleCalcul{desk, {.name = "Astable", .Caption = "Montage astable", .Width = 7245, .Height = 8400}}
+    explicit Astable(Runtime& runtime)
+        : FeuilleCalcul{runtime, {.name = "Astable", .Caption = "Montage astable", .Width = 7245, .Height = 8400}}
     {
     }
 

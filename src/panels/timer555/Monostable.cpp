@@ -45,7 +45,7 @@ void Monostable::CalculMonostable()
         return;
     const Double Duree = Capacite * 0.693 * Resistance; // s
     if (Duree >= 1)
-        LblDuree.Caption = "Durée " + Str(Cut(Duree, 100)) + " s";
+        LblDuree.Caption = "Durée " + Str(Truncate(Duree, 100)) + " s";
     else if (Duree >= 0.001)
         LblDuree.Caption = "Durée " + Str(Fix(Duree * 1e5) / 100) + " ms";
     else if (Duree >= 1e-6)

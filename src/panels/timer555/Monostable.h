@@ -10,8 +10,9 @@ namespace ondelis {
 /// The pulse of a 555 timer in monostable connection, from its resistor and its capacitor.
 class Monostable final : public FeuilleCalcul {
 public:
-    explicit Monostable(Desk& desk)
-        : FeuilleCalcul{desk, {.name = "Monostable", .Caption = "Montage en monostable", .Width = 7245, .Height = 7785}}
+    explicit Monostable(Runtime& runtime)
+        : FeuilleCalcul{
+            runtime, {.name = "Monostable", .Caption = "Montage en monostable", .Width = 7245, .Height = 7785}}
     {
     }
 

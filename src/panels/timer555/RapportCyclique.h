@@ -12,8 +12,8 @@ namespace ondelis {
 /// of the potentiometer, and the wave.
 class RapportCyclique final : public FeuilleCalcul {
 public:
-    explicit RapportCyclique(Desk& desk)
-        : FeuilleCalcul{desk,
+    explicit RapportCyclique(Runtime& runtime)
+        : FeuilleCalcul{runtime,
             {.name = "RapportCyclique",
                 .Caption = "Le 555 : Rapport Cyclique variable à fréquence constante",
                 .Width = 6555,

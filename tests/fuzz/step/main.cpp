@@ -6,7 +6,7 @@
 #include <span>
 #include <string_view>
 
-#include "Pair.h"
+#include "Lockstep.h"
 #include "Run.h"
 #include "view/Application.h"
 
@@ -20,7 +20,7 @@ namespace {
 /// of the libraries.
 void readOnce()
 {
-    ondelis::fuzz::Pair{}.answer("start");
+    ondelis::fuzz::Lockstep{}.answer("start");
 #ifdef FINDS_LEAKS
     __lsan_do_recoverable_leak_check();
 #endif
@@ -41,10 +41,10 @@ int main(int argc, char** argv)
         const std::uint64_t length = words.size() > count ? whole(words[count]) : 60;
         const std::uint64_t seed = words.size() > count + 1 ? whole(words[count + 1]) : std::random_device{}();
         const ondelis::Application application{argc, argv};
-        keepEndsOfProcesses();
+        blockChildSignals();
         readOnce();
-        const Length whole = byActions ? Length{.actions = length} : Length{.time = std::chrono::seconds{length}};
-        return run([] { return std::make_unique<Pair>(); }, whole, seed) == 0 ? 0 : 1;
+        const Budget whole = byActions ? Budget{.actions = length} : Budget{.time = std::chrono::seconds{length}};
+        return run([] { return std::make_unique<Lockstep>(); }, whole, seed) == 0 ? 0 : 1;
     } catch (const std::exception& error) {
         std::cerr << "usage: fuzz_step [SECONDS [SEED]], or fuzz_step actions COUNT [SEED]: " << error.what() << '\n';
         return 2;
