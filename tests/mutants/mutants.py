@@ -100,6 +100,8 @@ class Trial:
                 if unseen.has(path, lines[change.line - 1].strip(), change):
                     self.result.listed += 1
                 else:
+                    if not self.shared and path.suffix == ".h" and CONSTANT.search(lines[change.line - 1]):
+                        change.before = None  # the compiler computes it: beside the original it would never be on
                     found.append((path, change))
         if number is not None and len(found) > number:
             found = [found[place] for place in sorted(dice.sample(range(len(found)), number))]
