@@ -302,5 +302,13 @@ TEST_F(EndingTest, AfterTheHandlersAreLeftTheNextActionIsAsEver)
     EXPECT_EQ(panel.log, Log{"after the box"});
 }
 
+TEST_F(EndingTest, aKeyAfterTheEndIsSeenByNobody)
+{
+    panel.boxAtKey = true;
+    desk.close();
+    EXPECT_FALSE(user.key(panel.TxtA, U'a'));
+    EXPECT_TRUE(world.boxes.empty());
+}
+
 } // namespace
 } // namespace ondelis::tests
