@@ -17,20 +17,10 @@ check_format() {
         xargs -0 -n40 -P"$jobs" clang-format --dry-run -Werror
 }
 
-# The stored drawings must be what their scripts draw.
-check_drawings() (
-    copy=$(mktemp -d)
-    trap 'rm -rf "$copy"' EXIT
-    mkdir "$copy/tools" && cp -r tools/dessins "$copy/tools" && cp -r resources "$copy" &&
-        python3 -B "$copy/tools/dessins/dessiner.py" &&
-        diff -r resources "$copy/resources" && diff tools/dessins/README.md "$copy/tools/dessins/README.md"
-)
-
 build_release() {
     local flags
     mapfile -t flags < <(debian/rules flags) && build release "${flags[@]}"
 }
-
 
 # Made from the build that was tested, beside it.
 make_package() {
@@ -52,7 +42,6 @@ check_release() {
 step "Packages" tools/install-packages.sh program screen checks
 step "Scripts (shellcheck)" check_scripts
 pinned clang-format 14 "Formatting (clang-format)" check_format
-step "Drawings" check_drawings
 step "Release build, as for a package, warnings as errors" build_release
 beside check_release
 pinned clang-tidy 14 "Lint (clang-tidy)" yielding tools/lint.py build/release

@@ -139,13 +139,13 @@ play_scenarios() {
         inside "$bare" sh -c 'find /scenarios -name "*.scn" -exec /scenarios/pilote {} +' && rm -r "$bare/scenarios"
 }
 
-# The desktop tests, with the packaged program.
+# The desktop tests, with the packaged program and the driver.
 use_panels() {
     local tests
     quietly inside "$workshop" apt-get -y install "/${package##*/}" &&
         quietly inside "$workshop" /ondelis/tools/install-packages.sh program screen checks || return
     for tests in "$workshop"/ondelis/tests/desktop/test_*.py; do
-        inside "$workshop" ONDELIS=/usr/bin/ondelis python3 -B "${tests#"$workshop"}" || return
+        inside "$workshop" ONDELIS=/usr/bin/ondelis PILOTE=/ondelis/pilote python3 -B "${tests#"$workshop"}" || return
     done
 }
 

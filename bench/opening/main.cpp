@@ -84,7 +84,7 @@ Times openings(Player& player, const Subject& subject)
     Times times;
     for (int trial = 0; trial < 15; ++trial) {
         const auto start = Clock::now();
-        player.view().perform([&](User&) { player.frame().click(entry); });
+        player.view().click(entry);
         Painting{player.view().find(*player.frame().desk().loadedPanels().front())->form()}.wait();
         times.add(start);
     }

@@ -1,9 +1,6 @@
 #pragma once
 
-#include <QString>
 #include <QWidget>
-#include <string>
-#include <string_view>
 #include <utility>
 
 #include "forms/Control.h"
@@ -11,19 +8,10 @@
 #include "view/Colors.h"
 #include "view/PanelWindow.h"
 #include "view/Scale.h"
+#include "view/Texts.h"
+#include "view/View.h"
 
 namespace ondelis {
-
-[[nodiscard]] inline QString toQString(std::string_view text)
-{
-    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
-}
-
-/// A caption for a widget that would take "&" as the mark of a shortcut.
-[[nodiscard]] inline QString withoutShortcut(std::string_view caption)
-{
-    return toQString(caption).replace(QLatin1Char{'&'}, QLatin1String{"&&"});
-}
 
 /// Shows a control in a sub-window: follows the control's properties, and tells the desk what the user does with it.
 class ControlWidget {
@@ -70,7 +58,13 @@ protected:
     template <class Action>
     void tell(Action&& action)
     {
-        panelWindow().perform([&](User& user) { action(user); }, &control_);
+        if (gone())
+            return;
+        panelWindow().view().perform([&](User& user) {
+            action(user);
+            if (!gone())
+                panelWindow().view().controlChanged(control_);
+        });
     }
 
     void tellFocus()

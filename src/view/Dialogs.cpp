@@ -6,8 +6,8 @@
 #include <QPushButton>
 #include <QStyle>
 
-#include "view/ControlWidget.h"
 #include "view/FocusFrame.h"
+#include "view/Texts.h"
 
 namespace ondelis {
 namespace {

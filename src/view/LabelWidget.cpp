@@ -26,7 +26,7 @@ void LabelWidget::follow()
     colors().applyToText(*this, control().design().ForeColor);
     setVisible(control().Visible);
     if (control().Visible) // one that is empty now had a caption by design
-        panelWindow().rename(
+        panelWindow().names().rename(
             &control(), control().Caption == "" ? control().design().Caption : control().Caption.get());
 }
 

@@ -16,8 +16,8 @@
 #include "shell/MDIOndelis.h"
 #include "shell/Menu.h"
 #include "view/ClientArea.h"
-#include "view/ControlWidget.h"
 #include "view/Scale.h"
+#include "view/Texts.h"
 #include "view/View.h"
 
 namespace ondelis {
@@ -107,8 +107,8 @@ void MainWindow::makeMenu()
         dropDown->setObjectName(toQString(menu.control));
         dropDown->installEventFilter(this);
         for (const MenuEntry& entry : menu.entries) {
-            QAction* const action = dropDown->addAction(
-                withoutShortcut(entry.caption), [this, &entry] { view_.perform([&](User&) { frame_.click(entry); }); });
+            QAction* const action
+                = dropDown->addAction(withoutShortcut(entry.caption), [this, &entry] { view_.click(entry); });
             action->setObjectName(toQString(entry.control));
         }
     }

@@ -15,6 +15,8 @@
 #include "view/ControlWidget.h"
 #include "view/FocusFrame.h"
 #include "view/MainWindow.h"
+#include "view/TabOrder.h"
+#include "view/Texts.h"
 #include "view/View.h"
 #include "view/WidgetMaker.h"
 
@@ -59,7 +61,7 @@ void PanelWindow::follow()
 {
     const QScopedValueRollback following{following_, true};
     setWindowTitle(toQString(panel_.Caption.get()));
-    rename(nullptr, panel_.Caption);
+    names_.rename(nullptr, panel_.Caption);
     const Scale scale{*this};
     setFixedSize(scale.pixels(Double{panel_.Width}.value()), scale.pixels(Double{panel_.Height}.value()));
     const QPoint corner{scale.pixels(Double{panel_.Left}.value()), scale.pixels(Double{panel_.Top}.value())};
@@ -75,7 +77,7 @@ void PanelWindow::follow(const Control& control)
     const int y = shown->widget().y();
     shown->follow();
     if (focusFrame_ != nullptr && shown->widget().y() != y) // all widgets are there, and one has moved
-        orderTabs();
+        orderTabs(*this);
 }
 
 void PanelWindow::activate()
@@ -83,7 +85,7 @@ void PanelWindow::activate()
     mdiArea()->setActiveSubWindow(this);
     if (std::exchange(activated_, true))
         return;
-    QWidget* const first = firstStop();
+    QWidget* const first = firstTabStop(*this);
     if (first == nullptr)
         return;
     first->setFocus(Qt::TabFocusReason);
@@ -93,31 +95,11 @@ void PanelWindow::activate()
         field->selectAll();
 }
 
-void PanelWindow::perform(const std::function<void(User&)>& action, Control* control)
-{
-    if (gone_)
-        return;
-    view_.perform([&](User& user) {
-        action(user);
-        if (!gone_ && control != nullptr)
-            view_.controlChanged(*control);
-    });
-}
-
-unsigned PanelWindow::boxesShown() const
-{
-    return view_.boxesShown();
-}
-
-void PanelWindow::nameAfter(const Label* label, QWidget& widget)
-{
-    named_.emplace(label, &widget);
-}
-
 void PanelWindow::closeEvent(QCloseEvent* event)
 {
     event->ignore(); // the window goes once the panel is unloaded and no handler runs
-    perform([this](User& user) { user.close(panel_); });
+    if (!gone_)
+        view_.perform([this](User& user) { user.close(panel_); });
 }
 
 void PanelWindow::moveEvent(QMoveEvent* event)
@@ -176,59 +158,11 @@ void PanelWindow::markFocus()
         view_.mainWindow().area().bringIntoSight(*focused);
 }
 
-void PanelWindow::orderTabs()
-{
-    std::vector<QWidget*> stops;
-    std::vector<QWidget*> moved;
-    std::vector<std::size_t> turns;
-    for (Control* control : panel_.controls()) {
-        ControlWidget* const shown = find(*control);
-        if (shown == nullptr || shown->widget().focusPolicy() == Qt::NoFocus)
-            continue;
-        stops.push_back(&shown->widget());
-        const auto* const box = dynamic_cast<const TextBox*>(control);
-        if (box == nullptr || box->Top == box->design().at.Top)
-            continue;
-        moved.push_back(stops.back());
-        turns.push_back(stops.size() - 1);
-    }
-    std::ranges::stable_sort(moved, {}, &QWidget::y);
-    for (std::size_t i = 0; i < moved.size(); ++i)
-        stops[turns[i]] = moved[i];
-    for (std::size_t i = 1; i < stops.size(); ++i)
-        QWidget::setTabOrder(stops[i - 1], stops[i]);
-}
-
-QWidget* PanelWindow::firstStop() const
-{
-    QWidget* first = nullptr;
-    for (Control* const control : panel_.controls()) {
-        if (!control->focusable())
-            continue;
-        QWidget& widget = find(*control)->widget();
-        const auto* const field = qobject_cast<QLineEdit*>(&widget);
-        if (field != nullptr && !field->isReadOnly())
-            return &widget;
-        if (first == nullptr)
-            first = &widget;
-    }
-    return first;
-}
-
 void PanelWindow::makeMenu()
 {
     auto* const menu = new QMenu{this};
     menu->addAction(QMdiSubWindow::tr("&Close") + QLatin1String{"\tCtrl+F4"}, this, &QWidget::close);
     setSystemMenu(menu);
-}
-
-void PanelWindow::rename(const Label* label, const std::string& name)
-{
-    const auto [first, last] = named_.equal_range(label);
-    std::for_each(first, last, [&](const auto& entry) {
-        if (entry.second->accessibleName() != toQString(name)) // each call is announced
-            entry.second->setAccessibleName(toQString(name));
-    });
 }
 
 void PanelWindow::fitTitle()

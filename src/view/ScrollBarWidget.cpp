@@ -123,9 +123,9 @@ void ScrollBarWidget::keyPressEvent(QKeyEvent* event)
 
 void ScrollBarWidget::tellValue()
 {
-    const unsigned boxes = panelWindow().boxesShown();
+    const unsigned boxes = panelWindow().view().boxesShown();
     tell([&](User& user) { user.move(control(), shownValue()); });
-    if (panelWindow().boxesShown() != boxes)
+    if (panelWindow().view().boxesShown() != boxes)
         letGo();
 }
 

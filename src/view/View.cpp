@@ -81,6 +81,11 @@ void View::perform(const std::function<void(User&)>& action)
     deleteClosedWindows();
 }
 
+void View::click(const MenuEntry& entry)
+{
+    perform([&](User&) { frame_->click(entry); });
+}
+
 void View::close()
 {
     frame_->close();

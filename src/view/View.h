@@ -15,6 +15,7 @@ namespace ondelis {
 class MainWindow;
 class MDIOndelis;
 class PanelWindow;
+struct MenuEntry;
 
 /// The world around the desk, implemented with Qt. While handlers run nothing of Qt is touched: what they change is
 /// noted, and shown once the user's action is over, or before a handler waits.
@@ -35,6 +36,8 @@ public:
     /// Runs one action of the user and shows what it changed. While a box waits for its answer only `close` gets
     /// through; what widgets report while they are being changed is not a user action.
     void perform(const std::function<void(User&)>& action);
+    /// The user picks an entry of the menu.
+    void click(const MenuEntry& entry);
     /// The user closes the main window.
     void close();
     /// Opens the page of the guide on the active panel; nothing while a handler or a box waits.

@@ -45,22 +45,22 @@ void WidgetMaker::visit(TextBox& box)
     else
         made = new TextBoxWidget{window_, box, parentOf(box)};
     take(*made, box);
-    window_.nameAfter(box.design().label, made_->widget());
+    window_.names().nameAfter(box.design().label, made_->widget());
     if (box.design().otherLabel != nullptr)
-        window_.nameAfter(box.design().otherLabel, made_->widget());
+        window_.names().nameAfter(box.design().otherLabel, made_->widget());
 }
 
 void WidgetMaker::visit(ListBox& list)
 {
     take(*new ListBoxWidget{window_, list, parentOf(list)}, list);
-    window_.nameAfter(list.design().label, made_->widget());
+    window_.names().nameAfter(list.design().label, made_->widget());
 }
 
 void WidgetMaker::visit(OptionButton& option)
 {
     take(*new OptionButtonWidget{window_, option, parentOf(option)}, option);
     if (std::string_view{option.design().Caption}.empty())
-        window_.nameAfter(option.design().label, made_->widget());
+        window_.names().nameAfter(option.design().label, made_->widget());
 }
 
 void WidgetMaker::visit(CommandButton& button)
@@ -72,7 +72,7 @@ void WidgetMaker::visit(ScrollBar& bar)
 {
     const Qt::Orientation orientation = bar.orientation() == Orientation::Horizontal ? Qt::Horizontal : Qt::Vertical;
     take(*new ScrollBarWidget{window_, bar, orientation, parentOf(bar)}, bar);
-    window_.nameAfter(bar.design().label, made_->widget());
+    window_.names().nameAfter(bar.design().label, made_->widget());
 }
 
 void WidgetMaker::visit(Frame& frame)
@@ -102,7 +102,7 @@ void WidgetMaker::visit(Shape& shape)
 void WidgetMaker::visit(MaskEdBox& box)
 {
     take(*new MaskEdBoxWidget{window_, box, parentOf(box)}, box);
-    window_.nameAfter(box.design().label, made_->widget());
+    window_.names().nameAfter(box.design().label, made_->widget());
 }
 
 QWidget* WidgetMaker::parentOf(const Control& control) const

@@ -31,7 +31,7 @@ protected:
     }
 };
 
-TEST_F(EyesTest, AFieldIsReadFromItsWidget)
+TEST_F(EyesTest, aFieldIsReadFromItsWidget)
 {
     open("MenuCircuitOscillant");
     auto& field = widget<QLineEdit>("TxtFreq");
@@ -47,7 +47,7 @@ TEST_F(EyesTest, AFieldIsReadFromItsWidget)
     EXPECT_EQ(seen("CircuitsOscillants.TxtFreq.Visible"), false);
 }
 
-TEST_F(EyesTest, ColorsAreThoseOfTheWidget)
+TEST_F(EyesTest, colorsAreThoseOfTheWidget)
 {
     open("MenuCircuitOscillant");
     auto& field = widget<QLineEdit>("TxtFreq");
@@ -58,7 +58,7 @@ TEST_F(EyesTest, ColorsAreThoseOfTheWidget)
     EXPECT_EQ(seen("CircuitsOscillants.TxtFreq.ForeColor"), 0x0080FF);
 }
 
-TEST_F(EyesTest, AListIsReadFromItsWidget)
+TEST_F(EyesTest, aListIsReadFromItsWidget)
 {
     open("MenuCircuitOscillant");
     auto& list = widget<QListWidget>("LstFreq");
@@ -73,7 +73,7 @@ TEST_F(EyesTest, AListIsReadFromItsWidget)
     EXPECT_EQ(seen("CircuitsOscillants.LstFreq.ListCount"), list.count());
 }
 
-TEST_F(EyesTest, ABarAnOptionAButtonAndACaptionAreReadFromTheirWidgets)
+TEST_F(EyesTest, aBarAnOptionAButtonAndACaptionAreReadFromTheirWidgets)
 {
     open("MenuRLCserie");
     behindTheEngine(widget<QScrollBar>("HScroll1"), [](QScrollBar& bar) { bar.setValue(5); });
@@ -93,7 +93,7 @@ TEST_F(EyesTest, ABarAnOptionAButtonAndACaptionAreReadFromTheirWidgets)
     EXPECT_EQ(seen("CalculNombreSpires.OptmmH.Value"), !chosen);
 }
 
-TEST_F(EyesTest, WindowsAreWhereTheyAreSeen)
+TEST_F(EyesTest, windowsAreWhereTheyAreSeen)
 {
     open("MenuCircuitOscillant");
     auto& panel = widget<QMdiSubWindow>("CircuitsOscillants");
@@ -107,14 +107,14 @@ TEST_F(EyesTest, WindowsAreWhereTheyAreSeen)
     EXPECT_EQ(seen("MDIOndelis.Width"), 15000);
 }
 
-TEST_F(EyesTest, TheMenuIsReadFromItsBar)
+TEST_F(EyesTest, theMenuIsReadFromItsBar)
 {
     open("MenuCircuitOscillant");
     widget<QMenuBar>("").actions().first()->setText(QStringLiteral("Fin && suite"));
     EXPECT_EQ(say("state")["menus"][0]["Caption"], "Fin & suite");
 }
 
-TEST_F(EyesTest, EveryMemberOfEveryPanelHasBeenLookedFor)
+TEST_F(EyesTest, everyMemberOfEveryPanelHasBeenLookedFor)
 {
     say("start");
     const pilote::Json menus = say("state")["menus"];

@@ -9,7 +9,7 @@ namespace {
 /// What a person does with mouse and keys, and what they cannot do.
 class HandsTest : public WindowTest { };
 
-TEST_F(HandsTest, ReachNothingThatIsNotOnScreen)
+TEST_F(HandsTest, reachNothingThatIsNotOnScreen)
 {
     EXPECT_EQ(refusal("menu MenuQuitter"), "the program has not started");
     say("start");
@@ -22,7 +22,7 @@ TEST_F(HandsTest, ReachNothingThatIsNotOnScreen)
     EXPECT_EQ(refusal("click CircuitsOscillants.TxtFreq"), "the control is of another class");
 }
 
-TEST_F(HandsTest, WriteIntoNoLockedField)
+TEST_F(HandsTest, writeIntoNoLockedField)
 {
     say("start");
     say("menu mnuGammaMatch");
@@ -31,7 +31,7 @@ TEST_F(HandsTest, WriteIntoNoLockedField)
     EXPECT_EQ(refusal("hold GammaMatch.TxtGamma backspace 3"), "the field is locked");
 }
 
-TEST_F(HandsTest, ReachNothingThatLiesUnderSomethingElse)
+TEST_F(HandsTest, reachNothingThatLiesUnderSomethingElse)
 {
     say("start");
     say("menu MenuCircuitOscillant"); // another field has the keyboard
@@ -44,7 +44,7 @@ TEST_F(HandsTest, ReachNothingThatLiesUnderSomethingElse)
     EXPECT_EQ(refusal("replace CircuitsOscillants.TxtRes 1"), "");
 }
 
-TEST_F(HandsTest, BringAPanelForwardThatLiesUnderAnother)
+TEST_F(HandsTest, bringAPanelForwardThatLiesUnderAnother)
 {
     say("start");
     say("menu menuFiltreEliminationDeBande");
@@ -53,7 +53,7 @@ TEST_F(HandsTest, BringAPanelForwardThatLiesUnderAnother)
     EXPECT_EQ(seen("FiltreEliminationBande.TxtFreq2.Text"), "3");
 }
 
-TEST_F(HandsTest, TypeWhereTheKeyboardIs)
+TEST_F(HandsTest, typeWhereTheKeyboardIs)
 {
     say("start");
     say("menu MenuCircuitOscillant");
@@ -66,7 +66,7 @@ TEST_F(HandsTest, TypeWhereTheKeyboardIs)
     EXPECT_TRUE(body.agreesOnKeyboard());
 }
 
-TEST_F(HandsTest, GiveAnOptionTheKeyboardWithoutChoosingIt)
+TEST_F(HandsTest, giveAnOptionTheKeyboardWithoutChoosingIt)
 {
     say("start");
     say("menu menuFiltrePasseBas");
@@ -81,7 +81,7 @@ TEST_F(HandsTest, GiveAnOptionTheKeyboardWithoutChoosingIt)
     FAIL() << "each option is chosen";
 }
 
-TEST_F(HandsTest, TakeAnotherScreen)
+TEST_F(HandsTest, takeAnotherScreen)
 {
     EXPECT_EQ(refusal("screen 24000 18000"), "");
     say("start");
@@ -89,7 +89,7 @@ TEST_F(HandsTest, TakeAnotherScreen)
     EXPECT_EQ(seen("MDIOndelis.Top"), 1500);
 }
 
-TEST_F(HandsTest, ReadTheFaultFromItsBox)
+TEST_F(HandsTest, readTheFaultFromItsBox)
 {
     say("start");
     say("menu MenuCircuitOscillant");

@@ -32,14 +32,14 @@ protected:
     Choix& panel = desk.get<Choix>();
 };
 
-TEST_F(ButtonTest, AnOptionRaisesClickWhenItBecomesTheChosenOne)
+TEST_F(ButtonTest, anOptionRaisesClickWhenItBecomesTheChosenOne)
 {
     panel.OptL.Value = true;
     panel.OptL.Value = true;
     EXPECT_EQ(panel.log, Log{"L alone"});
 }
 
-TEST_F(ButtonTest, TheOptionThatLosesTheChoiceRaisesNothing)
+TEST_F(ButtonTest, theOptionThatLosesTheChoiceRaisesNothing)
 {
     panel.OptL.Value = true;
     panel.log.clear();
@@ -48,7 +48,7 @@ TEST_F(ButtonTest, TheOptionThatLosesTheChoiceRaisesNothing)
     EXPECT_FALSE(panel.OptL.Value);
 }
 
-TEST_F(ButtonTest, AnOptionSetToFalseRaisesNothingAndLeavesNoChoice)
+TEST_F(ButtonTest, anOptionSetToFalseRaisesNothingAndLeavesNoChoice)
 {
     panel.OptF.Value = false;
     EXPECT_TRUE(panel.log.empty());
@@ -58,7 +58,7 @@ TEST_F(ButtonTest, AnOptionSetToFalseRaisesNothingAndLeavesNoChoice)
     EXPECT_EQ(panel.log, Log{"F"});
 }
 
-TEST_F(ButtonTest, TheOptionsOfAFrameExcludeOneAnotherAlone)
+TEST_F(ButtonTest, theOptionsOfAFrameExcludeOneAnotherAlone)
 {
     panel.OptPo.Value = true;
     EXPECT_FALSE(panel.OptMm.Value);
@@ -68,7 +68,7 @@ TEST_F(ButtonTest, TheOptionsOfAFrameExcludeOneAnotherAlone)
     EXPECT_EQ(panel.log, (Log{"po", "L alone"}));
 }
 
-TEST_F(ButtonTest, TheUserChoosesAnOptionOnce)
+TEST_F(ButtonTest, theUserChoosesAnOptionOnce)
 {
     user.click(panel.OptL);
     user.click(panel.OptL);
@@ -76,7 +76,7 @@ TEST_F(ButtonTest, TheUserChoosesAnOptionOnce)
     EXPECT_EQ(desk.focused(), &panel.OptL);
 }
 
-TEST_F(ButtonTest, AnOptionHasItsDesignValueAgainAfterUnload)
+TEST_F(ButtonTest, anOptionHasItsDesignValueAgainAfterUnload)
 {
     panel.OptL.Value = true;
     panel.Unload();
@@ -84,7 +84,7 @@ TEST_F(ButtonTest, AnOptionHasItsDesignValueAgainAfterUnload)
     EXPECT_FALSE(panel.OptL.Value);
 }
 
-TEST_F(ButtonTest, StoringTrueIntoAButtonIsAClickEachTime)
+TEST_F(ButtonTest, storingTrueIntoAButtonIsAClickEachTime)
 {
     panel.BtnCalculer.Value = true;
     panel.BtnCalculer.Value = true;
@@ -92,13 +92,13 @@ TEST_F(ButtonTest, StoringTrueIntoAButtonIsAClickEachTime)
     EXPECT_FALSE(panel.BtnCalculer.Value);
 }
 
-TEST_F(ButtonTest, StoringFalseIntoAButtonDoesNothing)
+TEST_F(ButtonTest, storingFalseIntoAButtonDoesNothing)
 {
     panel.BtnCalculer.Value = false;
     EXPECT_TRUE(panel.log.empty());
 }
 
-TEST_F(ButtonTest, AHiddenButtonIsClickedByCodeButNotByTheUser)
+TEST_F(ButtonTest, aHiddenButtonIsClickedByCodeButNotByTheUser)
 {
     panel.BtnCalculer.Visible = false;
     panel.BtnCalculer.Value = true;
@@ -107,7 +107,7 @@ TEST_F(ButtonTest, AHiddenButtonIsClickedByCodeButNotByTheUser)
     EXPECT_EQ(panel.log, Log{"calcul"});
 }
 
-TEST_F(ButtonTest, WhatStandsInAHiddenFrameIsHidden)
+TEST_F(ButtonTest, whatStandsInAHiddenFrameIsHidden)
 {
     panel.Cadre.Visible = false;
     EXPECT_TRUE(panel.OptPo.Visible);

@@ -37,27 +37,27 @@ protected:
     Tableau& panel = desk.get<Tableau>();
 };
 
-TEST_F(ControlArrayTest, HasOneDesignAnElement)
+TEST_F(ControlArrayTest, hasOneDesignAnElement)
 {
     EXPECT_EQ(panel.Txt.count(), 3);
     EXPECT_EQ(Double{panel.Txt(2).Top}, 200);
 }
 
-TEST_F(ControlArrayTest, FaultsOutsideItsBounds)
+TEST_F(ControlArrayTest, faultsOutsideItsBounds)
 {
     EXPECT_EQ(faultOf([&] { panel.Txt(3); }), FaultKind::SubscriptOutOfRange);
     EXPECT_EQ(faultOf([&] { panel.Txt(-1); }), FaultKind::SubscriptOutOfRange);
     EXPECT_EQ(faultOf([&] { panel.Rows(2); }), FaultKind::SubscriptOutOfRange);
 }
 
-TEST_F(ControlArrayTest, NamesItsElementsByTheirIndex)
+TEST_F(ControlArrayTest, namesItsElementsByTheirIndex)
 {
     EXPECT_EQ(panel.find("Txt(1)"), &panel.Txt(1));
     EXPECT_EQ(panel.find("Txt"), nullptr);
     EXPECT_EQ(panel.find("TxtUSec(0)"), &panel.Rows(0).TxtUSec);
 }
 
-TEST_F(ControlArrayTest, StandsOnTheFormRowAfterRow)
+TEST_F(ControlArrayTest, standsOnTheFormRowAfterRow)
 {
     Log names;
     for (const Control* control : panel.controls())
@@ -66,7 +66,7 @@ TEST_F(ControlArrayTest, StandsOnTheFormRowAfterRow)
         names, (Log{"Before", "Txt(0)", "Txt(1)", "Txt(2)", "Lbl(0)", "TxtUSec(0)", "Lbl(1)", "TxtUSec(1)", "After"}));
 }
 
-TEST_F(ControlArrayTest, IsTypedInLikeAnyField)
+TEST_F(ControlArrayTest, isTypedInLikeAnyField)
 {
     panel.Show();
     user.type(panel.Txt(2), "5");

@@ -82,7 +82,7 @@ protected:
     Fins& panel = desk.get<Fins>();
 };
 
-TEST_F(EndingTest, AFaultIsShownAndEndsTheProgramWithStatusOne)
+TEST_F(EndingTest, aFaultIsShownAndEndsTheProgramWithStatusOne)
 {
     user.click(panel.BtnFaute);
     EXPECT_EQ(world.fault, FaultKind::DivisionByZero);
@@ -91,7 +91,7 @@ TEST_F(EndingTest, AFaultIsShownAndEndsTheProgramWithStatusOne)
     EXPECT_TRUE(panel.log.empty());
 }
 
-TEST_F(EndingTest, AFaultLeavesAllNestedHandlers)
+TEST_F(EndingTest, aFaultLeavesAllNestedHandlers)
 {
     panel.atChange = [this] { panel.BtnFaute.Value = true; };
     user.type(panel.TxtA, "ab");
@@ -100,7 +100,7 @@ TEST_F(EndingTest, AFaultLeavesAllNestedHandlers)
     EXPECT_EQ(world.endings, std::vector<int>{1});
 }
 
-TEST_F(EndingTest, EndLeavesAllNestedHandlersWithStatusZero)
+TEST_F(EndingTest, endLeavesAllNestedHandlersWithStatusZero)
 {
     panel.atChange = [this] { panel.BtnFin.Value = true; };
     user.type(panel.TxtA, "ab");
@@ -109,7 +109,7 @@ TEST_F(EndingTest, EndLeavesAllNestedHandlersWithStatusZero)
     EXPECT_EQ(world.endings, std::vector<int>{0});
 }
 
-TEST_F(EndingTest, NothingHappensAfterTheEnd)
+TEST_F(EndingTest, nothingHappensAfterTheEnd)
 {
     desk.close();
     EXPECT_TRUE(user.click(panel.BtnBoite).has_value());
@@ -121,7 +121,7 @@ TEST_F(EndingTest, NothingHappensAfterTheEnd)
     EXPECT_EQ(world.endings, std::vector<int>{0});
 }
 
-TEST_F(EndingTest, ABoxTellsItsPromptButtonsAndTitleAndGivesTheAnswer)
+TEST_F(EndingTest, aBoxTellsItsPromptButtonsAndTitleAndGivesTheAnswer)
 {
     world.onBox = [](const MessageBox&) { return Answer::No; };
     EXPECT_EQ(panel.ask("Encore\tun ?\nVraiment ?", 4, "Titre"), Answer::No);
@@ -130,14 +130,14 @@ TEST_F(EndingTest, ABoxTellsItsPromptButtonsAndTitleAndGivesTheAnswer)
     EXPECT_EQ(world.boxes.back().title, "Titre");
 }
 
-TEST_F(EndingTest, ABoxWithOneButtonBearsTheTitleOfTheApplication)
+TEST_F(EndingTest, aBoxWithOneButtonBearsTheTitleOfTheApplication)
 {
     user.click(panel.BtnBoite);
     EXPECT_EQ(world.boxes.back().buttons, 0);
     EXPECT_EQ(world.boxes.back().title, "Ondelis");
 }
 
-TEST_F(EndingTest, ABoxHoldsTheHandlerUntilItIsAnswered)
+TEST_F(EndingTest, aBoxHoldsTheHandlerUntilItIsAnswered)
 {
     world.onBox = [this](const MessageBox&) {
         EXPECT_TRUE(panel.log.empty());
@@ -147,7 +147,7 @@ TEST_F(EndingTest, ABoxHoldsTheHandlerUntilItIsAnswered)
     EXPECT_EQ(panel.log, Log{"after the box"});
 }
 
-TEST_F(EndingTest, ClosingTheProgramWhileABoxIsOpenLeavesTheHandlers)
+TEST_F(EndingTest, closingTheProgramWhileABoxIsOpenLeavesTheHandlers)
 {
     panel.atChange = [this] { panel.BtnBoite.Value = true; };
     world.onBox = [this](const MessageBox&) {
@@ -160,7 +160,7 @@ TEST_F(EndingTest, ClosingTheProgramWhileABoxIsOpenLeavesTheHandlers)
     EXPECT_EQ(world.fault, std::nullopt);
 }
 
-TEST_F(EndingTest, ClosingThePanelWhileABoxIsOpenLeavesItsHandlers)
+TEST_F(EndingTest, closingThePanelWhileABoxIsOpenLeavesItsHandlers)
 {
     panel.atChange = [this] { panel.BtnBoite.Value = true; };
     world.onBox = [this](const MessageBox&) {
@@ -175,7 +175,7 @@ TEST_F(EndingTest, ClosingThePanelWhileABoxIsOpenLeavesItsHandlers)
     EXPECT_EQ(panel.TxtA.Text, "");
 }
 
-TEST_F(EndingTest, ClosingThePanelWhileAKeyIsSeenLetsNoCharacterLand)
+TEST_F(EndingTest, closingThePanelWhileAKeyIsSeenLetsNoCharacterLand)
 {
     panel.boxAtKey = true;
     world.onBox = [this](const MessageBox&) {
@@ -187,7 +187,7 @@ TEST_F(EndingTest, ClosingThePanelWhileAKeyIsSeenLetsNoCharacterLand)
     EXPECT_EQ(world.boxes.size(), 1U);
 }
 
-TEST_F(EndingTest, AHandlerOfAnEarlierLoadingDoesNotGoOnInALaterOne)
+TEST_F(EndingTest, aHandlerOfAnEarlierLoadingDoesNotGoOnInALaterOne)
 {
     world.onPending = [this] {
         panel.Unload();
@@ -198,7 +198,7 @@ TEST_F(EndingTest, AHandlerOfAnEarlierLoadingDoesNotGoOnInALaterOne)
     EXPECT_TRUE(panel.visible());
 }
 
-TEST_F(EndingTest, PendingEventsRunWithinTheHandler)
+TEST_F(EndingTest, pendingEventsRunWithinTheHandler)
 {
     bool once = false;
     world.onPending = [&] {
@@ -210,7 +210,7 @@ TEST_F(EndingTest, PendingEventsRunWithinTheHandler)
     EXPECT_EQ(panel.log, (Log{"pending", "after the events", "pending", "after the events"}));
 }
 
-TEST_F(EndingTest, AFaultOfAPendingEventLeavesTheWaitingHandlersToo)
+TEST_F(EndingTest, aFaultOfAPendingEventLeavesTheWaitingHandlersToo)
 {
     panel.atChange = [this] { panel.BtnAttente.Value = true; };
     world.onPending = [this] { user.click(panel.BtnFaute); };
@@ -220,7 +220,7 @@ TEST_F(EndingTest, AFaultOfAPendingEventLeavesTheWaitingHandlersToo)
     EXPECT_EQ(world.endings, std::vector<int>{1});
 }
 
-TEST_F(EndingTest, AnEndOfAPendingEventLeavesTheWaitingHandlersToo)
+TEST_F(EndingTest, anEndOfAPendingEventLeavesTheWaitingHandlersToo)
 {
     world.onPending = [this] { user.click(panel.BtnFin); };
     user.click(panel.BtnAttente);
@@ -228,7 +228,7 @@ TEST_F(EndingTest, AnEndOfAPendingEventLeavesTheWaitingHandlersToo)
     EXPECT_EQ(world.endings, std::vector<int>{0});
 }
 
-TEST_F(EndingTest, ClosingThePanelTwoLoopsDeepLeavesBothHandlers)
+TEST_F(EndingTest, closingThePanelTwoLoopsDeepLeavesBothHandlers)
 {
     int depth = 0;
     world.onPending = [&] {
@@ -243,7 +243,7 @@ TEST_F(EndingTest, ClosingThePanelTwoLoopsDeepLeavesBothHandlers)
     EXPECT_FALSE(panel.loaded());
 }
 
-TEST_F(EndingTest, APanelOpenedByAPendingEventLoadsWholeThoughTheWaitingOneIsGone)
+TEST_F(EndingTest, aPanelOpenedByAPendingEventLoadsWholeThoughTheWaitingOneIsGone)
 {
     world.onPending = [this] {
         desk.perform([this] {
@@ -257,7 +257,7 @@ TEST_F(EndingTest, APanelOpenedByAPendingEventLoadsWholeThoughTheWaitingOneIsGon
     EXPECT_EQ(desk.get<Bavarde>().TxtA.Text, "chargée");
 }
 
-TEST_F(EndingTest, ClosingTheProgramWhileAPanelLoadsLeavesItsFormLoad)
+TEST_F(EndingTest, closingTheProgramWhileAPanelLoadsLeavesItsFormLoad)
 {
     world.onBox = [this](const MessageBox&) {
         desk.close();
@@ -268,7 +268,7 @@ TEST_F(EndingTest, ClosingTheProgramWhileAPanelLoadsLeavesItsFormLoad)
     EXPECT_FALSE(desk.get<Bavarde>().visible());
 }
 
-TEST_F(EndingTest, APanelThatLoadsCannotBeClosedYet)
+TEST_F(EndingTest, aPanelThatLoadsCannotBeClosedYet)
 {
     world.onBox = [this](const MessageBox&) {
         EXPECT_TRUE(user.close(desk.get<Bavarde>()).has_value());
@@ -278,7 +278,7 @@ TEST_F(EndingTest, APanelThatLoadsCannotBeClosedYet)
     EXPECT_TRUE(desk.get<Bavarde>().visible());
 }
 
-TEST_F(EndingTest, NothingCanBeDoneWhileTheFaultIsRead)
+TEST_F(EndingTest, nothingCanBeDoneWhileTheFaultIsRead)
 {
     world.onFault = [this] {
         EXPECT_TRUE(user.click(panel.BtnBoite).has_value());
@@ -289,7 +289,7 @@ TEST_F(EndingTest, NothingCanBeDoneWhileTheFaultIsRead)
     EXPECT_EQ(world.endings, std::vector<int>{1});
 }
 
-TEST_F(EndingTest, AfterTheHandlersAreLeftTheNextActionIsAsEver)
+TEST_F(EndingTest, afterTheHandlersAreLeftTheNextActionIsAsEver)
 {
     world.onBox = [this](const MessageBox&) {
         user.close(panel);

@@ -30,7 +30,7 @@ protected:
     Listes& panel = desk.get<Listes>();
 };
 
-TEST_F(ListBoxTest, OpensWithItsDesignItemsAndNoChosenRow)
+TEST_F(ListBoxTest, opensWithItsDesignItemsAndNoChosenRow)
 {
     EXPECT_EQ(panel.LstUnite.ListCount(), 3);
     EXPECT_EQ(panel.LstUnite.ListIndex, -1);
@@ -38,7 +38,7 @@ TEST_F(ListBoxTest, OpensWithItsDesignItemsAndNoChosenRow)
     EXPECT_EQ(panel.LstVide.ListCount(), 0);
 }
 
-TEST_F(ListBoxTest, RaisesClickForAnotherRowOnly)
+TEST_F(ListBoxTest, raisesClickForAnotherRowOnly)
 {
     panel.LstUnite.ListIndex = 1;
     panel.LstUnite.ListIndex = 1;
@@ -46,14 +46,14 @@ TEST_F(ListBoxTest, RaisesClickForAnotherRowOnly)
     EXPECT_EQ(panel.log, (Log{"unité nF", "unité µF"}));
 }
 
-TEST_F(ListBoxTest, RaisesClickWhenTheChoiceIsTakenBack)
+TEST_F(ListBoxTest, raisesClickWhenTheChoiceIsTakenBack)
 {
     panel.LstUnite.ListIndex = 2;
     panel.LstUnite.ListIndex = -1;
     EXPECT_EQ(panel.log, (Log{"unité pF", "unité "}));
 }
 
-TEST_F(ListBoxTest, FaultsOnARowBeyondTheList)
+TEST_F(ListBoxTest, faultsOnARowBeyondTheList)
 {
     EXPECT_EQ(faultOf([&] { panel.LstUnite.ListIndex = 3; }), FaultKind::InvalidPropertyValue);
     EXPECT_EQ(faultOf([&] { panel.LstUnite.ListIndex = -2; }), FaultKind::InvalidPropertyValue);
@@ -62,7 +62,7 @@ TEST_F(ListBoxTest, FaultsOnARowBeyondTheList)
     EXPECT_TRUE(panel.log.empty());
 }
 
-TEST_F(ListBoxTest, RaisesNothingForAddItem)
+TEST_F(ListBoxTest, raisesNothingForAddItem)
 {
     panel.LstVide.AddItem("un");
     panel.LstVide.AddItem("");
@@ -72,14 +72,14 @@ TEST_F(ListBoxTest, RaisesNothingForAddItem)
     EXPECT_TRUE(panel.log.empty());
 }
 
-TEST_F(ListBoxTest, KeepsTheChosenRowWhenRowsAreAdded)
+TEST_F(ListBoxTest, keepsTheChosenRowWhenRowsAreAdded)
 {
     panel.LstUnite.ListIndex = 1;
     panel.LstUnite.AddItem("fF");
     EXPECT_EQ(panel.LstUnite.Text, "nF");
 }
 
-TEST_F(ListBoxTest, RaisesNothingForClearAndHasNoChoiceThen)
+TEST_F(ListBoxTest, raisesNothingForClearAndHasNoChoiceThen)
 {
     panel.LstUnite.ListIndex = 1;
     panel.log.clear();
@@ -90,7 +90,7 @@ TEST_F(ListBoxTest, RaisesNothingForClearAndHasNoChoiceThen)
     EXPECT_TRUE(panel.log.empty());
 }
 
-TEST_F(ListBoxTest, RaisesClickForTheOldRowNumberAfterClear)
+TEST_F(ListBoxTest, raisesClickForTheOldRowNumberAfterClear)
 {
     panel.LstUnite.ListIndex = 1;
     panel.LstUnite.Clear();
@@ -101,7 +101,7 @@ TEST_F(ListBoxTest, RaisesClickForTheOldRowNumberAfterClear)
     EXPECT_EQ(panel.log, Log{"unité b"});
 }
 
-TEST_F(ListBoxTest, GivesTheTextsOfItsRows)
+TEST_F(ListBoxTest, givesTheTextsOfItsRows)
 {
     EXPECT_EQ(panel.LstUnite.List(2), "pF");
     panel.LstUnite.ListIndex = 2;
@@ -110,13 +110,13 @@ TEST_F(ListBoxTest, GivesTheTextsOfItsRows)
     EXPECT_EQ(panel.LstUnite.List(panel.LstUnite.ListIndex), "pF");
 }
 
-TEST_F(ListBoxTest, GivesNoTextWhereThereIsNoRow)
+TEST_F(ListBoxTest, givesNoTextWhereThereIsNoRow)
 {
     EXPECT_EQ(panel.LstUnite.List(-1), "");
     EXPECT_EQ(panel.LstUnite.List(3), "");
 }
 
-TEST_F(ListBoxTest, HasItsDesignItemsAgainAfterUnload)
+TEST_F(ListBoxTest, hasItsDesignItemsAgainAfterUnload)
 {
     panel.LstUnite.AddItem("fF");
     panel.LstUnite.ListIndex = 3;
@@ -125,14 +125,14 @@ TEST_F(ListBoxTest, HasItsDesignItemsAgainAfterUnload)
     EXPECT_EQ(panel.LstUnite.ListIndex, -1);
 }
 
-TEST_F(ListBoxTest, RaisesNothingWhenTheUserClicksTheChosenRow)
+TEST_F(ListBoxTest, raisesNothingWhenTheUserClicksTheChosenRow)
 {
     EXPECT_EQ(user.choose(panel.LstUnite, 1), User::Refusal{});
     EXPECT_EQ(user.choose(panel.LstUnite, 1), User::Refusal{});
     EXPECT_EQ(panel.log, Log{"unité nF"});
 }
 
-TEST_F(ListBoxTest, RaisesClickForTheChosenRowWhereTheDesignSaysSo)
+TEST_F(ListBoxTest, raisesClickForTheChosenRowWhereTheDesignSaysSo)
 {
     user.choose(panel.LstTete, 1);
     user.choose(panel.LstTete, 1);
@@ -140,7 +140,7 @@ TEST_F(ListBoxTest, RaisesClickForTheChosenRowWhereTheDesignSaysSo)
     EXPECT_EQ(panel.log, (Log{"clavier", "tête", "tête"}));
 }
 
-TEST_F(ListBoxTest, RaisesGotFocusOnlyWhenItDidNotHaveTheKeyboard)
+TEST_F(ListBoxTest, raisesGotFocusOnlyWhenItDidNotHaveTheKeyboard)
 {
     user.focus(panel.LstTete);
     user.focus(panel.LstTete);
@@ -150,13 +150,13 @@ TEST_F(ListBoxTest, RaisesGotFocusOnlyWhenItDidNotHaveTheKeyboard)
     EXPECT_EQ(panel.log, (Log{"clavier", "unité µF", "clavier", "tête"}));
 }
 
-TEST_F(ListBoxTest, RaisesNoGotFocusForAStoreFromCode)
+TEST_F(ListBoxTest, raisesNoGotFocusForAStoreFromCode)
 {
     panel.LstTete.ListIndex = 1;
     EXPECT_EQ(panel.log, Log{"tête"});
 }
 
-TEST_F(ListBoxTest, RaisesGotFocusAgainAfterAnUnload)
+TEST_F(ListBoxTest, raisesGotFocusAgainAfterAnUnload)
 {
     user.focus(panel.LstTete);
     panel.Unload();
@@ -165,7 +165,7 @@ TEST_F(ListBoxTest, RaisesGotFocusAgainAfterAnUnload)
     EXPECT_EQ(panel.log, (Log{"clavier", "clavier"}));
 }
 
-TEST_F(ListBoxTest, RefusesTheUserARowThatIsNotThere)
+TEST_F(ListBoxTest, refusesTheUserARowThatIsNotThere)
 {
     EXPECT_TRUE(user.choose(panel.LstUnite, 3).has_value());
     EXPECT_TRUE(user.choose(panel.LstUnite, -1).has_value());

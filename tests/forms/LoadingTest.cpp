@@ -61,7 +61,7 @@ protected:
     }
 };
 
-TEST_F(LoadingTest, TheFirstReferenceMakesThePanelAndLoadsNothing)
+TEST_F(LoadingTest, theFirstReferenceMakesThePanelAndLoadsNothing)
 {
     EXPECT_FALSE(panel.loaded());
     EXPECT_FALSE(panel.visible());
@@ -70,12 +70,12 @@ TEST_F(LoadingTest, TheFirstReferenceMakesThePanelAndLoadsNothing)
     EXPECT_TRUE(desk.loadedPanels().empty());
 }
 
-TEST_F(LoadingTest, ThereIsOneInstanceOfAPanel)
+TEST_F(LoadingTest, thereIsOneInstanceOfAPanel)
 {
     EXPECT_EQ(&desk.get<Fiche>(), &panel);
 }
 
-TEST_F(LoadingTest, ShowLoadsOnceAndMakesVisible)
+TEST_F(LoadingTest, showLoadsOnceAndMakesVisible)
 {
     panel.Show();
     panel.Show();
@@ -83,33 +83,33 @@ TEST_F(LoadingTest, ShowLoadsOnceAndMakesVisible)
     EXPECT_EQ(world.log, (Log{"loaded Fiche", "changed Fiche", "raised Fiche", "raised Fiche"}));
 }
 
-TEST_F(LoadingTest, ReadingATextLoadsAndShows)
+TEST_F(LoadingTest, readingATextLoadsAndShows)
 {
     EXPECT_EQ(panel.TxtC.Text, "vide");
     expectLoadedAndVisible();
 }
 
-TEST_F(LoadingTest, StoringATextLoadsAndShows)
+TEST_F(LoadingTest, storingATextLoadsAndShows)
 {
     panel.TxtC.Text = "x";
     expectLoadedAndVisible();
     EXPECT_EQ(panel.changes, 1);
 }
 
-TEST_F(LoadingTest, ReadingAPositionLoadsAndShows)
+TEST_F(LoadingTest, readingAPositionLoadsAndShows)
 {
     EXPECT_EQ(Double{panel.Left}, 0);
     expectLoadedAndVisible();
 }
 
-TEST_F(LoadingTest, StoringASizeLoadsAndShows)
+TEST_F(LoadingTest, storingASizeLoadsAndShows)
 {
     panel.Width = 7000;
     expectLoadedAndVisible();
     EXPECT_EQ(Double{panel.Width}, 7000);
 }
 
-TEST_F(LoadingTest, StoringTheCaptionLoadsAndShows)
+TEST_F(LoadingTest, storingTheCaptionLoadsAndShows)
 {
     panel.Caption = "x";
     expectLoadedAndVisible();
@@ -130,7 +130,7 @@ const std::vector<std::function<void(Fiche&)>> references{
     [](Fiche& panel) { panel.LblC.Caption = "c"; },
 };
 
-TEST_F(LoadingTest, EveryMemberOfAControlLoads)
+TEST_F(LoadingTest, everyMemberOfAControlLoads)
 {
     for (const auto& refer : references) {
         refer(panel);
@@ -140,7 +140,7 @@ TEST_F(LoadingTest, EveryMemberOfAControlLoads)
     EXPECT_EQ(panel.loads, static_cast<int>(references.size()));
 }
 
-TEST_F(LoadingTest, HideOnAPanelNeverLoadedLoadsItAndLeavesItHidden)
+TEST_F(LoadingTest, hideOnAPanelNeverLoadedLoadsItAndLeavesItHidden)
 {
     panel.Hide();
     EXPECT_TRUE(panel.loaded());
@@ -148,7 +148,7 @@ TEST_F(LoadingTest, HideOnAPanelNeverLoadedLoadsItAndLeavesItHidden)
     EXPECT_EQ(panel.loads, 1);
 }
 
-TEST_F(LoadingTest, AHiddenPanelKeepsItsControlsAndStaysHiddenWhenReferredTo)
+TEST_F(LoadingTest, aHiddenPanelKeepsItsControlsAndStaysHiddenWhenReferredTo)
 {
     panel.TxtC.Text = "x";
     panel.Hide();
@@ -161,7 +161,7 @@ TEST_F(LoadingTest, AHiddenPanelKeepsItsControlsAndStaysHiddenWhenReferredTo)
     EXPECT_EQ(panel.loads, 1);
 }
 
-TEST_F(LoadingTest, HideInFormLoadLeavesThePanelHiddenAfterAReference)
+TEST_F(LoadingTest, hideInFormLoadLeavesThePanelHiddenAfterAReference)
 {
     panel.atLoad = [](Fiche& me) { me.Hide(); };
     panel.Top = 100;
@@ -169,7 +169,7 @@ TEST_F(LoadingTest, HideInFormLoadLeavesThePanelHiddenAfterAReference)
     EXPECT_FALSE(panel.visible());
 }
 
-TEST_F(LoadingTest, ShowAfterHideInFormLoadShows)
+TEST_F(LoadingTest, showAfterHideInFormLoadShows)
 {
     panel.atLoad = [](Fiche& me) {
         me.Hide();
@@ -179,21 +179,21 @@ TEST_F(LoadingTest, ShowAfterHideInFormLoadShows)
     EXPECT_TRUE(panel.visible());
 }
 
-TEST_F(LoadingTest, ShowBringsOnScreenAPanelThatHidesInFormLoad)
+TEST_F(LoadingTest, showBringsOnScreenAPanelThatHidesInFormLoad)
 {
     panel.atLoad = [](Fiche& me) { me.Hide(); };
     panel.Show();
     EXPECT_TRUE(panel.visible());
 }
 
-TEST_F(LoadingTest, HideHidesAPanelThatShowsInFormLoad)
+TEST_F(LoadingTest, hideHidesAPanelThatShowsInFormLoad)
 {
     panel.atLoad = [](Fiche& me) { me.Show(); };
     panel.Hide();
     EXPECT_FALSE(panel.visible());
 }
 
-TEST_F(LoadingTest, AHideOfAnEarlierLoadingIsForgotten)
+TEST_F(LoadingTest, aHideOfAnEarlierLoadingIsForgotten)
 {
     panel.Hide();
     panel.Unload();
@@ -201,7 +201,7 @@ TEST_F(LoadingTest, AHideOfAnEarlierLoadingIsForgotten)
     EXPECT_TRUE(panel.visible());
 }
 
-TEST_F(LoadingTest, TheControlsHaveTheirDesignValuesWhenFormLoadRuns)
+TEST_F(LoadingTest, theControlsHaveTheirDesignValuesWhenFormLoadRuns)
 {
     std::string text;
     panel.atLoad = [&](Fiche& me) { text = me.TxtC.Text; };
@@ -209,21 +209,21 @@ TEST_F(LoadingTest, TheControlsHaveTheirDesignValuesWhenFormLoadRuns)
     EXPECT_EQ(text, "vide");
 }
 
-TEST_F(LoadingTest, ThePanelIsNotOnScreenWhileFormLoadRuns)
+TEST_F(LoadingTest, thePanelIsNotOnScreenWhileFormLoadRuns)
 {
     panel.atLoad = [](Fiche& me) { me.OptC.Value = true; };
     panel.Show();
     EXPECT_FALSE(panel.visibleAtClick);
 }
 
-TEST_F(LoadingTest, AReferenceInFormLoadToThePanelItselfLoadsNothingTwice)
+TEST_F(LoadingTest, aReferenceInFormLoadToThePanelItselfLoadsNothingTwice)
 {
     panel.atLoad = [](Fiche& me) { me.Width = me.Width + me.Left; };
     panel.Show();
     EXPECT_EQ(panel.loads, 1);
 }
 
-TEST_F(LoadingTest, UnloadDropsTheControlsAndKeepsTheVariables)
+TEST_F(LoadingTest, unloadDropsTheControlsAndKeepsTheVariables)
 {
     panel.TxtC.Text = "12";
     panel.TxtC.BackColor = 0xC0E0FF;
@@ -243,7 +243,7 @@ TEST_F(LoadingTest, UnloadDropsTheControlsAndKeepsTheVariables)
     EXPECT_EQ(panel.Capacite, "12");
 }
 
-TEST_F(LoadingTest, UnloadOfAPanelThatIsNotLoadedHasNoEffect)
+TEST_F(LoadingTest, unloadOfAPanelThatIsNotLoadedHasNoEffect)
 {
     panel.Unload();
     desk.Unload<Fiche>();
@@ -257,14 +257,14 @@ TEST_F(LoadingTest, UnloadOfAPanelThatIsNotLoadedHasNoEffect)
     EXPECT_TRUE(world.log.empty());
 }
 
-TEST_F(LoadingTest, UnloadRaisesNoChange)
+TEST_F(LoadingTest, unloadRaisesNoChange)
 {
     panel.TxtC.Text = "12";
     panel.Unload();
     EXPECT_EQ(panel.changes, 1);
 }
 
-TEST_F(LoadingTest, UnloadTakesTheKeyboardAway)
+TEST_F(LoadingTest, unloadTakesTheKeyboardAway)
 {
     panel.TxtC.SetFocus();
     EXPECT_EQ(desk.focused(), &panel.TxtC);
@@ -272,7 +272,7 @@ TEST_F(LoadingTest, UnloadTakesTheKeyboardAway)
     EXPECT_EQ(desk.focused(), nullptr);
 }
 
-TEST_F(LoadingTest, UnloadOfAnotherPanelLeavesTheKeyboardWhereItIs)
+TEST_F(LoadingTest, unloadOfAnotherPanelLeavesTheKeyboardWhereItIs)
 {
     desk.get<Compagne>().Show();
     panel.TxtC.SetFocus();
@@ -280,7 +280,7 @@ TEST_F(LoadingTest, UnloadOfAnotherPanelLeavesTheKeyboardWhereItIs)
     EXPECT_EQ(desk.focused(), &panel.TxtC);
 }
 
-TEST_F(LoadingTest, AStoreIntoAnotherPanelLoadsAndShowsIt)
+TEST_F(LoadingTest, aStoreIntoAnotherPanelLoadsAndShowsIt)
 {
     desk.get<Compagne>().Show();
     expectLoadedAndVisible();
@@ -288,7 +288,7 @@ TEST_F(LoadingTest, AStoreIntoAnotherPanelLoadsAndShowsIt)
     EXPECT_EQ(desk.loadedPanels(), (std::vector<FeuilleCalcul*>{&desk.get<Compagne>(), &panel}));
 }
 
-TEST_F(LoadingTest, TheCloseBoxUnloads)
+TEST_F(LoadingTest, theCloseBoxUnloads)
 {
     panel.TxtC.Text = "12";
     EXPECT_FALSE(user.close(panel).has_value());
@@ -297,21 +297,21 @@ TEST_F(LoadingTest, TheCloseBoxUnloads)
     EXPECT_TRUE(user.close(panel).has_value());
 }
 
-TEST_F(LoadingTest, ThereIsNoCloseBoxOnAHiddenPanel)
+TEST_F(LoadingTest, thereIsNoCloseBoxOnAHiddenPanel)
 {
     panel.Hide();
     EXPECT_TRUE(user.close(panel).has_value());
     EXPECT_TRUE(panel.loaded());
 }
 
-TEST_F(LoadingTest, SetFocusOnAHiddenFieldIsAFault)
+TEST_F(LoadingTest, setFocusOnAHiddenFieldIsAFault)
 {
     panel.TxtC.Visible = false;
     EXPECT_EQ(faultOf([&] { panel.TxtC.SetFocus(); }), FaultKind::InvalidArgument);
     EXPECT_EQ(desk.focused(), nullptr);
 }
 
-TEST_F(LoadingTest, AControlIsFoundByItsName)
+TEST_F(LoadingTest, aControlIsFoundByItsName)
 {
     EXPECT_EQ(panel.find("TxtC"), &panel.TxtC);
     EXPECT_EQ(panel.find("TxtD"), nullptr);

@@ -24,7 +24,7 @@ protected:
     Masque& panel = desk.get<Masque>();
 };
 
-TEST_F(MaskEdBoxTest, ShowsANumberInExponentFormWithThreeDecimals)
+TEST_F(MaskEdBoxTest, showsANumberInExponentFormWithThreeDecimals)
 {
     EXPECT_EQ(panel.shown("0.12"), "1.200E-01");
     EXPECT_EQ(panel.shown("1.24"), "1.240E+00");
@@ -34,20 +34,20 @@ TEST_F(MaskEdBoxTest, ShowsANumberInExponentFormWithThreeDecimals)
     EXPECT_EQ(panel.shown("1234.5"), "1.235E+03");
 }
 
-TEST_F(MaskEdBoxTest, KeepsItsTextAsItIs)
+TEST_F(MaskEdBoxTest, keepsItsTextAsItIs)
 {
     panel.MebIp.Text = "0.12";
     EXPECT_EQ(panel.MebIp.Text, "0.12");
 }
 
-TEST_F(MaskEdBoxTest, FollowsTheRegion)
+TEST_F(MaskEdBoxTest, followsTheRegion)
 {
     const ScopedRegion comma{{.decimal = ",", .thousands = "."}};
     EXPECT_EQ(panel.shown("0,12"), "1,200E-01");
     EXPECT_EQ(panel.shown("1240,5"), "1,241E+03");
 }
 
-TEST_F(MaskEdBoxTest, ShowsWhatIsNoNumberAsItIs)
+TEST_F(MaskEdBoxTest, showsWhatIsNoNumberAsItIs)
 {
     EXPECT_EQ(panel.shown(""), "");
     EXPECT_EQ(panel.shown("douze"), "douze");

@@ -50,7 +50,7 @@ private:
 
 class ResumeNextTest : public DeskTest { };
 
-TEST_F(ResumeNextTest, AFaultEndsItsStatementAndTheNextOneRuns)
+TEST_F(ResumeNextTest, aFaultEndsItsStatementAndTheNextOneRuns)
 {
     auto& panel = desk.get<Defauts>();
     desk.perform([&] { panel.Show(); });
@@ -59,7 +59,7 @@ TEST_F(ResumeNextTest, AFaultEndsItsStatementAndTheNextOneRuns)
     EXPECT_FALSE(desk.ended());
 }
 
-TEST_F(ResumeNextTest, StoresBeforeTheFaultStand)
+TEST_F(ResumeNextTest, storesBeforeTheFaultStand)
 {
     auto& panel = desk.get<Defauts>();
     panel.Show();
@@ -69,7 +69,7 @@ TEST_F(ResumeNextTest, StoresBeforeTheFaultStand)
     EXPECT_TRUE(panel.visible());
 }
 
-TEST_F(ResumeNextTest, TheSameFaultAfterFormLoadEndsTheProgram)
+TEST_F(ResumeNextTest, theSameFaultAfterFormLoadEndsTheProgram)
 {
     auto& panel = desk.get<Defauts>();
     panel.Show();
@@ -78,7 +78,7 @@ TEST_F(ResumeNextTest, TheSameFaultAfterFormLoadEndsTheProgram)
     EXPECT_EQ(world.endings, std::vector<int>{1});
 }
 
-TEST_F(ResumeNextTest, AnEndInsideAStatementIsNotPassedOver)
+TEST_F(ResumeNextTest, anEndInsideAStatementIsNotPassedOver)
 {
     auto& panel = desk.get<Defauts>();
     panel.endInside = true;

@@ -32,21 +32,21 @@ protected:
     Barres& panel = desk.get<Barres>();
 };
 
-TEST_F(ScrollBarTest, RaisesChangeForANewValueOnly)
+TEST_F(ScrollBarTest, raisesChangeForANewValueOnly)
 {
     panel.HscrFreq.Value = 60;
     panel.HscrFreq.Value = 60;
     EXPECT_EQ(panel.log, Log{"freq 60"});
 }
 
-TEST_F(ScrollBarTest, TakesItsLimits)
+TEST_F(ScrollBarTest, takesItsLimits)
 {
     panel.HscrFreq.Value = 10;
     panel.HscrFreq.Value = 100;
     EXPECT_EQ(panel.log, (Log{"freq 10", "freq 100"}));
 }
 
-TEST_F(ScrollBarTest, FaultsOnAValueOutsideItsLimits)
+TEST_F(ScrollBarTest, faultsOnAValueOutsideItsLimits)
 {
     EXPECT_EQ(faultOf([&] { panel.HscrFreq.Value = 101; }), FaultKind::InvalidPropertyValue);
     EXPECT_EQ(faultOf([&] { panel.HscrFreq.Value = 9; }), FaultKind::InvalidPropertyValue);
@@ -54,7 +54,7 @@ TEST_F(ScrollBarTest, FaultsOnAValueOutsideItsLimits)
     EXPECT_TRUE(panel.log.empty());
 }
 
-TEST_F(ScrollBarTest, AllowsWhatLiesBetweenReversedLimits)
+TEST_F(ScrollBarTest, allowsWhatLiesBetweenReversedLimits)
 {
     panel.VScrollPot.Value = 100;
     panel.VScrollPot.Value = 0;
@@ -63,7 +63,7 @@ TEST_F(ScrollBarTest, AllowsWhatLiesBetweenReversedLimits)
     EXPECT_EQ(faultOf([&] { panel.VScrollPot.Value = -1; }), FaultKind::InvalidPropertyValue);
 }
 
-TEST_F(ScrollBarTest, FollowsALimitThatLeavesItsValueOutside)
+TEST_F(ScrollBarTest, followsALimitThatLeavesItsValueOutside)
 {
     panel.HscrFreq.Max = 40;
     EXPECT_EQ(panel.HscrFreq.Value, 40);
@@ -72,7 +72,7 @@ TEST_F(ScrollBarTest, FollowsALimitThatLeavesItsValueOutside)
     EXPECT_EQ(panel.log, (Log{"freq 40", "freq 150"}));
 }
 
-TEST_F(ScrollBarTest, StaysWhereALimitLeavesItInside)
+TEST_F(ScrollBarTest, staysWhereALimitLeavesItInside)
 {
     panel.HscrFreq.Max = 50;
     panel.HscrFreq.Min = 50;
@@ -80,7 +80,7 @@ TEST_F(ScrollBarTest, StaysWhereALimitLeavesItInside)
     EXPECT_TRUE(panel.log.empty());
 }
 
-TEST_F(ScrollBarTest, FollowsTheNearestOfReversedLimits)
+TEST_F(ScrollBarTest, followsTheNearestOfReversedLimits)
 {
     panel.VScrollPot.Min = 20;
     EXPECT_EQ(panel.VScrollPot.Value, 20);
@@ -89,7 +89,7 @@ TEST_F(ScrollBarTest, FollowsTheNearestOfReversedLimits)
     EXPECT_EQ(panel.log, (Log{"pot 20", "pot 60"}));
 }
 
-TEST_F(ScrollBarTest, StaysWhenALimitPassesTheOtherOneAndTheValueIsBetween)
+TEST_F(ScrollBarTest, staysWhenALimitPassesTheOtherOneAndTheValueIsBetween)
 {
     panel.HscrFreq.Min = 300; // 300 down to 100: the nearest limit to 50 is 100
     EXPECT_EQ(panel.HscrFreq.Value, 100);
@@ -98,7 +98,7 @@ TEST_F(ScrollBarTest, StaysWhenALimitPassesTheOtherOneAndTheValueIsBetween)
     EXPECT_EQ(panel.log, Log{"freq 100"});
 }
 
-TEST_F(ScrollBarTest, MirrorsAFieldUntilNothingChanges)
+TEST_F(ScrollBarTest, mirrorsAFieldUntilNothingChanges)
 {
     user.replace(panel.TxtFreq, "70.4");
     EXPECT_EQ(panel.HscrFreq.Value, 70);
@@ -106,13 +106,13 @@ TEST_F(ScrollBarTest, MirrorsAFieldUntilNothingChanges)
     EXPECT_EQ(panel.log, Log{"freq 70"});
 }
 
-TEST_F(ScrollBarTest, EndsTheProgramWhenAFieldDrivesItOutside)
+TEST_F(ScrollBarTest, endsTheProgramWhenAFieldDrivesItOutside)
 {
     user.replace(panel.TxtFreq, "500");
     EXPECT_EQ(world.fault, FaultKind::InvalidPropertyValue);
 }
 
-TEST_F(ScrollBarTest, RefusesTheUserAValueOutside)
+TEST_F(ScrollBarTest, refusesTheUserAValueOutside)
 {
     EXPECT_TRUE(user.move(panel.HscrFreq, 101).has_value());
     EXPECT_TRUE(user.move(panel.HscrFreq, 100000).has_value());
@@ -122,7 +122,7 @@ TEST_F(ScrollBarTest, RefusesTheUserAValueOutside)
     EXPECT_EQ(desk.focused(), &panel.HscrFreq);
 }
 
-TEST_F(ScrollBarTest, HasItsDesignLimitsAgainAfterUnload)
+TEST_F(ScrollBarTest, hasItsDesignLimitsAgainAfterUnload)
 {
     panel.HscrFreq.Max = 20;
     panel.Unload();

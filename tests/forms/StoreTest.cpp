@@ -41,20 +41,20 @@ protected:
     Chaine& panel = desk.get<Chaine>();
 };
 
-TEST_F(StoreTest, RunsTheWholeNestedChainBeforeTheNextStatement)
+TEST_F(StoreTest, runsTheWholeNestedChainBeforeTheNextStatement)
 {
     panel.TxtA.Text = "x";
     EXPECT_EQ(panel.log, (Log{"A begins with x", "B begins", "C with de x", "B ends", "A ends"}));
 }
 
-TEST_F(StoreTest, OfTheSameTextTwiceRaisesOnce)
+TEST_F(StoreTest, ofTheSameTextTwiceRaisesOnce)
 {
     panel.TxtC.Text = "x";
     panel.TxtC.Text = "x";
     EXPECT_EQ(panel.log, Log{"C with x"});
 }
 
-TEST_F(StoreTest, WritesACaptionUntilThePanelIsLoadedAnew)
+TEST_F(StoreTest, writesACaptionUntilThePanelIsLoadedAnew)
 {
     panel.Show();
     EXPECT_FALSE(panel.LblA.written());
@@ -67,32 +67,32 @@ TEST_F(StoreTest, WritesACaptionUntilThePanelIsLoadedAnew)
     EXPECT_FALSE(panel.LblA.written());
 }
 
-TEST_F(StoreTest, OfTheDesignTextRaisesNothing)
+TEST_F(StoreTest, ofTheDesignTextRaisesNothing)
 {
     panel.TxtB.Text = "b";
     EXPECT_TRUE(panel.log.empty());
 }
 
-TEST_F(StoreTest, IntoALockedFieldIsNotRefused)
+TEST_F(StoreTest, intoALockedFieldIsNotRefused)
 {
     panel.TxtC.Text = "code";
     EXPECT_EQ(panel.TxtC.Text, "code");
 }
 
-TEST_F(StoreTest, WithNobodyListeningOnlyKeepsTheText)
+TEST_F(StoreTest, withNobodyListeningOnlyKeepsTheText)
 {
     panel.TxtSeul.Text = "x";
     EXPECT_EQ(panel.TxtSeul.Text, "x");
     EXPECT_TRUE(panel.log.empty());
 }
 
-TEST_F(StoreTest, OfOneFieldIntoAnotherRaisesLikeAnyOther)
+TEST_F(StoreTest, ofOneFieldIntoAnotherRaisesLikeAnyOther)
 {
     panel.TxtA.Text = panel.TxtB.Text;
     EXPECT_EQ(panel.log.front(), "A begins with b");
 }
 
-TEST_F(StoreTest, BetweenCaptionsAndTextsCopiesTheText)
+TEST_F(StoreTest, betweenCaptionsAndTextsCopiesTheText)
 {
     panel.LblA.Caption = panel.TxtB.Text;
     EXPECT_EQ(panel.LblA.Caption, "b");
@@ -101,7 +101,7 @@ TEST_F(StoreTest, BetweenCaptionsAndTextsCopiesTheText)
     EXPECT_EQ(panel.TxtSeul.Text, "légende");
 }
 
-TEST_F(StoreTest, BetweenPositionsCopiesTheValue)
+TEST_F(StoreTest, betweenPositionsCopiesTheValue)
 {
     panel.TxtA.Top = 1234;
     panel.LblA.Top = panel.TxtA.Top;
@@ -112,7 +112,7 @@ TEST_F(StoreTest, BetweenPositionsCopiesTheValue)
     EXPECT_EQ(Double{panel.Left}, 6000);
 }
 
-TEST_F(StoreTest, IntoItselfChangesNothing)
+TEST_F(StoreTest, intoItselfChangesNothing)
 {
     Chaine& same = panel;
     panel.TxtB.Text = same.TxtB.Text;
@@ -121,7 +121,7 @@ TEST_F(StoreTest, IntoItselfChangesNothing)
     EXPECT_TRUE(panel.log.empty());
 }
 
-TEST_F(StoreTest, RoundsAPositionToSingle)
+TEST_F(StoreTest, roundsAPositionToSingle)
 {
     panel.Trait.Y1 = 0.1;
     EXPECT_EQ(Double{panel.Trait.Y1}, static_cast<double>(0.1F));
@@ -129,13 +129,13 @@ TEST_F(StoreTest, RoundsAPositionToSingle)
     EXPECT_EQ(Double{panel.Top} + 1, 1 + static_cast<double>(1.0F / 3));
 }
 
-TEST_F(StoreTest, OfAPositionBeyondSingleIsAnOverflow)
+TEST_F(StoreTest, ofAPositionBeyondSingleIsAnOverflow)
 {
     EXPECT_EQ(faultOf([&] { panel.Trait.Y1 = 1e39; }), FaultKind::Overflow);
     EXPECT_EQ(Double{panel.Trait.Y1}, 0);
 }
 
-TEST_F(StoreTest, TellsTheViewBeforeTheHandlerRuns)
+TEST_F(StoreTest, tellsTheViewBeforeTheHandlerRuns)
 {
     panel.Show();
     world.log.clear();
@@ -143,7 +143,7 @@ TEST_F(StoreTest, TellsTheViewBeforeTheHandlerRuns)
     EXPECT_EQ(world.log, (Log{"control TxtB", "control TxtC"}));
 }
 
-TEST_F(StoreTest, TellsTheViewOnlyWhatIsNew)
+TEST_F(StoreTest, tellsTheViewOnlyWhatIsNew)
 {
     panel.Show();
     world.log.clear();
@@ -176,7 +176,7 @@ private:
     }
 };
 
-TEST_F(StoreTest, EndsAChainWhereNothingChanges)
+TEST_F(StoreTest, endsAChainWhereNothingChanges)
 {
     auto& recalcul = desk.get<Recalcul>();
     recalcul.TxtA.Text = "x";

@@ -53,31 +53,31 @@ protected:
     Saisie& panel = desk.get<Saisie>();
 };
 
-TEST_F(UserTest, EachKeyIsSeenBeforeItEntersTheField)
+TEST_F(UserTest, eachKeyIsSeenBeforeItEntersTheField)
 {
     user.type(panel.TxtA, "1,5");
     EXPECT_EQ(panel.log, (Log{"key 49", "text 1", "key 44", "text 1,", "key 53", "text 1,5"}));
 }
 
-TEST_F(UserTest, AnEmptyTextIsNoKeyAtAll)
+TEST_F(UserTest, anEmptyTextIsNoKeyAtAll)
 {
     EXPECT_FALSE(user.type(panel.TxtA, "").has_value());
     EXPECT_TRUE(panel.log.empty());
 }
 
-TEST_F(UserTest, ACharacterIsOneKeyHoweverManyBytesItHas)
+TEST_F(UserTest, aCharacterIsOneKeyHoweverManyBytesItHas)
 {
     user.type(panel.TxtA, "éΩ");
     EXPECT_EQ(panel.log, (Log{"key 233", "text é", "key 937", "text éΩ"}));
 }
 
-TEST_F(UserTest, AKeyBeyondTheRangeOfIntegerReadsAsAQuestionMark)
+TEST_F(UserTest, aKeyBeyondTheRangeOfIntegerReadsAsAQuestionMark)
 {
     user.type(panel.TxtA, "\U0001F4FB");
     EXPECT_EQ(panel.log, (Log{"key 63", "text \U0001F4FB"}));
 }
 
-TEST_F(UserTest, BackspaceTakesAWholeCharacter)
+TEST_F(UserTest, backspaceTakesAWholeCharacter)
 {
     user.type(panel.TxtA, "aé");
     panel.log.clear();
@@ -86,13 +86,13 @@ TEST_F(UserTest, BackspaceTakesAWholeCharacter)
     EXPECT_EQ(panel.log, (Log{"key 8", "text a", "key 8", "text "}));
 }
 
-TEST_F(UserTest, BackspaceInAnEmptyFieldIsAKeyOnly)
+TEST_F(UserTest, backspaceInAnEmptyFieldIsAKeyOnly)
 {
     user.backspace(panel.TxtA);
     EXPECT_EQ(panel.log, Log{"key 8"});
 }
 
-TEST_F(UserTest, BackspaceTakesNothingMoreWhereTheHandlerRewroteTheText)
+TEST_F(UserTest, backspaceTakesNothingMoreWhereTheHandlerRewroteTheText)
 {
     user.type(panel.TxtEfface, "12");
     user.backspace(panel.TxtEfface);
@@ -103,7 +103,7 @@ TEST_F(UserTest, BackspaceTakesNothingMoreWhereTheHandlerRewroteTheText)
     EXPECT_EQ(world.fault, FaultKind::InvalidArgument);
 }
 
-TEST_F(UserTest, ARewrittenTextStandsUnderBackspaceAndGoesOnUnderAKey)
+TEST_F(UserTest, aRewrittenTextStandsUnderBackspaceAndGoesOnUnderAKey)
 {
     user.replace(panel.TxtRemis, "7");
     user.backspace(panel.TxtRemis);
@@ -112,14 +112,14 @@ TEST_F(UserTest, ARewrittenTextStandsUnderBackspaceAndGoesOnUnderAKey)
     EXPECT_EQ(panel.TxtRemis.Text, "1005");
 }
 
-TEST_F(UserTest, AtMaxLengthTheKeyIsSeenAndNothingLands)
+TEST_F(UserTest, atMaxLengthTheKeyIsSeenAndNothingLands)
 {
     user.type(panel.TxtCourt, "éé12");
     EXPECT_EQ(panel.TxtCourt.Text, "éé1");
     EXPECT_EQ(panel.log, (Log{"key", "court é", "key", "court éé", "key", "court éé1", "key"}));
 }
 
-TEST_F(UserTest, MaxLengthCutsAPasteAndNotAStore)
+TEST_F(UserTest, maxLengthCutsAPasteAndNotAStore)
 {
     user.replace(panel.TxtCourt, "éééé");
     EXPECT_EQ(panel.TxtCourt.Text, "ééé");
@@ -131,7 +131,7 @@ TEST_F(UserTest, MaxLengthCutsAPasteAndNotAStore)
     EXPECT_EQ(panel.TxtCourt.Text, "long text");
 }
 
-TEST_F(UserTest, AnEditTakesCharactersOutOfALongTextAndCutsWhatItPutsIn)
+TEST_F(UserTest, anEditTakesCharactersOutOfALongTextAndCutsWhatItPutsIn)
 {
     struct Edit {
         const char* toCaret;
@@ -148,7 +148,7 @@ TEST_F(UserTest, AnEditTakesCharactersOutOfALongTextAndCutsWhatItPutsIn)
     }
 }
 
-TEST_F(UserTest, AFieldOfOneLineTakesTheFirstLineOfAPaste)
+TEST_F(UserTest, aFieldOfOneLineTakesTheFirstLineOfAPaste)
 {
     struct Paste {
         const char* text;
@@ -165,7 +165,7 @@ TEST_F(UserTest, AFieldOfOneLineTakesTheFirstLineOfAPaste)
     EXPECT_EQ(panel.TxtLignes.Text, "1\r\n2");
 }
 
-TEST_F(UserTest, AnEditPutsInTheFirstLineOnly)
+TEST_F(UserTest, anEditPutsInTheFirstLineOnly)
 {
     panel.TxtA.Text = "2";
     user.edit(panel.TxtA, "1\n2", ""); // over the whole of it
@@ -180,7 +180,7 @@ TEST_F(UserTest, AnEditPutsInTheFirstLineOnly)
     EXPECT_EQ(panel.TxtLignes.Text, "1\n2");
 }
 
-TEST_F(UserTest, ALineBreakThatCodeHasStoredStays)
+TEST_F(UserTest, aLineBreakThatCodeHasStoredStays)
 {
     panel.TxtA.Text = "un\ndeux";
     EXPECT_EQ(panel.TxtA.Text, "un\ndeux");
@@ -188,7 +188,7 @@ TEST_F(UserTest, ALineBreakThatCodeHasStoredStays)
     EXPECT_EQ(panel.TxtA.Text, "un\nxyeux");
 }
 
-TEST_F(UserTest, TheEnterKeyPutsNothingIntoAFieldOfOneLine)
+TEST_F(UserTest, theEnterKeyPutsNothingIntoAFieldOfOneLine)
 {
     user.type(panel.TxtA, "1\r\n2");
     EXPECT_EQ(panel.log, (Log{"key 49", "text 1", "key 50", "text 12"}));
@@ -196,7 +196,7 @@ TEST_F(UserTest, TheEnterKeyPutsNothingIntoAFieldOfOneLine)
     EXPECT_EQ(panel.TxtLignes.Text, "1\n2");
 }
 
-TEST_F(UserTest, NoKeyEntersAControlCharacter)
+TEST_F(UserTest, noKeyEntersAControlCharacter)
 {
     user.type(panel.TxtA, "1\t2\x01");
     EXPECT_EQ(panel.log, (Log{"key 49", "text 1", "key 50", "text 12"}));
@@ -204,7 +204,7 @@ TEST_F(UserTest, NoKeyEntersAControlCharacter)
     EXPECT_EQ(panel.TxtLignes.Text, "12");
 }
 
-TEST_F(UserTest, APasteIsOneChangeAndNoKey)
+TEST_F(UserTest, aPasteIsOneChangeAndNoKey)
 {
     user.replace(panel.TxtA, "14.1");
     user.replace(panel.TxtA, "14.1");
@@ -212,14 +212,14 @@ TEST_F(UserTest, APasteIsOneChangeAndNoKey)
     EXPECT_EQ(panel.log, (Log{"text 14.1", "text "}));
 }
 
-TEST_F(UserTest, TypingGoesOnWhereTheHandlerLeftTheField)
+TEST_F(UserTest, typingGoesOnWhereTheHandlerLeftTheField)
 {
     panel.hideAtChange = true;
     EXPECT_FALSE(user.type(panel.TxtA, "12").has_value());
     EXPECT_EQ(panel.TxtA.Text, "1");
 }
 
-TEST_F(UserTest, ALockedFieldRefusesKeysAndPastesButTakesTheKeyboard)
+TEST_F(UserTest, aLockedFieldRefusesKeysAndPastesButTakesTheKeyboard)
 {
     EXPECT_TRUE(user.type(panel.TxtRes, "2").has_value());
     EXPECT_TRUE(user.backspace(panel.TxtRes).has_value());
@@ -230,7 +230,7 @@ TEST_F(UserTest, ALockedFieldRefusesKeysAndPastesButTakesTheKeyboard)
     EXPECT_EQ(desk.focused(), &panel.TxtRes);
 }
 
-TEST_F(UserTest, AHiddenFieldRefusesEverything)
+TEST_F(UserTest, aHiddenFieldRefusesEverything)
 {
     panel.TxtA.Visible = false;
     EXPECT_TRUE(user.type(panel.TxtA, "2").has_value());
@@ -240,7 +240,7 @@ TEST_F(UserTest, AHiddenFieldRefusesEverything)
     EXPECT_TRUE(panel.log.empty());
 }
 
-TEST_F(UserTest, APanelOffScreenRefusesEverythingAndIsNotLoadedByIt)
+TEST_F(UserTest, aPanelOffScreenRefusesEverythingAndIsNotLoadedByIt)
 {
     panel.Hide();
     EXPECT_TRUE(user.type(panel.TxtA, "2").has_value());
@@ -250,21 +250,21 @@ TEST_F(UserTest, APanelOffScreenRefusesEverythingAndIsNotLoadedByIt)
     EXPECT_FALSE(panel.loaded());
 }
 
-TEST_F(UserTest, WhatIsOnlyShownTakesNoKeyboard)
+TEST_F(UserTest, whatIsOnlyShownTakesNoKeyboard)
 {
     EXPECT_TRUE(user.focus(panel.LblA).has_value());
     EXPECT_TRUE(user.focus(panel.Cadre).has_value());
     EXPECT_FALSE(user.focus(panel.MebIp).has_value());
 }
 
-TEST_F(UserTest, AnActionGivesItsControlTheKeyboardFirst)
+TEST_F(UserTest, anActionGivesItsControlTheKeyboardFirst)
 {
     user.type(panel.TxtA, "1");
     user.type(panel.TxtA, "2");
     EXPECT_EQ(world.log, (Log{"focus TxtA", "control TxtA", "control TxtA"}));
 }
 
-TEST_F(UserTest, TheViewIsToldWhereTheHandlerRewroteTheText)
+TEST_F(UserTest, theViewIsToldWhereTheHandlerRewroteTheText)
 {
     EXPECT_FALSE(user.key(panel.TxtA, U'é'));
     EXPECT_EQ(panel.log, Log{"key 233"});

@@ -1,27 +1,40 @@
 #include <QTemporaryDir>
-#include <QTest>
 #include <algorithm>
+#include <filesystem>
 #include <fstream>
+#include <stdexcept>
+#include <string>
+#include <vector>
 
 #include "FormCheck.h"
 #include "Gallery.h"
+#include "Support.h"
 #include "Words.h"
 #include "forms/Controls.h"
-#include "view/Application.h"
 #include "view/ControlWidget.h"
 
 namespace ondelis::galerie {
+namespace {
+
+/// The panels that have an example.
+std::vector<std::string> allExamples()
+{
+    std::vector<std::string> panels;
+    for (const auto& file : std::filesystem::directory_iterator{EXAMPLES})
+        panels.push_back(file.path().stem());
+    std::ranges::sort(panels);
+    return panels;
+}
 
 /// What the gallery says of examples that are right or wrong.
-class ExamplesTest final : public QObject {
-    Q_OBJECT
-
-    QTemporaryDir scratch_;
+class ExamplesTest : public testing::TestWithParam<std::string> {
+protected:
+    QTemporaryDir scratch;
 
     /// Draws the panel with that example; returns what was wrong, from the file's name on.
     std::string draw(const std::string& panel, const std::string& example) const
     {
-        const std::filesystem::path folder = scratch_.path().toStdString();
+        const std::filesystem::path folder = scratch.path().toStdString();
         std::ofstream{folder / (panel + ".txt")} << example;
         const auto subjects = allSubjects();
         try {
@@ -32,25 +45,15 @@ class ExamplesTest final : public QObject {
         }
     }
 
-    [[nodiscard]] QImage picture(const char* name) const { return QImage{scratch_.filePath(QString::fromUtf8(name))}; }
+    [[nodiscard]] QImage picture(const char* name) const { return QImage{scratch.filePath(QString::fromUtf8(name))}; }
 
-    static void addExamples()
-    {
-        QTest::addColumn<QString>("panel");
-        for (const auto& file : std::filesystem::directory_iterator{EXAMPLES}) {
-            const std::string panel = file.path().stem();
-            QTest::newRow(panel.c_str()) << QString::fromStdString(panel);
-        }
-    }
-
-    /// The subject of that row.
+    /// The panel of the example.
     static Subject subject()
     {
-        QFETCH(const QString, panel);
         const auto subjects = allSubjects();
-        const auto found = std::ranges::find(subjects, panel.toStdString(), &Subject::panel);
+        const auto found = std::ranges::find(subjects, GetParam(), &Subject::panel);
         if (found == subjects.end())
-            qFatal("no panel has this name: %s", qPrintable(panel));
+            throw std::invalid_argument{"no panel has this name: " + GetParam()};
         return *found;
     }
 
@@ -72,132 +75,116 @@ class ExamplesTest final : public QObject {
             }
         return names;
     }
-
-private slots:
-    void aPictureShowsWhatHasBeenTyped()
-    {
-        const std::string fault = draw("SectionDiametre",
-            "# a wire\n"
-            "picture vide\n\n"
-            "replace SectionDiametre.TxtS \"2.5\"   # mm²\n"
-            "picture exemple\n");
-        QCOMPARE(fault, std::string{});
-        QVERIFY(!picture("SectionDiametre-exemple-96.png").isNull());
-        QCOMPARE(picture("SectionDiametre-vide-96.png"), picture("SectionDiametre-96.png"));
-        QVERIFY(picture("SectionDiametre-exemple-96.png") != picture("SectionDiametre-96.png"));
-    }
-
-    void everyExampleOfThePanelsPlays_data() { addExamples(); }
-
-    void everyExampleOfThePanelsPlays()
-    {
-        try {
-            Gallery{EXAMPLES, scratch_.path().toStdString(), looks.front()}.draw(subject());
-        } catch (const Refused& refused) {
-            QFAIL(refused.what());
-        }
-    }
-
-    void noExampleCutsAResult_data() { addExamples(); }
-
-    void noExampleCutsAResult()
-    {
-        const Subject shown = subject();
-        Player player;
-        player.play("menu " + shown.entry);
-        const Desk& desk = player.frame().desk();
-        Typed typed;
-        QStringList faults;
-        std::ifstream in{std::filesystem::path{EXAMPLES} / (shown.panel + ".txt")};
-        for (std::string line; std::getline(in, line);) {
-            pilote::Words words{line};
-            if (words.atEnd())
-                continue;
-            if (words.next() != "picture") {
-                player.play(line);
-                if (const auto* const box = dynamic_cast<const TextBox*>(desk.focused()))
-                    typed[box] = toQString(box->Text.get());
-                continue;
-            }
-            for (const FeuilleCalcul* panel : desk.loadedPanels())
-                if (const PanelWindow* const window = player.view().find(*panel))
-                    for (const FormFault& fault : faultsOf(*window, typed))
-                        faults.append(QString::fromStdString(line) + QStringLiteral(": ") + fault.line());
-        }
-        QVERIFY2(faults.isEmpty(), qPrintable(faults.join(QLatin1Char{'\n'})));
-    }
-
-    void everyDiagramStaysInside_data() { addExamples(); }
-
-    void everyDiagramStaysInside()
-    {
-        const Subject shown = subject();
-        Player player;
-        player.play("menu " + shown.entry);
-        QStringList beyond = cutLines(player.frame().desk());
-        std::ifstream in{std::filesystem::path{EXAMPLES} / (shown.panel + ".txt")};
-        for (std::string line; std::getline(in, line);) {
-            pilote::Words words{line};
-            if (words.atEnd())
-                continue;
-            if (words.next() == "picture")
-                for (const QString& name : cutLines(player.frame().desk()))
-                    beyond.append(QString::fromStdString(line) + QStringLiteral(": ") + name);
-            else
-                player.play(line);
-        }
-        QCOMPARE(beyond.join(QLatin1Char{'\n'}), QString{});
-    }
-
-    void whatIsNoCommandIsNamed()
-    {
-        QCOMPARE(draw("SectionDiametre", "# a wire\nwrite SectionDiametre.TxtS 2\n"),
-            std::string{"SectionDiametre.txt:2: write SectionDiametre.TxtS 2: no such command: write"});
-        QCOMPARE(
-            draw("SectionDiametre", "picture\n"), std::string{"SectionDiametre.txt:1: picture: a word is missing"});
-        QCOMPARE(draw("SectionDiametre", "type SectionDiametre.TxtS 2 3\n"),
-            std::string{"SectionDiametre.txt:1: type SectionDiametre.TxtS 2 3: a word too many"});
-    }
-
-    void whatAPersonCannotDoIsNamed()
-    {
-        QCOMPARE(draw("SectionDiametre", "picture vide\ntype SectionDiametre.TxtD 2\n"),
-            std::string{"SectionDiametre.txt:2: type SectionDiametre.TxtD 2: the field is locked"});
-        QCOMPARE(draw("SectionDiametre", "close SectionDiametre\npicture rien\n"),
-            std::string{"SectionDiametre.txt:2: picture rien: the window is not on screen: SectionDiametre"});
-    }
-
-    void aPictureMayShowAnotherWindow()
-    {
-        QCOMPARE(
-            draw("FormuleDeThomson", "picture deux MDIOndelis\npicture compagnon CalculNombreSpires\n"), std::string{});
-        QVERIFY(picture("FormuleDeThomson-deux-96.png").width() > picture("FormuleDeThomson-96.png").width());
-        QVERIFY(!picture("FormuleDeThomson-compagnon-96.png").isNull());
-    }
-
-    void aPictureIsTakenOnce()
-    {
-        QCOMPARE(draw("SectionDiametre", "picture exemple\npicture exemple\n"),
-            std::string{"SectionDiametre.txt:2: picture exemple: a picture of this name has been taken"});
-    }
-
-    void aFaultIsNamed()
-    {
-        const std::string fault = draw("SectionDiametre", "replace SectionDiametre.TxtS \"-1\"\n");
-        QVERIFY2(fault.starts_with("SectionDiametre.txt:1: replace SectionDiametre.TxtS \"-1\": the program has ended: "
-                                   "Erreur 5 : "),
-            fault.c_str());
-    }
 };
 
-} // namespace ondelis::galerie
-
-int main(int argc, char** argv)
+TEST_F(ExamplesTest, aPictureShowsWhatHasBeenTyped)
 {
-    qputenv("QT_FONT_DPI", "96");
-    const ondelis::Application application{argc, argv};
-    ondelis::galerie::ExamplesTest tests;
-    return QTest::qExec(&tests, argc, argv);
+    const std::string fault = draw("SectionDiametre",
+        "# a wire\n"
+        "picture vide\n\n"
+        "replace SectionDiametre.TxtS \"2.5\"   # mm²\n"
+        "picture exemple\n");
+    EXPECT_EQ(fault, "");
+    EXPECT_FALSE(picture("SectionDiametre-exemple-96.png").isNull());
+    EXPECT_EQ(picture("SectionDiametre-vide-96.png"), picture("SectionDiametre-96.png"));
+    EXPECT_NE(picture("SectionDiametre-exemple-96.png"), picture("SectionDiametre-96.png"));
 }
 
-#include "ExamplesTest.moc"
+TEST_P(ExamplesTest, everyExampleOfThePanelsPlays)
+{
+    try {
+        Gallery{EXAMPLES, scratch.path().toStdString(), looks.front()}.draw(subject());
+    } catch (const Refused& refused) {
+        FAIL() << refused.what();
+    }
+}
+
+TEST_P(ExamplesTest, noExampleCutsAResult)
+{
+    const Subject shown = subject();
+    Player player;
+    player.play("menu " + shown.entry);
+    const Desk& desk = player.frame().desk();
+    Typed typed;
+    QStringList faults;
+    std::ifstream in{std::filesystem::path{EXAMPLES} / (shown.panel + ".txt")};
+    for (std::string line; std::getline(in, line);) {
+        pilote::Words words{line};
+        if (words.atEnd())
+            continue;
+        if (words.next() != "picture") {
+            player.play(line);
+            if (const auto* const box = dynamic_cast<const TextBox*>(desk.focused()))
+                typed[box] = toQString(box->Text.get());
+            continue;
+        }
+        for (const FeuilleCalcul* panel : desk.loadedPanels())
+            if (const PanelWindow* const window = player.view().find(*panel))
+                for (const FormFault& fault : faultsOf(*window, typed))
+                    faults.append(QString::fromStdString(line) + QStringLiteral(": ") + fault.line());
+    }
+    EXPECT_TRUE(faults.isEmpty()) << qPrintable(faults.join(QLatin1Char{'\n'}));
+}
+
+TEST_P(ExamplesTest, everyDiagramStaysInside)
+{
+    const Subject shown = subject();
+    Player player;
+    player.play("menu " + shown.entry);
+    QStringList beyond = cutLines(player.frame().desk());
+    std::ifstream in{std::filesystem::path{EXAMPLES} / (shown.panel + ".txt")};
+    for (std::string line; std::getline(in, line);) {
+        pilote::Words words{line};
+        if (words.atEnd())
+            continue;
+        if (words.next() == "picture")
+            for (const QString& name : cutLines(player.frame().desk()))
+                beyond.append(QString::fromStdString(line) + QStringLiteral(": ") + name);
+        else
+            player.play(line);
+    }
+    EXPECT_EQ(beyond.join(QLatin1Char{'\n'}), QString{});
+}
+
+TEST_F(ExamplesTest, whatIsNoCommandIsNamed)
+{
+    EXPECT_EQ(draw("SectionDiametre", "# a wire\nwrite SectionDiametre.TxtS 2\n"),
+        "SectionDiametre.txt:2: write SectionDiametre.TxtS 2: no such command: write");
+    EXPECT_EQ(draw("SectionDiametre", "picture\n"), "SectionDiametre.txt:1: picture: a word is missing");
+    EXPECT_EQ(draw("SectionDiametre", "type SectionDiametre.TxtS 2 3\n"),
+        "SectionDiametre.txt:1: type SectionDiametre.TxtS 2 3: a word too many");
+}
+
+TEST_F(ExamplesTest, whatAPersonCannotDoIsNamed)
+{
+    EXPECT_EQ(draw("SectionDiametre", "picture vide\ntype SectionDiametre.TxtD 2\n"),
+        "SectionDiametre.txt:2: type SectionDiametre.TxtD 2: the field is locked");
+    EXPECT_EQ(draw("SectionDiametre", "close SectionDiametre\npicture rien\n"),
+        "SectionDiametre.txt:2: picture rien: the window is not on screen: SectionDiametre");
+}
+
+TEST_F(ExamplesTest, aPictureMayShowAnotherWindow)
+{
+    EXPECT_EQ(draw("FormuleDeThomson", "picture deux MDIOndelis\npicture compagnon CalculNombreSpires\n"), "");
+    EXPECT_GT(picture("FormuleDeThomson-deux-96.png").width(), picture("FormuleDeThomson-96.png").width());
+    EXPECT_FALSE(picture("FormuleDeThomson-compagnon-96.png").isNull());
+}
+
+TEST_F(ExamplesTest, aPictureIsTakenOnce)
+{
+    EXPECT_EQ(draw("SectionDiametre", "picture exemple\npicture exemple\n"),
+        "SectionDiametre.txt:2: picture exemple: a picture of this name has been taken");
+}
+
+TEST_F(ExamplesTest, aFaultIsNamed)
+{
+    const std::string fault = draw("SectionDiametre", "replace SectionDiametre.TxtS \"-1\"\n");
+    EXPECT_TRUE(fault.starts_with("SectionDiametre.txt:1: replace SectionDiametre.TxtS \"-1\": the program has ended: "
+                                  "Erreur 5 : "))
+        << fault;
+}
+
+INSTANTIATE_TEST_SUITE_P(Panels, ExamplesTest, testing::ValuesIn(allExamples()), nameOfRow<std::string>);
+
+} // namespace
+} // namespace ondelis::galerie

@@ -1,31 +1,42 @@
-#include <QCoreApplication>
-#include <QDir>
+#include <QFile>
 #include <QImage>
 #include <QProcess>
 #include <QTemporaryDir>
-#include <QTest>
+#include <memory>
+
+#include "Support.h"
 
 namespace ondelis {
+namespace {
 
 /// The program `galerie`, as a person calls it.
-class LooksTest final : public QObject {
-    Q_OBJECT
+class LooksTest : public testing::Test {
+protected:
+    struct Outcome {
+        int status;
+        QString said; ///< on standard error
+    };
 
-    QTemporaryDir folder_;
-
-    /// Its exit status; `said` gets its error messages.
-    int run(const QStringList& panels, QString& said) const
+    static Outcome run(const QStringList& panels)
     {
         QProcess process;
-        process.start(QStringLiteral(GALERIE), QStringList{folder_.path()} + panels);
+        process.start(QStringLiteral(GALERIE), QStringList{folder->path()} + panels);
         process.waitForFinished(-1);
-        said = QString::fromUtf8(process.readAllStandardError());
-        return process.exitCode();
+        return {process.exitCode(), QString::fromUtf8(process.readAllStandardError())};
     }
 
-    [[nodiscard]] QImage picture(const char* look) const
+    /// Draws one panel, for all tests.
+    static void SetUpTestSuite()
     {
-        return QImage{folder_.filePath(QStringLiteral("CircuitsOscillants-exemple-%1.png").arg(QLatin1String{look}))};
+        folder = std::make_unique<QTemporaryDir>();
+        const Outcome outcome = run({"CircuitsOscillants"});
+        ASSERT_EQ(outcome.status, 0) << qPrintable(outcome.said);
+    }
+    static void TearDownTestSuite() { folder.reset(); }
+
+    static QImage picture(const char* look)
+    {
+        return QImage{folder->filePath(QStringLiteral("CircuitsOscillants-exemple-%1.png").arg(QLatin1String{look}))};
     }
 
     static bool opensDark(const QImage& panel)
@@ -34,51 +45,42 @@ class LooksTest final : public QObject {
         return qGray(panel.pixel(border, panel.height() - border)) < 128;
     }
 
-private slots:
-    void everyPanelIsPicturedInEachLook()
-    {
-        QString said;
-        QCOMPARE(run({"CircuitsOscillants"}, said), 0);
-        QVERIFY(!opensDark(picture("96")));
-        QVERIFY(opensDark(picture("sombre-96")));
-        QCOMPARE(picture("sombre-96").size(), picture("96").size());
-        QVERIFY(!opensDark(picture("120")));
-        QVERIFY(opensDark(picture("sombre-120")));
-        QVERIFY(opensDark(picture("sombre-144")));
-        QCOMPARE(picture("120").size(), picture("96").size() * 1.25);
-        QCOMPARE(picture("144").size(), picture("96").size() * 1.5);
-        QCOMPARE(picture("192").size(), picture("96").size() * 2);
-        QCOMPARE(picture("sombre-192").size(), picture("192").size());
-        QVERIFY(QFile::exists(folder_.filePath(QStringLiteral("CircuitsOscillants-sombre-96.png"))));
-    }
-
-    void thePageShowsWhatIsThere()
-    {
-        QFile page{folder_.filePath(QStringLiteral("index.html"))};
-        QVERIFY(page.open(QIODevice::ReadOnly));
-        const QByteArray text = page.readAll();
-        QVERIFY(text.contains("<h2>Circuits oscillants et Selfs</h2>"));
-        QVERIFY(text.contains("src=\"CircuitsOscillants-exemple-sombre-96.png\""));
-        QVERIFY(text.contains("href=\"CircuitsOscillants-120.png\">125 %"));
-        QVERIFY(text.contains("href=\"CircuitsOscillants-sombre-120.png\">125 % sombre"));
-        QVERIFY(!text.contains("Antennes"));
-    }
-
-    void anUnknownPanelIsNamed()
-    {
-        QString said;
-        QCOMPARE(run({"Boussole"}, said), 1);
-        QCOMPARE(said, QStringLiteral("galerie: the menu opens no panel Boussole\n"));
-    }
+    static inline std::unique_ptr<QTemporaryDir> folder;
 };
 
-} // namespace ondelis
-
-int main(int argc, char** argv)
+TEST_F(LooksTest, everyPanelIsPicturedInEachLook)
 {
-    const QCoreApplication application{argc, argv};
-    ondelis::LooksTest test;
-    return QTest::qExec(&test, argc, argv);
+    EXPECT_FALSE(opensDark(picture("96")));
+    EXPECT_TRUE(opensDark(picture("sombre-96")));
+    EXPECT_EQ(picture("sombre-96").size(), picture("96").size());
+    EXPECT_FALSE(opensDark(picture("120")));
+    EXPECT_TRUE(opensDark(picture("sombre-120")));
+    EXPECT_TRUE(opensDark(picture("sombre-144")));
+    EXPECT_EQ(picture("120").size(), picture("96").size() * 1.25);
+    EXPECT_EQ(picture("144").size(), picture("96").size() * 1.5);
+    EXPECT_EQ(picture("192").size(), picture("96").size() * 2);
+    EXPECT_EQ(picture("sombre-192").size(), picture("192").size());
+    EXPECT_TRUE(QFile::exists(folder->filePath(QStringLiteral("CircuitsOscillants-sombre-96.png"))));
 }
 
-#include "LooksTest.moc"
+TEST_F(LooksTest, thePageShowsWhatIsThere)
+{
+    QFile page{folder->filePath(QStringLiteral("index.html"))};
+    ASSERT_TRUE(page.open(QIODevice::ReadOnly));
+    const QByteArray text = page.readAll();
+    EXPECT_TRUE(text.contains("<h2>Circuits oscillants et Selfs</h2>"));
+    EXPECT_TRUE(text.contains("src=\"CircuitsOscillants-exemple-sombre-96.png\""));
+    EXPECT_TRUE(text.contains("href=\"CircuitsOscillants-120.png\">125 %"));
+    EXPECT_TRUE(text.contains("href=\"CircuitsOscillants-sombre-120.png\">125 % sombre"));
+    EXPECT_FALSE(text.contains("Antennes"));
+}
+
+TEST_F(LooksTest, anUnknownPanelIsNamed)
+{
+    const Outcome outcome = run({"Boussole"});
+    EXPECT_EQ(outcome.status, 1);
+    EXPECT_EQ(outcome.said, QStringLiteral("galerie: the menu opens no panel Boussole\n"));
+}
+
+} // namespace
+} // namespace ondelis

@@ -28,7 +28,7 @@ protected:
     }
 };
 
-TEST_F(TrapSearchTest, PendingEventsRunOnceInEachRound)
+TEST_F(TrapSearchTest, pendingEventsRunOnceInEachRound)
 {
     int rounds = 0;
     world.onPending = [&] { ++rounds; };
@@ -43,7 +43,7 @@ TEST_F(TrapSearchTest, PendingEventsRunOnceInEachRound)
     EXPECT_EQ(world.boxes.size(), 1U);
 }
 
-TEST_F(TrapSearchTest, TheReactancesConvergeFromRoundToRound)
+TEST_F(TrapSearchTest, theReactancesConvergeFromRoundToRound)
 {
     open();
     std::vector<double> differences;
@@ -58,7 +58,7 @@ TEST_F(TrapSearchTest, TheReactancesConvergeFromRoundToRound)
         ASSERT_LT(differences[round], differences[round - 1]);
 }
 
-TEST_F(TrapSearchTest, ASecondClickRunsASearchInsideTheFirst)
+TEST_F(TrapSearchTest, aSecondClickRunsASearchInsideTheFirst)
 {
     open();
     user.replace(panel.TxtFrequence, "3.6");
@@ -74,7 +74,7 @@ TEST_F(TrapSearchTest, ASecondClickRunsASearchInsideTheFirst)
     EXPECT_EQ(panel.TxtFrequence.Text, "14.1");
 }
 
-TEST_F(TrapSearchTest, ClosingThePanelLeavesTheSearch)
+TEST_F(TrapSearchTest, closingThePanelLeavesTheSearch)
 {
     open();
     user.replace(panel.TxtFrequence, "3.6");
@@ -87,7 +87,7 @@ TEST_F(TrapSearchTest, ClosingThePanelLeavesTheSearch)
     EXPECT_EQ(panel.TxtNombreTours.Text, "7.75");
 }
 
-TEST_F(TrapSearchTest, ClosingTheProgramWhileThePanelOpensLeavesTheSearch)
+TEST_F(TrapSearchTest, closingTheProgramWhileThePanelOpensLeavesTheSearch)
 {
     inRound(100, [&] { desk.close(); });
     open();

@@ -9,12 +9,12 @@ class ControlArraysTest : public DeskTest { };
 
 // One row too many would show on the panel, and no scenario can say that a control is not there.
 
-TEST_F(ControlArraysTest, TheTransformerHasRowsForFourWindings)
+TEST_F(ControlArraysTest, theTransformerHasRowsForFourWindings)
 {
     EXPECT_EQ(desk.get<Transformateur>().Secondaires.count().value(), 4);
 }
 
-TEST_F(ControlArraysTest, TheVariableCapacitorHasFiveBladesOfEachKind)
+TEST_F(ControlArraysTest, theVariableCapacitorHasFiveBladesOfEachKind)
 {
     const auto& panel = desk.get<CondensateurVariable>();
     EXPECT_EQ(panel.LM1.count().value(), 5);

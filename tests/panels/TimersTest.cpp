@@ -8,7 +8,7 @@ namespace {
 
 class TimersTest : public DeskTest { };
 
-TEST_F(TimersTest, MonostableHasItsOwnValuesBeforeTheMenuGivesOthers)
+TEST_F(TimersTest, monostableHasItsOwnValuesBeforeTheMenuGivesOthers)
 {
     auto& panel = desk.get<Monostable>();
     desk.perform([&] { panel.Show(); });
@@ -17,7 +17,7 @@ TEST_F(TimersTest, MonostableHasItsOwnValuesBeforeTheMenuGivesOthers)
     EXPECT_EQ(panel.LblDuree.Caption.get(), "Durée  29.24 ms");
 }
 
-TEST_F(TimersTest, MonostableWithNoUnitReadsTheBarAlone)
+TEST_F(TimersTest, monostableWithNoUnitReadsTheBarAlone)
 {
     auto& panel = desk.get<Monostable>();
     desk.perform([&] {
@@ -28,7 +28,7 @@ TEST_F(TimersTest, MonostableWithNoUnitReadsTheBarAlone)
     EXPECT_EQ(panel.LblDuree.Caption.get(), "Durée  29.24 µs");
 }
 
-TEST_F(TimersTest, RapportCycliqueAsksForTheUnitOfItsFrequency)
+TEST_F(TimersTest, rapportCycliqueAsksForTheUnitOfItsFrequency)
 {
     auto& panel = desk.get<RapportCyclique>();
     desk.perform([&] {
@@ -41,7 +41,7 @@ TEST_F(TimersTest, RapportCycliqueAsksForTheUnitOfItsFrequency)
     EXPECT_EQ(world.boxes[0].title, "Ondelis");
 }
 
-TEST_F(TimersTest, RapportCycliqueComputesWithNoUnitToo)
+TEST_F(TimersTest, rapportCycliqueComputesWithNoUnitToo)
 {
     auto& panel = desk.get<RapportCyclique>();
     desk.perform([&] {

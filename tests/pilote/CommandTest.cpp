@@ -9,7 +9,7 @@ class CommandTest : public DriverTest { };
 
 const Json done = Json::parse(R"({"ok":true,"messages":[],"fault":null,"ended":false})");
 
-TEST_F(CommandTest, AnswersWhatWasDone)
+TEST_F(CommandTest, answersWhatWasDone)
 {
     EXPECT_EQ(say("region , ."), done);
     EXPECT_EQ(say("screen 20000 16000.5"), done);
@@ -19,32 +19,32 @@ TEST_F(CommandTest, AnswersWhatWasDone)
     EXPECT_EQ(say("close CircuitsOscillants"), done);
 }
 
-TEST_F(CommandTest, AnswersInTheOrderOfTheMembers)
+TEST_F(CommandTest, answersInTheOrderOfTheMembers)
 {
     EXPECT_EQ(say("start").dump(), R"({"ok":true,"messages":[],"fault":null,"ended":false})");
 }
 
-TEST_F(CommandTest, DoesNothingBeforeTheStart)
+TEST_F(CommandTest, doesNothingBeforeTheStart)
 {
     for (const char* const line : {"state", "menu MenuQuitter", "close MDIOndelis", "type A.B x", "answer yes"})
         EXPECT_EQ(refusal(line), "the program has not started") << line;
 }
 
-TEST_F(CommandTest, TakesTheRegionBeforeTheStartOnly)
+TEST_F(CommandTest, takesTheRegionBeforeTheStartOnly)
 {
     say("start");
     for (const char* const line : {"region , .", "start"})
         EXPECT_EQ(refusal(line), "the program has started") << line;
 }
 
-TEST_F(CommandTest, TakesAnotherScreenWhileTheProgramRuns)
+TEST_F(CommandTest, takesAnotherScreenWhileTheProgramRuns)
 {
     say("start");
     EXPECT_TRUE(ok("screen 20000 16000"));
     EXPECT_TRUE(ok("expect MDIOndelis.Left 4665"));
 }
 
-TEST_F(CommandTest, DoesNothingAfterTheEnd)
+TEST_F(CommandTest, doesNothingAfterTheEnd)
 {
     open();
     EXPECT_EQ(say("menu MenuQuitter")["ended"], true);
@@ -53,13 +53,13 @@ TEST_F(CommandTest, DoesNothingAfterTheEnd)
         EXPECT_EQ(refusal(line), "the program has ended") << line;
 }
 
-TEST_F(CommandTest, EndsByTheCloseBoxOfTheFrame)
+TEST_F(CommandTest, endsByTheCloseBoxOfTheFrame)
 {
     say("start");
     EXPECT_EQ(say("close MDIOndelis"), Json::parse(R"({"ok":true,"messages":[],"fault":null,"ended":true})"));
 }
 
-TEST_F(CommandTest, UsesTheRegionForItsOwnProgramOnly)
+TEST_F(CommandTest, usesTheRegionForItsOwnProgramOnly)
 {
     {
         Headless otherBody;
@@ -71,7 +71,7 @@ TEST_F(CommandTest, UsesTheRegionForItsOwnProgramOnly)
     EXPECT_EQ(ondelis::region().thousands, ",");
 }
 
-TEST_F(CommandTest, TakesNoOtherRegionThanTwoDifferentSeparators)
+TEST_F(CommandTest, takesNoOtherRegionThanTwoDifferentSeparators)
 {
     for (const char* const line : {"region , \"\"", "region , \"\u202f\"", "region . ,"})
         EXPECT_TRUE(ok(line)) << line;
@@ -79,7 +79,7 @@ TEST_F(CommandTest, TakesNoOtherRegionThanTwoDifferentSeparators)
         EXPECT_FALSE(error(line).empty()) << line;
 }
 
-TEST_F(CommandTest, TakesNoOtherScreenThanTwoSizes)
+TEST_F(CommandTest, takesNoOtherScreenThanTwoSizes)
 {
     for (const char* const line : {"screen", "screen 10000", "screen 0 10000", "screen -5 10000", "screen x 10000",
              "screen 1e999 10000", "screen 1e39 10000", "screen nan 10000", "screen inf 10000", "screen 5twips 1"})
@@ -91,7 +91,7 @@ constexpr std::array noCommands{"", "# a comment", "hello", "Start", "start now"
     "select A.B 1.5", "scroll A.B", "scroll A.B 1x", "focus", "answer", "answer maybe", "state now", "\"start",
     "type A.B \"\xff\""};
 
-TEST_F(CommandTest, CallsALineThatIsNoCommandAnErrorAtAnyTime)
+TEST_F(CommandTest, callsALineThatIsNoCommandAnErrorAtAnyTime)
 {
     for (const char* const time : {"before", "start", "menu MenuQuitter"}) {
         say(time);
@@ -100,7 +100,7 @@ TEST_F(CommandTest, CallsALineThatIsNoCommandAnErrorAtAnyTime)
     }
 }
 
-TEST_F(CommandTest, LeavesTheOutcomeOfTheLastCommandAloneOnALineThatIsNone)
+TEST_F(CommandTest, leavesTheOutcomeOfTheLastCommandAloneOnALineThatIsNone)
 {
     open();
     say("type CircuitsOscillants.TxtFreq 1e999");
@@ -109,7 +109,7 @@ TEST_F(CommandTest, LeavesTheOutcomeOfTheLastCommandAloneOnALineThatIsNone)
     EXPECT_TRUE(ok("expect fault overflow"));
 }
 
-TEST_F(CommandTest, RefusesWhatIsNotThere)
+TEST_F(CommandTest, refusesWhatIsNotThere)
 {
     open();
     EXPECT_EQ(refusal("menu MenuRien"), "the menu has no such entry");
@@ -120,7 +120,7 @@ TEST_F(CommandTest, RefusesWhatIsNotThere)
     EXPECT_EQ(refusal("type CircuitsOscillants. x"), "the panel has no such control");
 }
 
-TEST_F(CommandTest, RefusesAnActionThatTheControlDoesNotKnow)
+TEST_F(CommandTest, refusesAnActionThatTheControlDoesNotKnow)
 {
     open();
     EXPECT_EQ(refusal("type CircuitsOscillants.LstFreq x"), "the control is of another class");
@@ -129,7 +129,7 @@ TEST_F(CommandTest, RefusesAnActionThatTheControlDoesNotKnow)
     EXPECT_EQ(refusal("click CircuitsOscillants.TxtFreq"), "the control is neither an option nor a button");
 }
 
-TEST_F(CommandTest, RefusesRowsHoweverFarOut)
+TEST_F(CommandTest, refusesRowsHoweverFarOut)
 {
     open();
     for (const char* const row : {"4", "-1", "40000", "99999999999999999999", "-99999999999999999999"})
@@ -137,7 +137,7 @@ TEST_F(CommandTest, RefusesRowsHoweverFarOut)
     EXPECT_TRUE(ok("select CircuitsOscillants.LstFreq 3"));
 }
 
-TEST_F(CommandTest, TypesErasesAndReplaces)
+TEST_F(CommandTest, typesErasesAndReplaces)
 {
     open();
     EXPECT_EQ(say("type CircuitsOscillants.TxtFreq \"14.15\""), done);
@@ -149,7 +149,7 @@ TEST_F(CommandTest, TypesErasesAndReplaces)
     EXPECT_EQ(say("focus CircuitsOscillants.LstFreq"), done);
 }
 
-TEST_F(CommandTest, ShowsTheFrameAndNoPanelAtTheStart)
+TEST_F(CommandTest, showsTheFrameAndNoPanelAtTheStart)
 {
     say("start");
     const Json state = say("state");
@@ -158,7 +158,7 @@ TEST_F(CommandTest, ShowsTheFrameAndNoPanelAtTheStart)
     EXPECT_EQ(state["panels"], Json::object());
 }
 
-TEST_F(CommandTest, ShowsTheLoadedPanelWithItsControls)
+TEST_F(CommandTest, showsTheLoadedPanelWithItsControls)
 {
     open();
     const Json panel = say("state")["panels"]["CircuitsOscillants"];
@@ -171,7 +171,7 @@ TEST_F(CommandTest, ShowsTheLoadedPanelWithItsControls)
             R"({"kind":"Frame","Caption":"Circuit RC Série","Picture":"circuit-rc-serie","Visible":true,"Frame":""})"));
 }
 
-TEST_F(CommandTest, StandsALongText)
+TEST_F(CommandTest, standsALongText)
 {
     open();
     const std::string digits(2000, '9');

@@ -5,7 +5,7 @@ namespace {
 
 class ExpectationTest : public DriverTest { };
 
-TEST_F(ExpectationTest, ComparesNumbersAsNumbers)
+TEST_F(ExpectationTest, comparesNumbersAsNumbers)
 {
     open();
     EXPECT_EQ(say("expect MDIOndelis.Width 19470.0"), Json::parse(R"({"ok":true,"got":19470})"));
@@ -14,7 +14,7 @@ TEST_F(ExpectationTest, ComparesNumbersAsNumbers)
     EXPECT_TRUE(ok("expect CircuitsOscillants.TxtFreq.BackColor 16777215"));
 }
 
-TEST_F(ExpectationTest, ComparesAPositionWithAFractionAsASingle)
+TEST_F(ExpectationTest, comparesAPositionWithAFractionAsASingle)
 {
     EXPECT_TRUE(ok("screen 28800.1 16200"));
     say("start");
@@ -24,7 +24,7 @@ TEST_F(ExpectationTest, ComparesAPositionWithAFractionAsASingle)
     EXPECT_FALSE(ok("expect MDIOndelis.Left 4665"));
 }
 
-TEST_F(ExpectationTest, ComparesYesAndNoAndArrays)
+TEST_F(ExpectationTest, comparesYesAndNoAndArrays)
 {
     open();
     EXPECT_TRUE(ok("expect CircuitsOscillants.visible true"));
@@ -34,7 +34,7 @@ TEST_F(ExpectationTest, ComparesYesAndNoAndArrays)
     EXPECT_FALSE(ok(R"(expect CircuitsOscillants.LstFreq.Items ["GHz"])"));
 }
 
-TEST_F(ExpectationTest, ComparesNamesCaptionsAndOrderOfMenus)
+TEST_F(ExpectationTest, comparesNamesCaptionsAndOrderOfMenus)
 {
     say("start");
     EXPECT_TRUE(ok(R"(expect menu MenuPontDiviseur {"MenuShunt": "Calculs de Shunts",)"
@@ -47,7 +47,7 @@ TEST_F(ExpectationTest, ComparesNamesCaptionsAndOrderOfMenus)
     EXPECT_EQ(say("expect menus {}")["got"].size(), 12U);
 }
 
-TEST_F(ExpectationTest, SaysWhyThereIsNothingToCompare)
+TEST_F(ExpectationTest, saysWhyThereIsNothingToCompare)
 {
     EXPECT_EQ(say("expect MDIOndelis.Left 4665")["why"], "the program does not run");
     EXPECT_EQ(say("expect menus {}")["why"], "the program does not run");
@@ -61,7 +61,7 @@ TEST_F(ExpectationTest, SaysWhyThereIsNothingToCompare)
     EXPECT_EQ(say("expect CircuitsOscillants.TxtFreq.Text \"\"")["why"], "the program does not run");
 }
 
-TEST_F(ExpectationTest, IsAnErrorWhereItIsNone)
+TEST_F(ExpectationTest, isAnErrorWhereItIsNone)
 {
     open();
     for (const char* const line : {"expect", "expect message", "expect no", "expect no idea", "expect fault",
@@ -72,7 +72,7 @@ TEST_F(ExpectationTest, IsAnErrorWhereItIsNone)
         EXPECT_FALSE(error(line).empty()) << line;
 }
 
-TEST_F(ExpectationTest, StandsDeepNestingAndLongNumbers)
+TEST_F(ExpectationTest, standsDeepNestingAndLongNumbers)
 {
     open();
     const std::string opening(200000, '[');
@@ -83,7 +83,7 @@ TEST_F(ExpectationTest, StandsDeepNestingAndLongNumbers)
     EXPECT_FALSE(ok("expect MDIOndelis.Left " + digits));
 }
 
-TEST_F(ExpectationTest, TellsTheStatesOfAPanelApart)
+TEST_F(ExpectationTest, tellsTheStatesOfAPanelApart)
 {
     say("start");
     EXPECT_EQ(
@@ -95,14 +95,14 @@ TEST_F(ExpectationTest, TellsTheStatesOfAPanelApart)
     EXPECT_TRUE(ok("expect CircuitsOscillants unloaded"));
 }
 
-TEST_F(ExpectationTest, FindsEveryPanelUnloadedAfterTheEnd)
+TEST_F(ExpectationTest, findsEveryPanelUnloadedAfterTheEnd)
 {
     open();
     say("close MDIOndelis");
     EXPECT_TRUE(ok("expect CircuitsOscillants unloaded"));
 }
 
-TEST_F(ExpectationTest, KnowsTheFaultOfTheLastCommand)
+TEST_F(ExpectationTest, knowsTheFaultOfTheLastCommand)
 {
     open();
     EXPECT_TRUE(ok("expect no fault"));
@@ -114,7 +114,7 @@ TEST_F(ExpectationTest, KnowsTheFaultOfTheLastCommand)
     EXPECT_FALSE(ok("expect refused"));
 }
 
-TEST_F(ExpectationTest, KnowsNoFaultOfAnEarlierCommand)
+TEST_F(ExpectationTest, knowsNoFaultOfAnEarlierCommand)
 {
     open();
     say("type CircuitsOscillants.TxtFreq 1e999");
@@ -123,7 +123,7 @@ TEST_F(ExpectationTest, KnowsNoFaultOfAnEarlierCommand)
     EXPECT_TRUE(ok("expect no fault"));
 }
 
-TEST_F(ExpectationTest, TakesTheBoxesOfTheLastCommandInTheirOrder)
+TEST_F(ExpectationTest, takesTheBoxesOfTheLastCommandInTheirOrder)
 {
     say("start");
     const Json boxes = say("menu MenuFiltrePasseBasEnPi")["messages"];
@@ -135,7 +135,7 @@ TEST_F(ExpectationTest, TakesTheBoxesOfTheLastCommandInTheirOrder)
     EXPECT_EQ(say("expect message \"another\""), Json::parse(R"({"ok":false,"wanted":"another","got":null})"));
 }
 
-TEST_F(ExpectationTest, KnowsNoBoxOfAnEarlierCommand)
+TEST_F(ExpectationTest, knowsNoBoxOfAnEarlierCommand)
 {
     say("start");
     const Json first = say("menu MenuFiltrePasseBasEnPi")["messages"];
@@ -146,14 +146,14 @@ TEST_F(ExpectationTest, KnowsNoBoxOfAnEarlierCommand)
     EXPECT_TRUE(ok("expect message " + first[0]["prompt"].dump()));
 }
 
-TEST_F(ExpectationTest, ShowsTheBoxThatCameInsteadOfTheExpectedOne)
+TEST_F(ExpectationTest, showsTheBoxThatCameInsteadOfTheExpectedOne)
 {
     say("start");
     const Json boxes = say("menu MenuFiltrePasseBasEnPi")["messages"];
     EXPECT_EQ(say("expect message \"another\"")["got"], boxes[0]["prompt"]);
 }
 
-TEST_F(ExpectationTest, HoldsTheTitleAndTheButtonsOfABoxToo)
+TEST_F(ExpectationTest, holdsTheTitleAndTheButtonsOfABoxToo)
 {
     say("start");
     const Json boxes = say("menu MenuFiltrePasseBasEnPi")["messages"];

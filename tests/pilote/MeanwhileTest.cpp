@@ -6,7 +6,7 @@ namespace {
 /// What a person does while a box waits, or a handler lets events through, and to the windows.
 class MeanwhileTest : public DriverTest { };
 
-TEST_F(MeanwhileTest, NothingIsReachedBehindABox)
+TEST_F(MeanwhileTest, nothingIsReachedBehindABox)
 {
     say("start");
     say("menu mnuGammaMatch");
@@ -19,7 +19,7 @@ TEST_F(MeanwhileTest, NothingIsReachedBehindABox)
     EXPECT_TRUE(ok("expect GammaMatch visible"));
 }
 
-TEST_F(MeanwhileTest, WhileEventsRunAPanelCanBeClosed)
+TEST_F(MeanwhileTest, whileEventsRunAPanelCanBeClosed)
 {
     say("start");
     say("menu mnuTrappesCoaxiales");
@@ -28,7 +28,7 @@ TEST_F(MeanwhileTest, WhileEventsRunAPanelCanBeClosed)
     EXPECT_TRUE(ok("expect AntennesTrappesCoaxiales unloaded"));
 }
 
-TEST_F(MeanwhileTest, SeveralGesturesFollowOneAnother)
+TEST_F(MeanwhileTest, severalGesturesFollowOneAnother)
 {
     say("start");
     say("menu mnuTrappesCoaxiales");
@@ -38,7 +38,7 @@ TEST_F(MeanwhileTest, SeveralGesturesFollowOneAnother)
     EXPECT_TRUE(ok("expect AntennesTrappesCoaxiales.TxtFrequence.Text \"14\""));
 }
 
-TEST_F(MeanwhileTest, WhatFindsNoOccasionIsRefusedOnce)
+TEST_F(MeanwhileTest, whatFindsNoOccasionIsRefusedOnce)
 {
     open();
     say("meanwhile close CircuitsOscillants");
@@ -46,14 +46,14 @@ TEST_F(MeanwhileTest, WhatFindsNoOccasionIsRefusedOnce)
     EXPECT_FALSE(say("focus CircuitsOscillants.TxtInd").contains("meanwhile"));
 }
 
-TEST_F(MeanwhileTest, OnlyWhatAPersonDoesIsMeantForMeanwhile)
+TEST_F(MeanwhileTest, onlyWhatAPersonDoesIsMeantForMeanwhile)
 {
     open();
     EXPECT_EQ(error("meanwhile answer no"), "no such gesture: answer");
     EXPECT_EQ(error("meanwhile"), "a word is missing");
 }
 
-TEST_F(MeanwhileTest, AWindowThatIsPutAwayTakesNothing)
+TEST_F(MeanwhileTest, aWindowThatIsPutAwayTakesNothing)
 {
     open();
     EXPECT_EQ(refusal("restore MDIOndelis"), "the window is not minimised");
@@ -66,7 +66,7 @@ TEST_F(MeanwhileTest, AWindowThatIsPutAwayTakesNothing)
     EXPECT_TRUE(ok("close CircuitsOscillants"));
 }
 
-TEST_F(MeanwhileTest, WindowsStandWhereTheyAreMoved)
+TEST_F(MeanwhileTest, windowsStandWhereTheyAreMoved)
 {
     open();
     EXPECT_TRUE(ok("move CircuitsOscillants 150 300"));
@@ -80,7 +80,7 @@ TEST_F(MeanwhileTest, WindowsStandWhereTheyAreMoved)
         EXPECT_FALSE(error(line).empty()) << line;
 }
 
-TEST_F(MeanwhileTest, AKeyThatIsHeldComesAgainAndAgain)
+TEST_F(MeanwhileTest, aKeyThatIsHeldComesAgainAndAgain)
 {
     open();
     EXPECT_TRUE(ok("hold CircuitsOscillants.TxtFreq \"7\" 5"));
@@ -93,7 +93,7 @@ TEST_F(MeanwhileTest, AKeyThatIsHeldComesAgainAndAgain)
         EXPECT_FALSE(error(line).empty()) << line;
 }
 
-TEST_F(MeanwhileTest, AnArrowKeyStopsAtTheEndOfItsBar)
+TEST_F(MeanwhileTest, anArrowKeyStopsAtTheEndOfItsBar)
 {
     say("start");
     say("menu MenuRLCserie");

@@ -32,7 +32,7 @@ protected:
     std::string printed;
 };
 
-TEST_F(ScenarioTest, PrintsNothingWhereAllGoesAsExpected)
+TEST_F(ScenarioTest, printsNothingWhereAllGoesAsExpected)
 {
     const Tally tally = play("# A start\n\nstart\r\nexpect MDIOndelis.Left 4665\nexpect no message");
     EXPECT_EQ(tally.expectations, 2);
@@ -40,7 +40,7 @@ TEST_F(ScenarioTest, PrintsNothingWhereAllGoesAsExpected)
     EXPECT_EQ(printed, "");
 }
 
-TEST_F(ScenarioTest, PrintsWhereWhatWasWantedAndWhatWasGot)
+TEST_F(ScenarioTest, printsWhereWhatWasWantedAndWhatWasGot)
 {
     const Tally tally = play("start\n\nexpect MDIOndelis.Left 1\nexpect Decibels.TxtA.Text \"x\"\n");
     EXPECT_EQ(tally.expectations, 2);
@@ -50,7 +50,7 @@ TEST_F(ScenarioTest, PrintsWhereWhatWasWantedAndWhatWasGot)
         ":4: expect Decibels.TxtA.Text \"x\": wanted \"x\", got null: the panel is not loaded\n");
 }
 
-TEST_F(ScenarioTest, FailsOnARefusalThatNoExpectationNames)
+TEST_F(ScenarioTest, failsOnARefusalThatNoExpectationNames)
 {
     EXPECT_EQ(play("start\nmenu Rien\nstart").failures, 2);
     EXPECT_EQ(printed,
@@ -59,7 +59,7 @@ TEST_F(ScenarioTest, FailsOnARefusalThatNoExpectationNames)
     EXPECT_EQ(play("start\nmenu Rien\nexpect no message\nexpect refused\nstart\nexpect refused").failures, 0);
 }
 
-TEST_F(ScenarioTest, FailsOnAFaultThatNoExpectationNames)
+TEST_F(ScenarioTest, failsOnAFaultThatNoExpectationNames)
 {
     const std::string faulty = "start\nmenu MenuCircuitOscillant\ntype CircuitsOscillants.TxtFreq 1e999\n";
     EXPECT_EQ(play(faulty).failures, 1);
@@ -67,7 +67,7 @@ TEST_F(ScenarioTest, FailsOnAFaultThatNoExpectationNames)
     EXPECT_EQ(play(faulty + "expect no message\nexpect fault overflow").failures, 0);
 }
 
-TEST_F(ScenarioTest, FailsOnALineThatIsNoCommand)
+TEST_F(ScenarioTest, failsOnALineThatIsNoCommand)
 {
     EXPECT_EQ(play("begin\nstart\nexpect nothing\ntype A.B \"x").failures, 3);
     EXPECT_EQ(printed,
@@ -76,7 +76,7 @@ TEST_F(ScenarioTest, FailsOnALineThatIsNoCommand)
         ":4: type A.B \"x: a quote is not closed\n");
 }
 
-TEST_F(ScenarioTest, StartsAFreshProgramForEachFile)
+TEST_F(ScenarioTest, startsAFreshProgramForEachFile)
 {
     const Tally first = play("region , .\nscreen 20000 20000\nstart\nmenu MenuCircuitOscillant\n"
                              "type CircuitsOscillants.TxtFreq 7");
@@ -86,7 +86,7 @@ TEST_F(ScenarioTest, StartsAFreshProgramForEachFile)
     EXPECT_EQ(second.failures, 0) << printed;
 }
 
-TEST_F(ScenarioTest, FailsOnAFileThatCannotBeRead)
+TEST_F(ScenarioTest, failsOnAFileThatCannotBeRead)
 {
     std::ostringstream out;
     Headless body;

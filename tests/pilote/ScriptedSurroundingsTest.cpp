@@ -7,7 +7,7 @@ namespace {
 
 const MessageBox question{.prompt = "Continuer ?", .buttons = 4};
 
-TEST(ScriptedSurroundingsTest, AnswersQuestionsInTheOrderOfTheAnswers)
+TEST(ScriptedSurroundingsTest, answersQuestionsInTheOrderOfTheAnswers)
 {
     ScriptedSurroundings world;
     world.answer(Answer::No);
@@ -19,7 +19,7 @@ TEST(ScriptedSurroundingsTest, AnswersQuestionsInTheOrderOfTheAnswers)
     EXPECT_EQ(world.showBox(question), Answer::Yes);
 }
 
-TEST(ScriptedSurroundingsTest, KeepsAnAnswerForTheNextQuestion)
+TEST(ScriptedSurroundingsTest, keepsAnAnswerForTheNextQuestion)
 {
     ScriptedSurroundings world;
     world.answer(Answer::No);
@@ -28,7 +28,7 @@ TEST(ScriptedSurroundingsTest, KeepsAnAnswerForTheNextQuestion)
     EXPECT_EQ(world.showBox(question), Answer::No);
 }
 
-TEST(ScriptedSurroundingsTest, RemembersBoxesAndFaultUntilToldToForget)
+TEST(ScriptedSurroundingsTest, remembersBoxesAndFaultUntilToldToForget)
 {
     ScriptedSurroundings world;
     world.showBox(question);

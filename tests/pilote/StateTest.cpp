@@ -54,7 +54,7 @@ protected:
     Echantillon& panel = desk.get<Echantillon>();
 };
 
-TEST_F(StateTest, HasEveryMemberOfEachClass)
+TEST_F(StateTest, hasEveryMemberOfEachClass)
 {
     panel.LstA.ListIndex = 1;
     expectState(panel.LblA, R"({"kind":"Label","Caption":"Fréquence","Visible":true,"Top":600,"ForeColor":255,
@@ -86,13 +86,13 @@ TEST_F(StateTest, HasEveryMemberOfEachClass)
         panel.MebIp, R"({"kind":"MaskEdBox","Text":"","Display":"","BackColor":16777152,"Label":"","Frame":""})");
 }
 
-TEST_F(StateTest, HasTheCoordinatesOfALineAsSingles)
+TEST_F(StateTest, hasTheCoordinatesOfALineAsSingles)
 {
     expectState(panel.Line1, R"({"kind":"Line","X1":1.5,"Y1":2,"X2":-3,"Y2":0.10000000149011612,
         "BorderColor":13667402,"BorderWidth":7,"Visible":true,"Frame":""})");
 }
 
-TEST_F(StateTest, HasTheDisplayOfAMaskedBox)
+TEST_F(StateTest, hasTheDisplayOfAMaskedBox)
 {
     const ScopedRegion comma{{.decimal = ",", .thousands = "."}};
     panel.MebIp.Text = "0,12";
@@ -100,7 +100,7 @@ TEST_F(StateTest, HasTheDisplayOfAMaskedBox)
         R"({"kind":"MaskEdBox","Text":"0,12","Display":"1,200E-01","BackColor":16777152,"Label":"","Frame":""})");
 }
 
-TEST_F(StateTest, HasTheControlsThatTheTabKeyLeadsTo)
+TEST_F(StateTest, hasTheControlsThatTheTabKeyLeadsTo)
 {
     panel.Show();
     EXPECT_EQ(State{}.see(panel)["TabOrder"], Json({"TxtA", "LstA", "OptA", "HscrA", "VscrA", "MebIp"}));
@@ -108,7 +108,7 @@ TEST_F(StateTest, HasTheControlsThatTheTabKeyLeadsTo)
     EXPECT_EQ(State{}.see(panel)["TabOrder"], Json({"TxtA", "LstA", "OptA", "BtnA", "HscrA", "VscrA", "MebIp"}));
 }
 
-TEST_F(StateTest, HasTheControlWithTheKeyboard)
+TEST_F(StateTest, hasTheControlWithTheKeyboard)
 {
     const MDIOndelis frame{desk};
     EXPECT_EQ(State{}.see(frame)["Focus"], "");
@@ -117,7 +117,7 @@ TEST_F(StateTest, HasTheControlWithTheKeyboard)
     EXPECT_EQ(State{}.see(frame)["Focus"], "Echantillon.TxtA");
 }
 
-TEST_F(StateTest, HasTheLoadedPanelsAlone)
+TEST_F(StateTest, hasTheLoadedPanelsAlone)
 {
     const MDIOndelis frame{desk};
     EXPECT_EQ(seeAll(State{}, frame)["panels"], Json::object());
@@ -130,7 +130,7 @@ TEST_F(StateTest, HasTheLoadedPanelsAlone)
     EXPECT_EQ(state["controls"].size(), 16U);
 }
 
-TEST_F(StateTest, HasTheTreeOfTheMenu)
+TEST_F(StateTest, hasTheTreeOfTheMenu)
 {
     const MDIOndelis frame{desk};
     const Json timers = seeAll(State{}, frame)["menus"][4];

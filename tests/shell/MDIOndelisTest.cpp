@@ -8,7 +8,7 @@ namespace {
 
 class MDIOndelisTest : public FrameTest { };
 
-TEST_F(MDIOndelisTest, StartsCentredOnTheScreenWithItsSizeAndCaption)
+TEST_F(MDIOndelisTest, startsCentredOnTheScreenWithItsSizeAndCaption)
 {
     frame.start();
     EXPECT_EQ(Double{frame.Width}, 19470);
@@ -18,7 +18,7 @@ TEST_F(MDIOndelisTest, StartsCentredOnTheScreenWithItsSizeAndCaption)
     EXPECT_EQ(frame.Caption, "Kervane : Veloris divers V21.5.0 du 20 Janvier 2021");
 }
 
-TEST_F(MDIOndelisTest, StartsPartlyOffAScreenThatIsTooSmall)
+TEST_F(MDIOndelisTest, startsPartlyOffAScreenThatIsTooSmall)
 {
     world.screenSize = {.Width = 15360, .Height = 11520};
     frame.start();
@@ -26,14 +26,14 @@ TEST_F(MDIOndelisTest, StartsPartlyOffAScreenThatIsTooSmall)
     EXPECT_EQ(Double{frame.Top}, -1740);
 }
 
-TEST_F(MDIOndelisTest, StartsWithNoPanelOpen)
+TEST_F(MDIOndelisTest, startsWithNoPanelOpen)
 {
     frame.start();
     EXPECT_TRUE(desk.loadedPanels().empty());
     EXPECT_FALSE(desk.ended());
 }
 
-TEST_F(MDIOndelisTest, QuitterEndsTheProgramAtOnce)
+TEST_F(MDIOndelisTest, quitterEndsTheProgramAtOnce)
 {
     frame.start();
     EXPECT_TRUE(click("MenuQuitter"));
@@ -41,7 +41,7 @@ TEST_F(MDIOndelisTest, QuitterEndsTheProgramAtOnce)
     EXPECT_TRUE(world.boxes.empty());
 }
 
-TEST_F(MDIOndelisTest, ItsCloseBoxEndsTheProgramAtOnce)
+TEST_F(MDIOndelisTest, itsCloseBoxEndsTheProgramAtOnce)
 {
     frame.start();
     click("MenuCircuitOscillant");
@@ -50,7 +50,7 @@ TEST_F(MDIOndelisTest, ItsCloseBoxEndsTheProgramAtOnce)
     EXPECT_TRUE(world.boxes.empty());
 }
 
-TEST_F(MDIOndelisTest, AnEntryClosesThePanelThatIsOpen)
+TEST_F(MDIOndelisTest, anEntryClosesThePanelThatIsOpen)
 {
     frame.start();
     click("MenuCircuitOscillant");
@@ -59,7 +59,7 @@ TEST_F(MDIOndelisTest, AnEntryClosesThePanelThatIsOpen)
     EXPECT_EQ(desk.loadedPanels().size(), 1U);
 }
 
-TEST_F(MDIOndelisTest, AnEntryClosesAllPanels)
+TEST_F(MDIOndelisTest, anEntryClosesAllPanels)
 {
     frame.start();
     for (const MenuEntry* const entry : panelEntries())
@@ -70,7 +70,7 @@ TEST_F(MDIOndelisTest, AnEntryClosesAllPanels)
     EXPECT_TRUE(desk.loadedPanels().empty());
 }
 
-TEST_F(MDIOndelisTest, AnEntryClosesAHiddenPanelToo)
+TEST_F(MDIOndelisTest, anEntryClosesAHiddenPanelToo)
 {
     frame.start();
     click("mnuSelfNbSpires");
@@ -79,7 +79,7 @@ TEST_F(MDIOndelisTest, AnEntryClosesAHiddenPanelToo)
     EXPECT_EQ(desk.loadedPanels(), std::vector<FeuilleCalcul*>{panel("CircuitsOscillants")});
 }
 
-TEST_F(MDIOndelisTest, TheEntryOfTheOpenPanelRestartsIt)
+TEST_F(MDIOndelisTest, theEntryOfTheOpenPanelRestartsIt)
 {
     frame.start();
     click("MenuCircuitOscillant");
@@ -93,7 +93,7 @@ TEST_F(MDIOndelisTest, TheEntryOfTheOpenPanelRestartsIt)
     EXPECT_EQ(Double{open.Left}, (Double{19470} - open.Width) / 2);
 }
 
-TEST_F(MDIOndelisTest, APanelClosedByTheUserOpensAgain)
+TEST_F(MDIOndelisTest, aPanelClosedByTheUserOpensAgain)
 {
     frame.start();
     click("MenuCircuitOscillant");
@@ -103,7 +103,7 @@ TEST_F(MDIOndelisTest, APanelClosedByTheUserOpensAgain)
     EXPECT_NE(panel("CircuitsOscillants"), nullptr);
 }
 
-TEST_F(MDIOndelisTest, PanelsAreCentredInTheFrameAsTheUserLeftIt)
+TEST_F(MDIOndelisTest, panelsAreCentredInTheFrameAsTheUserLeftIt)
 {
     frame.start();
     frame.placed({.Width = 100, .Height = 200}, {.Width = 12000, .Height = 9000});
@@ -113,7 +113,7 @@ TEST_F(MDIOndelisTest, PanelsAreCentredInTheFrameAsTheUserLeftIt)
     EXPECT_EQ(Double{open.Top}, (Double{9000} - open.Height) / 2);
 }
 
-TEST_F(MDIOndelisTest, NothingOpensAfterTheEnd)
+TEST_F(MDIOndelisTest, nothingOpensAfterTheEnd)
 {
     frame.start();
     frame.close();
@@ -121,7 +121,7 @@ TEST_F(MDIOndelisTest, NothingOpensAfterTheEnd)
     EXPECT_TRUE(desk.loadedPanels().empty());
 }
 
-TEST_F(MDIOndelisTest, TwoListsOfAllPanelsListenToAClickOnTheChosenRow)
+TEST_F(MDIOndelisTest, twoListsOfAllPanelsListenToAClickOnTheChosenRow)
 {
     frame.start();
     std::set<std::string> listening;
@@ -150,7 +150,7 @@ struct Form {
     Position Top{"Top", order};
 };
 
-TEST(CentragesTest, StoreTheTopBeforeTheLeft)
+TEST(CentragesTest, storeTheTopBeforeTheLeft)
 {
     std::vector<std::string> order;
     Form form{.order = &order};

@@ -33,7 +33,7 @@ protected:
     }
 };
 
-TEST_F(MemoryTest, OpeningsLeaveNothingBehind)
+TEST_F(MemoryTest, openingsLeaveNothingBehind)
 {
 #ifdef __SANITIZE_ADDRESS__
     GTEST_SKIP() << "freed memory is kept back in this build, and its leaks are found without counting";

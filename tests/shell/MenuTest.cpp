@@ -5,14 +5,14 @@
 namespace ondelis::tests {
 namespace {
 
-TEST(MenuTest, EveryEntryIsFoundByItsControl)
+TEST(MenuTest, everyEntryIsFoundByItsControl)
 {
     for (const Menu& menu : menuTree())
         for (const MenuEntry& entry : menu.entries)
             EXPECT_EQ(findMenuEntry(entry.control), &entry) << entry.control;
 }
 
-TEST(MenuTest, TheFirstLevelHasNoHandler)
+TEST(MenuTest, theFirstLevelHasNoHandler)
 {
     for (const Menu& menu : menuTree())
         EXPECT_EQ(findMenuEntry(menu.control), nullptr) << menu.control;

@@ -108,14 +108,14 @@ protected:
     }
 };
 
-TEST_P(PlacingTest, OpensItsPanelsAloneAndInTheirPlaces)
+TEST_P(PlacingTest, opensItsPanelsAloneAndInTheirPlaces)
 {
     frame.start();
     ASSERT_TRUE(click(GetParam().entry));
     expectAllOf(GetParam());
 }
 
-TEST_P(PlacingTest, RestartsTheSameInTheSamePlaces)
+TEST_P(PlacingTest, restartsTheSameInTheSamePlaces)
 {
     frame.start();
     ASSERT_TRUE(click(GetParam().entry));
@@ -129,7 +129,7 @@ TEST_P(PlacingTest, RestartsTheSameInTheSamePlaces)
     expectAllOf(GetParam());
 }
 
-TEST_P(PlacingTest, GoesWhenAnotherEntryIsClicked)
+TEST_P(PlacingTest, goesWhenAnotherEntryIsClicked)
 {
     frame.start();
     ASSERT_TRUE(click(GetParam().entry));
@@ -147,7 +147,7 @@ INSTANTIATE_TEST_SUITE_P(Menu, PlacingTest, testing::ValuesIn(openings), [](cons
 
 class CompanionTest : public FrameTest { };
 
-TEST_F(CompanionTest, StandsBesideTheShortenedDipole)
+TEST_F(CompanionTest, standsBesideTheShortenedDipole)
 {
     frame.start();
     for (int time = 0; time < 2; ++time) {
@@ -166,7 +166,7 @@ TEST_F(CompanionTest, StandsBesideTheShortenedDipole)
     }
 }
 
-TEST_F(CompanionTest, IsCentredWhereItIsOpenedAlone)
+TEST_F(CompanionTest, isCentredWhereItIsOpenedAlone)
 {
     frame.start();
     click("MenuFiltrePasseBasEnPi");
@@ -176,7 +176,7 @@ TEST_F(CompanionTest, IsCentredWhereItIsOpenedAlone)
     EXPECT_EQ(alone.Top.get(), Single{(Double{15000} - alone.Height) / 2});
 }
 
-TEST_F(FrameTest, TheMonostableOpensWithTheValuesOfItsEntry)
+TEST_F(FrameTest, theMonostableOpensWithTheValuesOfItsEntry)
 {
     frame.start();
     click("MenuMonostable");

@@ -5,14 +5,24 @@
 #include <algorithm>
 #include <cstdlib>
 
-#include "Program.h"
+#include "Support.h"
 
 namespace ondelis {
+namespace {
+
+struct Area {
+    const char* name;
+    QSize size;
+};
+
+void PrintTo(const Area& area, std::ostream* out)
+{
+    *out << area.name;
+}
 
 /// The picture behind the panels, drawn over areas of any size.
-class BackgroundTest final : public QObject {
-    Q_OBJECT
-
+class BackgroundTest : public testing::TestWithParam<Area> {
+protected:
     static QImage drawn(Background& background, const QSize& size, const QRegion& region)
     {
         QImage image{size, QImage::Format_RGB32};
@@ -35,67 +45,55 @@ class BackgroundTest final : public QObject {
             }
         return largest;
     }
-
-private slots:
-    void looksTheSameInOneOrInBands_data()
-    {
-        QTest::addColumn<QSize>("size");
-        QTest::newRow("as stored") << QSize{1280, 942};
-        QTest::newRow("at the start") << QSize{1298, 976};
-        QTest::newRow("large") << QSize{1920, 1040};
-        QTest::newRow("high") << QSize{700, 1400};
-        QTest::newRow("small") << QSize{611, 433};
-    }
-
-    void looksTheSameInOneOrInBands()
-    {
-        QFETCH(QSize, size);
-        Background background;
-        const QRect all{{}, size};
-        const QImage first = drawn(background, size, all);
-        const QImage second = drawn(background, size, all);
-        const QImage third = drawn(background, size, all);
-        QCOMPARE(second, first);
-        // The scale of a band is that of the whole picture, apart from rounding in distant decimals.
-        QVERIFY2(difference(third, first) <= 2, qPrintable(QString::number(difference(third, first))));
-    }
-
-    void isThePictureOfTheFile()
-    {
-        Background background;
-        const QImage picture{QStringLiteral(":/fond.jpg")};
-        QVERIFY(!picture.isNull());
-        QCOMPARE(drawn(background, picture.size(), picture.rect()), picture.convertToFormat(QImage::Format_RGB32));
-    }
-
-    void drawsTheRegion()
-    {
-        Background background;
-        const QRect part{100, 300, 200, 150};
-        const QSize size{1298, 976};
-        const QImage some = drawn(background, size, part);
-        const QImage all = drawn(background, size, QRect{{}, size});
-        QCOMPARE(some.copy(part), all.copy(part));
-    }
-
-    void isDecodedAnewAfterAWhile()
-    {
-        Background background;
-        const QSize size{1298, 976};
-        const QRect all{{}, size};
-        const QImage first = drawn(background, size, all);
-        for (int i = 0; i < 3; ++i)
-            drawn(background, size, all);
-        QTest::qWait(700); // what was decoded is freed meanwhile
-        QCOMPARE(drawn(background, size, all), first);
-    }
 };
 
-} // namespace ondelis
-
-int main(int argc, char** argv)
+TEST_P(BackgroundTest, looksTheSameInOneOrInBands)
 {
-    return ondelis::runTests<ondelis::BackgroundTest>(argc, argv);
+    const QSize size = GetParam().size;
+    Background background;
+    const QRect all{{}, size};
+    const QImage first = drawn(background, size, all);
+    const QImage second = drawn(background, size, all);
+    const QImage third = drawn(background, size, all);
+    EXPECT_EQ(second, first);
+    // The scale of a band is that of the whole picture, apart from rounding in distant decimals.
+    EXPECT_LE(difference(third, first), 2);
 }
 
-#include "BackgroundTest.moc"
+INSTANTIATE_TEST_SUITE_P(Areas, BackgroundTest,
+    testing::Values(Area{"as stored", {1280, 942}}, Area{"at the start", {1298, 976}}, Area{"large", {1920, 1040}},
+        Area{"high", {700, 1400}}, Area{"small", {611, 433}}),
+    nameOfRow<Area>);
+
+TEST_F(BackgroundTest, isThePictureOfTheFile)
+{
+    Background background;
+    const QImage picture{QStringLiteral(":/fond.jpg")};
+    EXPECT_FALSE(picture.isNull());
+    EXPECT_EQ(drawn(background, picture.size(), picture.rect()), picture.convertToFormat(QImage::Format_RGB32));
+}
+
+TEST_F(BackgroundTest, drawsTheRegion)
+{
+    Background background;
+    const QRect part{100, 300, 200, 150};
+    const QSize size{1298, 976};
+    const QImage some = drawn(background, size, part);
+    const QImage all = drawn(background, size, QRect{{}, size});
+    EXPECT_EQ(some.copy(part), all.copy(part));
+}
+
+TEST_F(BackgroundTest, isDecodedAnewAfterAWhile)
+{
+    Background background;
+    const QSize size{1298, 976};
+    const QRect all{{}, size};
+    const QImage first = drawn(background, size, all);
+    for (int i = 0; i < 3; ++i)
+        drawn(background, size, all);
+    QTest::qWait(700); // what was decoded is freed meanwhile
+    EXPECT_EQ(drawn(background, size, all), first);
+}
+
+} // namespace
+} // namespace ondelis

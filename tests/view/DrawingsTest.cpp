@@ -1,25 +1,46 @@
+#include <QApplication>
 #include <QDir>
 #include <QHash>
 #include <QPainter>
 #include <QRegularExpression>
 #include <QSvgRenderer>
-#include <QTest>
 #include <QWidget>
 #include <algorithm>
 #include <cstring>
+#include <vector>
 
 #include "Desktop.h"
-#include "view/Application.h"
+#include "Support.h"
 #include "view/Colors.h"
 #include "view/DrawingWidgets.h"
 
 namespace ondelis {
+namespace {
+
+/// A drawing, and the font that its lettering is in.
+struct Lettered {
+    QFileInfo file;
+    const char* family;
+};
+
+void PrintTo(const Lettered& one, std::ostream* out)
+{
+    *out << one.file.baseName().toStdString() << ", " << one.family;
+}
+
+std::vector<Lettered> allDrawings()
+{
+    std::vector<Lettered> all;
+    for (const char* const family : {"DejaVu Sans", "Cantarell", "Noto Sans"})
+        for (const QFileInfo& file : QDir{QStringLiteral(":/dessins")}.entryInfoList())
+            all.push_back({file, family});
+    return all;
+}
 
 /// The lettering of the drawings can be read, on light windows and, with the luma inverted, on dark ones, in wide and
 /// in narrow fonts.
-class DrawingsTest final : public QObject {
-    Q_OBJECT
-
+class DrawingsTest : public testing::TestWithParam<Lettered> {
+protected:
     static constexpr double enough = 4.5;
 
     static QByteArray source(const QString& file)
@@ -130,78 +151,60 @@ class DrawingsTest final : public QObject {
         card.setFont(QFont{family});
         return card.grab().toImage();
     }
-
-private slots:
-    void theCheckFindsEachFault()
-    {
-        const QByteArray svg = "<svg xmlns=\"http://www.w3.org/2000/svg\" width=\"200\" height=\"100\">"
-                               "<rect x=\"0\" y=\"50\" width=\"100\" height=\"50\" fill=\"#808080\"/>"
-                               "<rect x=\"100\" y=\"50\" width=\"50\" height=\"50\" fill=\"rgb(31,45,61)\"/>"
-                               "<path d=\"M150 15 H200\" stroke=\"#1f2d3d\"/>"
-                               "<text x=\"10\" y=\"20\" fill=\"#1f2d3d\">A</text>"
-                               "<text x=\"40\" y=\"20\" fill=\"#808080\">B</text>"
-                               "<text x=\"10\" y=\"80\" fill=\"#2f5283\">C</text>"
-                               "<text x=\"110\" y=\"80\" fill=\"rgb(255,255,255)\">D</text>"
-                               "<text x=\"160\" y=\"20\" fill=\"#1f2d3d\">E</text>"
-                               "<text x=\"195\" y=\"80\" fill=\"#1f2d3d\">F</text>"
-                               "<text x=\"150\" y=\"50\">G</text></svg>";
-        const QString expected
-            = QStringLiteral("a text has no colour of its own, B is pale, C is pale, E is crossed, F is cut");
-        const QString family = QStringLiteral("DejaVu Sans");
-        QCOMPARE(faultsOf(svg, lightWindow(), family).join(QStringLiteral(", ")), expected);
-        QCOMPARE(
-            faultsOf(Drawing::darkened(svg, darkWindow()), darkWindow(), family).join(QStringLiteral(", ")), expected);
-    }
-
-    void blackPartsStayBlackAtNight()
-    {
-        const QByteArray dark = Drawing::darkened(source(QStringLiteral(":/dessins/cms.svg")), darkWindow());
-        QImage image = rendered(dark, QStringLiteral("DejaVu Sans"));
-        QCOMPARE(image.pixelColor(2 * 60, 2 * 20), (QColor{0x1f, 0x2d, 0x3d}));
-        QVERIFY(dark.contains("fill=\"rgb(255,255,255)\">103<"));
-    }
-
-    void letteringIsOfTheFontOfThePanel()
-    {
-        const QString wide = QStringLiteral("DejaVu Sans");
-        const QString narrow = QStringLiteral("Cantarell");
-        QVERIFY(shown("astable-555", wide) != shown("astable-555", narrow));
-        QCOMPARE(shown("section-diametre", wide), shown("section-diametre", narrow)); // it has none
-        QByteArray named = source(QStringLiteral(":/dessins/astable-555.svg"));
-        named.replace("<g ", "<g font-family=\"Cantarell\" ");
-        const QByteArray plain = source(QStringLiteral(":/dessins/astable-555.svg"));
-        QCOMPARE(rendered(plain, narrow), rendered(named, wide));
-    }
-
-    void lettering_data()
-    {
-        QTest::addColumn<QString>("file");
-        QTest::addColumn<QString>("family");
-        for (const QString& family :
-            {QStringLiteral("DejaVu Sans"), QStringLiteral("Cantarell"), QStringLiteral("Noto Sans")})
-            for (const QFileInfo& file : QDir{QStringLiteral(":/dessins")}.entryInfoList())
-                QTest::addRow("%s, %s", qPrintable(file.baseName()), qPrintable(family)) << file.filePath() << family;
-    }
-
-    void lettering()
-    {
-        QFETCH(QString, file);
-        QFETCH(QString, family);
-        const QByteArray svg = source(file);
-        QVERIFY(!svg.isEmpty());
-        QCOMPARE(faultsOf(svg, lightWindow(), family).join(QStringLiteral(", ")), QString{});
-        const QByteArray dark = Drawing::darkened(svg, darkWindow());
-        QCOMPARE(faultsOf(dark, darkWindow(), family).join(QStringLiteral(", ")), QString{});
-    }
 };
 
-} // namespace ondelis
-
-int main(int argc, char** argv)
+TEST_F(DrawingsTest, theCheckFindsEachFault)
 {
-    ondelis::Application application{argc, argv};
-    ondelis::DrawingsTest tests;
-    return QTest::qExec(&tests, argc, argv);
+    const QByteArray svg = "<svg xmlns=\"http://www.w3.org/2000/svg\" width=\"200\" height=\"100\">"
+                           "<rect x=\"0\" y=\"50\" width=\"100\" height=\"50\" fill=\"#808080\"/>"
+                           "<rect x=\"100\" y=\"50\" width=\"50\" height=\"50\" fill=\"rgb(31,45,61)\"/>"
+                           "<path d=\"M150 15 H200\" stroke=\"#1f2d3d\"/>"
+                           "<text x=\"10\" y=\"20\" fill=\"#1f2d3d\">A</text>"
+                           "<text x=\"40\" y=\"20\" fill=\"#808080\">B</text>"
+                           "<text x=\"10\" y=\"80\" fill=\"#2f5283\">C</text>"
+                           "<text x=\"110\" y=\"80\" fill=\"rgb(255,255,255)\">D</text>"
+                           "<text x=\"160\" y=\"20\" fill=\"#1f2d3d\">E</text>"
+                           "<text x=\"195\" y=\"80\" fill=\"#1f2d3d\">F</text>"
+                           "<text x=\"150\" y=\"50\">G</text></svg>";
+    const QString expected
+        = QStringLiteral("a text has no colour of its own, B is pale, C is pale, E is crossed, F is cut");
+    const QString family = QStringLiteral("DejaVu Sans");
+    EXPECT_EQ(faultsOf(svg, lightWindow(), family).join(QStringLiteral(", ")), expected);
+    EXPECT_EQ(
+        faultsOf(Drawing::darkened(svg, darkWindow()), darkWindow(), family).join(QStringLiteral(", ")), expected);
 }
 
-#include "DrawingsTest.moc"
+TEST_F(DrawingsTest, blackPartsStayBlackAtNight)
+{
+    const QByteArray dark = Drawing::darkened(source(QStringLiteral(":/dessins/cms.svg")), darkWindow());
+    QImage image = rendered(dark, QStringLiteral("DejaVu Sans"));
+    EXPECT_EQ(image.pixelColor(2 * 60, 2 * 20), (QColor{0x1f, 0x2d, 0x3d}));
+    EXPECT_TRUE(dark.contains("fill=\"rgb(255,255,255)\">103<"));
+}
+
+TEST_F(DrawingsTest, letteringIsOfTheFontOfThePanel)
+{
+    const QString wide = QStringLiteral("DejaVu Sans");
+    const QString narrow = QStringLiteral("Cantarell");
+    EXPECT_NE(shown("astable-555", wide), shown("astable-555", narrow));
+    EXPECT_EQ(shown("section-diametre", wide), shown("section-diametre", narrow)); // it has none
+    QByteArray named = source(QStringLiteral(":/dessins/astable-555.svg"));
+    named.replace("<g ", "<g font-family=\"Cantarell\" ");
+    const QByteArray plain = source(QStringLiteral(":/dessins/astable-555.svg"));
+    EXPECT_EQ(rendered(plain, narrow), rendered(named, wide));
+}
+
+TEST_P(DrawingsTest, lettering)
+{
+    const QString family = QString::fromUtf8(GetParam().family);
+    const QByteArray svg = source(GetParam().file.filePath());
+    ASSERT_FALSE(svg.isEmpty());
+    EXPECT_EQ(faultsOf(svg, lightWindow(), family).join(QStringLiteral(", ")), QString{});
+    const QByteArray dark = Drawing::darkened(svg, darkWindow());
+    EXPECT_EQ(faultsOf(dark, darkWindow(), family).join(QStringLiteral(", ")), QString{});
+}
+
+INSTANTIATE_TEST_SUITE_P(Drawings, DrawingsTest, testing::ValuesIn(allDrawings()), nameOfRow<Lettered>);
+
+} // namespace
+} // namespace ondelis

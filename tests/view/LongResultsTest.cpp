@@ -40,13 +40,10 @@ private:
     }
 };
 
-} // namespace
-
 /// Every panel at work: no result is cut, and nothing that comes up overlaps. The results are the longest that the
 /// typist reaches, with the same numbers each time.
-class LongResultsTest final : public QObject {
-    Q_OBJECT
-
+class LongResultsTest : public testing::TestWithParam<const MenuEntry*> {
+protected:
     /// The worst fault at each place while a typist works.
     static QStringList faultsDuring(Walk& walk, int rounds)
     {
@@ -65,47 +62,34 @@ class LongResultsTest final : public QObject {
             lines.append(fault.line());
         return lines;
     }
-
-private slots:
-    void theTypistFindsEachFault()
-    {
-        Walk walk;
-        int openings = 0;
-        walk.open([&](Program& program) {
-            program.open<NarrowPanel>();
-            ++openings;
-        });
-        QStringList places;
-        for (const QString& line : faultsDuring(walk, 40))
-            places.append(line.section(QLatin1Char{':'}, 0, 0).section(QLatin1Char{'.'}, -1));
-        const QStringList expected{
-            QStringLiteral("LblCut"), QStringLiteral("TxtA"), QStringLiteral("TxtCut"), QStringLiteral("TxtOpen")};
-        QCOMPARE(places, expected);
-        QVERIFY(openings > 1);
-    }
-
-    void panels_data()
-    {
-        QTest::addColumn<QString>("entry");
-        for (const MenuEntry* entry : panelEntries())
-            QTest::newRow(std::string{entry->control}.c_str()) << toQString(entry->control);
-    }
-
-    void panels()
-    {
-        QFETCH(QString, entry);
-        Walk walk;
-        walk.open(*findMenuEntry(entry.toStdString()));
-        const QStringList faults = faultsDuring(walk, 40);
-        QVERIFY2(faults.isEmpty(), qPrintable(faults.join(QLatin1Char{'\n'})));
-    }
 };
 
-} // namespace ondelis
-
-int main(int argc, char** argv)
+TEST_F(LongResultsTest, theTypistFindsEachFault)
 {
-    return ondelis::runTests<ondelis::LongResultsTest>(argc, argv);
+    Walk walk;
+    int openings = 0;
+    walk.open([&](Program& program) {
+        program.open<NarrowPanel>();
+        ++openings;
+    });
+    QStringList places;
+    for (const QString& line : faultsDuring(walk, 40))
+        places.append(line.section(QLatin1Char{':'}, 0, 0).section(QLatin1Char{'.'}, -1));
+    const QStringList expected{
+        QStringLiteral("LblCut"), QStringLiteral("TxtA"), QStringLiteral("TxtCut"), QStringLiteral("TxtOpen")};
+    EXPECT_EQ(places, expected);
+    EXPECT_GT(openings, 1);
 }
 
-#include "LongResultsTest.moc"
+TEST_P(LongResultsTest, panels)
+{
+    Walk walk;
+    walk.open(*GetParam());
+    const QStringList faults = faultsDuring(walk, 40);
+    EXPECT_TRUE(faults.isEmpty()) << qPrintable(faults.join(QLatin1Char{'\n'}));
+}
+
+INSTANTIATE_TEST_SUITE_P(Panels, LongResultsTest, testing::ValuesIn(panelEntries()), nameOfRow<const MenuEntry*>);
+
+} // namespace
+} // namespace ondelis

@@ -5,12 +5,12 @@
 #include "view/ClientArea.h"
 
 namespace ondelis {
+namespace {
 
 /// What a person sees and where the keyboard is after each entry of the menu, on one of the screens that people have:
 /// the frame is larger than most of them.
-class OpeningTest final : public QObject {
-    Q_OBJECT
-
+class OpeningTest : public testing::TestWithParam<const MenuEntry*> {
+protected:
     static constexpr int titleHeight = 24; // pixels, at least
 
     static QRect onScreen(const QWidget& widget) { return {widget.mapToGlobal(QPoint{}), widget.size()}; }
@@ -63,95 +63,77 @@ class OpeningTest final : public QObject {
         return firstControl(panel);
     }
 
-    static void addEntries()
-    {
-        QTest::addColumn<QString>("entry");
-        for (const MenuEntry* entry : panelEntries())
-            QTest::newRow(std::string{entry->control}.c_str()) << toQString(entry->control);
-    }
-
     /// Opens the panels of an entry after others have been open, as a person does.
-    static void open(Program& program, const QString& entry)
+    static void open(Program& program)
     {
         program.pick("MenuPasseHaut");
-        program.pick(entry.toUtf8().constData());
+        program.pick(GetParam()->control);
         program.view.mainWindow().activateWindow(); // a box may have been before it, and there is no window manager
-        QVERIFY(QTest::qWaitForWindowActive(&program.view.mainWindow()));
+        ASSERT_TRUE(QTest::qWaitForWindowActive(&program.view.mainWindow()));
         QCoreApplication::processEvents();
-    }
-
-private slots:
-    void aPanelThatOpensIsSeen_data() { addEntries(); }
-
-    void aPanelThatOpensIsSeen()
-    {
-        QFETCH(QString, entry);
-        const BoxCloser closer;
-        Program program;
-        open(program, entry);
-        const PanelWindow& panel = *windows(program).first();
-        QRect all;
-        for (const PanelWindow* window : windows(program))
-            all |= onScreen(*window);
-        if (fits(all.size(), room(program)))
-            QVERIFY2(seen(program).contains(all), "there is room for all");
-        if (fits(panel.size(), room(program))) {
-            QVERIFY2(seen(program).contains(onScreen(panel)), "there is room for it");
-            return;
-        }
-        const QSize title{std::min(panel.width(), seen(program).width()), titleHeight};
-        QVERIFY(seen(program).contains(QRect{onScreen(panel).topLeft(), title}));
-        if (const Control* const first = firstControl(panel.panel()))
-            QVERIFY(seen(program).contains(onScreen(program.widget(*first))));
-    }
-
-    void itsPlaceStaysAsComputed_data() { addEntries(); }
-
-    void itsPlaceStaysAsComputed()
-    {
-        QFETCH(QString, entry);
-        const BoxCloser closer;
-        Program program;
-        open(program, entry);
-        const double left = Double{windows(program).first()->panel().Left}.value();
-        const double top = Double{windows(program).first()->panel().Top}.value();
-        if (windows(program).size() == 1) { // alone, it is in the middle of the frame
-            const FeuilleCalcul& panel = windows(program).first()->panel();
-            QCOMPARE(left, (19470 - Double{panel.Width}.value()) / 2);
-            QCOMPARE(top, (15000 - Double{panel.Height}.value()) / 2);
-        } else { // the places of pairs are whole numbers, but one
-            QVERIFY(entry == QStringLiteral("mnuDipoleRaccourci") || (left >= 800 && left <= 3000));
-            QVERIFY(entry == QStringLiteral("mnuDipoleRaccourci") || (top >= 1500 && top <= 3000));
-        }
-    }
-
-    void itHasTheKeyboard_data() { addEntries(); }
-
-    void itHasTheKeyboard()
-    {
-        QFETCH(QString, entry);
-        const BoxCloser closer;
-        Program program;
-        open(program, entry);
-        const PanelWindow& panel = *windows(program).first();
-        QCOMPARE(program.view.mainWindow().area().activeSubWindow(), &panel);
-        const Control* const first = firstField(panel.panel());
-        QCOMPARE(program.desk.focused(), first);
-        if (first == nullptr)
-            return;
-        const QWidget& widget = program.widget(*first);
-        QVERIFY(widget.hasFocus());
-        QVERIFY(seen(program).contains(onScreen(widget)));
-        if (const auto* const field = qobject_cast<const QLineEdit*>(&widget))
-            QCOMPARE(field->selectedText(), field->text());
     }
 };
 
-} // namespace ondelis
-
-int main(int argc, char** argv)
+TEST_P(OpeningTest, aPanelThatOpensIsSeen)
 {
-    return ondelis::runTests<ondelis::OpeningTest>(argc, argv);
+    const BoxCloser closer;
+    Program program;
+    open(program);
+    const PanelWindow& panel = *windows(program).first();
+    QRect all;
+    for (const PanelWindow* window : windows(program))
+        all |= onScreen(*window);
+    if (fits(all.size(), room(program))) {
+        EXPECT_TRUE(seen(program).contains(all)) << "there is room for all";
+    }
+    if (fits(panel.size(), room(program))) {
+        EXPECT_TRUE(seen(program).contains(onScreen(panel))) << "there is room for it";
+        return;
+    }
+    const QSize title{std::min(panel.width(), seen(program).width()), titleHeight};
+    EXPECT_TRUE(seen(program).contains(QRect{onScreen(panel).topLeft(), title}));
+    if (const Control* const first = firstControl(panel.panel())) {
+        EXPECT_TRUE(seen(program).contains(onScreen(program.widget(*first))));
+    }
 }
 
-#include "OpeningTest.moc"
+TEST_P(OpeningTest, itsPlaceStaysAsComputed)
+{
+    const BoxCloser closer;
+    Program program;
+    open(program);
+    const double left = Double{windows(program).first()->panel().Left}.value();
+    const double top = Double{windows(program).first()->panel().Top}.value();
+    if (windows(program).size() == 1) { // alone, it is in the middle of the frame
+        const FeuilleCalcul& panel = windows(program).first()->panel();
+        EXPECT_EQ(left, (19470 - Double{panel.Width}.value()) / 2);
+        EXPECT_EQ(top, (15000 - Double{panel.Height}.value()) / 2);
+    } else if (GetParam()->control != "mnuDipoleRaccourci") { // the places of all other pairs are whole numbers
+        EXPECT_TRUE(left >= 800 && left <= 3000) << left;
+        EXPECT_TRUE(top >= 1500 && top <= 3000) << top;
+    }
+}
+
+TEST_P(OpeningTest, itHasTheKeyboard)
+{
+    const BoxCloser closer;
+    Program program;
+    open(program);
+    const PanelWindow& panel = *windows(program).first();
+    EXPECT_EQ(program.view.mainWindow().area().activeSubWindow(), &panel);
+    const Control* const first = firstField(panel.panel());
+    EXPECT_EQ(program.desk.focused(), first);
+    if (first == nullptr)
+        return;
+    const QWidget& widget = program.widget(*first);
+    EXPECT_TRUE(widget.hasFocus());
+    EXPECT_TRUE(seen(program).contains(onScreen(widget)));
+    if (const auto* const field = qobject_cast<const QLineEdit*>(&widget)) {
+        EXPECT_EQ(field->selectedText(), field->text());
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(Panels, OpeningTest, testing::ValuesIn(panelEntries()), nameOfRow<const MenuEntry*>);
+
+} // namespace
+} // namespace ondelis

@@ -2,17 +2,19 @@
 
 #include <QAbstractButton>
 #include <QAction>
+#include <QApplication>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPointer>
 #include <QTest>
 #include <QTimer>
+#include <QWheelEvent>
 #include <functional>
 #include <vector>
 
+#include "Support.h"
 #include "forms/Desk.h"
 #include "shell/MDIOndelis.h"
-#include "view/Application.h"
 #include "view/ControlWidget.h"
 #include "view/MainWindow.h"
 #include "view/PanelWindow.h"
@@ -34,7 +36,7 @@ struct Program {
     }
 
     /// Picks an entry of the menu.
-    void pick(const char* entry) { view.mainWindow().findChild<QAction*>(QString::fromUtf8(entry))->trigger(); }
+    void pick(std::string_view entry) { view.mainWindow().findChild<QAction*>(toQString(entry))->trigger(); }
 
     /// Opens the test's own panel.
     template <class Panel>
@@ -104,6 +106,22 @@ private:
     QPointer<QMessageBox> answered_;
 };
 
+/// Turns the mouse wheel one notch down over a widget.
+inline void turnWheel(QWidget& widget)
+{
+    const QPoint place = widget.rect().center();
+    QWheelEvent event{
+        place, widget.mapToGlobal(place), {}, {0, -120}, Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false};
+    QApplication::sendEvent(&widget, &event);
+}
+
+/// After the end of a program that ran in no event loop: the next one may show boxes again.
+inline void recover()
+{
+    QTimer::singleShot(0, QCoreApplication::instance(), &QCoreApplication::quit);
+    QCoreApplication::exec();
+}
+
 /// A person who presses the first button of each box that comes.
 class BoxCloser {
 public:
@@ -116,25 +134,8 @@ public:
         timer_.start(1);
     }
 
-    /// After the end of a program that ran in no event loop: the next one may show boxes again.
-    void recover() const
-    {
-        QTimer::singleShot(0, QCoreApplication::instance(), &QCoreApplication::quit);
-        QCoreApplication::exec();
-    }
-
 private:
     QTimer timer_;
 };
-
-/// Runs the tests of a class in the program's own application.
-template <class Tests>
-int runTests(int argc, char** argv)
-{
-    Application application{argc, argv};
-    QApplication::setFont(QFont{QStringLiteral("DejaVu Sans"), 9}); // the widest of the common fonts
-    Tests tests;
-    return QTest::qExec(&tests, argc, argv);
-}
 
 } // namespace ondelis

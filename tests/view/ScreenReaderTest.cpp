@@ -157,12 +157,9 @@ QStringList differences(const Told& wanted, const Told& found)
     return words;
 }
 
-} // namespace
-
 /// What screen readers find in every panel, and what they are told when it changes.
-class ScreenReaderTest final : public QObject {
-    Q_OBJECT
-
+class ScreenReaderTest : public testing::TestWithParam<const MenuEntry*> {
+protected:
     /// What is wrong in a panel for a person who cannot see it.
     static QStringList faultsOf(const PanelWindow& window)
     {
@@ -199,264 +196,251 @@ class ScreenReaderTest final : public QObject {
         }
         return twins;
     }
-
-private slots:
-    void everyPanelIsRead_data()
-    {
-        QTest::addColumn<QString>("entry");
-        for (const MenuEntry* entry : panelEntries())
-            QTest::newRow(std::string{entry->control}.c_str()) << toQString(entry->control);
-    }
-
-    void everyPanelIsRead()
-    {
-        QFETCH(QString, entry);
-        const BoxCloser closer;
-        Program program;
-        program.pick(entry.toUtf8().constData());
-        // Some captions stand twice in their panel, on purpose; the order of the fields tells them apart.
-        const QStringList knownTwins{"Txt0125 TxtL16_2", "MebIp MebIc", "LstUnités LstUniteE",
-            "TxtDiamIntFerPul TxtDiamIntFerrite", "TxtDiamExtFerPul TxtDiamExtFerrite", "TxtEpFePul TxtEpFerrite",
-            "TxtSpiresFerPul TxtSpiresFerrite", "VScrollSpiresFerPul VScrollSpiresFerrite",
-            "TxtInductanceFerPul TxtInductanceFerrite", "TxtUSec(0) TxtUSec(1)", "TxtIsec(0) TxtIsec(1)",
-            "TxtPap(0) TxtPap(1)", "TxtSpires(0) TxtSpires(1)", "TxtDiamFil(0) TxtDiamFil(1)"};
-        for (const FeuilleCalcul* panel : program.desk.loadedPanels()) {
-            const PanelWindow& window = program.window(*panel);
-            QCOMPARE(faultsOf(window), QStringList{});
-            for (const QString& twin : twinsOn(window))
-                QVERIFY2(knownTwins.contains(twin), qPrintable(twin));
-            QAccessibleInterface& told = *QAccessible::queryAccessibleInterface(program.view.find(*panel));
-            QCOMPARE(told.role(), QAccessible::Window);
-            QCOMPARE(told.text(QAccessible::Name), toQString(panel->Caption.get()));
-        }
-    }
-
-    void aFieldIsRead()
-    {
-        Program program;
-        auto& panel = program.open<TestPanel>();
-        program.store([&] { panel.TxtB.Text = "4.7 Kilo"; });
-        const Told result = found(program.widget(panel.TxtB));
-        QCOMPARE(result.role, QAccessible::EditableText);
-        QCOMPARE(result.name, QStringLiteral("Résultat"));
-        QCOMPARE(result.value, QStringLiteral("4.7 Kilo"));
-        QVERIFY(result.readOnly);
-        QVERIFY(!found(program.widget(panel.TxtA)).readOnly);
-        QVERIFY(found(program.widget(panel.MebI)).readOnly);
-    }
-
-    void aNameFollowsItsCaption()
-    {
-        Program program;
-        auto& panel = program.open<TestPanel>();
-        const auto name = [&](const Control& control) { return found(program.widget(control)).name; };
-        const ScreenReader reader;
-        program.store([&] { panel.LblB.Caption = "Largeur"; });
-        for (const Control* named : std::initializer_list<Control*>{&panel.TxtB, &panel.LstR, &panel.VscrA}) {
-            QCOMPARE(name(*named), QStringLiteral("Largeur"));
-            QVERIFY(ScreenReader::heard(QAccessible::NameChanged, program.widget(*named), QStringLiteral("Largeur")));
-        }
-        program.store([&] { panel.LblB.Caption = ""; });
-        QCOMPARE(name(panel.TxtB), QStringLiteral("Résultat")); // better than none
-        ScreenReader::forget();
-        program.store([&] { panel.LblB.Visible = false; });
-        QVERIFY(ScreenReader::heardOf(program.widget(panel.TxtB)).empty());
-    }
-
-    void aNameIsThatOfTheCaptionThatIsShown()
-    {
-        Program program;
-        program.pick("mnuHB9CV_HF");
-        auto& panel = program.desk.get<HB9CV_HF>();
-        const auto name = [&] { return found(program.widget(panel.TxtTmatch)).name; };
-        QCOMPARE(name(), QStringLiteral("0.25 * Lambda / 2 (m)"));
-        const ScreenReader reader;
-        QTest::keyClick(&program.widget(panel.HScroll1), Qt::Key_Right);
-        QTest::mouseClick(&program.widget(panel.Option2), Qt::LeftButton);
-        QCOMPARE(name(), QStringLiteral("0.30 * Lambda / 2 (m)"));
-        QVERIFY(ScreenReader::heard(QAccessible::NameChanged, program.widget(panel.TxtTmatch), name()));
-        QTest::mouseClick(&program.widget(panel.Option1), Qt::LeftButton);
-        QCOMPARE(name(), QStringLiteral("0.25 * Lambda / 2 (m)"));
-    }
-
-    void whatHasNoLabelIsNamedAfterItsPanel()
-    {
-        Program program;
-        program.pick("MenuCircuitOscillant");
-        auto& panel = program.desk.get<CircuitsOscillants>();
-        QCOMPARE(found(program.widget(panel.LstCalcul)).name, QStringLiteral("Circuits résonants"));
-        program.store([&] { panel.Caption = "Autre titre"; });
-        QCOMPARE(found(program.widget(panel.LstCalcul)).name, QStringLiteral("Autre titre"));
-    }
-
-    void resultsInFieldsAreAnnounced()
-    {
-        Program program;
-        program.pick("MenuCircuitOscillant");
-        auto& panel = program.desk.get<CircuitsOscillants>();
-        QTest::keyClicks(&program.widget(panel.TxtFreq), QStringLiteral("1"));
-        QTest::keyClicks(&program.widget(panel.TxtRes), QStringLiteral("1000"));
-        QTest::keyClicks(&program.widget(panel.TxtCapa), QStringLiteral("100"));
-        const ScreenReader reader;
-        QTest::keyClicks(&program.widget(panel.TxtCapa), QStringLiteral("0"));
-        QVERIFY(panel.TxtImp.Locked);
-        QVERIFY(ScreenReader::heard(
-            QAccessible::TextUpdated, program.widget(panel.TxtImp), toQString(panel.TxtImp.Text.get())));
-        QVERIFY(ScreenReader::heard(QAccessible::TextInserted, program.widget(panel.TxtCapa), QStringLiteral("0")));
-    }
-
-    void fieldsThatARowFillsAreAnnounced()
-    {
-        Program program;
-        program.pick("MenuCoaxiauxCourants");
-        auto& panel = program.desk.get<RVListeCoaxiaux>();
-        const ScreenReader reader;
-        QTest::keyClick(&program.widget(panel.LstResultat), Qt::Key_Home);
-        QVERIFY(!panel.TxtRef.Locked);
-        QVERIFY(ScreenReader::heard(
-            QAccessible::TextUpdated, program.widget(panel.TxtRef), toQString(panel.TxtRef.Text.get())));
-    }
-
-    void aNewTextIsAnnouncedOnce()
-    {
-        Program program;
-        auto& panel = program.open<TestPanel>();
-        const auto texts = [&](const Control& field) {
-            QStringList heard;
-            for (const ScreenReader::Event& event : ScreenReader::heardOf(program.widget(field)))
-                if (event.type == QAccessible::TextInserted || event.type == QAccessible::TextUpdated)
-                    heard.append(event.text);
-            ScreenReader::forget();
-            return heard;
-        };
-        const ScreenReader reader;
-        program.store([&] { panel.TxtB.Text = "12"; });
-        QCOMPARE(texts(panel.TxtB), QStringList{"12"});
-        program.store([&] { panel.TxtB.Text = "13"; });
-        QCOMPARE(texts(panel.TxtB), QStringList{"13"});
-        program.store([&] { panel.MebI.Text = "0.12"; });
-        QCOMPARE(texts(panel.MebI), QStringList{"1.200E-01"});
-        program.store([&] { panel.TxtM.Text = "une remarque"; });
-        QCOMPARE(texts(panel.TxtM), QStringList{"une remarque"});
-        QTest::keyClicks(&program.widget(panel.TxtA), QStringLiteral("7"));
-        QCOMPARE(texts(panel.TxtA), QStringList{"7"});
-    }
-
-    void resultsInLabelsAreAnnounced()
-    {
-        Program program;
-        program.pick("MenuAstable");
-        auto& panel = program.desk.get<Astable>();
-        const ScreenReader reader;
-        QTest::keyClick(&program.widget(panel.HscrFreq), Qt::Key_Right);
-        for (const Label* result : {&panel.LblFreq, &panel.LblR1, &panel.LblR2})
-            QVERIFY(ScreenReader::heard(
-                QAccessible::NameChanged, program.widget(*result), toQString(result->Caption.get())));
-        QVERIFY(ScreenReader::heardOf(program.widget(panel.LblCapa)).empty());
-    }
-
-    void aRowThatCodeChoosesIsAnnounced()
-    {
-        Program program;
-        auto& panel = program.open<TestPanel>();
-        panel.onRow = [&] { panel.LstR.ListIndex = 1; };
-        auto& moved = program.widget<QListWidget>(panel.LstR);
-        const ScreenReader reader;
-        QTest::keyClick(&program.widget(panel.LstU), Qt::Key_Down);
-        const auto heard = ScreenReader::heardOf(moved);
-        QVERIFY(std::ranges::any_of(
-            heard, [](const auto& event) { return event.type == QAccessible::SelectionAdd && event.child == 1; }));
-        // The keyboard has not moved there.
-        QVERIFY(std::ranges::none_of(heard, [](const auto& event) { return event.type == QAccessible::Focus; }));
-        moved.setFocus();
-        ScreenReader::forget();
-        QTest::keyClick(&moved, Qt::Key_Up);
-        QVERIFY(std::ranges::any_of(ScreenReader::heardOf(moved),
-            [](const auto& event) { return event.type == QAccessible::Focus && event.child == 0; }));
-    }
-
-    void newRowsAreAnnounced()
-    {
-        Program program;
-        program.pick("MenuCoaxiauxCourants");
-        auto& panel = program.desk.get<RVListeCoaxiaux>();
-        const ScreenReader reader;
-        QTest::keyClick(&program.widget(panel.OptVF), Qt::Key_Space);
-        QVERIFY(std::ranges::any_of(ScreenReader::heardOf(program.widget(panel.LstCritere)),
-            [](const auto& event) { return event.type == QAccessible::TableModelChanged; }));
-        QCOMPARE(faultsOf(program.window(panel)), QStringList{});
-    }
-
-    void anOptionThatCodeChoosesIsAnnounced()
-    {
-        Program program;
-        auto& panel = program.open<TestPanel>();
-        panel.onA = [&] { panel.OptY.Value = true; };
-        program.store([&] { panel.OptX.Value = true; });
-        const ScreenReader reader;
-        QTest::keyClicks(&program.widget(panel.TxtA), QStringLiteral("1"));
-        for (const Control* option : {&panel.OptX, &panel.OptY})
-            QVERIFY(std::ranges::any_of(ScreenReader::heardOf(program.widget(*option)),
-                [](const auto& event) { return event.type == QAccessible::StateChanged; }));
-    }
-
-    void aBarThatCodeMovesIsAnnounced()
-    {
-        Program program;
-        auto& panel = program.open<TestPanel>();
-        const auto& widget = program.widget(panel.HscrR);
-        const ScreenReader reader;
-        program.store([&] { panel.HscrR.Value = 60; });
-        QVERIFY(ScreenReader::heard(QAccessible::ValueChanged, widget, QStringLiteral("60")));
-        program.store([&] { panel.HscrR.Value = -10; }); // the lower end
-        ScreenReader::forget();
-        program.store([&] { panel.HscrR.Max = 0; }); // where it stays, for another value
-        QVERIFY(ScreenReader::heard(QAccessible::ValueChanged, widget, QStringLiteral("0")));
-        ScreenReader::forget();
-        program.store([&] { panel.HscrR.Visible = false; });
-        program.store([&] { panel.HscrR.Visible = true; });
-        QVERIFY(std::ranges::none_of(
-            ScreenReader::heardOf(widget), [](const auto& event) { return event.type == QAccessible::ValueChanged; }));
-    }
-
-    void aBoxIsRead()
-    {
-        Program program;
-        auto& panel = program.open<TestPanel>();
-        panel.onGo = [&] { panel.MsgBox("Continuer ?", 4, "Filtre"); };
-        QStringList read;
-        Reader reader{{"Non"}};
-        reader.meanwhile = [&] {
-            QAccessibleInterface& box = *QAccessible::queryAccessibleInterface(QApplication::activeModalWidget());
-            QCOMPARE(box.role(), QAccessible::AlertMessage);
-            read.append(box.text(QAccessible::Name));
-            for (QWidget* part : box.object()->findChildren<QWidget*>())
-                if (QAccessibleInterface& told = *QAccessible::queryAccessibleInterface(part);
-                    told.role() == QAccessible::StaticText || told.role() == QAccessible::PushButton)
-                    read.append(told.text(QAccessible::Name));
-        };
-        QTest::mouseClick(&program.widget(panel.BtnGo), Qt::LeftButton);
-        for (const char* part : {"Filtre", "Continuer ?", "Oui", "Non"})
-            QVERIFY2(read.contains(QString::fromUtf8(part)), qPrintable(read.join(QLatin1Char{'|'})));
-    }
-
-    void aFieldThatIsLockedIsAnnounced()
-    {
-        Program program;
-        auto& panel = program.open<TestPanel>();
-        const ScreenReader reader;
-        program.store([&] { panel.TxtA.Locked = true; });
-        QVERIFY(std::ranges::any_of(ScreenReader::heardOf(program.widget(panel.TxtA)),
-            [](const auto& event) { return event.type == QAccessible::StateChanged; }));
-        QVERIFY(found(program.widget(panel.TxtA)).readOnly);
-    }
 };
 
-} // namespace ondelis
-
-int main(int argc, char** argv)
+TEST_P(ScreenReaderTest, everyPanelIsRead)
 {
-    return ondelis::runTests<ondelis::ScreenReaderTest>(argc, argv);
+    const BoxCloser closer;
+    Program program;
+    program.pick(GetParam()->control);
+    // Some captions stand twice in their panel, on purpose; the order of the fields tells them apart.
+    const QStringList knownTwins{"Txt0125 TxtL16_2", "MebIp MebIc", "LstUnités LstUniteE",
+        "TxtDiamIntFerPul TxtDiamIntFerrite", "TxtDiamExtFerPul TxtDiamExtFerrite", "TxtEpFePul TxtEpFerrite",
+        "TxtSpiresFerPul TxtSpiresFerrite", "VScrollSpiresFerPul VScrollSpiresFerrite",
+        "TxtInductanceFerPul TxtInductanceFerrite", "TxtUSec(0) TxtUSec(1)", "TxtIsec(0) TxtIsec(1)",
+        "TxtPap(0) TxtPap(1)", "TxtSpires(0) TxtSpires(1)", "TxtDiamFil(0) TxtDiamFil(1)"};
+    for (const FeuilleCalcul* panel : program.desk.loadedPanels()) {
+        const PanelWindow& window = program.window(*panel);
+        EXPECT_EQ(faultsOf(window), QStringList{});
+        for (const QString& twin : twinsOn(window))
+            EXPECT_TRUE(knownTwins.contains(twin)) << qPrintable(twin);
+        QAccessibleInterface& told = *QAccessible::queryAccessibleInterface(program.view.find(*panel));
+        EXPECT_EQ(told.role(), QAccessible::Window);
+        EXPECT_EQ(told.text(QAccessible::Name), toQString(panel->Caption.get()));
+    }
 }
 
-#include "ScreenReaderTest.moc"
+TEST_F(ScreenReaderTest, aFieldIsRead)
+{
+    Program program;
+    auto& panel = program.open<TestPanel>();
+    program.store([&] { panel.TxtB.Text = "4.7 Kilo"; });
+    const Told result = found(program.widget(panel.TxtB));
+    EXPECT_EQ(result.role, QAccessible::EditableText);
+    EXPECT_EQ(result.name, QStringLiteral("Résultat"));
+    EXPECT_EQ(result.value, QStringLiteral("4.7 Kilo"));
+    EXPECT_TRUE(result.readOnly);
+    EXPECT_FALSE(found(program.widget(panel.TxtA)).readOnly);
+    EXPECT_TRUE(found(program.widget(panel.MebI)).readOnly);
+}
+
+TEST_F(ScreenReaderTest, aNameFollowsItsCaption)
+{
+    Program program;
+    auto& panel = program.open<TestPanel>();
+    const auto name = [&](const Control& control) { return found(program.widget(control)).name; };
+    const ScreenReader reader;
+    program.store([&] { panel.LblB.Caption = "Largeur"; });
+    for (const Control* named : std::initializer_list<Control*>{&panel.TxtB, &panel.LstR, &panel.VscrA}) {
+        EXPECT_EQ(name(*named), QStringLiteral("Largeur"));
+        EXPECT_TRUE(ScreenReader::heard(QAccessible::NameChanged, program.widget(*named), QStringLiteral("Largeur")));
+    }
+    program.store([&] { panel.LblB.Caption = ""; });
+    EXPECT_EQ(name(panel.TxtB), QStringLiteral("Résultat")); // better than none
+    ScreenReader::forget();
+    program.store([&] { panel.LblB.Visible = false; });
+    EXPECT_TRUE(ScreenReader::heardOf(program.widget(panel.TxtB)).empty());
+}
+
+TEST_F(ScreenReaderTest, aNameIsThatOfTheCaptionThatIsShown)
+{
+    Program program;
+    program.pick("mnuHB9CV_HF");
+    auto& panel = program.desk.get<HB9CV_HF>();
+    const auto name = [&] { return found(program.widget(panel.TxtTmatch)).name; };
+    EXPECT_EQ(name(), QStringLiteral("0.25 * Lambda / 2 (m)"));
+    const ScreenReader reader;
+    QTest::keyClick(&program.widget(panel.HScroll1), Qt::Key_Right);
+    QTest::mouseClick(&program.widget(panel.Option2), Qt::LeftButton);
+    EXPECT_EQ(name(), QStringLiteral("0.30 * Lambda / 2 (m)"));
+    EXPECT_TRUE(ScreenReader::heard(QAccessible::NameChanged, program.widget(panel.TxtTmatch), name()));
+    QTest::mouseClick(&program.widget(panel.Option1), Qt::LeftButton);
+    EXPECT_EQ(name(), QStringLiteral("0.25 * Lambda / 2 (m)"));
+}
+
+TEST_F(ScreenReaderTest, whatHasNoLabelIsNamedAfterItsPanel)
+{
+    Program program;
+    program.pick("MenuCircuitOscillant");
+    auto& panel = program.desk.get<CircuitsOscillants>();
+    EXPECT_EQ(found(program.widget(panel.LstCalcul)).name, QStringLiteral("Circuits résonants"));
+    program.store([&] { panel.Caption = "Autre titre"; });
+    EXPECT_EQ(found(program.widget(panel.LstCalcul)).name, QStringLiteral("Autre titre"));
+}
+
+TEST_F(ScreenReaderTest, resultsInFieldsAreAnnounced)
+{
+    Program program;
+    program.pick("MenuCircuitOscillant");
+    auto& panel = program.desk.get<CircuitsOscillants>();
+    QTest::keyClicks(&program.widget(panel.TxtFreq), QStringLiteral("1"));
+    QTest::keyClicks(&program.widget(panel.TxtRes), QStringLiteral("1000"));
+    QTest::keyClicks(&program.widget(panel.TxtCapa), QStringLiteral("100"));
+    const ScreenReader reader;
+    QTest::keyClicks(&program.widget(panel.TxtCapa), QStringLiteral("0"));
+    EXPECT_TRUE(panel.TxtImp.Locked);
+    EXPECT_TRUE(ScreenReader::heard(
+        QAccessible::TextUpdated, program.widget(panel.TxtImp), toQString(panel.TxtImp.Text.get())));
+    EXPECT_TRUE(ScreenReader::heard(QAccessible::TextInserted, program.widget(panel.TxtCapa), QStringLiteral("0")));
+}
+
+TEST_F(ScreenReaderTest, fieldsThatARowFillsAreAnnounced)
+{
+    Program program;
+    program.pick("MenuCoaxiauxCourants");
+    auto& panel = program.desk.get<RVListeCoaxiaux>();
+    const ScreenReader reader;
+    QTest::keyClick(&program.widget(panel.LstResultat), Qt::Key_Home);
+    EXPECT_FALSE(panel.TxtRef.Locked);
+    EXPECT_TRUE(ScreenReader::heard(
+        QAccessible::TextUpdated, program.widget(panel.TxtRef), toQString(panel.TxtRef.Text.get())));
+}
+
+TEST_F(ScreenReaderTest, aNewTextIsAnnouncedOnce)
+{
+    Program program;
+    auto& panel = program.open<TestPanel>();
+    const auto texts = [&](const Control& field) {
+        QStringList heard;
+        for (const ScreenReader::Event& event : ScreenReader::heardOf(program.widget(field)))
+            if (event.type == QAccessible::TextInserted || event.type == QAccessible::TextUpdated)
+                heard.append(event.text);
+        ScreenReader::forget();
+        return heard;
+    };
+    const ScreenReader reader;
+    program.store([&] { panel.TxtB.Text = "12"; });
+    EXPECT_EQ(texts(panel.TxtB), QStringList{"12"});
+    program.store([&] { panel.TxtB.Text = "13"; });
+    EXPECT_EQ(texts(panel.TxtB), QStringList{"13"});
+    program.store([&] { panel.MebI.Text = "0.12"; });
+    EXPECT_EQ(texts(panel.MebI), QStringList{"1.200E-01"});
+    program.store([&] { panel.TxtM.Text = "une remarque"; });
+    EXPECT_EQ(texts(panel.TxtM), QStringList{"une remarque"});
+    QTest::keyClicks(&program.widget(panel.TxtA), QStringLiteral("7"));
+    EXPECT_EQ(texts(panel.TxtA), QStringList{"7"});
+}
+
+TEST_F(ScreenReaderTest, resultsInLabelsAreAnnounced)
+{
+    Program program;
+    program.pick("MenuAstable");
+    auto& panel = program.desk.get<Astable>();
+    const ScreenReader reader;
+    QTest::keyClick(&program.widget(panel.HscrFreq), Qt::Key_Right);
+    for (const Label* result : {&panel.LblFreq, &panel.LblR1, &panel.LblR2})
+        EXPECT_TRUE(
+            ScreenReader::heard(QAccessible::NameChanged, program.widget(*result), toQString(result->Caption.get())));
+    EXPECT_TRUE(ScreenReader::heardOf(program.widget(panel.LblCapa)).empty());
+}
+
+TEST_F(ScreenReaderTest, aRowThatCodeChoosesIsAnnounced)
+{
+    Program program;
+    auto& panel = program.open<TestPanel>();
+    panel.onRow = [&] { panel.LstR.ListIndex = 1; };
+    auto& moved = program.widget<QListWidget>(panel.LstR);
+    const ScreenReader reader;
+    QTest::keyClick(&program.widget(panel.LstU), Qt::Key_Down);
+    const auto heard = ScreenReader::heardOf(moved);
+    EXPECT_TRUE(std::ranges::any_of(
+        heard, [](const auto& event) { return event.type == QAccessible::SelectionAdd && event.child == 1; }));
+    // The keyboard has not moved there.
+    EXPECT_TRUE(std::ranges::none_of(heard, [](const auto& event) { return event.type == QAccessible::Focus; }));
+    moved.setFocus();
+    ScreenReader::forget();
+    QTest::keyClick(&moved, Qt::Key_Up);
+    EXPECT_TRUE(std::ranges::any_of(ScreenReader::heardOf(moved),
+        [](const auto& event) { return event.type == QAccessible::Focus && event.child == 0; }));
+}
+
+TEST_F(ScreenReaderTest, newRowsAreAnnounced)
+{
+    Program program;
+    program.pick("MenuCoaxiauxCourants");
+    auto& panel = program.desk.get<RVListeCoaxiaux>();
+    const ScreenReader reader;
+    QTest::keyClick(&program.widget(panel.OptVF), Qt::Key_Space);
+    EXPECT_TRUE(std::ranges::any_of(ScreenReader::heardOf(program.widget(panel.LstCritere)),
+        [](const auto& event) { return event.type == QAccessible::TableModelChanged; }));
+    EXPECT_EQ(faultsOf(program.window(panel)), QStringList{});
+}
+
+TEST_F(ScreenReaderTest, anOptionThatCodeChoosesIsAnnounced)
+{
+    Program program;
+    auto& panel = program.open<TestPanel>();
+    panel.onA = [&] { panel.OptY.Value = true; };
+    program.store([&] { panel.OptX.Value = true; });
+    const ScreenReader reader;
+    QTest::keyClicks(&program.widget(panel.TxtA), QStringLiteral("1"));
+    for (const Control* option : {&panel.OptX, &panel.OptY})
+        EXPECT_TRUE(std::ranges::any_of(ScreenReader::heardOf(program.widget(*option)),
+            [](const auto& event) { return event.type == QAccessible::StateChanged; }));
+}
+
+TEST_F(ScreenReaderTest, aBarThatCodeMovesIsAnnounced)
+{
+    Program program;
+    auto& panel = program.open<TestPanel>();
+    const auto& widget = program.widget(panel.HscrR);
+    const ScreenReader reader;
+    program.store([&] { panel.HscrR.Value = 60; });
+    EXPECT_TRUE(ScreenReader::heard(QAccessible::ValueChanged, widget, QStringLiteral("60")));
+    program.store([&] { panel.HscrR.Value = -10; }); // the lower end
+    ScreenReader::forget();
+    program.store([&] { panel.HscrR.Max = 0; }); // where it stays, for another value
+    EXPECT_TRUE(ScreenReader::heard(QAccessible::ValueChanged, widget, QStringLiteral("0")));
+    ScreenReader::forget();
+    program.store([&] { panel.HscrR.Visible = false; });
+    program.store([&] { panel.HscrR.Visible = true; });
+    EXPECT_TRUE(std::ranges::none_of(
+        ScreenReader::heardOf(widget), [](const auto& event) { return event.type == QAccessible::ValueChanged; }));
+}
+
+TEST_F(ScreenReaderTest, aBoxIsRead)
+{
+    Program program;
+    auto& panel = program.open<TestPanel>();
+    panel.onGo = [&] { panel.MsgBox("Continuer ?", 4, "Filtre"); };
+    QStringList read;
+    Reader reader{{"Non"}};
+    reader.meanwhile = [&] {
+        QAccessibleInterface& box = *QAccessible::queryAccessibleInterface(QApplication::activeModalWidget());
+        EXPECT_EQ(box.role(), QAccessible::AlertMessage);
+        read.append(box.text(QAccessible::Name));
+        for (QWidget* part : box.object()->findChildren<QWidget*>())
+            if (QAccessibleInterface& told = *QAccessible::queryAccessibleInterface(part);
+                told.role() == QAccessible::StaticText || told.role() == QAccessible::PushButton)
+                read.append(told.text(QAccessible::Name));
+    };
+    QTest::mouseClick(&program.widget(panel.BtnGo), Qt::LeftButton);
+    for (const char* part : {"Filtre", "Continuer ?", "Oui", "Non"})
+        EXPECT_TRUE(read.contains(QString::fromUtf8(part))) << qPrintable(read.join(QLatin1Char{'|'}));
+}
+
+TEST_F(ScreenReaderTest, aFieldThatIsLockedIsAnnounced)
+{
+    Program program;
+    auto& panel = program.open<TestPanel>();
+    const ScreenReader reader;
+    program.store([&] { panel.TxtA.Locked = true; });
+    EXPECT_TRUE(std::ranges::any_of(ScreenReader::heardOf(program.widget(panel.TxtA)),
+        [](const auto& event) { return event.type == QAccessible::StateChanged; }));
+    EXPECT_TRUE(found(program.widget(panel.TxtA)).readOnly);
+}
+
+INSTANTIATE_TEST_SUITE_P(Panels, ScreenReaderTest, testing::ValuesIn(panelEntries()), nameOfRow<const MenuEntry*>);
+
+} // namespace
+} // namespace ondelis

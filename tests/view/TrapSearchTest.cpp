@@ -5,11 +5,11 @@
 #include "panels/antennes/GammaMatch.h"
 
 namespace ondelis {
+namespace {
 
 /// What a person sees and does while the search for the turns of a coaxial trap runs.
-class TrapSearchTest final : public QObject {
-    Q_OBJECT
-
+class TrapSearchTest : public testing::Test {
+protected:
     using Traps = AntennesTrappesCoaxiales;
 
     /// Acts once, in the middle of a search: the timer fires in each of its rounds.
@@ -69,149 +69,142 @@ class TrapSearchTest final : public QObject {
         QTest::mouseClick(&program.widget(panel.BtnCalculer), Qt::LeftButton);
     }
 
-private slots:
-    void bothReactancesAreSeenToConverge()
+    template <class Search>
+    static void openAnotherPanelDuring(Program& program, Search&& search)
     {
-        Program program;
-        const Traps& panel = openTraps(program);
-        enter(program, panel.TxtFrequence, "3.6");
-        PaintedTexts inductive{program.widget<QLineEdit>(panel.TxtReactanceInductive)};
-        PaintedTexts capacitive{program.widget<QLineEdit>(panel.TxtReactanceCapacitive)};
-        clickCalculer(program, panel);
-        // Nearly each of the 662 rounds.
-        QVERIFY(inductive.seen.size() > 600);
-        QVERIFY(capacitive.seen.size() > 600);
-        QCOMPARE(program.widget<QLineEdit>(panel.TxtReactanceInductive).text(), QStringLiteral("193.714642463106"));
-        QCOMPARE(program.widget<QLineEdit>(panel.TxtReactanceCapacitive).text(), QStringLiteral("193.714642472944"));
-        QCOMPARE(program.widget<QLineEdit>(panel.TxtNombreTours).text(), QStringLiteral("13.51"));
-    }
-
-    void aFieldTakesKeysDuringTheSearch()
-    {
-        Program program;
-        const Traps& panel = openTraps(program);
-        const Meanwhile typing{[&] { enter(program, panel.TxtFrequence, "14.1"); }};
-        clickCalculer(program, panel);
-        QVERIFY(typing.done);
-        QCOMPARE(program.widget<QLineEdit>(panel.TxtFrequence).text(), QStringLiteral("14.1"));
-        QCOMPARE(program.widget<QLineEdit>(panel.TxtNombreTours).text(), QStringLiteral("7.75"));
-        clickCalculer(program, panel);
-        QCOMPARE(program.widget<QLineEdit>(panel.TxtNombreTours).text(), QStringLiteral("4.54"));
-    }
-
-    void aSecondClickRunsASearchInsideTheFirst()
-    {
-        Program program;
-        const Traps& panel = openTraps(program);
-        enter(program, panel.TxtFrequence, "3.6");
-        QString inside;
-        const Meanwhile clicking{[&] {
-            enter(program, panel.TxtFrequence, "14.1");
-            clickCalculer(program, panel);
-            inside = program.widget<QLineEdit>(panel.TxtNombreTours).text();
-        }};
-        clickCalculer(program, panel);
-        QVERIFY(clicking.done);
-        QCOMPARE(inside, QStringLiteral("4.54"));
-        QCOMPARE(program.widget<QLineEdit>(panel.TxtNombreTours).text(), QStringLiteral("13.51"));
-    }
-
-    void closingThePanelLeavesTheSearch()
-    {
-        Program program;
-        const Traps& panel = openTraps(program);
-        const Meanwhile closing{[&] { program.window(panel).close(); }};
-        clickCalculer(program, panel);
-        QVERIFY(closing.done);
-        QVERIFY(!panel.loaded());
-        QVERIFY(program.view.find(panel) == nullptr);
-        QVERIFY(!program.desk.ended());
-        openTraps(program);
-        QVERIFY(program.window(panel).isVisible());
-        QCOMPARE(program.widget<QLineEdit>(panel.TxtNombreTours).text(), QStringLiteral("7.75"));
-    }
-
-    void closingTheProgramLeavesTheSearch()
-    {
-        Program program;
-        const Traps& panel = openTraps(program);
-        const Meanwhile closing{[&] { program.view.mainWindow().close(); }};
-        QTimer::singleShot(0, &program.view.mainWindow(), [&] { clickCalculer(program, panel); });
-        QCOMPARE(program.view.run(), 0);
-        QVERIFY(closing.done);
-        QVERIFY(program.desk.ended());
-    }
-
-    void closingTheProgramWhileThePanelOpensLeavesTheSearch()
-    {
-        Program program;
-        const Meanwhile closing{[&] { program.view.mainWindow().close(); }};
-        QTimer::singleShot(0, &program.view.mainWindow(), [&] { openTraps(program); });
-        QCOMPARE(program.view.run(), 0);
-        QVERIFY(closing.done);
-        QVERIFY(!program.desk.get<Traps>().visible());
-    }
-
-    void aFaultInsideTheSearchEndsTheProgram()
-    {
-        Program program;
-        const Traps& panel = openTraps(program);
-        const Meanwhile faulting{[&] {
-            enter(program, panel.TxtFrequence, "0");
-            clickCalculer(program, panel);
-        }};
-        Reader reader{{"OK"}};
-        QTimer::singleShot(0, &program.view.mainWindow(), [&] { clickCalculer(program, panel); });
-        QCOMPARE(program.view.run(), 1);
-        QCOMPARE(reader.seen.size(), std::size_t{1});
-        QVERIFY(reader.seen.at(0).text.contains(QStringLiteral("Division par zéro")));
-    }
-
-    void anotherPanelOpensInTheMiddleOfTheSearch_data()
-    {
-        QTest::addColumn<bool>("whileItOpens");
-        QTest::newRow("while the panel opens") << true;
-        QTest::newRow("after a click") << false;
-    }
-
-    void anotherPanelOpensInTheMiddleOfTheSearch()
-    {
-        QFETCH(bool, whileItOpens);
-        Program program;
-        if (!whileItOpens)
-            openTraps(program);
-        const Traps& panel = program.desk.get<Traps>();
         const Meanwhile picking{[&] { program.pick("mnuGammaMatch"); }};
-        if (whileItOpens)
-            openTraps(program);
-        else
-            clickCalculer(program, panel);
-        QVERIFY(picking.done);
-        QVERIFY(!panel.loaded());
-        QVERIFY(program.view.find(panel) == nullptr);
-        QVERIFY(program.window(program.desk.get<GammaMatch>()).isVisible());
-        QVERIFY(!program.desk.ended());
-    }
-
-    void thePanelIsRestartedInTheMiddleOfTheSearch()
-    {
-        Program program;
-        const Traps& panel = openTraps(program);
-        enter(program, panel.TxtFrequence, "3.6");
-        const Meanwhile picking{[&] { openTraps(program); }};
-        clickCalculer(program, panel);
-        QVERIFY(picking.done);
-        QVERIFY(program.window(panel).isVisible());
-        QCOMPARE(program.widget<QLineEdit>(panel.TxtFrequence).text(), QStringLiteral("7.1"));
-        QCOMPARE(program.widget<QLineEdit>(panel.TxtNombreTours).text(), QStringLiteral("7.75"));
+        search();
+        EXPECT_TRUE(picking.done);
+        const Traps& panel = program.desk.get<Traps>();
+        EXPECT_FALSE(panel.loaded());
+        EXPECT_EQ(program.view.find(panel), nullptr);
+        EXPECT_TRUE(program.window(program.desk.get<GammaMatch>()).isVisible());
+        EXPECT_FALSE(program.desk.ended());
     }
 };
 
-} // namespace ondelis
-
-int main(int argc, char** argv)
+TEST_F(TrapSearchTest, bothReactancesAreSeenToConverge)
 {
-    return ondelis::runTests<ondelis::TrapSearchTest>(argc, argv);
+    Program program;
+    const Traps& panel = openTraps(program);
+    enter(program, panel.TxtFrequence, "3.6");
+    PaintedTexts inductive{program.widget<QLineEdit>(panel.TxtReactanceInductive)};
+    PaintedTexts capacitive{program.widget<QLineEdit>(panel.TxtReactanceCapacitive)};
+    clickCalculer(program, panel);
+    // Nearly each of the 662 rounds.
+    EXPECT_GT(inductive.seen.size(), 600);
+    EXPECT_GT(capacitive.seen.size(), 600);
+    EXPECT_EQ(program.widget<QLineEdit>(panel.TxtReactanceInductive).text(), QStringLiteral("193.714642463106"));
+    EXPECT_EQ(program.widget<QLineEdit>(panel.TxtReactanceCapacitive).text(), QStringLiteral("193.714642472944"));
+    EXPECT_EQ(program.widget<QLineEdit>(panel.TxtNombreTours).text(), QStringLiteral("13.51"));
 }
 
-#include "TrapSearchTest.moc"
+TEST_F(TrapSearchTest, aFieldTakesKeysDuringTheSearch)
+{
+    Program program;
+    const Traps& panel = openTraps(program);
+    const Meanwhile typing{[&] { enter(program, panel.TxtFrequence, "14.1"); }};
+    clickCalculer(program, panel);
+    EXPECT_TRUE(typing.done);
+    EXPECT_EQ(program.widget<QLineEdit>(panel.TxtFrequence).text(), QStringLiteral("14.1"));
+    EXPECT_EQ(program.widget<QLineEdit>(panel.TxtNombreTours).text(), QStringLiteral("7.75"));
+    clickCalculer(program, panel);
+    EXPECT_EQ(program.widget<QLineEdit>(panel.TxtNombreTours).text(), QStringLiteral("4.54"));
+}
+
+TEST_F(TrapSearchTest, aSecondClickRunsASearchInsideTheFirst)
+{
+    Program program;
+    const Traps& panel = openTraps(program);
+    enter(program, panel.TxtFrequence, "3.6");
+    QString inside;
+    const Meanwhile clicking{[&] {
+        enter(program, panel.TxtFrequence, "14.1");
+        clickCalculer(program, panel);
+        inside = program.widget<QLineEdit>(panel.TxtNombreTours).text();
+    }};
+    clickCalculer(program, panel);
+    EXPECT_TRUE(clicking.done);
+    EXPECT_EQ(inside, QStringLiteral("4.54"));
+    EXPECT_EQ(program.widget<QLineEdit>(panel.TxtNombreTours).text(), QStringLiteral("13.51"));
+}
+
+TEST_F(TrapSearchTest, closingThePanelLeavesTheSearch)
+{
+    Program program;
+    const Traps& panel = openTraps(program);
+    const Meanwhile closing{[&] { program.window(panel).close(); }};
+    clickCalculer(program, panel);
+    EXPECT_TRUE(closing.done);
+    EXPECT_FALSE(panel.loaded());
+    EXPECT_EQ(program.view.find(panel), nullptr);
+    EXPECT_FALSE(program.desk.ended());
+    openTraps(program);
+    EXPECT_TRUE(program.window(panel).isVisible());
+    EXPECT_EQ(program.widget<QLineEdit>(panel.TxtNombreTours).text(), QStringLiteral("7.75"));
+}
+
+TEST_F(TrapSearchTest, closingTheProgramLeavesTheSearch)
+{
+    Program program;
+    const Traps& panel = openTraps(program);
+    const Meanwhile closing{[&] { program.view.mainWindow().close(); }};
+    QTimer::singleShot(0, &program.view.mainWindow(), [&] { clickCalculer(program, panel); });
+    EXPECT_EQ(program.view.run(), 0);
+    EXPECT_TRUE(closing.done);
+    EXPECT_TRUE(program.desk.ended());
+}
+
+TEST_F(TrapSearchTest, closingTheProgramWhileThePanelOpensLeavesTheSearch)
+{
+    Program program;
+    const Meanwhile closing{[&] { program.view.mainWindow().close(); }};
+    QTimer::singleShot(0, &program.view.mainWindow(), [&] { openTraps(program); });
+    EXPECT_EQ(program.view.run(), 0);
+    EXPECT_TRUE(closing.done);
+    EXPECT_FALSE(program.desk.get<Traps>().visible());
+}
+
+TEST_F(TrapSearchTest, aFaultInsideTheSearchEndsTheProgram)
+{
+    Program program;
+    const Traps& panel = openTraps(program);
+    const Meanwhile faulting{[&] {
+        enter(program, panel.TxtFrequence, "0");
+        clickCalculer(program, panel);
+    }};
+    Reader reader{{"OK"}};
+    QTimer::singleShot(0, &program.view.mainWindow(), [&] { clickCalculer(program, panel); });
+    EXPECT_EQ(program.view.run(), 1);
+    EXPECT_EQ(reader.seen.size(), 1U);
+    EXPECT_TRUE(reader.seen.at(0).text.contains(QStringLiteral("Division par zéro")));
+}
+
+TEST_F(TrapSearchTest, anotherPanelOpensInTheMiddleOfTheSearchAfterAClick)
+{
+    Program program;
+    const Traps& panel = openTraps(program);
+    openAnotherPanelDuring(program, [&] { clickCalculer(program, panel); });
+}
+
+TEST_F(TrapSearchTest, anotherPanelOpensInTheMiddleOfTheSearchWhileThePanelOpens)
+{
+    Program program;
+    openAnotherPanelDuring(program, [&] { openTraps(program); });
+}
+
+TEST_F(TrapSearchTest, thePanelIsRestartedInTheMiddleOfTheSearch)
+{
+    Program program;
+    const Traps& panel = openTraps(program);
+    enter(program, panel.TxtFrequence, "3.6");
+    const Meanwhile picking{[&] { openTraps(program); }};
+    clickCalculer(program, panel);
+    EXPECT_TRUE(picking.done);
+    EXPECT_TRUE(program.window(panel).isVisible());
+    EXPECT_EQ(program.widget<QLineEdit>(panel.TxtFrequence).text(), QStringLiteral("7.1"));
+    EXPECT_EQ(program.widget<QLineEdit>(panel.TxtNombreTours).text(), QStringLiteral("7.75"));
+}
+
+} // namespace
+} // namespace ondelis

@@ -35,7 +35,7 @@ std::vector<Choice> choicesOn(const Program& program)
 
 void Walk::open(const MenuEntry& entry)
 {
-    open([name = std::string{entry.control}](Program& program) { program.pick(name.c_str()); });
+    open([name = std::string{entry.control}](Program& program) { program.pick(name); });
 }
 
 void Walk::open(std::function<void(Program&)> opening)
@@ -48,7 +48,7 @@ void Walk::reopen()
 {
     if (program_->desk.ended()) {
         program_.reset();
-        patient_.recover();
+        recover();
         program_ = std::make_unique<Program>();
     }
     opening_(*program_);

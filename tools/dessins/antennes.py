@@ -36,11 +36,11 @@ def lpda_structure(s: Sheet) -> None:
             s.wire((xa, axis + side * feed), (middle - reach, axis + side * feed),
                    (middle + reach, axis - side * feed), (xb, axis - side * feed))
     s.wire((first, axis - feed), (30, axis - feed), (30, axis + feed), (first, axis + feed))
-    s.room("", "Stub Zt", 46, axis + feed + 18)
+    s.room("LblFrameZt", "Stub Zt", 46, axis + feed + 18)
     s.rect(last + 24, axis - 18, 40, 36, fill=PALE)
     for side in (-1, 1):
         s.wire((last, axis + side * feed), (last + 24, axis + side * feed))
-    s.room("", "Balun", last + 44, axis + 32)
+    s.room("LblFrameBalun", "Balun", last + 44, axis + 32)
     cable(s, (last + 64, axis), (s.width - 4, axis))
     for x, _ in places:
         junction(s, (x, axis - feed), (x, axis + feed))
@@ -283,5 +283,5 @@ def dipole_raccourci(s: Sheet) -> None:
         s.wire((middle + 8 * side, axis), (middle + 2 * side, axis + 20))
     insulator(s, middle, axis)
     cable(s, (middle, axis + 20), (middle, 110))
-    s.dimension((middle - end, axis), (middle + end, axis), "A", 52, label="")
-    s.dimension((middle, axis - 9), (middle + place, axis - 9), "B", 17, label="")
+    s.dimension((middle - end, axis), (middle + end, axis), "A", 52, label="LblA")
+    s.dimension((middle, axis - 9), (middle + place, axis - 9), "B", 17, label="LblB")

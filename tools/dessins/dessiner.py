@@ -25,27 +25,32 @@ TWIPS_PER_PIXEL = 15  # at 96 dots per inch
 
 def row(sheet: Sheet) -> str:
     """The line of the table for one picture."""
-    rooms = ", ".join(f'{f"`{r.label}` " if r.label else ""}"{r.text}"'
-                      f" ({r.x / sheet.width:.3f}, {r.y / sheet.height:.3f})" for r in sheet.rooms)
+    rooms = ", ".join(f'`{r.label}` "{r.text}" ({r.x / sheet.width:.3f}, {r.y / sheet.height:.3f})'
+                      for r in sheet.rooms)
     twips = f"{sheet.width * TWIPS_PER_PIXEL} x {sheet.height * TWIPS_PER_PIXEL}"
     return f"| `{sheet.name}` | {sheet.width} x {sheet.height} | {twips} | {rooms} |"
 
 
-def main() -> None:
-    target = RESOURCES / "dessins"
-    target.mkdir(parents=True, exist_ok=True)
-    rows = ["| Picture | Pixels | Twips | Labels of the panel: name, text, centre |", "|---|---|---|---|"]
-    for item in PICTURES:
-        sheet = item.sheet()
-        (target / f"{item.name}.svg").write_text(sheet.svg(), encoding="utf-8")
-        rows.append(row(sheet))
-    (RESOURCES / "ondelis.svg").write_text(icone.svg(), encoding="utf-8")
-    (RESOURCES / "fond.svg").write_text(fond.svg(), encoding="utf-8")
+def outputs() -> dict[Path, str]:
+    """What each file should hold: the pictures, and the README with the table of them."""
+    sheets = [item.sheet() for item in PICTURES]
+    files = {RESOURCES / "dessins" / f"{sheet.name}.svg": sheet.svg() for sheet in sheets}
+    files[RESOURCES / "ondelis.svg"] = icone.svg()
+    files[RESOURCES / "fond.svg"] = fond.svg()
+    rows = ["| Picture | Pixels | Twips | Labels of the panel: name, text, centre |", "|---|---|---|---|",
+            *map(row, sheets)]
     readme = HERE / "README.md"
     text = readme.read_text(encoding="utf-8")
     head, tail = text.split(BEGIN)[0], text.split(END)[1]
-    readme.write_text(head + BEGIN + "\n" + "\n".join(rows) + "\n" + END + tail, encoding="utf-8")
-    print(f"{len(PICTURES)} pictures written to {target}")
+    files[readme] = head + BEGIN + "\n" + "\n".join(rows) + "\n" + END + tail
+    return files
+
+
+def main() -> None:
+    for file, text in outputs().items():
+        file.parent.mkdir(parents=True, exist_ok=True)
+        file.write_text(text, encoding="utf-8")
+    print(f"{len(PICTURES)} pictures written to {RESOURCES / 'dessins'}")
 
 
 if __name__ == "__main__":

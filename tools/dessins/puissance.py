@@ -57,7 +57,7 @@ def core(s: Sheet, x: float, y: float, a: float) -> None:
 @picture("shunt-amperemetre", 240, 96, "Galvanomètre et résistance en parallèle")
 def shunt_amperemetre(s: Sheet) -> None:
     left, right, top, bottom, axis = 62.0, 178.0, 24.0, 68.0, 46.0
-    meter(s, (left, top), (right, top), "A")
+    meter(s, (left, top), (right, top), "A", "LblACourant")
     resistor(s, (left, bottom), (right, bottom), "R", side=-1)
     for x, end in ((left, 22), (right, 218)):
         s.wire((x, top), (x, bottom))
@@ -72,7 +72,7 @@ def shunt_amperemetre(s: Sheet) -> None:
 def shunt_voltmetre(s: Sheet) -> None:
     y = 42.0
     resistor(s, (22, y), (110, y), "R")
-    meter(s, (110, y), (218, y), "A")
+    meter(s, (110, y), (218, y), "A", "LblATension")
     terminal(s, (22, y), (218, y))
     s.text(22, y - 16, "+")
     s.text(218, y - 16, "−")

@@ -49,7 +49,7 @@ ARROW = (7.0, 2.5)
 
 @dataclass(frozen=True)
 class Room:
-    """A place left free for a label of the panel: its name ("" if the panel chooses), its text, its centre."""
+    """A place left free for a label of the panel: its name, its text, its centre."""
 
     label: str
     text: str
@@ -258,9 +258,8 @@ class Sheet:
                   label: str | None = None, extend: bool = True) -> None:
         """A dimension between a and b, drawn `offset` to the left of the way from a to b.
 
-        The text stands in a gap of the line; with `label` the gap is left to that label of the
-        panel ("" for one of any name). A span too short for its heads takes them from outside, and the text then stands
-        beyond b.
+        The text stands in a gap of the line; with `label` the gap is left to that label of the panel. A span too short
+        for its heads takes them from outside, and the text then stands beyond b.
         """
         u = towards(a, b)
         p, q = along(a, u, 0, offset), along(b, u, 0, offset)

@@ -116,13 +116,13 @@ def generator(s: Sheet, a: Point, b: Point) -> None:
     s.path(f"M{number(x - 7)} {number(y)} q3.5 -8 7 0 t7 0")
 
 
-def meter(s: Sheet, a: Point, b: Point, text: str) -> None:
-    """A measuring instrument; its letter is left to a label of the panel."""
+def meter(s: Sheet, a: Point, b: Point, text: str, label: str) -> None:
+    """A measuring instrument; its letter is left to that label of the panel."""
     radius = 13.0
     x, y = middle(a, b)
     leads(s, a, b, 2 * radius)
     s.circle((x, y), radius)
-    s.room("", text, x, y)
+    s.room(label, text, x, y)
 
 
 def battery(s: Sheet, a: Point, b: Point, text: str = "", side: int = 1) -> None:

@@ -15,11 +15,11 @@
 #include "Parts.h"
 #include "Pointer.h"
 #include "view/ClientArea.h"
-#include "view/ControlWidget.h"
 #include "view/MainWindow.h"
 #include "view/PanelWindow.h"
 #include "view/Scale.h"
 #include "view/ScrollBarWidget.h"
+#include "view/Texts.h"
 
 namespace ondelis::fenetre {
 namespace {
@@ -154,6 +154,12 @@ pilote::Hands::Refusal WindowHands::restore(const std::string& window)
         return unable();
     if (window != "MDIOndelis" || !fingers_.window()->isMinimized())
         return "the window is not minimised";
+    // Meanwhile something else has the keyboard on a desktop; where nothing takes it, the client area is not told that
+    // it is active again.
+    QWidget other;
+    other.show();
+    other.activateWindow();
+    QGuiApplication::sync();
     fingers_.window()->showNormal();
     fingers_.regainKeyboard(); // as a click into the bar of the desktop does
     return {};
