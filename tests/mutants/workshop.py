@@ -79,7 +79,7 @@ class Build:
                 *(self.folder / f"src/libondelis_{name}.a" for name in ("shell", "panels", "forms", "kit"))]
 
     def readers(self, header):
-        """The sources below `src`, and the tests of the floors, that read a header, by what the build noted."""
+        """The sources of the floors that read a header, by what the build noted."""
         said = subprocess.run(["ninja", "-C", str(self.folder), "-t", "deps"], capture_output=True, text=True,
                               check=True).stdout
         found = set()
