@@ -108,6 +108,10 @@ class Trial:
         self.mutants = [Mutant(path, change, place + 1) for place, (path, change) in enumerate(found)]
 
     def run(self):
+        try:
+            self.link([])
+        except Broken as broken:  # else each mutant would pass for one that does not compile
+            raise SystemExit(f"{self.result.name}: the build does not link\n{broken.said}") from broken
         alone = [mutant for mutant in self.mutants if mutant.change.before is None]
         rounds = defaultdict(list)
         taken = Counter()
@@ -179,6 +183,9 @@ class Trial:
     def programs(self, texts):
         texts = {**self.texts, **texts}
         objects = [self.workshop.compile(unit, texts, self.shared) for unit in self.units]
+        return self.link(objects)
+
+    def link(self, objects):
         compiler, _ = self.build.flags(self.units[0])
         return [self.workshop.link(compiler, name, objects) for name in ("pilote", *self.tests)]
 

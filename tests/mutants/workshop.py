@@ -72,7 +72,7 @@ class Build:
 
     def objects(self, program):
         """The objects of a program of the build."""
-        return [obj for _, obj in self.commands.values() if f"/{program}.dir/" in str(obj)]
+        return [obj for _, obj in self.commands.values() if f"/{program}.dir/" in str(obj) and obj.suffix == ".o"]
 
     def libraries(self):
         return [self.folder / "tools/pilote/libondelis_pilote.a",
