@@ -108,10 +108,6 @@ class Trial:
         self.mutants = [Mutant(path, change, place + 1) for place, (path, change) in enumerate(found)]
 
     def run(self):
-        try:
-            self.link([])
-        except Broken as broken:  # else each mutant would pass for one that does not compile
-            raise SystemExit(f"{self.result.name}: the build does not link\n{broken.said}") from broken
         alone = [mutant for mutant in self.mutants if mutant.change.before is None]
         rounds = defaultdict(list)
         taken = Counter()
@@ -126,7 +122,16 @@ class Trial:
             alone += self.play_together(together)
         for mutant in alone:
             self.play_alone(mutant)
+        if self.result.stillborn == len(self.mutants):
+            self.check_build()
         return self.result
+
+    def check_build(self):
+        """No change compiles: is it because nothing does?"""
+        try:
+            self.programs({})
+        except Broken as broken:
+            raise SystemExit(f"{self.result.name}: without a change it does not compile\n{broken.said}") from broken
 
     def play_together(self, mutants):
         """Plays many mutants in one build, where the environment chooses one; returns those that do not compile so."""
@@ -183,9 +188,6 @@ class Trial:
     def programs(self, texts):
         texts = {**self.texts, **texts}
         objects = [self.workshop.compile(unit, texts, self.shared) for unit in self.units]
-        return self.link(objects)
-
-    def link(self, objects):
         compiler, _ = self.build.flags(self.units[0])
         return [self.workshop.link(compiler, name, objects) for name in ("pilote", *self.tests)]
 

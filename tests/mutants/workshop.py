@@ -125,7 +125,7 @@ class Workshop:
             return read
         maker = self.folder / f"{source.stem}-made.cpp"
         maker.write_text(f'#include "{read}"\nnamespace ondelis {{\n'
-                         f"[[gnu::used]] FeuilleCalcul* made(Desk& desk) {{ return new {name[1]}{{desk}}; }}\n}}\n")
+                         f"[[gnu::used]] auto* made(Desk& desk) {{ return new {name[1]}{{desk}}; }}\n}}\n")
         return maker
 
     def link(self, compiler, program, objects):
