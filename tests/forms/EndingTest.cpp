@@ -305,5 +305,13 @@ TEST_F(EndingTest, afterTheHandlersAreLeftTheNextActionIsAsEver)
     EXPECT_EQ(panel.log, Log{"after the box"});
 }
 
+TEST_F(EndingTest, aKeyAfterTheEndIsSeenByNobody)
+{
+    panel.boxAtKey = true;
+    runtime.close();
+    EXPECT_FALSE(user.key(panel.TxtA, U'a'));
+    EXPECT_TRUE(host.boxes.empty());
+}
+
 } // namespace
 } // namespace ondelis::tests

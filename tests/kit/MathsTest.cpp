@@ -117,6 +117,9 @@ TEST(Pow, raisesToAPower)
     EXPECT_EQ(Pow(0, 2), 0);
     EXPECT_EQ(Pow(0, 0), 1);
     EXPECT_EQ(Pow(5, 0), 1);
+    EXPECT_EQ(Pow(0.25, 0.5), 0.5);
+    EXPECT_EQ(Pow(0, 0.5), 0);
+    EXPECT_EQ(Pow(1, -1), 1);
 }
 
 TEST(Pow, ofANegativeNumberToAFractionIsAnInvalidArgument)

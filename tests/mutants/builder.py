@@ -72,14 +72,14 @@ class Build:
 
     def objects(self, program):
         """The objects of a program of the build."""
-        return [obj for _, obj in self.commands.values() if f"/{program}.dir/" in str(obj)]
+        return [obj for _, obj in self.commands.values() if f"/{program}.dir/" in str(obj) and obj.suffix == ".o"]
 
     def libraries(self):
         return [self.folder / "tools/pilote/libondelis_pilote.a",
                 *(self.folder / f"src/libondelis_{name}.a" for name in ("shell", "panels", "forms", "kit"))]
 
     def readers(self, header):
-        """The sources below `src`, and the tests of the floors, that read a header, by what the build noted."""
+        """The sources of the floors that read a header, by what the build noted."""
         said = subprocess.run(["ninja", "-C", str(self.folder), "-t", "deps"], capture_output=True, text=True,
                               check=True).stdout
         found = set()
@@ -125,8 +125,7 @@ class Builder:
             return read
         wrapper = self.folder / f"{source.stem}-made.cpp"
         wrapper.write_text(f'#include "{read}"\nnamespace ondelis {{\n'
-                           "[[gnu::used]] FeuilleCalcul* made(Runtime& runtime)\n"
-                           f"{{ return new {name[1]}{{runtime}}; }}\n}}\n")
+                           f"[[gnu::used]] auto* made(Runtime& runtime) {{ return new {name[1]}{{runtime}}; }}\n}}\n")
         return wrapper
 
     def link(self, compiler, program, objects):

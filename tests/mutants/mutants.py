@@ -100,6 +100,8 @@ class Trial:
                 if equivalents.has(path, lines[change.line - 1].strip(), change):
                     self.result.listed += 1
                 else:
+                    if not self.shared and path.suffix == ".h" and CONSTANT.search(lines[change.line - 1]):
+                        change.before = None  # the compiler computes it: beside the original it would never be on
                     found.append((path, change))
         if number is not None and len(found) > number:
             found = [found[place] for place in sorted(dice.sample(range(len(found)), number))]
@@ -120,7 +122,16 @@ class Trial:
             alone += self.play_together(together)
         for mutant in alone:
             self.play_alone(mutant)
+        if self.result.stillborn == len(self.mutants):
+            self.check_build()
         return self.result
+
+    def check_build(self):
+        """No change compiles: is it because nothing does?"""
+        try:
+            self.programs({})
+        except CompileError as broken:
+            raise SystemExit(f"{self.result.name}: without a change it does not compile\n{broken.said}") from broken
 
     def play_together(self, mutants):
         """Plays many mutants in one build, where the environment chooses one; returns those that do not compile so."""

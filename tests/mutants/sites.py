@@ -30,6 +30,9 @@ PLACES = re.compile(r"\.at = \{|(?<=[ {])\.(?:Width|Height) = |\b(?:Box|Column)(
                     r"|\bColumn \w+ = \w+\.from\(|\.noms = \{|(?<=[ {])\.traits = "
                     r"|\(\{(?=[\w.]+, [^{}]+, [^{}]+, [^{}]+\})|\b(?:letterBox|letter|lettreDeCote|cote)\(")
 PLACE = re.compile(r"constexpr double \w+ = [^;]*$")
+# Functions that give a place, and the members of one; a statement that moves one.
+PLACES_OF_FUNCTIONS = re.compile(r"\bBox \w+\([^(){}]*\)(?: const)?\s*\{|\bstruct (?:Box|Column) \{")
+MOVES = re.compile(r"\bdesign\.at\.\w+ [-+]?= [^;]*;")
 # In a form, what is called with numbers gives places, but these.
 CALLED_WITH_VALUES = {"barre", "Pow", "vers"}
 LINE_ENDS = re.compile(r"\.[XY][12] = -?$")
@@ -62,7 +65,7 @@ def changes(text, header):
             continue
         made = one_token(text, code, index, header)
         found += made
-    found += statements(text, code)
+    found += [change for change in statements(text, code) if not any(start <= change.start < end for start, end in excluded)]
     found.sort(key=lambda change: (change.start, -change.end))
     for change in found:
         change.line = text.count("\n", 0, change.start) + 1
@@ -71,8 +74,8 @@ def changes(text, header):
 
 def excluded_places(text):
     """The parts of a text that say where controls stand."""
-    spans = []
-    for match in PLACES.finditer(text):
+    spans = [match.span() for match in MOVES.finditer(text)]
+    for match in (*PLACES.finditer(text), *PLACES_OF_FUNCTIONS.finditer(text)):
         depth, end = 1, match.end()
         while depth and end < len(text):
             depth += {"(": 1, "{": 1, ")": -1, "}": -1}.get(text[end], 0)
@@ -210,6 +213,8 @@ def statements(text, code):
         if end is None:
             continue
         old = " ".join(text[start:end].split())
+        if old.endswith(("= default;", "= delete;")):
+            continue
         yield Change(start, end, old, ";", "{ if (!ondelis_mutants::on(@)) { ", " } }")
 
 
