@@ -18,6 +18,8 @@ public:
     ListBox Liste{this, "Liste", {.Items = {"nF"}}};
     HScrollBar Barre{this, "Barre", {.Min = -32768, .Max = 32767}};
     HScrollBar Petite{this, "Petite", {.Min = 0, .Max = 10}};
+    CommandButton Bouton{this, "Bouton", {}};
+    OptionButton Choix{this, "Choix", {}};
     Label LblA{this, "LblA", {}};
 
     std::vector<int> keys;
@@ -68,6 +70,21 @@ TEST_F(KeysTest, backspaceAndPasteGiveTheFieldTheKeyboard)
     EXPECT_EQ(host.log, Log{"focus TxtA"});
     user.replace(panel.TxtCourt, "");
     EXPECT_EQ(host.log, (Log{"focus TxtA", "focus TxtCourt"}));
+}
+
+TEST_F(KeysTest, aClickGivesTheKeyboard)
+{
+    user.click(panel.Bouton);
+    EXPECT_EQ(host.log, Log{"focus Bouton"});
+    user.click(panel.Choix);
+    EXPECT_EQ(runtime.focused(), &panel.Choix);
+}
+
+TEST_F(KeysTest, aLetterIsTakenOutOfATooLongFieldAndNoneComesForIt)
+{
+    panel.TxtCourt.Text = "éééé";
+    user.edit(panel.TxtCourt, "éééè", "");
+    EXPECT_EQ(panel.TxtCourt.Text, "ééé");
 }
 
 TEST_F(KeysTest, aBarReachesBothEndsOfTheRange)

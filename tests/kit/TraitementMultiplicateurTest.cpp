@@ -58,6 +58,7 @@ TEST(TraitementMultiplicateur, takesTheWordOfTheRangeThatHoldsTheExponent)
         {125500, " 125.5 Kilo"},
         {1.255e7, " 12.55 Méga"},
         {1.5e9, " 1.5 Giga"},
+        {2.5e11, " 250 Giga"},
         {1.5e12, " 1.5 Téra"},
         {1.5e15, " 1500 Téra"},
     };

@@ -184,7 +184,7 @@ def strings(text, start, end, old):
     places = [place for place in range(1, len(old) - 1)
               if old[place].isascii() and old[place].isalnum() and old[place - 1] != "\\"]
     if not places:
-        return [either(start, end, old, '"?' + old[2:])]
+        return [either(start, end, old, ('"!' if old[1] == "?" else '"?') + old[2:])]
     place = places[(7 * start) % len(places)]
     letter = old[place]
     other = {"z": "y", "Z": "Y", "9": "8"}.get(letter, chr(ord(letter) + 1))

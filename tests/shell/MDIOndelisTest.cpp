@@ -18,6 +18,12 @@ TEST_F(MDIOndelisTest, startsCentredOnTheScreenWithItsSizeAndCaption)
     EXPECT_EQ(frame.Caption, "Kervane : Veloris divers V21.5.0 du 20 Janvier 2021");
 }
 
+TEST_F(MDIOndelisTest, tellsTheViewItsSizeCaptionAndPlace)
+{
+    frame.start();
+    EXPECT_EQ(host.log, Log(5, "frame"));
+}
+
 TEST_F(MDIOndelisTest, startsPartlyOffAScreenThatIsTooSmall)
 {
     host.screenSize = {.Width = 15360, .Height = 11520};
