@@ -34,7 +34,7 @@ public:
             items_.emplace_back(panel, i);
     }
 
-    /// Throws a subscript out of range if there is no such element.
+    /// Throws a subscript out of range if there is no such item.
     Item& operator()(Integer index)
     {
         if (index < 0 || index >= count())
@@ -45,7 +45,7 @@ public:
     [[nodiscard]] Integer count() const { return static_cast<int>(items_.size()); }
 
 private:
-    std::deque<Item> items_; // elements never move: their panel and the view point to them
+    std::deque<Item> items_; // items never move: their panel and the view point to them
 };
 
 } // namespace ondelis

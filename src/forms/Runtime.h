@@ -75,7 +75,7 @@ public:
     void raise(FeuilleCalcul& panel, const KeyHandler& handler, Integer& key);
 
     /// Shows a box and returns the answer. If meanwhile the program has ended, or the panel of a handler that waits for
-    /// it is gone, aborts all handlers of the present action.
+    /// it is gone or has been loaded anew, aborts all handlers of the present action.
     Answer MsgBox(const MessageBox& box);
     void DoEvents();
 
@@ -110,7 +110,8 @@ private:
 
     void fail(const Fault& fault);
     void end(int status);
-    /// Aborts the present action if the program has ended, or the panel of one of its handlers is gone.
+    /// Aborts the present action if the program has ended, or the panel of one of its handlers is gone or has been
+    /// loaded anew.
     void abortIfStale() const;
 
     Host& host_;

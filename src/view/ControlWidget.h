@@ -13,8 +13,8 @@
 
 namespace ondelis {
 
-/// The widget of a control in a sub-window: shows the control's properties, and reports to the runtime what the user
-/// does with it.
+/// The widget of a control in a sub-window: shows the control's properties, and reports what the user does with
+/// it.
 class ControlWidget {
 public:
     explicit ControlWidget(PanelWindow& window) : window_{window} { }

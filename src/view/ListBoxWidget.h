@@ -26,7 +26,7 @@ private:
     static constexpr double rowHeight = 240; ///< twips
 
     void refreshRows();
-    /// Reports to the runtime which row the user has chosen, once the base class is done with the event.
+    /// Reports which row the user has chosen, once the base class is done with the event.
     void reportChoice();
 
     bool chosen_ = false; ///< by the event that the base class is working on

@@ -246,7 +246,7 @@ void View::refreshControls()
     for (Control* control : std::exchange(changedControls_, {}))
         if (PanelWindow* const window = find(control->panel()))
             window->refresh(*control);
-    // A panel that appears has the keyboard in its first control, or where its code has put it.
+    // A panel that appears has the keyboard in its first field, or where its code has put it.
     if (raised != nullptr)
         if (PanelWindow* const window = find(*raised))
             window->activate();

@@ -33,8 +33,8 @@ public:
     /// The window of a panel; null if the panel is not on screen.
     [[nodiscard]] PanelWindow* find(const FeuilleCalcul& panel) const;
 
-    /// Runs one action of the user and shows what it changed. While a box waits for its answer only `close` gets
-    /// through; what widgets report while they are being changed is not a user action.
+    /// Runs one action of the user and shows what it changed. While a box waits for its answer it does nothing, and
+    /// only `View::close` gets through; what widgets report while they are being changed is not a user action.
     void perform(const std::function<void(User&)>& action);
     /// The user picks an entry of the menu.
     void click(const MenuEntry& entry);

@@ -3,7 +3,7 @@
 namespace ondelis::tests {
 namespace {
 
-/// A field that tells the keys it sees, a short one, and a bar over the whole range.
+/// A field that records the keys it sees, a short one, and a bar over the whole range.
 class Clavier final : public FeuilleCalcul {
 public:
     explicit Clavier(Runtime& runtime)

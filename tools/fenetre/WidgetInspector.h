@@ -6,8 +6,8 @@
 
 namespace ondelis::fenetre {
 
-/// Reads what the widgets show. It takes from the engine only what cannot be seen: what `unseen` lists, and the
-/// controls of a panel that is not on screen.
+/// Reads what the widgets show. It takes from the engine only what cannot be seen: what `ControlReader` calls `unseen`,
+/// and the controls of a panel that is not on screen.
 ///
 /// A position, which a widget has in whole pixels, and a colour that was made readable are given as the engine states
 /// them if that is what the widget shows, and else as the widget shows them.
