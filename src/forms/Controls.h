@@ -144,7 +144,6 @@ public:
     public:
         explicit ChosenText(const ListBox& list) : list_{list} { }
         operator std::string() const { return list_.List(list_.ListIndex); } // NOLINT(google-explicit-constructor)
-        friend bool operator==(const ChosenText& chosen, std::string_view text) { return std::string{chosen} == text; }
 
     private:
         const ListBox& list_;

@@ -35,7 +35,7 @@ TEST_F(ListBoxTest, opensWithItsDesignItemsAndNoChosenRow)
 {
     EXPECT_EQ(panel.LstUnite.ListCount(), 3);
     EXPECT_EQ(panel.LstUnite.ListIndex, -1);
-    EXPECT_EQ(panel.LstUnite.Text, "");
+    EXPECT_EQ(std::string{panel.LstUnite.Text}, "");
     EXPECT_EQ(panel.LstVide.ListCount(), 0);
 }
 
@@ -77,7 +77,7 @@ TEST_F(ListBoxTest, keepsTheChosenRowWhenRowsAreAdded)
 {
     panel.LstUnite.ListIndex = 1;
     panel.LstUnite.AddItem("fF");
-    EXPECT_EQ(panel.LstUnite.Text, "nF");
+    EXPECT_EQ(std::string{panel.LstUnite.Text}, "nF");
 }
 
 TEST_F(ListBoxTest, raisesNothingForClearAndHasNoChoiceThen)
@@ -87,7 +87,7 @@ TEST_F(ListBoxTest, raisesNothingForClearAndHasNoChoiceThen)
     panel.LstUnite.Clear();
     EXPECT_EQ(panel.LstUnite.ListIndex, -1);
     EXPECT_EQ(panel.LstUnite.ListCount(), 0);
-    EXPECT_EQ(panel.LstUnite.Text, "");
+    EXPECT_EQ(std::string{panel.LstUnite.Text}, "");
     EXPECT_TRUE(panel.log.empty());
 }
 

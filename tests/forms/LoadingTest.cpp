@@ -122,7 +122,7 @@ const std::vector<std::function<void(Fiche&)>> references{
     [](Fiche& panel) { EXPECT_EQ(panel.LstC.ListCount(), 1); },
     [](Fiche& panel) { EXPECT_EQ(panel.LstC.List(0), "nF"); },
     [](Fiche& panel) { EXPECT_EQ(panel.LstC.List(-1), ""); },
-    [](Fiche& panel) { EXPECT_EQ(panel.LstC.Text, ""); },
+    [](Fiche& panel) { EXPECT_EQ(std::string{panel.LstC.Text}, ""); },
     [](Fiche& panel) { EXPECT_FALSE(panel.OptC.Value); },
     [](Fiche& panel) { EXPECT_EQ(panel.HscrC.Max, 32767); },
     [](Fiche& panel) { panel.TxtC.SetFocus(); },

@@ -112,7 +112,7 @@ TEST_F(ContrastTest, theCheckFindsAPoorTitleAndMenu)
     program.pick("MenuThomson"); // two panels, one of which has no keyboard
     const QStringList faults = contrastFaultsOf(program.window(*program.runtime.loadedPanels().front()))
         + contrastFaultsOf(program.window(*program.runtime.loadedPanels().back()));
-    EXPECT_EQ(faults.filter(QStringLiteral("(title)")).size() > 0, true);
+    EXPECT_FALSE(faults.filter(QStringLiteral("(title)")).isEmpty());
 }
 
 TEST_F(ContrastTest, aPropertyKeepsAColorThatIsNotReadable)
@@ -129,7 +129,7 @@ TEST_F(ContrastTest, aPropertyKeepsAColorThatIsNotReadable)
     EXPECT_EQ(shown.color(QPalette::Text), readable(QColor{0xFF, 0x80, 0xFF}, QColor{0xC0, 0xFF, 0xFF}));
 }
 
-TEST_F(ContrastTest, colorsAreTurnedOnDarkPalettes)
+TEST_F(ContrastTest, colorsAreInvertedOnDarkPalettes)
 {
     const ScopedDesktop look = palette(true);
     const QPalette system = QApplication::palette();

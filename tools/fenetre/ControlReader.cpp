@@ -114,9 +114,9 @@ void ControlReader::seenPlace(const char* member, const Property<Single>& stated
 
 void ControlReader::seenTextColor(const char* member, Color stated, const QColor& painted, const QColor& background)
 {
-    const bool readableOnOwnGround = isSystemColor(stated) && (painted == Qt::black || painted == Qt::white)
+    const bool readableOnItsBackground = isSystemColor(stated) && (painted == Qt::black || painted == Qt::white)
         && contrast(painted, background) >= textContrast;
-    const bool same = readableOnOwnGround || painted == shownStroke(stated, background);
+    const bool same = readableOnItsBackground || painted == shownStroke(stated, background);
     seen(member, same ? plainColor(stated) : colorOf(painted));
 }
 
