@@ -1,6 +1,6 @@
 #include "Support.h"
 
-namespace ondelis::tests {
+namespace ondelis {
 namespace {
 
 /// Two options and a button on the panel, two options in a frame.
@@ -18,7 +18,7 @@ public:
     OptionButton OptPo{this, "OptPo", {.container = &Cadre}, &Choix::OptPo_Click};
     CommandButton BtnCalculer{this, "BtnCalculer", {.Caption = "Calculer"}, &Choix::BtnCalculer_Click};
 
-    Log log;
+    EventLog log;
 
 private:
     void OptF_Click() { log.emplace_back("F"); }
@@ -38,7 +38,7 @@ TEST_F(ButtonTest, anOptionRaisesClickWhenItBecomesTheChosenOne)
 {
     panel.OptL.Value = true;
     panel.OptL.Value = true;
-    EXPECT_EQ(panel.log, Log{"L alone"});
+    EXPECT_EQ(panel.log, EventLog{"L alone"});
 }
 
 TEST_F(ButtonTest, theOptionThatLosesTheChoiceRaisesNothing)
@@ -46,7 +46,7 @@ TEST_F(ButtonTest, theOptionThatLosesTheChoiceRaisesNothing)
     panel.OptL.Value = true;
     panel.log.clear();
     panel.OptF.Value = true;
-    EXPECT_EQ(panel.log, Log{"F"});
+    EXPECT_EQ(panel.log, EventLog{"F"});
     EXPECT_FALSE(panel.OptL.Value);
 }
 
@@ -57,7 +57,7 @@ TEST_F(ButtonTest, anOptionSetToFalseRaisesNothingAndLeavesNoChoice)
     EXPECT_FALSE(panel.OptF.Value);
     EXPECT_FALSE(panel.OptL.Value);
     panel.OptF.Value = true;
-    EXPECT_EQ(panel.log, Log{"F"});
+    EXPECT_EQ(panel.log, EventLog{"F"});
 }
 
 TEST_F(ButtonTest, theOptionsOfAFrameExcludeOneAnotherAlone)
@@ -67,14 +67,14 @@ TEST_F(ButtonTest, theOptionsOfAFrameExcludeOneAnotherAlone)
     EXPECT_TRUE(panel.OptF.Value);
     panel.OptL.Value = true;
     EXPECT_TRUE(panel.OptPo.Value);
-    EXPECT_EQ(panel.log, (Log{"po", "L alone"}));
+    EXPECT_EQ(panel.log, (EventLog{"po", "L alone"}));
 }
 
 TEST_F(ButtonTest, theUserChoosesAnOptionOnce)
 {
     user.click(panel.OptL);
     user.click(panel.OptL);
-    EXPECT_EQ(panel.log, Log{"L alone"});
+    EXPECT_EQ(panel.log, EventLog{"L alone"});
     EXPECT_EQ(runtime.focused(), &panel.OptL);
 }
 
@@ -90,7 +90,7 @@ TEST_F(ButtonTest, storingTrueIntoAButtonIsAClickEachTime)
 {
     panel.BtnCalculer.Value = true;
     panel.BtnCalculer.Value = true;
-    EXPECT_EQ(panel.log, (Log{"calcul", "calcul"}));
+    EXPECT_EQ(panel.log, (EventLog{"calcul", "calcul"}));
     EXPECT_FALSE(panel.BtnCalculer.Value);
 }
 
@@ -104,9 +104,9 @@ TEST_F(ButtonTest, aHiddenButtonIsClickedByCodeButNotByTheUser)
 {
     panel.BtnCalculer.Visible = false;
     panel.BtnCalculer.Value = true;
-    EXPECT_EQ(panel.log, Log{"calcul"});
+    EXPECT_EQ(panel.log, EventLog{"calcul"});
     EXPECT_TRUE(user.click(panel.BtnCalculer).has_value());
-    EXPECT_EQ(panel.log, Log{"calcul"});
+    EXPECT_EQ(panel.log, EventLog{"calcul"});
 }
 
 TEST_F(ButtonTest, whatStandsInAHiddenFrameIsHidden)
@@ -117,8 +117,8 @@ TEST_F(ButtonTest, whatStandsInAHiddenFrameIsHidden)
     EXPECT_TRUE(user.click(panel.OptPo).has_value());
     panel.Cadre.Visible = true;
     EXPECT_FALSE(user.click(panel.OptPo).has_value());
-    EXPECT_EQ(panel.log, Log{"po"});
+    EXPECT_EQ(panel.log, EventLog{"po"});
 }
 
 } // namespace
-} // namespace ondelis::tests
+} // namespace ondelis

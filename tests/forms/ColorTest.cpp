@@ -2,7 +2,7 @@
 
 #include "forms/Color.h"
 
-namespace ondelis::tests {
+namespace ondelis {
 namespace {
 
 TEST(Color, theColorsOfTheSystemAreTheirOwnKind)
@@ -24,4 +24,4 @@ TEST(Color, aPlainColorIsThatOfTheLightPalette)
 }
 
 } // namespace
-} // namespace ondelis::tests
+} // namespace ondelis

@@ -1,7 +1,7 @@
 #include "forms/ControlArray.h"
 #include "Support.h"
 
-namespace ondelis::tests {
+namespace ondelis {
 namespace {
 
 class Tableau final : public FeuilleCalcul {
@@ -26,7 +26,7 @@ public:
     ControlArray<Row> Rows{this, 2};
     TextBox After{this, "After", {}};
 
-    Log log;
+    EventLog log;
 
 private:
     void TxtUSec_Change() { log.emplace_back("TxtUSec_Change"); }
@@ -59,11 +59,11 @@ TEST_F(ControlArrayTest, namesItsElementsByTheirIndex)
 
 TEST_F(ControlArrayTest, standsOnTheFormRowAfterRow)
 {
-    Log names;
+    EventLog names;
     for (const Control* control : panel.controls())
         names.push_back(control->name());
-    EXPECT_EQ(
-        names, (Log{"Before", "Txt(0)", "Txt(1)", "Txt(2)", "Lbl(0)", "TxtUSec(0)", "Lbl(1)", "TxtUSec(1)", "After"}));
+    EXPECT_EQ(names,
+        (EventLog{"Before", "Txt(0)", "Txt(1)", "Txt(2)", "Lbl(0)", "TxtUSec(0)", "Lbl(1)", "TxtUSec(1)", "After"}));
 }
 
 TEST_F(ControlArrayTest, isTypedInLikeAnyField)
@@ -73,8 +73,8 @@ TEST_F(ControlArrayTest, isTypedInLikeAnyField)
     EXPECT_EQ(panel.Txt(2).Text, "5");
     user.type(panel.Rows(1).TxtUSec, "5");
     EXPECT_EQ(panel.Rows(1).TxtUSec.Text, "25");
-    EXPECT_EQ(panel.log, Log{"TxtUSec_Change"});
+    EXPECT_EQ(panel.log, EventLog{"TxtUSec_Change"});
 }
 
 } // namespace
-} // namespace ondelis::tests
+} // namespace ondelis

@@ -1,6 +1,6 @@
 #include "Support.h"
 
-namespace ondelis::tests {
+namespace ondelis {
 namespace {
 
 /// One control of each class, each with a design of its own.
@@ -198,4 +198,4 @@ TEST_F(DesignTest, theTwoKindsOfDrawingsDifferInTheirNames)
 }
 
 } // namespace
-} // namespace ondelis::tests
+} // namespace ondelis

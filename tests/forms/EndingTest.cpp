@@ -1,6 +1,6 @@
 #include "Support.h"
 
-namespace ondelis::tests {
+namespace ondelis {
 namespace {
 
 /// Buttons whose handlers wait, fault and end, each within another one.
@@ -17,7 +17,7 @@ public:
     CommandButton BtnFin{this, "BtnFin", {}, &Fins::BtnFin_Click};
     TextBox TxtA{this, "TxtA", {}, &Fins::TxtA_Change, &Fins::TxtA_KeyPress};
 
-    Log log;
+    EventLog log;
     std::function<void()> atChange = [] {};
     std::function<void()> atLoad = [] {};
     bool boxAtKey = false;
@@ -147,7 +147,7 @@ TEST_F(EndingTest, aBoxHoldsTheHandlerUntilItIsAnswered)
         return Answer::Ok;
     };
     user.click(panel.BtnBoite);
-    EXPECT_EQ(panel.log, Log{"after the box"});
+    EXPECT_EQ(panel.log, EventLog{"after the box"});
 }
 
 TEST_F(EndingTest, closingTheProgramWhileABoxIsOpenLeavesTheHandlers)
@@ -210,7 +210,7 @@ TEST_F(EndingTest, pendingEventsRunWithinTheHandler)
         panel.log.emplace_back("pending");
     };
     user.click(panel.BtnAttente);
-    EXPECT_EQ(panel.log, (Log{"pending", "after the events", "pending", "after the events"}));
+    EXPECT_EQ(panel.log, (EventLog{"pending", "after the events", "pending", "after the events"}));
 }
 
 TEST_F(EndingTest, aFaultOfAPendingEventLeavesTheWaitingHandlersToo)
@@ -302,7 +302,7 @@ TEST_F(EndingTest, afterTheHandlersAreLeftTheNextActionIsAsEver)
     host.onBox = [](const MessageBox&) { return Answer::Ok; };
     panel.Show();
     user.click(panel.BtnBoite);
-    EXPECT_EQ(panel.log, Log{"after the box"});
+    EXPECT_EQ(panel.log, EventLog{"after the box"});
 }
 
 TEST_F(EndingTest, aKeyAfterTheEndIsSeenByNobody)
@@ -314,4 +314,4 @@ TEST_F(EndingTest, aKeyAfterTheEndIsSeenByNobody)
 }
 
 } // namespace
-} // namespace ondelis::tests
+} // namespace ondelis

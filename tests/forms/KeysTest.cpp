@@ -1,6 +1,6 @@
 #include "Support.h"
 
-namespace ondelis::tests {
+namespace ondelis {
 namespace {
 
 /// A field that records the keys it sees, a short one, and a bar over the whole range.
@@ -67,15 +67,15 @@ TEST_F(KeysTest, nothingLandsInFrontOfTheSameLettersInAFullField)
 TEST_F(KeysTest, backspaceAndPasteGiveTheFieldTheKeyboard)
 {
     user.backspace(panel.TxtA);
-    EXPECT_EQ(host.log, Log{"focus TxtA"});
+    EXPECT_EQ(host.log, EventLog{"focus TxtA"});
     user.replace(panel.TxtCourt, "");
-    EXPECT_EQ(host.log, (Log{"focus TxtA", "focus TxtCourt"}));
+    EXPECT_EQ(host.log, (EventLog{"focus TxtA", "focus TxtCourt"}));
 }
 
 TEST_F(KeysTest, aClickGivesTheKeyboard)
 {
     user.click(panel.Bouton);
-    EXPECT_EQ(host.log, Log{"focus Bouton"});
+    EXPECT_EQ(host.log, EventLog{"focus Bouton"});
     user.click(panel.Choix);
     EXPECT_EQ(runtime.focused(), &panel.Choix);
 }
@@ -123,4 +123,4 @@ TEST_F(KeysTest, aRefusalAfterTheEndSaysSo)
 }
 
 } // namespace
-} // namespace ondelis::tests
+} // namespace ondelis

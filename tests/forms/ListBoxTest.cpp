@@ -1,6 +1,6 @@
 #include "Support.h"
 
-namespace ondelis::tests {
+namespace ondelis {
 namespace {
 
 class Listes final : public FeuilleCalcul {
@@ -16,7 +16,7 @@ public:
         &Listes::LstTete_GotFocus};
     TextBox TxtChoix{this, "TxtChoix", {}};
 
-    Log log;
+    EventLog log;
 
 private:
     void LstUnite_Click() { log.push_back("unité " + std::string{LstUnite.Text}); }
@@ -44,14 +44,14 @@ TEST_F(ListBoxTest, raisesClickForAnotherRowOnly)
     panel.LstUnite.ListIndex = 1;
     panel.LstUnite.ListIndex = 1;
     panel.LstUnite.ListIndex = 0;
-    EXPECT_EQ(panel.log, (Log{"unité nF", "unité µF"}));
+    EXPECT_EQ(panel.log, (EventLog{"unité nF", "unité µF"}));
 }
 
 TEST_F(ListBoxTest, raisesClickWhenTheChoiceIsTakenBack)
 {
     panel.LstUnite.ListIndex = 2;
     panel.LstUnite.ListIndex = -1;
-    EXPECT_EQ(panel.log, (Log{"unité pF", "unité "}));
+    EXPECT_EQ(panel.log, (EventLog{"unité pF", "unité "}));
 }
 
 TEST_F(ListBoxTest, faultsOnARowBeyondTheList)
@@ -99,7 +99,7 @@ TEST_F(ListBoxTest, raisesClickForTheOldRowNumberAfterClear)
     panel.LstUnite.AddItem("b");
     panel.log.clear();
     panel.LstUnite.ListIndex = 1;
-    EXPECT_EQ(panel.log, Log{"unité b"});
+    EXPECT_EQ(panel.log, EventLog{"unité b"});
 }
 
 TEST_F(ListBoxTest, givesTheTextsOfItsRows)
@@ -130,7 +130,7 @@ TEST_F(ListBoxTest, raisesNothingWhenTheUserClicksTheChosenRow)
 {
     EXPECT_EQ(user.choose(panel.LstUnite, 1), User::Refusal{});
     EXPECT_EQ(user.choose(panel.LstUnite, 1), User::Refusal{});
-    EXPECT_EQ(panel.log, Log{"unité nF"});
+    EXPECT_EQ(panel.log, EventLog{"unité nF"});
 }
 
 TEST_F(ListBoxTest, raisesClickForTheChosenRowWhereTheDesignSaysSo)
@@ -138,23 +138,23 @@ TEST_F(ListBoxTest, raisesClickForTheChosenRowWhereTheDesignSaysSo)
     user.choose(panel.LstTete, 1);
     user.choose(panel.LstTete, 1);
     panel.LstTete.ListIndex = 1;
-    EXPECT_EQ(panel.log, (Log{"clavier", "tête", "tête"}));
+    EXPECT_EQ(panel.log, (EventLog{"clavier", "tête", "tête"}));
 }
 
 TEST_F(ListBoxTest, raisesGotFocusOnlyWhenItDidNotHaveTheKeyboard)
 {
     user.focus(panel.LstTete);
     user.focus(panel.LstTete);
-    EXPECT_EQ(panel.log, Log{"clavier"});
+    EXPECT_EQ(panel.log, EventLog{"clavier"});
     user.choose(panel.LstUnite, 0);
     user.choose(panel.LstTete, 0);
-    EXPECT_EQ(panel.log, (Log{"clavier", "unité µF", "clavier", "tête"}));
+    EXPECT_EQ(panel.log, (EventLog{"clavier", "unité µF", "clavier", "tête"}));
 }
 
 TEST_F(ListBoxTest, raisesNoGotFocusForAStoreFromCode)
 {
     panel.LstTete.ListIndex = 1;
-    EXPECT_EQ(panel.log, Log{"tête"});
+    EXPECT_EQ(panel.log, EventLog{"tête"});
 }
 
 TEST_F(ListBoxTest, raisesGotFocusAgainAfterAnUnload)
@@ -163,7 +163,7 @@ TEST_F(ListBoxTest, raisesGotFocusAgainAfterAnUnload)
     panel.Unload();
     panel.Show();
     user.focus(panel.LstTete);
-    EXPECT_EQ(panel.log, (Log{"clavier", "clavier"}));
+    EXPECT_EQ(panel.log, (EventLog{"clavier", "clavier"}));
 }
 
 TEST_F(ListBoxTest, refusesTheUserARowThatIsNotThere)
@@ -175,4 +175,4 @@ TEST_F(ListBoxTest, refusesTheUserARowThatIsNotThere)
 }
 
 } // namespace
-} // namespace ondelis::tests
+} // namespace ondelis

@@ -1,6 +1,6 @@
 #include "Support.h"
 
-namespace ondelis::tests {
+namespace ondelis {
 namespace {
 
 /// Records each Form_Load, and does there what the test asks.
@@ -80,7 +80,7 @@ TEST_F(LoadingTest, showLoadsOnceAndMakesVisible)
     panel.Show();
     panel.Show();
     expectLoadedAndVisible();
-    EXPECT_EQ(host.log, (Log{"loaded Fiche", "changed Fiche", "raised Fiche", "raised Fiche"}));
+    EXPECT_EQ(host.log, (EventLog{"loaded Fiche", "changed Fiche", "raised Fiche", "raised Fiche"}));
 }
 
 TEST_F(LoadingTest, readingATextLoadsAndShows)
@@ -319,4 +319,4 @@ TEST_F(LoadingTest, aControlIsFoundByItsName)
 }
 
 } // namespace
-} // namespace ondelis::tests
+} // namespace ondelis

@@ -1,7 +1,7 @@
 #include "Support.h"
 #include "kit/Region.h"
 
-namespace ondelis::tests {
+namespace ondelis {
 namespace {
 
 class Masque final : public FeuilleCalcul {
@@ -56,4 +56,4 @@ TEST_F(MaskEdBoxTest, showsWhatIsNoNumberAsItIs)
 }
 
 } // namespace
-} // namespace ondelis::tests
+} // namespace ondelis

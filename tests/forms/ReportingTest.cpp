@@ -2,7 +2,7 @@
 
 #include "Support.h"
 
-namespace ondelis::tests {
+namespace ondelis {
 namespace {
 
 /// One control of each class that has properties to store.
@@ -28,7 +28,7 @@ public:
 
 struct Store {
     std::function<void(Palette&)> run;
-    Log reported;
+    EventLog reported;
 };
 
 const std::vector<Store> stores{
@@ -61,7 +61,7 @@ class ReportingTest : public RuntimeTest {
 protected:
     Palette& panel = runtime.get<Palette>();
 
-    Log reportedBy(const std::function<void(Palette&)>& action)
+    EventLog reportedBy(const std::function<void(Palette&)>& action)
     {
         host.log.clear();
         action(panel);
@@ -74,48 +74,48 @@ TEST_F(ReportingTest, theViewIsToldOfEachNewValueOnce)
     panel.Show();
     for (const Store& store : stores) {
         EXPECT_EQ(reportedBy(store.run), store.reported) << "store " << &store - stores.data();
-        EXPECT_EQ(reportedBy(store.run), Log{}) << "again store " << &store - stores.data();
+        EXPECT_EQ(reportedBy(store.run), EventLog{}) << "again store " << &store - stores.data();
     }
 }
 
 TEST_F(ReportingTest, theViewIsToldOfEachRowThatComesAndOfAListThatIsCleared)
 {
     panel.Show();
-    EXPECT_EQ(reportedBy([](Palette& palette) { palette.Liste.AddItem("µF"); }), Log{"control Liste"});
-    EXPECT_EQ(reportedBy([](Palette& palette) { palette.Liste.Clear(); }), Log{"control Liste"});
+    EXPECT_EQ(reportedBy([](Palette& palette) { palette.Liste.AddItem("µF"); }), EventLog{"control Liste"});
+    EXPECT_EQ(reportedBy([](Palette& palette) { palette.Liste.Clear(); }), EventLog{"control Liste"});
 }
 
 TEST_F(ReportingTest, theViewIsToldWhichFieldCodeGivesTheKeyboard)
 {
     panel.Show();
-    EXPECT_EQ(reportedBy([](Palette& palette) { palette.Champ.SetFocus(); }), Log{"focus Champ"});
+    EXPECT_EQ(reportedBy([](Palette& palette) { palette.Champ.SetFocus(); }), EventLog{"focus Champ"});
     EXPECT_EQ(runtime.focused(), &panel.Champ);
 }
 
 TEST_F(ReportingTest, theViewIsToldOfAPanelThatHidesOnce)
 {
     panel.Show();
-    EXPECT_EQ(reportedBy([](Palette& palette) { palette.Hide(); }), Log{"changed Palette"});
-    EXPECT_EQ(reportedBy([](Palette& palette) { palette.Hide(); }), Log{});
+    EXPECT_EQ(reportedBy([](Palette& palette) { palette.Hide(); }), EventLog{"changed Palette"});
+    EXPECT_EQ(reportedBy([](Palette& palette) { palette.Hide(); }), EventLog{});
 }
 
 TEST_F(ReportingTest, theViewIsNeverToldToShowAPanelThatIsLoadedHidden)
 {
-    EXPECT_EQ(reportedBy([](Palette& palette) { palette.Hide(); }), (Log{"loaded Palette", "changed Palette"}));
+    EXPECT_EQ(reportedBy([](Palette& palette) { palette.Hide(); }), (EventLog{"loaded Palette", "changed Palette"}));
 }
 
 TEST_F(ReportingTest, theViewIsToldOfAPanelThatIsClosedOnce)
 {
     panel.Show();
-    EXPECT_EQ(reportedBy([](Palette& palette) { palette.Unload(); }), Log{"unloaded Palette"});
-    EXPECT_EQ(reportedBy([](Palette& palette) { palette.Unload(); }), Log{});
+    EXPECT_EQ(reportedBy([](Palette& palette) { palette.Unload(); }), EventLog{"unloaded Palette"});
+    EXPECT_EQ(reportedBy([](Palette& palette) { palette.Unload(); }), EventLog{});
 }
 
 TEST_F(ReportingTest, theViewIsToldNothingOfAValueThatIsOnlyRead)
 {
     panel.Show();
-    EXPECT_EQ(reportedBy([](Palette& palette) { EXPECT_EQ(palette.Liste.List(1), "pF"); }), Log{});
+    EXPECT_EQ(reportedBy([](Palette& palette) { EXPECT_EQ(palette.Liste.List(1), "pF"); }), EventLog{});
 }
 
 } // namespace
-} // namespace ondelis::tests
+} // namespace ondelis

@@ -2,7 +2,7 @@
 #include "Support.h"
 #include "kit/Conversions.h"
 
-namespace ondelis::tests {
+namespace ondelis {
 namespace {
 
 /// A Form_Load with a fault in a statement of its own, and one in a handler that a statement runs.
@@ -17,7 +17,7 @@ public:
     TextBox TxtB{this, "TxtB", {}, &Defauts::TxtB_Change};
     ListBox LstA{this, "LstA", {.Items = {"un"}}};
 
-    Log log;
+    EventLog log;
     bool endInside = false;
 
 private:
@@ -54,7 +54,7 @@ TEST_F(ResumeNextTest, aFaultEndsItsStatementAndTheNextOneRuns)
 {
     auto& panel = runtime.get<Defauts>();
     runtime.perform([&] { panel.Show(); });
-    EXPECT_EQ(panel.log, (Log{"first", "A begins", "last"}));
+    EXPECT_EQ(panel.log, (EventLog{"first", "A begins", "last"}));
     EXPECT_EQ(host.fault, std::nullopt);
     EXPECT_FALSE(runtime.ended());
 }
@@ -83,9 +83,9 @@ TEST_F(ResumeNextTest, anEndInsideAStatementIsNotPassedOver)
     auto& panel = runtime.get<Defauts>();
     panel.endInside = true;
     runtime.perform([&] { panel.Show(); });
-    EXPECT_EQ(panel.log, (Log{"first", "A begins"}));
+    EXPECT_EQ(panel.log, (EventLog{"first", "A begins"}));
     EXPECT_EQ(host.endings, std::vector<int>{0});
 }
 
 } // namespace
-} // namespace ondelis::tests
+} // namespace ondelis

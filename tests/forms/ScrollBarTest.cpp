@@ -1,7 +1,7 @@
 #include "Support.h"
 #include "kit/Conversions.h"
 
-namespace ondelis::tests {
+namespace ondelis {
 namespace {
 
 class Barres final : public FeuilleCalcul {
@@ -15,7 +15,7 @@ public:
     VScrollBar VScrollPot{this, "VScrollPot", {.Min = 100, .Max = 0, .Value = 30}, &Barres::VScrollPot_Change};
     TextBox TxtFreq{this, "TxtFreq", {}, &Barres::TxtFreq_Change};
 
-    Log log;
+    EventLog log;
 
 private:
     void HscrFreq_Change()
@@ -37,14 +37,14 @@ TEST_F(ScrollBarTest, raisesChangeForANewValueOnly)
 {
     panel.HscrFreq.Value = 60;
     panel.HscrFreq.Value = 60;
-    EXPECT_EQ(panel.log, Log{"freq 60"});
+    EXPECT_EQ(panel.log, EventLog{"freq 60"});
 }
 
 TEST_F(ScrollBarTest, takesItsLimits)
 {
     panel.HscrFreq.Value = 10;
     panel.HscrFreq.Value = 100;
-    EXPECT_EQ(panel.log, (Log{"freq 10", "freq 100"}));
+    EXPECT_EQ(panel.log, (EventLog{"freq 10", "freq 100"}));
 }
 
 TEST_F(ScrollBarTest, faultsOnAValueOutsideItsLimits)
@@ -59,7 +59,7 @@ TEST_F(ScrollBarTest, allowsWhatLiesBetweenReversedLimits)
 {
     panel.VScrollPot.Value = 100;
     panel.VScrollPot.Value = 0;
-    EXPECT_EQ(panel.log, (Log{"pot 100", "pot 0"}));
+    EXPECT_EQ(panel.log, (EventLog{"pot 100", "pot 0"}));
     EXPECT_EQ(faultOf([&] { panel.VScrollPot.Value = 101; }), FaultKind::InvalidPropertyValue);
     EXPECT_EQ(faultOf([&] { panel.VScrollPot.Value = -1; }), FaultKind::InvalidPropertyValue);
 }
@@ -70,7 +70,7 @@ TEST_F(ScrollBarTest, followsALimitThatLeavesItsValueOutside)
     EXPECT_EQ(panel.HscrFreq.Value, 40);
     panel.HscrFreq.Max = 200;
     panel.HscrFreq.Min = 150;
-    EXPECT_EQ(panel.log, (Log{"freq 40", "freq 150"}));
+    EXPECT_EQ(panel.log, (EventLog{"freq 40", "freq 150"}));
 }
 
 TEST_F(ScrollBarTest, staysWhereALimitLeavesItInside)
@@ -87,7 +87,7 @@ TEST_F(ScrollBarTest, followsTheNearestOfReversedLimits)
     EXPECT_EQ(panel.VScrollPot.Value, 20);
     panel.VScrollPot.Min = 100;
     panel.VScrollPot.Max = 60;
-    EXPECT_EQ(panel.log, (Log{"pot 20", "pot 60"}));
+    EXPECT_EQ(panel.log, (EventLog{"pot 20", "pot 60"}));
 }
 
 TEST_F(ScrollBarTest, staysWhenALimitPassesTheOtherOneAndTheValueIsBetween)
@@ -96,7 +96,7 @@ TEST_F(ScrollBarTest, staysWhenALimitPassesTheOtherOneAndTheValueIsBetween)
     EXPECT_EQ(panel.HscrFreq.Value, 100);
     panel.HscrFreq.Max = 20; // 300 down to 20: 100 lies between
     EXPECT_EQ(panel.HscrFreq.Value, 100);
-    EXPECT_EQ(panel.log, Log{"freq 100"});
+    EXPECT_EQ(panel.log, EventLog{"freq 100"});
 }
 
 TEST_F(ScrollBarTest, mirrorsAFieldUntilNothingChanges)
@@ -104,7 +104,7 @@ TEST_F(ScrollBarTest, mirrorsAFieldUntilNothingChanges)
     user.replace(panel.TxtFreq, "70.4");
     EXPECT_EQ(panel.HscrFreq.Value, 70);
     EXPECT_EQ(panel.TxtFreq.Text, "70");
-    EXPECT_EQ(panel.log, Log{"freq 70"});
+    EXPECT_EQ(panel.log, EventLog{"freq 70"});
 }
 
 TEST_F(ScrollBarTest, endsTheProgramWhenAFieldDrivesItOutside)
@@ -119,7 +119,7 @@ TEST_F(ScrollBarTest, refusesTheUserAValueOutside)
     EXPECT_TRUE(user.move(panel.HscrFreq, 100000).has_value());
     EXPECT_TRUE(user.move(panel.HscrFreq, -100000).has_value());
     EXPECT_FALSE(user.move(panel.HscrFreq, 100).has_value());
-    EXPECT_EQ(panel.log, Log{"freq 100"});
+    EXPECT_EQ(panel.log, EventLog{"freq 100"});
     EXPECT_EQ(runtime.focused(), &panel.HscrFreq);
 }
 
@@ -132,4 +132,4 @@ TEST_F(ScrollBarTest, hasItsDesignLimitsAgainAfterUnload)
 }
 
 } // namespace
-} // namespace ondelis::tests
+} // namespace ondelis

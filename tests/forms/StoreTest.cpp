@@ -1,6 +1,6 @@
 #include "Support.h"
 
-namespace ondelis::tests {
+namespace ondelis {
 namespace {
 
 /// A field that fills a second one, which fills a third one.
@@ -18,7 +18,7 @@ public:
     TextBox TxtSeul{this, "TxtSeul", {}};
     Line Trait{this, "Trait", {.X1 = 100}};
 
-    Log log;
+    EventLog log;
 
 private:
     void TxtA_Change()
@@ -44,14 +44,14 @@ protected:
 TEST_F(StoreTest, runsTheWholeNestedChainBeforeTheNextStatement)
 {
     panel.TxtA.Text = "x";
-    EXPECT_EQ(panel.log, (Log{"A begins with x", "B begins", "C with de x", "B ends", "A ends"}));
+    EXPECT_EQ(panel.log, (EventLog{"A begins with x", "B begins", "C with de x", "B ends", "A ends"}));
 }
 
 TEST_F(StoreTest, ofTheSameTextTwiceRaisesOnce)
 {
     panel.TxtC.Text = "x";
     panel.TxtC.Text = "x";
-    EXPECT_EQ(panel.log, Log{"C with x"});
+    EXPECT_EQ(panel.log, EventLog{"C with x"});
 }
 
 TEST_F(StoreTest, writesACaptionUntilThePanelIsLoadedAnew)
@@ -140,7 +140,7 @@ TEST_F(StoreTest, tellsTheViewBeforeTheHandlerRuns)
     panel.Show();
     host.log.clear();
     panel.TxtB.Text = "x";
-    EXPECT_EQ(host.log, (Log{"control TxtB", "control TxtC"}));
+    EXPECT_EQ(host.log, (EventLog{"control TxtB", "control TxtC"}));
 }
 
 TEST_F(StoreTest, tellsTheViewOnlyWhatIsNew)
@@ -154,7 +154,7 @@ TEST_F(StoreTest, tellsTheViewOnlyWhatIsNew)
     panel.LblA.Caption = "A";
     panel.Caption = "Chaîne";
     panel.Caption = "Autre";
-    EXPECT_EQ(host.log, (Log{"control TxtA", "control TxtA", "changed Chaine"}));
+    EXPECT_EQ(host.log, (EventLog{"control TxtA", "control TxtA", "changed Chaine"}));
 }
 
 /// A field that its own `Change` rewrites, as a `Calculer` does.
@@ -185,4 +185,4 @@ TEST_F(StoreTest, endsAChainWhereNothingChanges)
 }
 
 } // namespace
-} // namespace ondelis::tests
+} // namespace ondelis

@@ -12,10 +12,11 @@
 #include "forms/Host.h"
 #include "forms/Runtime.h"
 #include "forms/User.h"
+#include "kit/Support.h"
 
-namespace ondelis::tests {
+namespace ondelis {
 
-using Log = std::vector<std::string>;
+using EventLog = std::vector<std::string>;
 
 /// A host that a test can inspect, and that acts as the test says.
 class TestHost final : public Host {
@@ -31,7 +32,7 @@ public:
     std::vector<MessageBox> boxes;
     std::optional<FaultKind> fault;
     std::vector<int> endings; ///< the status of each end of the program: there must never be two
-    Log log; ///< what is reported to the view
+    EventLog log; ///< what is reported to the view
 
     Answer showBox(const MessageBox& box) override
     {
@@ -64,16 +65,4 @@ protected:
     User user{runtime};
 };
 
-/// The kind of the fault that an action throws; nothing if it throws none.
-template <class Action>
-std::optional<FaultKind> faultOf(Action&& action)
-{
-    try {
-        action();
-    } catch (const Fault& fault) {
-        return fault.kind();
-    }
-    return {};
-}
-
-} // namespace ondelis::tests
+} // namespace ondelis

@@ -1,7 +1,7 @@
 #include "Support.h"
 #include "kit/Text.h"
 
-namespace ondelis::tests {
+namespace ondelis {
 namespace {
 
 class Saisie final : public FeuilleCalcul {
@@ -21,7 +21,7 @@ public:
     Shape Cadre{this, "Cadre", {}};
     MaskEdBox MebIp{this, "MebIp", {}};
 
-    Log log;
+    EventLog log;
     bool hideAtChange = false;
 
 private:
@@ -57,7 +57,7 @@ protected:
 TEST_F(UserTest, eachKeyIsSeenBeforeItEntersTheField)
 {
     user.type(panel.TxtA, "1,5");
-    EXPECT_EQ(panel.log, (Log{"key 49", "text 1", "key 44", "text 1,", "key 53", "text 1,5"}));
+    EXPECT_EQ(panel.log, (EventLog{"key 49", "text 1", "key 44", "text 1,", "key 53", "text 1,5"}));
 }
 
 TEST_F(UserTest, anEmptyTextIsNoKeyAtAll)
@@ -69,13 +69,13 @@ TEST_F(UserTest, anEmptyTextIsNoKeyAtAll)
 TEST_F(UserTest, aCharacterIsOneKeyHoweverManyBytesItHas)
 {
     user.type(panel.TxtA, "éΩ");
-    EXPECT_EQ(panel.log, (Log{"key 233", "text é", "key 937", "text éΩ"}));
+    EXPECT_EQ(panel.log, (EventLog{"key 233", "text é", "key 937", "text éΩ"}));
 }
 
 TEST_F(UserTest, aKeyBeyondTheRangeOfIntegerReadsAsAQuestionMark)
 {
     user.type(panel.TxtA, "\U0001F4FB");
-    EXPECT_EQ(panel.log, (Log{"key 63", "text \U0001F4FB"}));
+    EXPECT_EQ(panel.log, (EventLog{"key 63", "text \U0001F4FB"}));
 }
 
 TEST_F(UserTest, backspaceTakesAWholeCharacter)
@@ -84,13 +84,13 @@ TEST_F(UserTest, backspaceTakesAWholeCharacter)
     panel.log.clear();
     user.backspace(panel.TxtA);
     user.backspace(panel.TxtA);
-    EXPECT_EQ(panel.log, (Log{"key 8", "text a", "key 8", "text "}));
+    EXPECT_EQ(panel.log, (EventLog{"key 8", "text a", "key 8", "text "}));
 }
 
 TEST_F(UserTest, backspaceInAnEmptyFieldIsAKeyOnly)
 {
     user.backspace(panel.TxtA);
-    EXPECT_EQ(panel.log, Log{"key 8"});
+    EXPECT_EQ(panel.log, EventLog{"key 8"});
 }
 
 TEST_F(UserTest, backspaceTakesNothingMoreWhereTheHandlerRewroteTheText)
@@ -117,7 +117,7 @@ TEST_F(UserTest, atMaxLengthTheKeyIsSeenAndNothingLands)
 {
     user.type(panel.TxtCourt, "éé12");
     EXPECT_EQ(panel.TxtCourt.Text, "éé1");
-    EXPECT_EQ(panel.log, (Log{"key", "court é", "key", "court éé", "key", "court éé1", "key"}));
+    EXPECT_EQ(panel.log, (EventLog{"key", "court é", "key", "court éé", "key", "court éé1", "key"}));
 }
 
 TEST_F(UserTest, maxLengthCutsAPasteAndNotAStore)
@@ -145,7 +145,7 @@ TEST_F(UserTest, anEditTakesCharactersOutOfALongTextAndCutsWhatItPutsIn)
         panel.log.clear();
         user.edit(panel.TxtCourt, edit.toCaret, edit.tail);
         EXPECT_EQ(panel.TxtCourt.Text, edit.stands);
-        EXPECT_EQ(panel.log, (Log{std::string{"court "} + edit.stands}));
+        EXPECT_EQ(panel.log, (EventLog{std::string{"court "} + edit.stands}));
     }
 }
 
@@ -192,7 +192,7 @@ TEST_F(UserTest, aLineBreakThatCodeHasStoredStays)
 TEST_F(UserTest, theEnterKeyPutsNothingIntoAFieldOfOneLine)
 {
     user.type(panel.TxtA, "1\r\n2");
-    EXPECT_EQ(panel.log, (Log{"key 49", "text 1", "key 50", "text 12"}));
+    EXPECT_EQ(panel.log, (EventLog{"key 49", "text 1", "key 50", "text 12"}));
     user.type(panel.TxtLignes, "1\n2");
     EXPECT_EQ(panel.TxtLignes.Text, "1\n2");
 }
@@ -200,7 +200,7 @@ TEST_F(UserTest, theEnterKeyPutsNothingIntoAFieldOfOneLine)
 TEST_F(UserTest, noKeyEntersAControlCharacter)
 {
     user.type(panel.TxtA, "1\t2\x01");
-    EXPECT_EQ(panel.log, (Log{"key 49", "text 1", "key 50", "text 12"}));
+    EXPECT_EQ(panel.log, (EventLog{"key 49", "text 1", "key 50", "text 12"}));
     user.type(panel.TxtLignes, "1\t2");
     EXPECT_EQ(panel.TxtLignes.Text, "12");
 }
@@ -210,7 +210,7 @@ TEST_F(UserTest, aPasteIsOneChangeAndNoKey)
     user.replace(panel.TxtA, "14.1");
     user.replace(panel.TxtA, "14.1");
     user.replace(panel.TxtA, "");
-    EXPECT_EQ(panel.log, (Log{"text 14.1", "text "}));
+    EXPECT_EQ(panel.log, (EventLog{"text 14.1", "text "}));
 }
 
 TEST_F(UserTest, typingGoesOnWhereTheHandlerLeftTheField)
@@ -262,13 +262,13 @@ TEST_F(UserTest, anActionGivesItsControlTheKeyboardFirst)
 {
     user.type(panel.TxtA, "1");
     user.type(panel.TxtA, "2");
-    EXPECT_EQ(host.log, (Log{"focus TxtA", "control TxtA", "control TxtA"}));
+    EXPECT_EQ(host.log, (EventLog{"focus TxtA", "control TxtA", "control TxtA"}));
 }
 
 TEST_F(UserTest, theViewIsToldWhereTheHandlerRewroteTheText)
 {
     EXPECT_FALSE(user.key(panel.TxtA, U'é'));
-    EXPECT_EQ(panel.log, Log{"key 233"});
+    EXPECT_EQ(panel.log, EventLog{"key 233"});
     EXPECT_EQ(panel.TxtA.Text, "");
     panel.TxtEfface.Text = "12";
     EXPECT_TRUE(user.key(panel.TxtEfface, 8));
@@ -276,4 +276,4 @@ TEST_F(UserTest, theViewIsToldWhereTheHandlerRewroteTheText)
 }
 
 } // namespace
-} // namespace ondelis::tests
+} // namespace ondelis

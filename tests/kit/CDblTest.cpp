@@ -9,8 +9,6 @@
 namespace ondelis {
 namespace {
 
-using tests::faultOf;
-
 struct Row {
     const char* text;
     double number;
@@ -32,7 +30,7 @@ void expectMismatch(const Region& inside, std::initializer_list<const char*> tex
 
 TEST(CDbl, readsNumbersOfAPointRegion)
 {
-    expect(tests::english,
+    expect(english,
         {
             {"0", 0},
             {"12", 12},
@@ -51,7 +49,7 @@ TEST(CDbl, readsNumbersOfAPointRegion)
 
 TEST(CDbl, readsNumbersOfACommaRegion)
 {
-    expect(tests::german,
+    expect(german,
         {
             {"12", 12},
             {"12,5", 12.5},
@@ -63,7 +61,7 @@ TEST(CDbl, readsNumbersOfACommaRegion)
 
 TEST(CDbl, readsNumbersOfACommaRegionWithBlanks)
 {
-    for (const Region& inside : {tests::french, tests::olderFrench})
+    for (const Region& inside : {french, olderFrench})
         expect(inside,
             {
                 {"12", 12},
@@ -80,43 +78,43 @@ TEST(CDbl, readsNumbersOfACommaRegionWithBlanks)
 
 TEST(CDbl, readsNumbersOfARegionWithApostrophes)
 {
-    expect(tests::swiss,
+    expect(swiss,
         {
             {"12.5", 12.5},
             {"1\u2019234.5", 1234.5},
             {"1'234.5", 1234.5},
             {"-1'234\u2019567", -1234567},
         });
-    expectMismatch(tests::swiss, {"'5", "\u20195", "1.5'5", "1''2", "1 234", "1,234", "1\u2018234"});
+    expectMismatch(swiss, {"'5", "\u20195", "1.5'5", "1''2", "1 234", "1,234", "1\u2018234"});
     const Region typed{.decimal = ".", .thousands = "'"};
     expect(typed, {{"1'234.5", 1234.5}});
     expectMismatch(typed, {"1\u2019234"});
-    for (const Region& inside : {tests::english, tests::german, tests::french})
+    for (const Region& inside : {english, german, french})
         expectMismatch(inside, {"1'234", "1\u2019234"});
 }
 
 TEST(CDbl, readsAThousandsSeparatorAsItIsTyped)
 {
-    expect(tests::english, {{"1,", 1}, {"1,2", 12}, {"1,23", 123}, {"1,234", 1234}, {"1,2345", 12345}});
-    expect(tests::french, {{"1 ", 1}, {"1 2", 12}, {"1 23", 123}, {"1 234", 1234}});
-    expect(tests::swiss, {{"1'", 1}, {"1'2", 12}, {"1'23", 123}, {"1'234", 1234}});
+    expect(english, {{"1,", 1}, {"1,2", 12}, {"1,23", 123}, {"1,234", 1234}, {"1,2345", 12345}});
+    expect(french, {{"1 ", 1}, {"1 2", 12}, {"1 23", 123}, {"1 234", 1234}});
+    expect(swiss, {{"1'", 1}, {"1'2", 12}, {"1'23", 123}, {"1'234", 1234}});
 }
 
 TEST(CDbl, readsAnExponentMarkedByEOrD)
 {
-    expect(tests::english,
-        {{"1e3", 1000}, {"1E3", 1000}, {"1d3", 1000}, {"1D3", 1000}, {"25e-1", 2.5}, {"1,000.5d+2", 100050}});
+    expect(
+        english, {{"1e3", 1000}, {"1E3", 1000}, {"1d3", 1000}, {"1D3", 1000}, {"25e-1", 2.5}, {"1,000.5d+2", 100050}});
 }
 
 TEST(CDbl, leavesOutBlanksAroundTheNumber)
 {
-    expect(tests::english, {{" 12.5", 12.5}, {"12.5 ", 12.5}, {"\t12.5\n", 12.5}});
-    expect(tests::german, {{" 12,5 ", 12.5}});
+    expect(english, {{" 12.5", 12.5}, {"12.5 ", 12.5}, {"\t12.5\n", 12.5}});
+    expect(german, {{" 12,5 ", 12.5}});
 }
 
 TEST(CDbl, ofATextThatIsNoNumberIsATypeMismatch)
 {
-    for (const Region& inside : {tests::english, tests::german, tests::french, tests::olderFrench})
+    for (const Region& inside : {english, german, french, olderFrench})
         expectMismatch(inside,
             {"", " ", "abc", "12abc", "12 kHz", "-", "+", ".", ",", "-.", "--3", "- 3", "3-", "1e", "1e+", "e5",
                 "1e2e3", "1d2d3", "1..5", "1,,5,,e", "inf", "nan", "-inf", "0x10", "&HFF", "1;5", "€", "1e1,000",
@@ -125,26 +123,26 @@ TEST(CDbl, ofATextThatIsNoNumberIsATypeMismatch)
 
 TEST(CDbl, ofAPointInACommaRegionIsATypeMismatch)
 {
-    for (const Region& inside : {tests::german, tests::french, tests::olderFrench})
+    for (const Region& inside : {german, french, olderFrench})
         expectMismatch(
             inside, {"12.5", ".5", "5.", "1.5e3", "1.234", "-1.234", "1.234,5", "1.234.567,25", "1,5.5", "1,5.555"});
 }
 
 TEST(CDbl, ofASecondDecimalSeparatorIsATypeMismatch)
 {
-    expectMismatch(tests::english, {"1.5.5", "1.5,5", "1.,5"});
-    expectMismatch(tests::german, {"1,5,5"});
+    expectMismatch(english, {"1.5.5", "1.5,5", "1.,5"});
+    expectMismatch(german, {"1,5,5"});
 }
 
 TEST(CDbl, ofAThousandsSeparatorWithoutADigitAheadIsATypeMismatch)
 {
-    expectMismatch(tests::english, {",5", "-,5", ",234"});
-    expectMismatch(tests::french, {"\u202f5"});
+    expectMismatch(english, {",5", "-,5", ",234"});
+    expectMismatch(french, {"\u202f5"});
 }
 
 TEST(CDbl, ofInnerBlanksInAPointRegionIsATypeMismatch)
 {
-    expectMismatch(tests::english, {"1 000", "1\u00a0000", "1 . 5", "1 e3"});
+    expectMismatch(english, {"1 000", "1\u00a0000", "1 . 5", "1 e3"});
 }
 
 TEST(CDbl, knowsNoThousandsSeparatorWhereTheRegionHasNone)
@@ -158,13 +156,13 @@ TEST(CDbl, beyondTheRangeIsAnOverflow)
 {
     for (const char* text : {"1e309", "-1e309", "1d309", "1.8e308", "1e99999999999999999999"})
         EXPECT_EQ(faultOf([&] { return CDbl(text); }), FaultKind::Overflow) << text;
-    const ScopedRegion scope{tests::french};
+    const ScopedRegion scope{french};
     EXPECT_EQ(faultOf([] { return CDbl("1,8e308"); }), FaultKind::Overflow);
 }
 
 TEST(CDbl, tooSmallIsZero)
 {
-    expect(tests::english, {{"1e-400", 0}, {"-1e-400", 0}});
+    expect(english, {{"1e-400", 0}, {"-1e-400", 0}});
 }
 
 TEST(CIntOfText, readsByTheRegionAndRoundsTiesToEven)
@@ -172,7 +170,7 @@ TEST(CIntOfText, readsByTheRegionAndRoundsTiesToEven)
     EXPECT_EQ(CInt("2.5"), 2);
     EXPECT_EQ(CInt("3.5"), 4);
     EXPECT_EQ(CInt("1,000"), 1000);
-    const ScopedRegion scope{tests::french};
+    const ScopedRegion scope{french};
     EXPECT_EQ(CInt("2,5"), 2);
     EXPECT_EQ(CInt("-3,5"), -4);
 }

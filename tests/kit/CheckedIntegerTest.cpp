@@ -10,8 +10,6 @@
 namespace ondelis {
 namespace {
 
-using tests::faultOf;
-
 TEST(CheckedInteger, integerHas16Bits)
 {
     EXPECT_EQ(Integer{-32768}.value(), -32768);

@@ -9,8 +9,6 @@
 namespace ondelis {
 namespace {
 
-using tests::faultOf;
-
 TEST(ComputeForFault, raisesTheFaultOfAFormula)
 {
     EXPECT_EQ(faultOf([] { computeForFault(Double{1e308} * 10); }), FaultKind::Overflow);

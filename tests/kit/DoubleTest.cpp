@@ -9,8 +9,6 @@
 namespace ondelis {
 namespace {
 
-using tests::faultOf;
-
 constexpr double largest = std::numeric_limits<double>::max();
 constexpr double tiniest = std::numeric_limits<double>::denorm_min();
 

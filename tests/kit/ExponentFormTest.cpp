@@ -66,7 +66,7 @@ TEST(ExponentForm, roundsWhatLiesBesideATieToTheNearerText)
 
 TEST(ExponentForm, hasTheDecimalSeparatorOfTheRegion)
 {
-    const ScopedRegion scope{tests::french};
+    const ScopedRegion scope{french};
     expect({
         {0.12, "1,200E-01"},
         {1234.5, "1,235E+03"},

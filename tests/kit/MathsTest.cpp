@@ -11,8 +11,6 @@
 namespace ondelis {
 namespace {
 
-using tests::faultOf;
-
 struct Row {
     double from;
     double to;

@@ -61,14 +61,14 @@ constexpr Row rows[] = {
 
 TEST(CStr, writesThePointOfAnEnglishRegion)
 {
-    const ScopedRegion scope{tests::english};
+    const ScopedRegion scope{english};
     for (const Row& row : rows)
         EXPECT_EQ(CStr(row.number), row.cstr);
 }
 
 TEST(CStr, writesTheCommaOfTheRegion)
 {
-    for (const Region& inside : {tests::german, tests::french, tests::olderFrench}) {
+    for (const Region& inside : {german, french, olderFrench}) {
         const ScopedRegion scope{inside};
         for (const Row& row : rows)
             EXPECT_EQ(CStr(row.number), row.cstrInCommaRegion);
@@ -91,7 +91,7 @@ TEST(CStr, ofAWholeNumberGivesItsPlainDigits)
 
 TEST(Str, writesAPointInEveryRegion)
 {
-    for (const Region& inside : {tests::english, tests::german, tests::french, tests::olderFrench}) {
+    for (const Region& inside : {english, german, french, olderFrench}) {
         const ScopedRegion scope{inside};
         for (const Row& row : rows)
             EXPECT_EQ(Str(row.number), row.str);
@@ -100,7 +100,7 @@ TEST(Str, writesAPointInEveryRegion)
 
 TEST(Str, readsBackThroughValInEveryRegion)
 {
-    for (const Region& inside : {tests::english, tests::german, tests::french}) {
+    for (const Region& inside : {english, german, french}) {
         const ScopedRegion scope{inside};
         EXPECT_EQ(Val(Str(12.75)), 12.75);
         EXPECT_EQ(Val(Str(-0.5)), -0.5);
@@ -111,13 +111,13 @@ TEST(Str, readsBackThroughValInEveryRegion)
 TEST(CStr, readsBackThroughValOnlyInAPointRegion)
 {
     EXPECT_EQ(Val(CStr(12.75)), 12.75);
-    const ScopedRegion scope{tests::french};
+    const ScopedRegion scope{french};
     EXPECT_EQ(Val(CStr(12.75)), 12);
 }
 
 TEST(CStr, readsBackThroughCDblInEveryRegion)
 {
-    for (const Region& inside : {tests::english, tests::german, tests::french, tests::olderFrench}) {
+    for (const Region& inside : {english, german, french, olderFrench}) {
         const ScopedRegion scope{inside};
         EXPECT_EQ(CDbl(CStr(12.75)), 12.75);
         EXPECT_EQ(CDbl(CStr(1234567.5)), 1234567.5);

@@ -207,7 +207,7 @@ TEST(Oracle, valReadsEachNumberBack)
 
 TEST(Oracle, valAndCDblReadTheTextsOfTheKitBack)
 {
-    const ScopedRegion scope{tests::french};
+    const ScopedRegion scope{french};
     for (const auto& numbers : {numbersOfAnySize(), computedNumbers(), cutNumbers()})
         for (const double x : numbers) {
             const double fifteenDigits = std::strtod(printed(x).c_str(), nullptr);

@@ -17,10 +17,10 @@ TEST(Region, isEnglishAtFirst)
 TEST(Region, holdsForAScope)
 {
     {
-        const ScopedRegion outer{tests::french};
+        const ScopedRegion outer{french};
         EXPECT_EQ(CStr(0.5), "0,5");
         {
-            const ScopedRegion inner{tests::english};
+            const ScopedRegion inner{english};
             EXPECT_EQ(CStr(0.5), "0.5");
         }
         EXPECT_EQ(CStr(0.5), "0,5");
@@ -31,7 +31,7 @@ TEST(Region, holdsForAScope)
 TEST(Region, canBeSetForTheProcess)
 {
     const ScopedRegion restored{region()};
-    setRegion(tests::german);
+    setRegion(german);
     EXPECT_EQ(region().decimal, ",");
     EXPECT_EQ(region().thousands, ".");
 }

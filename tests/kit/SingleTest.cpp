@@ -9,8 +9,6 @@
 namespace ondelis {
 namespace {
 
-using tests::faultOf;
-
 TEST(Single, roundsWhenItIsStored)
 {
     EXPECT_EQ(Double{Single{Double{0.1}}}, 0.10000000149011612);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <concepts>
 #include <iomanip>
 #include <limits>
 #include <optional>
@@ -30,10 +31,6 @@ inline void PrintTo(FaultKind kind, std::ostream* out)
     *out << Fault{kind}.what();
 }
 
-} // namespace ondelis
-
-namespace ondelis::tests {
-
 /// The kind of the fault that an action throws; nothing if it throws none.
 template <class Action>
 std::optional<FaultKind> faultOf(Action action)
@@ -55,4 +52,4 @@ inline const Region french{.decimal = ",", .thousands = "\u202f"};
 inline const Region swiss{.decimal = ".", .thousands = "\u2019"};
 inline const Region olderFrench{.decimal = ",", .thousands = "\u00a0"};
 
-} // namespace ondelis::tests
+} // namespace ondelis

@@ -9,8 +9,6 @@
 namespace ondelis {
 namespace {
 
-using tests::faultOf;
-
 TEST(Table, keepsAValueUnderEachIndex)
 {
     Table<Double, 2> table;

@@ -14,8 +14,6 @@
 namespace ondelis {
 namespace {
 
-using tests::faultOf;
-
 /// A number that the compiler does not know beforehand, so that it can only draw conclusions about it.
 Double unknown(double number)
 {

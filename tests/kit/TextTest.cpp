@@ -7,8 +7,6 @@
 namespace ondelis {
 namespace {
 
-using tests::faultOf;
-
 // "é" and "µ" have two bytes, "Ω" two, "€" and the narrow no-break blank three, the last one four.
 constexpr const char* accented = "éµΩ€\u202f𝄞z";
 

@@ -7,8 +7,6 @@
 namespace ondelis {
 namespace {
 
-using tests::faultOf;
-
 struct Row {
     double number;
     const char* text;
@@ -86,7 +84,7 @@ TEST(TraitementMultiplicateur, truncatesAtSixDecimals)
 
 TEST(TraitementMultiplicateur, writesAPointInEveryRegion)
 {
-    const ScopedRegion inside{tests::french};
+    const ScopedRegion inside{french};
     EXPECT_EQ(TraitementMultiplicateur(1500), " 1.5 Kilo");
 }
 

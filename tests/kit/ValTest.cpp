@@ -11,8 +11,6 @@
 namespace ondelis {
 namespace {
 
-using tests::faultOf;
-
 struct Row {
     const char* text;
     double number;
@@ -194,7 +192,7 @@ TEST(Val, weighsTheDigitsOfALongNumberAgainstItsExponent)
 
 TEST(Val, readsAPointInEveryRegion)
 {
-    for (const Region& inside : {tests::english, tests::german, tests::french, tests::olderFrench}) {
+    for (const Region& inside : {english, german, french, olderFrench}) {
         const ScopedRegion scope{inside};
         expect({{"12.5", 12.5}, {"12,5", 12}, {"12,75", 12}, {"1.000", 1}, {"1 000", 1000}});
     }

@@ -1,10 +1,10 @@
 #include "panels/antennes/AntennesTrappesCoaxiales.h"
 
-#include "Support.h"
+#include "forms/Support.h"
 #include "kit/Conversions.h"
 #include "kit/Maths.h"
 
-namespace ondelis::tests {
+namespace ondelis {
 namespace {
 
 /// The search for the turns, one round after the other.
@@ -97,4 +97,4 @@ TEST_F(TrapSearchTest, closingTheProgramWhileThePanelOpensLeavesTheSearch)
 }
 
 } // namespace
-} // namespace ondelis::tests
+} // namespace ondelis

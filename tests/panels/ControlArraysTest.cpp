@@ -1,8 +1,8 @@
-#include "Support.h"
+#include "forms/Support.h"
 #include "panels/condensateurs/CondensateurVariable.h"
 #include "panels/puissance/Transformateur.h"
 
-namespace ondelis::tests {
+namespace ondelis {
 namespace {
 
 class ControlArraysTest : public RuntimeTest { };
@@ -22,4 +22,4 @@ TEST_F(ControlArraysTest, theVariableCapacitorHasFiveBladesOfEachKind)
 }
 
 } // namespace
-} // namespace ondelis::tests
+} // namespace ondelis

@@ -6,7 +6,7 @@
 
 #include "kit/Fault.h"
 
-namespace ondelis::tests {
+namespace ondelis {
 namespace {
 
 TEST(ArcTan2Test, hasTheFourQuadrants)
@@ -45,4 +45,4 @@ TEST(ArcCosTest, goesFromZeroToPi)
 }
 
 } // namespace
-} // namespace ondelis::tests
+} // namespace ondelis

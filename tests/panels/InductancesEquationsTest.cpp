@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-namespace ondelis::tests {
+namespace ondelis {
 namespace {
 
 TEST(InductancePolygoneTest, oneTurnOfEachPolygonWithSidesOfAMetre)
@@ -25,4 +25,4 @@ TEST(InductancePolygoneTest, noOtherPolygonHasAnInductance)
 }
 
 } // namespace
-} // namespace ondelis::tests
+} // namespace ondelis

@@ -1,9 +1,9 @@
-#include "Support.h"
+#include "forms/Support.h"
 
 #include "panels/timer555/Monostable.h"
 #include "panels/timer555/RapportCyclique.h"
 
-namespace ondelis::tests {
+namespace ondelis {
 namespace {
 
 class TimersTest : public RuntimeTest { };
@@ -55,4 +55,4 @@ TEST_F(TimersTest, rapportCycliqueComputesWithNoUnitToo)
 }
 
 } // namespace
-} // namespace ondelis::tests
+} // namespace ondelis

@@ -3,7 +3,7 @@
 #include "Support.h"
 #include "shell/Centrages.h"
 
-namespace ondelis::tests {
+namespace ondelis {
 namespace {
 
 class MDIOndelisTest : public FrameTest { };
@@ -21,7 +21,7 @@ TEST_F(MDIOndelisTest, startsCentredOnTheScreenWithItsSizeAndCaption)
 TEST_F(MDIOndelisTest, tellsTheViewItsSizeCaptionAndPlace)
 {
     frame.start();
-    EXPECT_EQ(host.log, Log(5, "frame"));
+    EXPECT_EQ(host.log, EventLog(5, "frame"));
 }
 
 TEST_F(MDIOndelisTest, startsPartlyOffAScreenThatIsTooSmall)
@@ -172,4 +172,4 @@ TEST(CentragesTest, storeTheTopBeforeTheLeft)
 }
 
 } // namespace
-} // namespace ondelis::tests
+} // namespace ondelis

@@ -4,7 +4,7 @@
 
 #include "Support.h"
 
-namespace ondelis::tests {
+namespace ondelis {
 namespace {
 
 /// The memory that the process keeps in use, in KiB.
@@ -48,4 +48,4 @@ TEST_F(MemoryTest, openingsLeaveNothingBehind)
 }
 
 } // namespace
-} // namespace ondelis::tests
+} // namespace ondelis

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-namespace ondelis::tests {
+namespace ondelis {
 namespace {
 
 TEST(MenuTest, everyEntryIsFoundByItsControl)
@@ -20,4 +20,4 @@ TEST(MenuTest, theFirstLevelHasNoHandler)
 }
 
 } // namespace
-} // namespace ondelis::tests
+} // namespace ondelis

@@ -2,7 +2,7 @@
 
 #include "Support.h"
 
-namespace ondelis::tests {
+namespace ondelis {
 namespace {
 
 /// Where a panel ends up; by default in the middle of the frame, or as designed.
@@ -188,4 +188,4 @@ TEST_F(FrameTest, theMonostableOpensWithTheValuesOfItsEntry)
 }
 
 } // namespace
-} // namespace ondelis::tests
+} // namespace ondelis

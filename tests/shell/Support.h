@@ -4,7 +4,7 @@
 #include "shell/MDIOndelis.h"
 #include "shell/Menu.h"
 
-namespace ondelis::tests {
+namespace ondelis {
 
 /// The frame of the program, started on the screen of the test's host.
 class FrameTest : public RuntimeTest {
@@ -31,4 +31,4 @@ protected:
     }
 };
 
-} // namespace ondelis::tests
+} // namespace ondelis
