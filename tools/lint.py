@@ -25,7 +25,7 @@ import threading
 ROOT = pathlib.Path(__file__).resolve().parent.parent
 FOLDERS = ("src", "tests", "tools", "bench")
 SETTINGS = [ROOT / ".clang-tidy", *(ROOT / folder / ".clang-tidy" for folder in FOLDERS)]
-GROUP = 16  # sources in a group, at most
+GROUP = 64  # sources in a group, at most
 
 
 class Source:
@@ -93,7 +93,7 @@ def clang_tidy(file, flags, *options):
 
 def names_in(text):
     """Types and constants of a source whose names could mean something else in another one."""
-    return set(re.findall(r"^(?:struct |class |enum class |int (?=main\())(\w+)(?!.*;$)", text, flags=re.MULTILINE)
+    return set(re.findall(r"^(?:struct |class |enum class |int (?=main\())(\w+)\b(?!::)(?!.*;$)", text, flags=re.MULTILINE)
         + re.findall(r"^const(?:expr)? [^(=\n]*\b(\w+)(?: =|\{|\[)", text, flags=re.MULTILINE))
 
 
