@@ -14,13 +14,14 @@ from typing import Any
 sys.path.insert(0, str(Path(__file__).resolve().parents[2] / "tools" / "dessins"))
 
 import dessiner  # noqa: E402
-from sheet import PICTURES, Sheet  # noqa: E402
+from sheet import COPPER, DIM, INK, PICTURES, Sheet  # noqa: E402
 
 Control = dict[str, Any]  # as dump_forms writes it
 Point = tuple[float, float]
 
 SHEETS = {item.name: item.sheet() for item in PICTURES}
 FRAME_TITLE = 255.0  # twips above the drawing in a frame
+LINES = {"CondensateurVariable": {COPPER, INK}, "RapportCyclique": {INK}}  # that go on with what is drawn
 NEAR = 15.0  # twips, one pixel: places are rounded, and the title of a frame is as high as the style makes it
 
 
@@ -39,6 +40,11 @@ def forms() -> dict[str, list[Control]]:
 def centre(control: Control) -> Point:
     left, top, width, height = control["box"]
     return left + width / 2, top + height / 2
+
+
+def hexadecimal(colour: int) -> str:
+    """A colour of a form as the drawings write it: there blue comes first."""
+    return "#" + colour.to_bytes(3, "little").hex()
 
 
 class Drawing:
@@ -103,6 +109,15 @@ class Dessins(unittest.TestCase):
                 for control in filter(drawing.is_lettered_by, controls):
                     with self.subTest(f"{panel}.{control['name']}"):
                         self.assertIn(control["name"], drawing.rooms())
+
+    def test_panels_go_on_in_the_colours_of_the_drawings(self) -> None:
+        letters = {hexadecimal(control["ForeColor"]) for controls in self.panels.values()
+                   for drawing in drawings(controls) for control in filter(drawing.is_lettered_by, controls)}
+        self.assertEqual(letters, {hexadecimal(0), DIM})
+        for panel, colours in LINES.items():
+            with self.subTest(panel):
+                lines = filter(lambda control: control["kind"] == "Line", self.panels[panel])
+                self.assertEqual({hexadecimal(line["BorderColor"]) for line in lines}, colours)
 
 
 if __name__ == "__main__":
