@@ -21,6 +21,7 @@ PANEL_HEADERS = '#include "forms/Controls.h"\n#include "forms/ControlArray.h"\n#
 SYSTEM_HEADERS = "".join(f"#include <{name}>\n" for name in (
     "algorithm", "array", "cmath", "compare", "functional", "memory", "optional", "string", "string_view",
     "unordered_map", "utility", "vector"))
+TEST_HEADERS = SYSTEM_HEADERS + "#include <gtest/gtest.h>\n"
 
 
 def limits():
@@ -70,16 +71,17 @@ class Build:
                 self.headers[key] = header
             return self.headers[key]
 
-    def objects(self, program):
-        """The objects of a program of the build."""
-        return [obj for _, obj in self.commands.values() if f"/{program}.dir/" in str(obj) and obj.suffix == ".o"]
+    def own(self, program):
+        """The sources of a program of the build itself, without its libraries, and their objects."""
+        return {source: obj for source, (_, obj) in self.commands.items()
+                if f"/{program}.dir/" in str(obj) and obj.suffix == ".o"}
 
     def libraries(self):
         return [self.folder / "tools/pilote/libondelis_pilote.a",
                 *(self.folder / f"src/libondelis_{name}.a" for name in ("shell", "panels", "forms", "kit"))]
 
-    def readers(self, header):
-        """The sources of the floors that read a header, by what the build noted."""
+    def readers(self, header, floors, program):
+        """The sources of these floors, and of a program, that read a header, by what the build noted."""
         said = subprocess.run(["ninja", "-C", str(self.folder), "-t", "deps"], capture_output=True, text=True,
                               check=True).stdout
         found = set()
@@ -87,9 +89,9 @@ class Build:
             if any(os.path.normpath(self.folder / word) == str(header)
                    for word in part.split() if word.endswith(header.name)):
                 found.add(self.folder / part.split(":", 1)[0])
-        floors = tuple(str(SOURCES / name) for name in ("kit", "forms", "panels", "shell"))
+        folders = tuple(f"{SOURCES / name}/" for name in floors)
         return sorted(source for source, (_, obj) in self.commands.items()
-                      if obj in found and str(source).startswith(floors))
+                      if obj in found and (str(source).startswith(folders) or source in self.own(program)))
 
 
 class Builder:
@@ -108,9 +110,10 @@ class Builder:
             copy = self.folder / path.relative_to(SOURCES)
             copy.parent.mkdir(parents=True, exist_ok=True)
             copy.write_text(text)
-        header = self.build.precompiled(compiler, flags, PANEL_HEADERS if shared else SYSTEM_HEADERS)
+        texts = PANEL_HEADERS if shared else SYSTEM_HEADERS if source.is_relative_to(SOURCES) else TEST_HEADERS
+        header = self.build.precompiled(compiler, flags, texts)
         read = self.with_constructor(source, self.folder / source.relative_to(SOURCES)) if source in changed else source
-        obj = self.folder / (str(source.relative_to(SOURCES)).replace("/", "-") + ".o")
+        obj = self.folder / (str(source.relative_to(ROOT)).replace("/", "-") + ".o")
         done = subprocess.run([compiler, f"-I{self.folder}", *flags, "-include", str(header), "-c", str(read),
                                "-o", str(obj)], capture_output=True, text=True, check=False, preexec_fn=limits)
         if done.returncode:
@@ -129,11 +132,11 @@ class Builder:
         return wrapper
 
     def link(self, compiler, program, objects):
-        """Links a program of the build with the objects of a mutant before all libraries."""
+        """Links a program of the build; the objects, by source, come in place of its own and before all libraries."""
         path = self.folder / program
-        own = self.build.objects(program)
+        linked = {**self.build.own(program), **objects}
         extra = [] if program == "pilote" else ["-lgtest_main", "-lgtest"]
-        done = subprocess.run([compiler, "-o", str(path), *map(str, objects), *map(str, own),
+        done = subprocess.run([compiler, "-o", str(path), *map(str, linked.values()),
                                *map(str, self.build.libraries()), *extra], capture_output=True, text=True, check=False)
         if done.returncode:
             raise CompileError(done.stderr)

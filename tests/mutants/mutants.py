@@ -81,8 +81,8 @@ class Equivalents:
 class Trial:
     """All that is tried on one file, or on a panel's source with its header."""
 
-    def __init__(self, build, paths, units, tests):
-        self.build, self.paths, self.units, self.tests = build, paths, units, tests
+    def __init__(self, build, paths, units):
+        self.build, self.paths, self.units = build, paths, units  # units: by program, what is compiled for it
         self.shared = all("panels" in path.parts for path in paths)
         self.texts = {path: path.read_text(encoding="utf-8") for path in paths}
         self.result = Result("/".join(paths[0].relative_to(SOURCES).with_suffix("").parts), survivors=[])
@@ -96,7 +96,7 @@ class Trial:
         found = []
         for path in self.paths:
             lines = self.texts[path].split("\n")
-            for change in sites.changes(self.texts[path], path.suffix == ".h"):
+            for change in sites.changes(self.texts[path], path.suffix == ".h" and "kit" not in path.parts):
                 if equivalents.has(path, lines[change.line - 1].strip(), change):
                     self.result.listed += 1
                 else:
@@ -129,7 +129,7 @@ class Trial:
     def check_build(self):
         """No change compiles: is it because nothing does?"""
         try:
-            self.programs({})
+            list(self.programs({}))
         except CompileError as broken:
             raise SystemExit(f"{self.result.name}: without a change it does not compile\n{broken.said}") from broken
 
@@ -138,7 +138,7 @@ class Trial:
         left = []
         while True:
             try:
-                programs = self.programs(self.instrumented(mutants))
+                programs = list(self.programs(self.instrumented(mutants)))
                 break
             except CompileError as broken:
                 kept = [mutant for mutant in mutants
@@ -160,10 +160,9 @@ class Trial:
         text, change = self.texts[mutant.path], mutant.change
         try:
             programs = self.programs({mutant.path: text[:change.start] + change.new + text[change.end:]})
+            self.count(mutant, self.killed(programs, 0))
         except CompileError:
             self.result.stillborn += 1
-            return
-        self.count(mutant, self.killed(programs, 0))
 
     def instrumented(self, mutants):
         texts = {}
@@ -186,15 +185,21 @@ class Trial:
         return self.builder.folder / path.relative_to(SOURCES)
 
     def programs(self, texts):
-        texts = {**self.texts, **texts}
-        objects = [self.builder.compile(unit, texts, self.shared) for unit in self.units]
-        compiler, _ = self.build.flags(self.units[0])
-        return [self.builder.link(compiler, name, objects) for name in ("pilote", *self.tests)]
+        """The programs with these texts in place of their files, each compiled and linked when it is asked for."""
+        texts, objects = {**self.texts, **texts}, {}
+        for program, units in self.units.items():
+            for unit in units:
+                objects[unit] = objects.get(unit) or self.builder.compile(unit, texts, self.shared)
+            compiler, _ = self.build.flags(units[0])
+            yield self.builder.link(compiler, program, {unit: objects[unit] for unit in units})
 
     def killed(self, programs, number):
-        pilote, *tests = programs
-        return any(fails([pilote, *files], number) for files in self.plays) \
-            or any(fails([test, "--gtest_brief=1", "--gtest_fail_fast"], number) for test in tests)
+        return any(fails(command, number) for program in programs for command in self.commands(program))
+
+    def commands(self, program):
+        if program.name != "pilote":
+            return [[program, "--gtest_brief=1", "--gtest_fail_fast"]]
+        return [[program, *files] for files in self.plays]
 
     def count(self, mutant, killed):
         if killed:
@@ -217,16 +222,21 @@ def fails(command, number):
 
 def trial(build, paths):
     floor = paths[0].relative_to(SOURCES).parts[0]
-    program = f"test_{floor}"
-    tested = floor != "panels" or any(f'/{paths[0].stem}.h"' in test.read_text(encoding="utf-8")
-                                      for test in (ROOT / "tests/panels").glob("*.cpp"))
-    tests = [program] if tested else []
+    test = f"test_{floor}"
     source = next((path for path in paths if path.suffix == ".cpp"), None)
     header = next((path for path in paths if path.suffix == ".h"), None)
-    units = {source} if source else set()
     if header and not (source and "final : public" in header.read_text(encoding="utf-8")):
-        units.update(build.readers(header))  # a base class, or functions: what is inline stands in their objects
-    return Trial(build, paths, sorted(units), tests)
+        # A base class, or functions: what is inline stands in the objects of all that read it.
+        played = build.readers(header, FLOORS, "pilote")
+        tested = build.readers(header, [floor], test)
+    else:
+        played = tested = [source]
+    if floor != "panels":  # its tests are quicker than the scenarios
+        return Trial(build, paths, {program: units for program, units in ((test, tested), ("pilote", played)) if units})
+    includes = f'/{paths[0].stem}.h"'
+    if any(includes in path.read_text(encoding="utf-8") for path in (ROOT / "tests/panels").glob("*.cpp")):
+        return Trial(build, paths, {"pilote": played, test: tested})
+    return Trial(build, paths, {"pilote": played})
 
 
 def all_files():

@@ -128,8 +128,8 @@ def numbers(text, code, index, header):
     earlier = text[text.rfind("\n", 0, start) + 1:start]
     if re.search(r"<[^<>=;]*$", earlier) and re.match(r"[^<>=;()]*>", text[end:]):
         return []  # a template's argument: the size of a table
-    if before == "case" or header and is_place(text, start, earlier):
-        return []  # beside another label, or layout
+    if before == "case" or header and is_place(text, start, earlier) or re.match(r"\s*virtual .*= $", earlier):
+        return []  # beside another label, or layout, or of a function that is left to others
     sign = ""
     if before == "-" and code[index - 1].end() == start and code[index - 2].group() in "(,={?:<>==!=return+-*/":
         start, sign = start - 1, "-"
@@ -204,6 +204,8 @@ def statements(text, code):
             continue
         if index == 0 or code[index - 1].group() not in (";", "{", "}", ")", ":", "else"):
             continue
+        if re.search(rf"^class {token.group()}\b[^;]*$", text, flags=re.MULTILINE):
+            continue  # a constructor
         match = STATEMENT.match(text, start)
         if token.group() != "return" and not match:
             continue
