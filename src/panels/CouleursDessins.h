@@ -13,13 +13,10 @@ inline constexpr Color cuivre = 0x1F56A8;
 inline constexpr Color cote = 0x784A2A; ///< dimension lines
 
 /// The letter of a dimension of a drawing, for which it leaves a place: its centre in fractions of the drawing's size.
-[[nodiscard]] inline Label::Design lettreDeCote(const char* texte, const Box& dessin, double x, double y)
+[[nodiscard]] inline Label::Design lettreDeCote(const char* text, const Box& dessin, double x, double y)
 {
-    return {.Caption = texte,
-        .at = letterBox(dessin, x, y),
-        .ForeColor = cote,
-        .align = Align::Center,
-        .font = {.size = 8}};
+    return {
+        .Caption = text, .at = letterBox(dessin, x, y), .ForeColor = cote, .align = Align::Center, .font = {.size = 8}};
 }
 
 } // namespace ondelis::dessin

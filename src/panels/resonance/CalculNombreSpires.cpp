@@ -28,7 +28,7 @@ void CalculNombreSpires::Form_Load()
 void CalculNombreSpires::OptmH_Click()
 {
     UniteSelf = 1000;
-    TxtS_Change(); // only here can a value that was taken before overflow
+    TxtS_Change(); // the one unit in which a value that was taken before can overflow
 }
 
 void CalculNombreSpires::OptmmH_Click()
@@ -58,7 +58,7 @@ void CalculNombreSpires::TxtS_Change()
 
 void CalculNombreSpires::TxtD_Change()
 {
-    D = Val(TxtD.Text); // read again too; but a fault comes before the count of turns restarts
+    D = Val(TxtD.Text); // Calculer reads it again; but a fault here leaves the turns on show
     Calculer();
 }
 
@@ -76,7 +76,7 @@ void CalculNombreSpires::HscrlE_Change()
 
 void CalculNombreSpires::Calculer()
 {
-    constexpr int tours = 10000;
+    constexpr int maxIterations = 10000;
     Double N = 1;
     TxtN.Text = "1";
     S = Val(TxtS.Text); // in µH, whatever the option
@@ -92,9 +92,9 @@ void CalculNombreSpires::Calculer()
     E = E / 25.4;
     D = E + D / 25.4;
     Double P = E + F;
-    // The formula is that of the ARRL Handbook. It is computed at every test, even after the last round.
+    // The formula is that of the ARRL Handbook. It is computed at every test, even after the last iteration.
     const auto inductance = [&] { return Pow(N, 2) * Pow(D, 2) / (40 * P + 18 * D); };
-    for (int tour = 0; inductance() < S && tour < tours; ++tour) {
+    for (int iteration = 0; inductance() < S && iteration < maxIterations; ++iteration) {
         N = Sqr((40 * P + 18 * D) * S) / D;
         P = (E + F) * N;
     }

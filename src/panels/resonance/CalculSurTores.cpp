@@ -107,13 +107,13 @@ void CalculSurTores::Calculer()
     CalculerColonne(Ferrite, TxtInductanceFerrite, 1000000, Pow(10, -3), 0.003426276872);
 }
 
-void CalculSurTores::CalculerColonne(const Tore& tore, TextBox& resultat, Double tours, Double unite, Double c)
+void CalculSurTores::CalculerColonne(const Tore& tore, TextBox& resultat, Double carreSpires, Double facteur, Double c)
 {
     const auto [AL, Ep, DiamInt, DiamExt, N] = tore;
     if (AL == 0 || Ep == 0 || DiamInt == 0 || DiamExt == 0 || N == 0)
         return;
-    const Double L = AL * Pow(N, 2) / tours;
-    resultat.Text = TraitementMultiplicateur(unite * L);
+    const Double L = AL * Pow(N, 2) / carreSpires;
+    resultat.Text = TraitementMultiplicateur(facteur * L);
     // The inductance from the core's geometry is shown nowhere; only the faults that it raises matter.
     const Double W = c * AL * Pow(N, 2) * Ep * Log10(DiamExt / DiamInt);
     computeForFault(TraitementMultiplicateur(Pow(10, -6) * W));

@@ -13,8 +13,8 @@ namespace {
 
 const std::string puissanceActive = "Eeff * Ieff * cos(phi)";
 
-/// The factor of a unit; an unknown text leaves the present one.
-Double facteur(const std::string& unite, Double present)
+/// The factor of a unit; an unknown text leaves that in use.
+Double facteur(const std::string& unite, Double actuel)
 {
     struct Row {
         const char* unite;
@@ -39,7 +39,7 @@ Double facteur(const std::string& unite, Double present)
     for (const Row& row : table)
         if (unite == row.unite)
             return Pow(10, row.exposant);
-    return present;
+    return actuel;
 }
 
 } // namespace
@@ -49,17 +49,17 @@ ListBox::Design CircuitsOscillants::unites(const TextBox& champ, Label& legende,
 {
     const Box& at = champ.at();
     const double height = listHeight(static_cast<int>(items.size()));
-    return {.Items = std::move(items), .at = {at.Left + at.Width + ecart, at.Top - 30, 960, height}, .label = &legende};
+    return {.Items = std::move(items), .at = {at.Left + at.Width + gap, at.Top - 30, 960, height}, .label = &legende};
 }
 
 struct CircuitsOscillants::Circuit {
-    std::string_view type; ///< its row in the list
+    std::string_view type; ///< the text of its row in the list
     const char* titre;
     const char* schema;
-    Champ R; ///< the fields when it is chosen, in this order
-    Champ L;
-    Champ C;
-    int calculs; ///< how often it is computed then
+    EtatChamp R; ///< what choosing it makes of the fields, in this order
+    EtatChamp L;
+    EtatChamp C;
+    int nbCalculs; ///< how often it is computed then
     std::string (CircuitsOscillants::*formules)();
 };
 
@@ -163,7 +163,7 @@ void CircuitsOscillants::LstCalcul_Click()
     Preparer(TxtInd, choisi.L);
     Preparer(TxtCapa, choisi.C);
     AfficherCircuit(choisi);
-    for (int i = 0; i < choisi.calculs; ++i)
+    for (int i = 0; i < choisi.nbCalculs; ++i)
         Calculer();
 }
 
@@ -179,7 +179,7 @@ void CircuitsOscillants::Fermer(TextBox& champ)
     champ.BackColor = mainResultColor;
 }
 
-void CircuitsOscillants::Preparer(TextBox& champ, Champ etat)
+void CircuitsOscillants::Preparer(TextBox& champ, EtatChamp etat)
 {
     if (etat == Ouvert)
         Ouvrir(champ);

@@ -23,11 +23,11 @@ public:
 
     using Me = CircuitsOscillants;
     // Each quantity is as high as the list of its units.
-    static constexpr double ecart = 120; ///< between a list and its neighbours
-    static constexpr Column frequence{.left = 240, .captions = 1980, .top = 2250};
-    static constexpr Column resistance = frequence.from(frequence.top + listHeight(4) + ecart);
-    static constexpr Column inductance = frequence.from(resistance.top + listHeight(3) + ecart);
-    static constexpr Column capacite = frequence.from(inductance.top + listHeight(4) + ecart);
+    static constexpr double gap = 120; ///< between a list and its neighbours
+    static constexpr Column saisieFrequence{.left = 240, .captions = 1980, .top = 2250};
+    static constexpr Column saisieResistance = saisieFrequence.from(saisieFrequence.top + listHeight(4) + gap);
+    static constexpr Column saisieInductance = saisieFrequence.from(saisieResistance.top + listHeight(3) + gap);
+    static constexpr Column saisieCapacite = saisieFrequence.from(saisieInductance.top + listHeight(4) + gap);
     static constexpr Column resultats{.left = 5040, .captions = 1860, .top = 4290};
 
     ListBox LstCalcul{this, "LstCalcul",
@@ -36,20 +36,20 @@ public:
             .at = {240, 240, 4440, listHeight(7)}},
         &Me::LstCalcul_Click};
 
-    Label LblFreq{this, "LblFreq", frequence.caption(0, "Fréquence en ...")};
-    TextBox TxtFreq{this, "TxtFreq", frequence.input(LblFreq), &Me::TxtFreq_Change};
+    Label LblFreq{this, "LblFreq", saisieFrequence.caption(0, "Fréquence en ...")};
+    TextBox TxtFreq{this, "TxtFreq", saisieFrequence.input(LblFreq), &Me::TxtFreq_Change};
     ListBox LstFreq{this, "LstFreq", unites(TxtFreq, LblFreq, {"GHz", "MHz", "KHz", "Hz"}), &Me::LstFreq_Click};
 
-    Label LblRes{this, "LblRes", resistance.caption(0, "Résitance en ...")};
-    TextBox TxtRes{this, "TxtRes", resistance.input(LblRes), &Me::TxtRes_Change};
+    Label LblRes{this, "LblRes", saisieResistance.caption(0, "Résitance en ...")};
+    TextBox TxtRes{this, "TxtRes", saisieResistance.input(LblRes), &Me::TxtRes_Change};
     ListBox LstRes{this, "LstRes", unites(TxtRes, LblRes, {"MOhms", "KOhms", "Ohms"}), &Me::LstRes_Click};
 
-    Label LblInd{this, "LblInd", inductance.caption(0, "Inductance en ...")};
-    TextBox TxtInd{this, "TxtInd", inductance.input(LblInd), &Me::TxtInd_Change};
+    Label LblInd{this, "LblInd", saisieInductance.caption(0, "Inductance en ...")};
+    TextBox TxtInd{this, "TxtInd", saisieInductance.input(LblInd), &Me::TxtInd_Change};
     ListBox LstInd{this, "LstInd", unites(TxtInd, LblInd, {"mH", "µH", "nH", "pH"}), &Me::LstInd_Click};
 
-    Label LblCapa{this, "LblCapa", capacite.caption(0, "Capacite en ...")};
-    TextBox TxtCapa{this, "TxtCapa", capacite.input(LblCapa), &Me::TxtCapa_Change};
+    Label LblCapa{this, "LblCapa", saisieCapacite.caption(0, "Capacite en ...")};
+    TextBox TxtCapa{this, "TxtCapa", saisieCapacite.input(LblCapa), &Me::TxtCapa_Change};
     ListBox LstCapa{this, "LstCapa", unites(TxtCapa, LblCapa, {"µF", "nF", "pF"}), &Me::LstCapa_Click};
 
     ControlArray<Frame> frmCircuit{this, "frmCircuit", 7, &Me::frmCircuitDesign};
@@ -84,8 +84,8 @@ private:
     void LstCalcul_Click();
 
     /// What the choice of a circuit does to a field: it can be typed into, or not, and then may be emptied.
-    enum class Champ { Ouvert, Ferme, Vide };
-    using enum Champ;
+    enum class EtatChamp { Ouvert, Ferme, Vide };
+    using enum EtatChamp;
     struct Circuit;
     static const std::array<Circuit, 7> circuits; ///< in the order of the frames
     /// The one of `TypeCircuit`.
@@ -93,11 +93,12 @@ private:
 
     static void Ouvrir(TextBox& champ);
     static void Fermer(TextBox& champ);
-    static void Preparer(TextBox& champ, Champ etat);
+    static void Preparer(TextBox& champ, EtatChamp etat);
     void AfficherCircuit(const Circuit& choisi);
     void Calculer();
 
-    // The computing half for each type: each returns the text of the power, empty if a guard fails.
+    // The computing half for each type: each returns the text of the power, which is empty for "LC Série" and if a
+    // guard fails.
     std::string RCSerie();
     std::string RCParallele();
     std::string RLParallele();

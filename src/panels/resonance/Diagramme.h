@@ -8,12 +8,12 @@
 /// What the diagrams of the two RLC circuits have in common.
 namespace ondelis::diagramme {
 
-// The same part has the same colour in both.
+// The colours of the lines: that of a part is the same in both.
 inline constexpr Color axe = 0x8A8A8A;
-inline constexpr Color bleu = 0xD08C4A; ///< the coil
-inline constexpr Color ocre = 0x1B61B8; ///< the resistance
-inline constexpr Color vert = 0x3F6B12; ///< the capacitor
-inline constexpr Color rouge = 0x281CD0; ///< what they add up to
+inline constexpr Color bobine = 0xD08C4A;
+inline constexpr Color resistance = 0x1B61B8;
+inline constexpr Color condensateur = 0x3F6B12;
+inline constexpr Color resultante = 0x281CD0;
 
 /// The legend: in each row a stroke, and right of it what it stands for.
 struct Legende {
@@ -27,7 +27,7 @@ struct Legende {
         const double y = noms.at(row).Top + middle;
         return {.X1 = traits, .Y1 = y, .X2 = traits + length, .Y2 = y, .BorderColor = color, .BorderWidth = width};
     }
-    [[nodiscard]] Label::Design nom(double row, const char* words) const { return noms.caption(row, words); }
+    [[nodiscard]] Label::Design nom(double row, const char* text) const { return noms.caption(row, text); }
 };
 
 } // namespace ondelis::diagramme

@@ -20,9 +20,9 @@ void FormuleDeThomson::OptF_Click()
 {
     runtime().get<CalculNombreSpires>().Hide();
     OptionCalcul = "Frequence";
-    Chercher(TxtFreq);
-    Donner(TxtSelf);
-    Donner(TxtCapa);
+    MarquerInconnue(TxtFreq);
+    MarquerDonnee(TxtSelf);
+    MarquerDonnee(TxtCapa);
 }
 
 void FormuleDeThomson::OptL_Click()
@@ -31,20 +31,20 @@ void FormuleDeThomson::OptL_Click()
     runtime().get<CalculNombreSpires>().Top = Top + 500;
     runtime().get<CalculNombreSpires>().Left = Width + Left + 500;
     OptionCalcul = "Self";
-    Donner(TxtFreq);
+    MarquerDonnee(TxtFreq);
     TxtFreq.SetFocus();
-    Chercher(TxtSelf);
-    Donner(TxtCapa);
+    MarquerInconnue(TxtSelf);
+    MarquerDonnee(TxtCapa);
 }
 
 void FormuleDeThomson::OptC_Click()
 {
     runtime().get<CalculNombreSpires>().Hide();
     OptionCalcul = "Capacite";
-    Donner(TxtFreq);
+    MarquerDonnee(TxtFreq);
     TxtFreq.SetFocus();
-    Donner(TxtSelf);
-    Chercher(TxtCapa);
+    MarquerDonnee(TxtSelf);
+    MarquerInconnue(TxtCapa);
 }
 
 void FormuleDeThomson::TxtFreq_Change()
@@ -90,13 +90,13 @@ void FormuleDeThomson::Calculer()
     }
 }
 
-void FormuleDeThomson::Chercher(TextBox& champ)
+void FormuleDeThomson::MarquerInconnue(TextBox& champ)
 {
     champ.BackColor = soughtColor;
     champ.Locked = true;
 }
 
-void FormuleDeThomson::Donner(TextBox& champ)
+void FormuleDeThomson::MarquerDonnee(TextBox& champ)
 {
     champ.BackColor = givenColor;
     champ.Locked = false;

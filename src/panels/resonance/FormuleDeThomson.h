@@ -38,7 +38,7 @@ public:
     // The formulas: F = 1 / (2 Pi root(L C)), L = 1 / ((2 Pi F)² C), C = 1 / ((2 Pi F)² L).
     Label LblF{this, "LblF", {.Caption = "F = ", .at = egalites.at(0), .align = Align::Right}};
     Label LblFHaut{this, "LblFHaut", {.Caption = "1", .at = numerateurs.at(0), .align = Align::Center}};
-    Line BarreF{this, "BarreF", barre(0)};
+    Line BarreF{this, "BarreF", barreDeFraction(0)};
     Label LblFBas{this, "LblFBas", {.Caption = "2 * Pi *", .at = {3645, 735, 840, 255}, .align = Align::Right}};
     Line RacineF1{this, "RacineF1", {.X1 = 4545, .Y1 = 897, .X2 = 4590, .Y2 = 867}};
     Line RacineF2{this, "RacineF2", {.X1 = 4590, .Y1 = 867, .X2 = 4665, .Y2 = 1000, .BorderWidth = 2}};
@@ -48,13 +48,13 @@ public:
 
     Label LblL{this, "LblL", {.Caption = "L = ", .at = egalites.at(1), .align = Align::Right}};
     Label LblLHaut{this, "LblLHaut", {.Caption = "1", .at = numerateurs.at(1), .align = Align::Center}};
-    Line BarreL{this, "BarreL", barre(1)};
+    Line BarreL{this, "BarreL", barreDeFraction(1)};
     Label LblLBas{
         this, "LblLBas", {.Caption = "( 2 * Pi * F )² * C", .at = denominateurs.at(1), .align = Align::Center}};
 
     Label LblC{this, "LblC", {.Caption = "C = ", .at = egalites.at(2), .align = Align::Right}};
     Label LblCHaut{this, "LblCHaut", {.Caption = "1", .at = numerateurs.at(2), .align = Align::Center}};
-    Line BarreC{this, "BarreC", barre(2)};
+    Line BarreC{this, "BarreC", barreDeFraction(2)};
     Label LblCBas{
         this, "LblCBas", {.Caption = "( 2 * Pi * F )² * L", .at = denominateurs.at(2), .align = Align::Center}};
 
@@ -62,7 +62,7 @@ public:
 
 private:
     /// The bar of a fraction, under its numerator.
-    static Line::Design barre(double row)
+    static Line::Design barreDeFraction(double row)
     {
         const Box numerateur = numerateurs.at(row);
         const double y = numerateur.Top + 307;
@@ -78,8 +78,8 @@ private:
     void TxtCapa_Change();
     void Calculer();
 
-    static void Chercher(TextBox& champ);
-    static void Donner(TextBox& champ);
+    static void MarquerInconnue(TextBox& champ);
+    static void MarquerDonnee(TextBox& champ);
 
     Double Frequence; ///< Hz
     Double Self; ///< H

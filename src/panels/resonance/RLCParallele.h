@@ -61,20 +61,20 @@ public:
     Shape Cadre{this, "Cadre", {.at = under(LblIc, 3705, 3420, 45)}};
     Line Line1{this, "Line1", {.X1 = 4560, .Y1 = 5010, .X2 = 7845, .Y2 = 5010, .BorderColor = diagramme::axe}};
     Label LblU{this, "LblU", {.Caption = "U", .at = {7605, 5055, 285, 255}}};
-    Line LXl{this, "LXl", {.BorderColor = diagramme::bleu, .BorderWidth = 7, .within = &Cadre}};
-    Line LR{this, "LR", {.BorderColor = diagramme::ocre, .BorderWidth = 5, .within = &Cadre}};
-    Line LXc{this, "LXc", {.BorderColor = diagramme::vert, .BorderWidth = 4, .within = &Cadre}};
-    Line LRes{this, "LRes", {.BorderColor = diagramme::rouge, .BorderWidth = 2, .within = &Cadre}};
+    Line LXl{this, "LXl", {.BorderColor = diagramme::bobine, .BorderWidth = 7, .within = &Cadre}};
+    Line LR{this, "LR", {.BorderColor = diagramme::resistance, .BorderWidth = 5, .within = &Cadre}};
+    Line LXc{this, "LXc", {.BorderColor = diagramme::condensateur, .BorderWidth = 4, .within = &Cadre}};
+    Line LRes{this, "LRes", {.BorderColor = diagramme::resultante, .BorderWidth = 2, .within = &Cadre}};
     Label LblIz{this, "LblIz", {.Caption = "Iz en retard sur U", .at = under(Cadre, 1875, 255, 45)}};
     Label LblZlr{this, "LblZlr", {.Caption = "Zlr=sqr(R² + Xl²)", .at = rightOf(LblIz, 1770), .align = Align::Right}};
 
-    Line LegendeXl{this, "LegendeXl", legende.trait(0, diagramme::bleu, 7)};
+    Line LegendeXl{this, "LegendeXl", legende.trait(0, diagramme::bobine, 7)};
     Label LblLegendeXl{this, "LblLegendeXl", legende.nom(0, "Xl / Zlr")};
-    Line LegendeR{this, "LegendeR", legende.trait(1, diagramme::ocre, 5)};
+    Line LegendeR{this, "LegendeR", legende.trait(1, diagramme::resistance, 5)};
     Label LblLegendeR{this, "LblLegendeR", legende.nom(1, "R / Z")};
-    Line LegendeXc{this, "LegendeXc", legende.trait(2, diagramme::vert, 4)};
+    Line LegendeXc{this, "LegendeXc", legende.trait(2, diagramme::condensateur, 4)};
     Label LblLegendeXc{this, "LblLegendeXc", legende.nom(2, "Xc")};
-    Line LegendeRes{this, "LegendeRes", legende.trait(3, diagramme::rouge, 2)};
+    Line LegendeRes{this, "LegendeRes", legende.trait(3, diagramme::resultante, 2)};
     Label LblLegendeRes{this, "LblLegendeRes", legende.nom(3, "Résultante")};
 
 private:

@@ -62,18 +62,18 @@ public:
     // right. Lines may lie on one another: the later ones are thinner.
     Shape Cadre{this, "Cadre", {.at = under(Schema, 3765, 3900, 240)}};
     Line Line3{this, "Line3", {.X1 = 5655, .Y1 = 4890, .X2 = 8655, .Y2 = 4890, .BorderColor = diagramme::axe}};
-    Line LXl{this, "LXl", {.BorderColor = diagramme::bleu, .BorderWidth = 7, .within = &Cadre}};
-    Line LR{this, "LR", {.BorderColor = diagramme::ocre, .BorderWidth = 5, .within = &Cadre}};
-    Line LXc{this, "LXc", {.BorderColor = diagramme::vert, .BorderWidth = 4, .within = &Cadre}};
-    Line LResultante{this, "LResultante", {.BorderColor = diagramme::rouge, .BorderWidth = 2, .within = &Cadre}};
+    Line LXl{this, "LXl", {.BorderColor = diagramme::bobine, .BorderWidth = 7, .within = &Cadre}};
+    Line LR{this, "LR", {.BorderColor = diagramme::resistance, .BorderWidth = 5, .within = &Cadre}};
+    Line LXc{this, "LXc", {.BorderColor = diagramme::condensateur, .BorderWidth = 4, .within = &Cadre}};
+    Line LResultante{this, "LResultante", {.BorderColor = diagramme::resultante, .BorderWidth = 2, .within = &Cadre}};
 
-    Line LegendeR{this, "LegendeR", legende.trait(0, diagramme::ocre, 5)};
+    Line LegendeR{this, "LegendeR", legende.trait(0, diagramme::resistance, 5)};
     Label LblLegendeR{this, "LblLegendeR", legende.nom(0, "R")};
-    Line LegendeXl{this, "LegendeXl", legende.trait(1, diagramme::bleu, 7)};
+    Line LegendeXl{this, "LegendeXl", legende.trait(1, diagramme::bobine, 7)};
     Label LblLegendeXl{this, "LblLegendeXl", legende.nom(1, "Xl")};
-    Line LegendeXc{this, "LegendeXc", legende.trait(2, diagramme::vert, 4)};
+    Line LegendeXc{this, "LegendeXc", legende.trait(2, diagramme::condensateur, 4)};
     Label LblLegendeXc{this, "LblLegendeXc", legende.nom(2, "Xc")};
-    Line LegendeResultante{this, "LegendeResultante", legende.trait(3, diagramme::rouge, 2)};
+    Line LegendeResultante{this, "LegendeResultante", legende.trait(3, diagramme::resultante, 2)};
     Label LblLegendeZ{this, "LblLegendeZ", legende.nom(3, "Z")};
 
 private:

@@ -44,7 +44,7 @@ void Astable::CalculResistances()
     if (Frequence == 0 || Capacite == 0)
         return;
     const Double Periode = 1 / Frequence; // s
-    const Double SommeR = Periode / (Capacite * 0.693); // R1 + R2, the whole of the timing
+    const Double SommeR = Periode / (Capacite * 0.693); // R1 + R2, taken for the whole timing resistance
     const Double R1 = SommeR / 4;
     const Double R2 = (SommeR * 3) / 4;
     LblR1.Caption = "Résistance R1 = " + Str(Truncate(R1, 100)) + " Ohms";

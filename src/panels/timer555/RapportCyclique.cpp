@@ -26,7 +26,7 @@ void RapportCyclique::HScrlFreq_Change()
 {
     Frequence = HScrlFreq.Value * facteurFrequence(LstFreq.ListIndex);
     if (LstFreq.ListIndex >= 0)
-        LblFreq.Caption = "Frequence " + Str(Frequence) + " " + LstFreq.List(LstFreq.ListIndex); // hertz, whatever unit
+        LblFreq.Caption = "Frequence " + Str(Frequence) + " " + LstFreq.List(LstFreq.ListIndex); // always in hertz
     else
         MsgBox("L'unité doit être définie au préalable");
     Calculer();

@@ -11,9 +11,9 @@ Box sousLegende(const Label& legende, double width)
     return under(legende, width, legende.at().Height, 30);
 }
 
-HScrollBar::Design barre(Box at, Integer Value, Label& legende)
+HScrollBar::Design barre(Box at, Integer value, Label& legende)
 {
-    return {.Min = 1, .Max = 1000, .Value = Value, .LargeChange = 10, .at = at, .label = &legende};
+    return {.Min = 1, .Max = 1000, .Value = value, .LargeChange = 10, .at = at, .label = &legende};
 }
 
 ListBox::Design unites(Label& legende, std::vector<std::string> items)
@@ -27,14 +27,14 @@ ListBox::Design unites(Label& legende, std::vector<std::string> items)
         .label = &legende};
 }
 
-Double facteurFrequence(Integer rang)
+Double facteurFrequence(Integer row)
 {
-    return rang == 1 ? 1000 : 1;
+    return row == 1 ? 1000 : 1;
 }
 
-Double facteurResistance(Integer rang)
+Double facteurResistance(Integer row)
 {
-    switch (rang.value()) {
+    switch (row.value()) {
     case 1:
         return 1000;
     case 2:
@@ -44,9 +44,9 @@ Double facteurResistance(Integer rang)
     }
 }
 
-Double facteurCapacite(Integer rang)
+Double facteurCapacite(Integer row)
 {
-    switch (rang.value()) {
+    switch (row.value()) {
     case 0:
         return 1e-6;
     case 1:
