@@ -65,7 +65,8 @@ def changes(text, header):
             continue
         made = one_token(text, code, index, header)
         found += made
-    found += [change for change in statements(text, code) if not any(start <= change.start < end for start, end in excluded)]
+    found += [change for change in statements(text, code)
+              if not any(start <= change.start < end for start, end in excluded)]
     found.sort(key=lambda change: (change.start, -change.end))
     for change in found:
         change.line = text.count("\n", 0, change.start) + 1
@@ -197,6 +198,7 @@ STATEMENT = re.compile(
 
 def statements(text, code):
     """Statements that can be left out: those that begin a line, but declarations."""
+    classes = set(re.findall(r"^class (\w+)\b(?!.*;)", text, flags=re.MULTILINE))
     for index, token in enumerate(code):
         start = token.start()
         line = text[text.rfind("\n", 0, start) + 1:start]
@@ -204,7 +206,7 @@ def statements(text, code):
             continue
         if index == 0 or code[index - 1].group() not in (";", "{", "}", ")", ":", "else"):
             continue
-        if re.search(rf"^class {token.group()}\b[^;]*$", text, flags=re.MULTILINE):
+        if token.group() in classes:
             continue  # a constructor
         match = STATEMENT.match(text, start)
         if token.group() != "return" and not match:
