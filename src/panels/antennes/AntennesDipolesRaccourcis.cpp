@@ -53,8 +53,9 @@ void AntennesDipolesRaccourcis::TxtF_Change()
 
 void AntennesDipolesRaccourcis::Calculer()
 {
-    const bool depasse = 2 * LongB >= LongA; // taken whatever the other tests give: it can be out of range
-    if (LongA == 0 || LongB == 0 || DiamFil == 0 || FreqDip == 0 || depasse) {
+    const bool selfHorsDipole
+        = 2 * LongB >= LongA; // computed first: its overflow is a fault whatever the other tests say
+    if (LongA == 0 || LongB == 0 || DiamFil == 0 || FreqDip == 0 || selfHorsDipole) {
         TxtXL.Text = "";
         TxtValSelf.Text = "";
         return;

@@ -51,9 +51,9 @@ private:
     void TxtF_Change();
     void Calculer();
 
-    Double LongA; ///< ft
-    Double LongB; ///< ft
-    Double DiamFil; ///< inches
+    Double LongA; ///< length of the whole dipole, feet
+    Double LongB; ///< from the centre of the dipole to a coil, feet
+    Double DiamFil; ///< diameter of the wire, inches
     Double FreqDip; ///< MHz
 };
 

@@ -20,7 +20,7 @@ public:
     static constexpr Column cotes = bande.from(1755);
     static constexpr Column lambda = bande.from(cotes.top + listHeight(4) + 120);
     static constexpr Column puissance = bande.from(lambda.top + listHeight(13) + 120);
-    static constexpr Column boucle{.left = 4440, .captions = 2280};
+    static constexpr Column resultats{.left = 4440, .captions = 2280};
     static constexpr Column fonctionnement{.left = 180, .captions = 1560, .top = 345}; ///< in the frame of an edge
 
     Label LblFreqMin{this, "LblFreqMin", bande.caption(0, "Fréquence Mini en MHz")};
@@ -43,20 +43,20 @@ public:
     CommandButton BtnCalculer{this, "BtnCalculer",
         {.Caption = "Calculer", .at = under(TxtPuissance, bande.inputs, 375, 195)}, &Me::BtnCalculer_Click};
 
-    Label LblFreqMoy{this, "LblFreqMoy", boucle.caption(0, "Fréquence Moy en MHz")};
-    TextBox TxtFreqMoy{this, "TxtFreqMoy", boucle.result(LblFreqMoy)};
-    Label LblDeltaFMoy{this, "LblDeltaFMoy", boucle.caption(1, "DeltaF Moy en kHz")};
-    TextBox TxtDeltaFMoy{this, "TxtDeltaFMoy", boucle.result(LblDeltaFMoy)};
-    Label LblLambdaMoy{this, "LblLambdaMoy", boucle.caption(2, "Lambda moy en m")};
-    TextBox TxtLambdaMoy{this, "TxtLambdaMoy", boucle.result(LblLambdaMoy)};
-    Label LblLongueurCote{this, "LblLongueurCote", boucle.caption(3, "Longueur cote en cm")};
-    TextBox TxtLongueurCote{this, "TxtLongueurCote", boucle.result(LblLongueurCote)};
-    Label LblRayon{this, "LblRayon", boucle.caption(4, "Rayon de la loop en cm")};
-    TextBox TxtRayon{this, "TxtRayon", boucle.result(LblRayon)};
-    Label LblSurface{this, "LblSurface", boucle.caption(5, "Surface de la loop en m²")};
-    TextBox TxtSurface{this, "TxtSurface", boucle.result(LblSurface)};
-    Label LblInductance{this, "LblInductance", boucle.caption(6, "Inductance en µH")};
-    TextBox TxtInductance{this, "TxtInductance", boucle.result(LblInductance)};
+    Label LblFreqMoy{this, "LblFreqMoy", resultats.caption(0, "Fréquence Moy en MHz")};
+    TextBox TxtFreqMoy{this, "TxtFreqMoy", resultats.result(LblFreqMoy)};
+    Label LblDeltaFMoy{this, "LblDeltaFMoy", resultats.caption(1, "DeltaF Moy en kHz")};
+    TextBox TxtDeltaFMoy{this, "TxtDeltaFMoy", resultats.result(LblDeltaFMoy)};
+    Label LblLambdaMoy{this, "LblLambdaMoy", resultats.caption(2, "Lambda moy en m")};
+    TextBox TxtLambdaMoy{this, "TxtLambdaMoy", resultats.result(LblLambdaMoy)};
+    Label LblLongueurCote{this, "LblLongueurCote", resultats.caption(3, "Longueur cote en cm")};
+    TextBox TxtLongueurCote{this, "TxtLongueurCote", resultats.result(LblLongueurCote)};
+    Label LblRayon{this, "LblRayon", resultats.caption(4, "Rayon de la loop en cm")};
+    TextBox TxtRayon{this, "TxtRayon", resultats.result(LblRayon)};
+    Label LblSurface{this, "LblSurface", resultats.caption(5, "Surface de la loop en m²")};
+    TextBox TxtSurface{this, "TxtSurface", resultats.result(LblSurface)};
+    Label LblInductance{this, "LblInductance", resultats.caption(6, "Inductance en µH")};
+    TextBox TxtInductance{this, "TxtInductance", resultats.result(LblInductance)};
 
     PictureBox Picture2{this, "Picture2", {.picture = "high-q-loop", .at = under(LblInductance, 4680, 4065, 270)}};
 

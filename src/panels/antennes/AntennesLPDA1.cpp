@@ -98,15 +98,15 @@ void AntennesLPDA1::TxtDiamElement1_Change()
 
 void AntennesLPDA1::TxtFreqMin_KeyPress(Integer& KeyAscii)
 {
-    FiltrerTouche(KeyAscii, TxtFreqMin, FreqMin);
+    TraiterTouche(KeyAscii, TxtFreqMin, FreqMin);
 }
 
 void AntennesLPDA1::TxtFreqMax_KeyPress(Integer& KeyAscii)
 {
-    FiltrerTouche(KeyAscii, TxtFreqMax, FreqMax);
+    TraiterTouche(KeyAscii, TxtFreqMax, FreqMax);
 }
 
-void AntennesLPDA1::FiltrerTouche(Integer touche, TextBox& champ, Double& frequence)
+void AntennesLPDA1::TraiterTouche(Integer touche, TextBox& champ, Double& frequence)
 {
     const int code = touche.value();
     if (code == '.' || (code >= '0' && code <= '9'))
@@ -315,14 +315,14 @@ void AntennesLPDA1::BtnPrecedent_Click()
     }
 }
 
-void AntennesLPDA1::PresenterBrin(Integer k)
+void AntennesLPDA1::PresenterBrin(Integer index)
 {
-    LblDimBrin.Caption = TabLibLongueurs(k);
-    LblEspacement.Caption = k == 0 ? std::string{} : TabLibEspacements(k);
-    LblDiamètre.Caption = TabLibDiametres(k);
-    TxtLongBrin.Text = Str(TabLongueurs(k));
-    TxtEspacement.Text = Str(TabEspacements(k));
-    TxtDiamètre.Text = Str(TabDiametres(k));
+    LblDimBrin.Caption = TabLibLongueurs(index);
+    LblEspacement.Caption = index == 0 ? std::string{} : TabLibEspacements(index);
+    LblDiamètre.Caption = TabLibDiametres(index);
+    TxtLongBrin.Text = Str(TabLongueurs(index));
+    TxtEspacement.Text = Str(TabEspacements(index));
+    TxtDiamètre.Text = Str(TabDiametres(index));
 }
 
 } // namespace ondelis

@@ -56,9 +56,9 @@ public:
     Label LblZt{this, "LblZt", antenne.caption(2, "Stub Zt")};
     TextBox TxtZt{this, "TxtZt", antenne.result(LblZt)};
 
-    CommandButton BtnRetour1{this, "BtnRetour1", bouton(Cadre1, gauche, "Retour"), &Me::BtnRetour1_Click};
-    CommandButton BtnCalculer1{this, "BtnCalculer1", bouton(Cadre1, droite, "Calculer"), &Me::BtnCalculer1_Click};
-    CommandButton BtnSuite1{this, "BtnSuite1", bouton(Cadre1, droite, "Suite"), &Me::BtnSuite1_Click};
+    CommandButton BtnRetour1{this, "BtnRetour1", bouton(Cadre1, backLeft, "Retour"), &Me::BtnRetour1_Click};
+    CommandButton BtnCalculer1{this, "BtnCalculer1", bouton(Cadre1, nextLeft, "Calculer"), &Me::BtnCalculer1_Click};
+    CommandButton BtnSuite1{this, "BtnSuite1", bouton(Cadre1, nextLeft, "Suite"), &Me::BtnSuite1_Click};
 
     Shape Cadre2{this, "Cadre2", {.at = under(Cadre1, 9000, 2775, 120)}};
     Label LblRZero{this, "LblRZero", alimentation.caption(0, "R0")};
@@ -78,10 +78,10 @@ public:
         {.Caption = "Choix de la combinaison dimensions et espacement des booms pour obtenir cette impédance",
             .at = lines(ligne.across(3), 2)}};
 
-    CommandButton BtnRetour2{this, "BtnRetour2", bouton(Cadre2, gauche, "Retour"), &Me::BtnRetour2_Click};
+    CommandButton BtnRetour2{this, "BtnRetour2", bouton(Cadre2, backLeft, "Retour"), &Me::BtnRetour2_Click};
     CommandButton BtnCalculer2{
-        this, "BtnCalculer2", bouton(Cadre2, droite, "Calculer", false), &Me::BtnCalculer2_Click};
-    CommandButton BtnSuite2{this, "BtnSuite2", bouton(Cadre2, droite, "Suite"), &Me::BtnSuite2_Click};
+        this, "BtnCalculer2", bouton(Cadre2, nextLeft, "Calculer", false), &Me::BtnCalculer2_Click};
+    CommandButton BtnSuite2{this, "BtnSuite2", bouton(Cadre2, nextLeft, "Suite"), &Me::BtnSuite2_Click};
 
     Shape Cadre3{this, "Cadre3", {.at = under(Cadre2, 9000, 975, 120)}};
     Label LblDiamExtBoom{this, "LblDiamExtBoom", booms.caption(0, "Diamètre  extérieur des booms en mm")};
@@ -89,10 +89,10 @@ public:
     Label LblS{this, "LblS", booms.caption(1, "Entre-axes des booms")};
     TextBox TxtS{this, "TxtS", resultField(LblS, 2460)};
 
-    CommandButton BtnRetour3{this, "BtnRetour3", bouton(Cadre3, gauche, "Retour"), &Me::BtnRetour3_Click};
+    CommandButton BtnRetour3{this, "BtnRetour3", bouton(Cadre3, backLeft, "Retour"), &Me::BtnRetour3_Click};
     CommandButton BtnCalculer3{
-        this, "BtnCalculer3", bouton(Cadre3, droite, "Calculer", false), &Me::BtnCalculer3_Click};
-    CommandButton BtnSuite3{this, "BtnSuite3", bouton(Cadre3, droite, "Suite"), &Me::BtnSuite3_Click};
+        this, "BtnCalculer3", bouton(Cadre3, nextLeft, "Calculer", false), &Me::BtnCalculer3_Click};
+    CommandButton BtnSuite3{this, "BtnSuite3", bouton(Cadre3, nextLeft, "Suite"), &Me::BtnSuite3_Click};
 
     Frame Frame1{this, "Frame1", {.Caption = "Structure de la LPDA", .at = structure, .picture = "lpda-structure"}};
     Label LblFrameBalun{this, "LblFrameBalun",
@@ -130,15 +130,14 @@ public:
     CommandButton BtnRetour4{this, "BtnRetour4", bouton(Cadre4, brins.left + 4200, "Retour"), &Me::BtnRetour4_Click};
 
 private:
-    static constexpr int dernierBrin = 30;
-    static constexpr double gauche = 6600; ///< of a button that goes back to the previous step
-    static constexpr double droite = 7860; ///< of one that goes on
+    static constexpr int lastIndex = 30; ///< in the tables of the elements
+    static constexpr double backLeft = 6600; ///< the left edge of a button that goes back to the previous step
+    static constexpr double nextLeft = 7860; ///< of one that computes or goes on
 
     /// At the bottom of the frame of its step.
-    static CommandButton::Design bouton(const Shape& cadre, double left, const char* texte, bool visible = true)
+    static CommandButton::Design bouton(const Shape& cadre, double left, const char* text, bool visible = true)
     {
-        return {
-            .Caption = texte, .at = {left, cadre.at().Top + cadre.at().Height - 525, 1200, 375}, .Visible = visible};
+        return {.Caption = text, .at = {left, cadre.at().Top + cadre.at().Height - 525, 1200, 375}, .Visible = visible};
     }
 
     void Form_Load() override;
@@ -164,8 +163,8 @@ private:
     void BtnPrecedent_Click();
     void BtnSuivant_Click();
 
-    void FiltrerTouche(Integer touche, TextBox& champ, Double& frequence);
-    void PresenterBrin(Integer k);
+    void TraiterTouche(Integer touche, TextBox& champ, Double& frequence);
+    void PresenterBrin(Integer index);
 
     Double FreqMin; ///< MHz
     Double FreqMax; ///< MHz
@@ -184,12 +183,12 @@ private:
     Double DiamDernier; ///< inches
     Double ZZero; ///< ohms
     Integer IndexBrin; ///< the element that the browser shows, from 0, the longest
-    Table<Double, dernierBrin> TabLongueurs; ///< feet; from step 3 on metres
-    Table<Double, dernierBrin> TabEspacements; ///< feet, i for the spacing of the elements i and i + 1, counted from 1
-    Table<Double, dernierBrin> TabDiametres; ///< inches; from step 3 on millimetres
-    Table<std::string, dernierBrin> TabLibLongueurs; ///< captions of the browser, as the two below
-    Table<std::string, dernierBrin> TabLibEspacements;
-    Table<std::string, dernierBrin> TabLibDiametres;
+    Table<Double, lastIndex> TabLongueurs; ///< feet; from step 3 on metres
+    Table<Double, lastIndex> TabEspacements; ///< feet; at i, between the elements i and i + 1, counted from 1
+    Table<Double, lastIndex> TabDiametres; ///< inches; from step 3 on millimetres
+    Table<std::string, lastIndex> TabLibLongueurs; ///< captions of the browser, as the two below
+    Table<std::string, lastIndex> TabLibEspacements;
+    Table<std::string, lastIndex> TabLibDiametres;
 };
 
 } // namespace ondelis

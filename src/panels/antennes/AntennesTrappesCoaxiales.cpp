@@ -10,13 +10,13 @@ namespace {
 
 struct Coaxial {
     const char* nom;
-    double pFParPied;
-    double pouces; ///< outer diameter
-    double ohms;
-    double vitesse;
+    double capaPied; ///< pF per foot
+    double diamPouce; ///< outer diameter, inches
+    double impedance; ///< ohms
+    double vitesse; ///< velocity factor
 };
 
-constexpr std::array<Coaxial, 46> coaxials{{
+constexpr std::array<Coaxial, 46> coaxiaux{{
     {"KX3B", 30.48, 0.1, 50.0, 0.659},
     {"RG 6", 18.6, 0.266, 75.0, 0.75},
     {"RG 8X", 26.0, 0.242, 52.0, 0.75},
@@ -65,7 +65,7 @@ constexpr std::array<Coaxial, 46> coaxials{{
     {"9914", 26.0, 0.405, 50.0, 0.78},
 }};
 
-/// Rounded to a decimal: 10, 100 or 1000 parts.
+/// A positive number rounded to whole parts: to two decimals where `parts` is 100.
 Double arrondi(Double x, Double parts)
 {
     return Fix(x * parts + 0.5) / parts;
@@ -73,11 +73,11 @@ Double arrondi(Double x, Double parts)
 
 } // namespace
 
-std::vector<std::string> AntennesTrappesCoaxiales::Coaxiaux()
+std::vector<std::string> AntennesTrappesCoaxiales::NomsCoaxiaux()
 {
     std::vector<std::string> noms;
-    noms.reserve(coaxials.size() + 1);
-    for (const Coaxial& coaxial : coaxials)
+    noms.reserve(coaxiaux.size() + 1);
+    for (const Coaxial& coaxial : coaxiaux)
         noms.emplace_back(coaxial.nom);
     noms.emplace_back("Personnel");
     return noms;
@@ -99,16 +99,16 @@ void AntennesTrappesCoaxiales::Form_Load()
 
 void AntennesTrappesCoaxiales::LstCoax_Click()
 {
-    const Integer rang = LstCoax.ListIndex;
-    if (rang == LstCoax.ListCount() - 1) {
+    const Integer row = LstCoax.ListIndex;
+    if (row == LstCoax.ListCount() - 1) {
         TxtDiamCoax.Text = "";
         TxtDiamMandrin.Text = "";
         TxtCapacitParMetre.Text = "";
     } else {
-        const Coaxial& coaxial = coaxials.at(static_cast<std::size_t>(rang.value()));
-        CapaPied = coaxial.pFParPied;
-        DiamCoaxPouce = coaxial.pouces;
-        ImpedanceCoax = coaxial.ohms;
+        const Coaxial& coaxial = coaxiaux.at(static_cast<std::size_t>(row.value()));
+        CapaPied = coaxial.capaPied;
+        DiamCoaxPouce = coaxial.diamPouce;
+        ImpedanceCoax = coaxial.impedance;
         VitesseCoax = coaxial.vitesse;
     }
     TxtDiamCoax.Text = CStr(DiamCoaxPouce * 25.4);

@@ -29,7 +29,7 @@ public:
     static constexpr Column bobinage{.left = 8340, .captions = 3660, .results = 1860, .top = reactances.top};
 
     Label LblCoax{this, "LblCoax", {.Caption = "Sélectionner un coaxial", .at = {240, 225, 2280, 255}}};
-    ListBox LstCoax{this, "LstCoax", {.Items = Coaxiaux(), .at = under(LblCoax, 2280, 5100), .label = &LblCoax},
+    ListBox LstCoax{this, "LstCoax", {.Items = NomsCoaxiaux(), .at = under(LblCoax, 2280, 5100), .label = &LblCoax},
         &Me::LstCoax_Click};
 
     Label LblZ{this, "LblZ", cable.caption(0, "Impédance caractéristique")};
@@ -84,7 +84,7 @@ public:
     Label Label19{this, "Label19", {.at = under(Picture3, 13680, 255, 300)}};
 
 private:
-    static std::vector<std::string> Coaxiaux();
+    static std::vector<std::string> NomsCoaxiaux();
 
     void Form_Load() override;
     void LstCoax_Click();

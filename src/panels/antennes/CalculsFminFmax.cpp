@@ -57,7 +57,7 @@ void CalculsFminFmax(AntennesHighQLoop& loop)
     loop.TxtRL_FreqMin.Text = TraitementMultiplicateur(mini.RL());
     loop.TxtVC_FreqMin.Text = CStr(Fix(mini.Vc()));
     loop.TxtIL_FreqMin.Text = TraitementMultiplicateur(mini.IL());
-    loop.TxtNeta_FreqMin.Text = TraitementMultiplicateur(mini.Efficacite()); // with a multiplier, here alone
+    loop.TxtNeta_FreqMin.Text = TraitementMultiplicateur(mini.Efficacite()); // a multiplier word, in this column alone
     loop.TxtCf_FreqMin.Text = TraitementMultiplicateur(mini.Cf());
 
     const Fonctionnement maxi{loop, loop.FreqMax, loop.DeltaFMax};

@@ -17,7 +17,7 @@ public:
     [[nodiscard]] Double XL() const;
     /// Radiation resistance, ohms.
     [[nodiscard]] Double RR() const;
-    /// Loss resistance, ohms; negative where the bandwidth requires less than the radiation takes.
+    /// Loss resistance, ohms: the total that the bandwidth implies, less the radiation resistance; it can be negative.
     [[nodiscard]] Double RL() const;
     /// Voltage of the capacitor, V. Throws an invalid argument for a negative reactance.
     [[nodiscard]] Double Vc() const;

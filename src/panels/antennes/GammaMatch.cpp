@@ -9,8 +9,9 @@
 namespace ondelis {
 namespace {
 
-constexpr Color choisie = red; // red: the chosen option
-constexpr Color delaissee = black;
+// The captions of the options: the chosen one is red.
+constexpr Color couleurChoisie = red;
+constexpr Color couleurNonChoisie = black;
 
 // The frequency's message also serves for the resistances.
 const std::string frequenceRefusee = "La valeur de frequence doit être positive et supérieure à zéro";
@@ -51,8 +52,8 @@ void GammaMatch::OptMonopole_Click()
     OptDipôle.Value = false;
     Image1.Visible = true;
     Image2.Visible = false;
-    OptMonopole.ForeColor = choisie;
-    OptDipôle.ForeColor = delaissee;
+    OptMonopole.ForeColor = couleurChoisie;
+    OptDipôle.ForeColor = couleurNonChoisie;
     TxtFreq.Text = "145";
     TxtRA.Text = "25";
     TxtXa.Text = "-25";
@@ -64,8 +65,8 @@ void GammaMatch::OptDipôle_Click()
     OptMonopole.Value = false;
     Image1.Visible = false;
     Image2.Visible = true;
-    OptMonopole.ForeColor = delaissee;
-    OptDipôle.ForeColor = choisie;
+    OptMonopole.ForeColor = couleurNonChoisie;
+    OptDipôle.ForeColor = couleurChoisie;
     TxtFreq.Text = CStr(14.175); // read back as 14 under a decimal comma
     TxtRA.Text = "300";
     TxtXa.Text = "-300";

@@ -20,9 +20,9 @@ void Cms::Form_Load()
 void Cms::LstCms_Click()
 {
     // "1206" is 12 by 06 hundredths of an inch.
-    const Double c = CDbl(LstCms.List(LstCms.ListIndex));
-    TxtLongueur.Text = CStr(Fix(c / 100) * 25.4 / 100);
-    TxtLargeur.Text = CStr((c - Fix(c / 100) * 100) * 25.4 / 100);
+    const Double code = CDbl(LstCms.List(LstCms.ListIndex));
+    TxtLongueur.Text = CStr(Fix(code / 100) * 25.4 / 100);
+    TxtLargeur.Text = CStr((code - Fix(code / 100) * 100) * 25.4 / 100);
 }
 
 void Cms::TxtMarquage_Change()
@@ -30,11 +30,11 @@ void Cms::TxtMarquage_Change()
     TxtValeur.Text = "";
     TxtExposant.Text = "";
     const std::string marquage = TxtMarquage.Text;
-    const std::string k = Right(marquage, 1);
-    const bool chiffre = k > "." && k < ":"; // "/" too
+    const std::string dernier = Right(marquage, 1);
+    const bool chiffre = dernier > "." && dernier < ":"; // "/" counts as one, too
     bool accepte = true; // an E96 marking is never refused
     if (Opt3Digits.Value)
-        accepte = chiffre || k == "r" || k == "R";
+        accepte = chiffre || dernier == "r" || dernier == "R";
     else if (Opt4Digits.Value)
         accepte = chiffre;
     if (!accepte && !marquage.empty())
@@ -54,37 +54,37 @@ void Cms::BtnCmsCalculer_Click()
 
 void Cms::Decoder3Digits()
 {
-    const std::string m = TxtMarquage.Text;
-    const std::string k = Right(m, 1);
-    if (Mid(m, 1, 1) == "R") {
-        TxtValeur.Text = Right(m, 2);
+    const std::string marquage = TxtMarquage.Text;
+    const std::string dernier = Right(marquage, 1);
+    if (Mid(marquage, 1, 1) == "R") {
+        TxtValeur.Text = Right(marquage, 2);
         TxtExposant.Text = CStr(-2);
-    } else if (Mid(m, 2, 1) == "R") {
-        TxtValeur.Text = Mid(m, 1, 1) + k;
+    } else if (Mid(marquage, 2, 1) == "R") {
+        TxtValeur.Text = Mid(marquage, 1, 1) + dernier;
         TxtExposant.Text = CStr(-1);
-    } else if (k >= "0" && k <= "9") {
-        TxtValeur.Text = CStr(Val(Mid(m, 1, 2)));
-        TxtExposant.Text = k;
+    } else if (dernier >= "0" && dernier <= "9") {
+        TxtValeur.Text = CStr(Val(Mid(marquage, 1, 2)));
+        TxtExposant.Text = dernier;
     }
 }
 
 void Cms::Decoder4Digits()
 {
-    const std::string m = TxtMarquage.Text;
-    TxtValeur.Text = CStr(Val(Mid(m, 1, 3)));
-    TxtExposant.Text = CStr(Val(Right(m, 1)));
+    const std::string marquage = TxtMarquage.Text;
+    TxtValeur.Text = CStr(Val(Mid(marquage, 1, 3)));
+    TxtExposant.Text = CStr(Val(Right(marquage, 1)));
 }
 
 void Cms::DecoderE96()
 {
-    const std::string m = TxtMarquage.Text;
-    const std::string k = Right(m, 1);
-    TxtValeur.Text = E96(Val(Mid(m, 1, 2)));
-    if (k >= "A" && k <= "F")
-        TxtExposant.Text = CStr(k[0] - 'A');
-    else if (k == "X" || k == "R")
+    const std::string marquage = TxtMarquage.Text;
+    const std::string dernier = Right(marquage, 1);
+    TxtValeur.Text = E96(Val(Mid(marquage, 1, 2)));
+    if (dernier >= "A" && dernier <= "F")
+        TxtExposant.Text = CStr(dernier[0] - 'A');
+    else if (dernier == "X" || dernier == "R")
         TxtExposant.Text = CStr(-1);
-    else if (k == "S" || k == "Y")
+    else if (dernier == "S" || dernier == "Y")
         TxtExposant.Text = CStr(-2);
 }
 

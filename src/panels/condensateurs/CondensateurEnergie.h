@@ -57,30 +57,30 @@ public:
     Label Label15{this, "Label15", fin(TxTCD, "Ampères")};
 
 private:
-    static constexpr double ecart = 120; ///< between the words of a sentence and its field
+    static constexpr double gap = 120; ///< between the words of a sentence and its field
 
     /// The words before the field. Those that end in a blank are set one blank further right, so that the sentences
     /// line up at their fields.
-    static Label::Design debut(double row, const char* mots)
+    static Label::Design debut(double row, const char* text)
     {
-        constexpr double blanc = 60;
-        Label::Design design = phrases.caption(row, mots);
+        constexpr double blankWidth = 60;
+        Label::Design design = phrases.caption(row, text);
         design.align = Align::Right;
-        if (std::string_view{mots}.ends_with(' '))
-            design.at.Left += blanc;
+        if (std::string_view{text}.ends_with(' '))
+            design.at.Left += blankWidth;
         return design;
     }
-    static Box champ(const Label& legende)
+    static Box placeDuChamp(const Label& legende)
     {
-        return {phrases.left + phrases.captions + ecart, legende.at().Top - 30, 1980, 315};
+        return {phrases.left + phrases.captions + gap, legende.at().Top - 30, 1980, 315};
     }
-    static TextBox::Design saisie(Label& legende) { return {.at = champ(legende), .label = &legende}; }
-    static TextBox::Design resultat(Label& legende) { return resultField(champ(legende), &legende); }
+    static TextBox::Design saisie(Label& legende) { return {.at = placeDuChamp(legende), .label = &legende}; }
+    static TextBox::Design resultat(Label& legende) { return resultField(placeDuChamp(legende), &legende); }
     /// The words after the field.
-    static Label::Design fin(const TextBox& valeur, const char* mots)
+    static Label::Design fin(const TextBox& champ, const char* text)
     {
-        const Box& at = valeur.at();
-        return {.Caption = mots, .at = {at.Left + at.Width + ecart, at.Top + 30, 960, 255}};
+        const Box& at = champ.at();
+        return {.Caption = text, .at = {at.Left + at.Width + gap, at.Top + 30, 960, 255}};
     }
 
     void Form_Load() override;

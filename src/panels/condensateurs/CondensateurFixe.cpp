@@ -71,14 +71,14 @@ void CondensateurFixe::Form_Load()
 
 void CondensateurFixe::LstDielectrique_Click()
 {
-    const std::string isolant = LstDielectrique.Text;
-    const Dielectrique& choix = dielectrique(isolant);
+    const std::string nom = LstDielectrique.Text;
+    const Dielectrique& choix = dielectrique(nom);
     TxtCstDielMin.Text = CStr(choix.minimum);
     if (choix.maximum)
         TxtCstDielMax.Text = CStr(*choix.maximum);
     TxtCstDielMax.Visible = choix.maximum.has_value();
     LblCstDielMax.Visible = choix.maximum.has_value();
-    if (isolant == "Air") {
+    if (nom == "Air") {
         TxtCstDiel.Text = TxtCstDielMin.Text;
         Epsilon = CDbl(TxtCstDielMin.Text);
     } else {

@@ -46,21 +46,21 @@ public:
     Label LblPhi{this, "LblPhi", proprietes.caption(1, "Angle de pertes")};
     TextBox TxtPhi{this, "TxtPhi", proprietes.result(LblPhi)};
     Label LblUtilisation{this, "LblUtilisation", proprietes.caption(2, "Utilisation")};
-    TextBox TxtUtil{this, "TxtUtil", texte(LblUtilisation)};
+    TextBox TxtUtil{this, "TxtUtil", resultatMultiligne(LblUtilisation)};
     Image Icone{this, "Icone", {.picture = "condensateur-plan", .at = {6240, 450, 3450, 2100}}};
 
     Shape Cadre2{this, "Cadre2", {.at = under(Cadre1, 5460, 1860, 120)}};
-    Label LblSurface{this, "LblSurface", titre(420, 1320, "Surface")};
+    Label LblSurface{this, "LblSurface", legende(420, 1320, "Surface")};
     TextBox TxtSurface{this, "TxtSurface", {.at = sous(LblSurface), .label = &LblSurface}, &Me::TxtSurface_Change};
-    Label LblUnitésS{this, "LblUnitésS", titre(1860, 900, "Unité")};
+    Label LblUnitésS{this, "LblUnitésS", legende(1860, 900, "Unité")};
     ListBox LstUnités{this, "LstUnités", unites(LblUnitésS, {"m²", "dm²", "cm²", "mm²"}), &Me::LstUnités_Click};
     Label LblEspace{this, "LblEspace", {.Caption = "Epaisseur diélectrique", .at = {3180, 4005, 1320, 510}}};
     TextBox TxtEpaisseur{this, "TxtEpaisseur", {.at = sous(LblEspace), .label = &LblEspace}, &Me::TxtEpaisseur_Change};
-    Label LblUnitéE{this, "LblUnitéE", titre(4620, 900, "Unité")};
+    Label LblUnitéE{this, "LblUnitéE", legende(4620, 900, "Unité")};
     ListBox LstUniteE{this, "LstUniteE", unites(LblUnitéE, {"m", "dm", "cm", "mm"}), &Me::LstUniteE_Click};
 
     Shape Cadre3{this, "Cadre3", {.at = {5820, Cadre2.at().Top, 3870, 1860}}};
-    Label Lbl_Capacité{this, "Lbl_Capacité", titre(6000, 3510, "Capacité")};
+    Label Lbl_Capacité{this, "Lbl_Capacité", legende(6000, 3510, "Capacité")};
     TextBox TxtCapacite{this, "TxtCapacite",
         {.at = sous(Lbl_Capacité, 480),
             .BackColor = resultColor,
@@ -71,7 +71,7 @@ public:
 
 private:
     /// A result of several lines.
-    static TextBox::Design texte(Label& legende)
+    static TextBox::Design resultatMultiligne(Label& legende)
     {
         TextBox::Design design = resultField(legende, 4770);
         design.at.Height = 840;
@@ -79,18 +79,18 @@ private:
         return design;
     }
     // In the lower frames each caption stands over its field or its list, which is as wide.
-    static Label::Design titre(double left, double width, const char* mots)
+    static Label::Design legende(double left, double width, const char* text)
     {
-        return {.Caption = mots, .at = {left, 4215, width, 255}};
+        return {.Caption = text, .at = {left, 4215, width, 255}};
     }
     static Box sous(const Label& legende, double height = 315)
     {
         return {legende.at().Left, 4560, legende.at().Width, height};
     }
-    static ListBox::Design unites(Label& legende, std::vector<std::string> noms)
+    static ListBox::Design unites(Label& legende, std::vector<std::string> items)
     {
-        const double height = listHeight(static_cast<int>(noms.size()));
-        return {.Items = std::move(noms), .at = sous(legende, height), .label = &legende};
+        const double height = listHeight(static_cast<int>(items.size()));
+        return {.Items = std::move(items), .at = sous(legende, height), .label = &legende};
     }
 
     void Form_Load() override;
@@ -102,15 +102,15 @@ private:
     void LstUnités_Click();
     void Calculer();
 
-    static constexpr int dernierDiviseur = 4;
+    static constexpr int lastIndex = 4; ///< in the tables of divisors: one more than the lists need
 
     Double Epsilon; ///< relative permittivity in use
     Double Epaisseur; ///< as typed
     Double Surface; ///< as typed
     Double DiviseurSurface; ///< units of the surface in 1 m²
     Double DiviseurEpaisseur; ///< units of the thickness in 1 m
-    Table<Double, dernierDiviseur> DiviseursSurface; ///< by the row of LstUnités
-    Table<Double, dernierDiviseur> DiviseursEpaisseur; ///< by the row of LstUniteE
+    Table<Double, lastIndex> DiviseursSurface; ///< by the row of LstUnités
+    Table<Double, lastIndex> DiviseursEpaisseur; ///< by the row of LstUniteE
 };
 
 } // namespace ondelis

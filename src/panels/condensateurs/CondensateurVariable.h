@@ -49,9 +49,9 @@ public:
     TextBox TxtCapacite{this, "TxtCapacite", resultats.result(LblCapacite)};
 
     // The blades from above, as the construction has them.
-    Image Classique{this, "Classique", lames("condensateur-variable")};
-    Image PapillonSerie{this, "PapillonSerie", lames("papillon-serie")};
-    Image PapillonParallele{this, "PapillonParallele", lames("papillon-parallele")};
+    Image Classique{this, "Classique", vueDeDessus("condensateur-variable")};
+    Image PapillonSerie{this, "PapillonSerie", vueDeDessus("papillon-serie")};
+    Image PapillonParallele{this, "PapillonParallele", vueDeDessus("papillon-parallele")};
     // The blades from the side: two combs that reach into one another.
     Line LM{this, "LM", dos(dosMobile, dessin::cuivre)};
     Line LF{this, "LF", dos(dosFixe, dessin::encre)};
@@ -59,7 +59,7 @@ public:
     ControlArray<Line> LF1{this, "LF1", 5, &Me::lameFixe};
 
 private:
-    static Image::Design lames(const char* dessin) { return {.picture = dessin, .at = {5160, 60, 3600, 3300}}; }
+    static Image::Design vueDeDessus(const char* picture) { return {.picture = picture, .at = {5160, 60, 3600, 3300}}; }
 
     static constexpr double dosMobile = 3660; ///< the height of the back of the moving comb
     static constexpr double dosFixe = 4740; ///< of the fixed one
@@ -89,7 +89,7 @@ private:
     Double RayonInt; ///< cm
     Double RayonExt; ///< cm
     Double Espacement; ///< cm
-    Double Angle; ///< degrees, as the construction counts them
+    Double Angle; ///< degrees, as the formula takes it: halved or doubled for a butterfly
     Double NbFixes;
     Double NbMobiles;
     Double NbIntervalles;

@@ -46,17 +46,17 @@ public:
 
 private:
     static Shape::Design cadre(const Column& colonne) { return {.at = {colonne.left - 180, colonne.top, 5160, 2640}}; }
-    static Label::Design titre(const Column& colonne, const char* texte)
+    static Label::Design titre(const Column& colonne, const char* text)
     {
-        return {.Caption = texte, .at = {colonne.left, colonne.top + 90, 4440, 315}, .font = {.bold = true}};
+        return {.Caption = text, .at = {colonne.left, colonne.top + 90, 4440, 315}, .font = {.bold = true}};
     }
     static TextBox::Design decibels(Label& legende)
     {
         return {.at = beside(legende, puissance.results), .MaxLength = 6, .label = &legende};
     }
-    static Label::Design formule(const TextBox& champ, const char* texte)
+    static Label::Design formule(const TextBox& champ, const char* text)
     {
-        return {.Caption = texte, .at = under(champ, puissance.results, 255, 30)};
+        return {.Caption = text, .at = under(champ, puissance.results, 255, 30)};
     }
 
     void Form_Load() override;

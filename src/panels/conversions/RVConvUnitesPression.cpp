@@ -20,14 +20,14 @@ void RVConvUnitesPression::LstConversions_Click()
 {
     TxtEntree.Text = "";
     TxtSortie.Text = "";
-    const Integer source = LstConversions.ListIndex;
-    LsthPa.Visible = source == 0;
-    LstmmH2O.Visible = source == 1;
-    LstmmHg.Visible = source == 2;
-    LstKgcm2.Visible = source == 3;
-    LstNm2.Visible = source == 4;
+    const Integer row = LstConversions.ListIndex;
+    LsthPa.Visible = row == 0;
+    LstmmH2O.Visible = row == 1;
+    LstmmHg.Visible = row == 2;
+    LstKgcm2.Visible = row == 3;
+    LstNm2.Visible = row == 4;
     // "hPa" is written otherwise in the list.
-    LblEntree.Caption = "Valeur " + (source == 0 ? "hPa" : std::string{LstConversions.Text});
+    LblEntree.Caption = "Valeur " + (row == 0 ? "hPa" : std::string{LstConversions.Text});
 }
 
 void RVConvUnitesPression::LsthPa_Click()
@@ -61,8 +61,8 @@ void RVConvUnitesPression::Convertir(const ListBox& unites, const std::vector<Do
     LblSortie.Caption = unites.Text;
     const Integer row = unites.ListIndex;
     const Double valeur = Val(TxtEntree.Text) * facteurs.at(static_cast<std::size_t>(row.value()));
-    const bool entiere = &unites == &LsthPa && row == 0; // hPa to mm H2O alone is not cut to three decimals
-    TxtSortie.Text = CStr(entiere ? Term{valeur} : Truncate(valeur, 1000));
+    const bool sansTroncature = &unites == &LsthPa && row == 0; // hPa to mm H2O alone is not cut to three decimals
+    TxtSortie.Text = CStr(sansTroncature ? Term{valeur} : Truncate(valeur, 1000));
 }
 
 } // namespace ondelis
