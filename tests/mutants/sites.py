@@ -1,6 +1,7 @@
 """What can be changed in a source: one token at a time, each change as a person could have mistyped it."""
 
 import re
+import zlib
 from dataclasses import dataclass, field
 
 TOKEN = re.compile(r"""
@@ -186,7 +187,7 @@ def strings(text, start, end, old):
               if old[place].isascii() and old[place].isalnum() and old[place - 1] != "\\"]
     if not places:
         return [either(start, end, old, ('"!' if old[1] == "?" else '"?') + old[2:])]
-    place = places[(7 * start) % len(places)]
+    place = places[zlib.crc32(old.encode()) % len(places)]  # the same letter wherever the text stands
     letter = old[place]
     other = {"z": "y", "Z": "Y", "9": "8"}.get(letter, chr(ord(letter) + 1))
     return [either(start, end, old, old[:place] + other + old[place + 1:])]
