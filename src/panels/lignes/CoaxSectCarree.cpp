@@ -22,9 +22,9 @@ void CoaxSectCarree::OptD_Click()
     TxtZ.BackColor = windowColor;
     TxtZ.Locked = false;
     Label4.Top = haut;
-    TxtZ.Top = haut + hauteurLegende;
+    TxtZ.Top = haut + captionHeight;
     Label2.Top = bas;
-    TxtCote.Top = bas + hauteurLegende;
+    TxtCote.Top = bas + captionHeight;
 }
 
 void CoaxSectCarree::OptZ_Click()
@@ -35,9 +35,9 @@ void CoaxSectCarree::OptZ_Click()
     TxtCote.BackColor = windowColor;
     TxtCote.Locked = false;
     Label2.Top = haut;
-    TxtCote.Top = haut + hauteurLegende;
+    TxtCote.Top = haut + captionHeight;
     Label4.Top = bas;
-    TxtZ.Top = bas + hauteurLegende;
+    TxtZ.Top = bas + captionHeight;
 }
 
 void CoaxSectCarree::TxtCote_Change()

@@ -36,10 +36,10 @@ public:
     Image Image1{this, "Image1", {.picture = "coaxial-carre", .at = {240, 240, 4260, 2340}}};
 
 private:
-    static constexpr double hauteurLegende = 240;
-    static Label::Design legende(double top, const char* texte)
+    static constexpr double captionHeight = 240;
+    static Label::Design legende(double top, const char* text)
     {
-        return {.Caption = texte, .at = {240, top, 2640, hauteurLegende}};
+        return {.Caption = text, .at = {240, top, 2640, captionHeight}};
     }
     static Box sous(const Label& legende) { return under(legende, 2400, 315, 0); }
 

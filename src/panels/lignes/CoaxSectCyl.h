@@ -44,7 +44,7 @@ private:
 
     Double d; ///< of the inner conductor, mm
     Double D; ///< of the outer conductor, mm
-    Double E; ///< the factor by which the dielectric divides the impedance
+    Double E; ///< the divisor of the impedance for the chosen dielectric
 };
 
 } // namespace ondelis

@@ -52,7 +52,7 @@ private:
     void AfficherEcartement();
     void AfficherImpedance();
 
-    Double d; ///< diameter of the wires, mm; of both ways
+    Double d; ///< diameter of the wires, mm; both modes share it
     Double D; ///< spacing of the wires, mm
     Double Z; ///< ohms
 };

@@ -7,9 +7,9 @@ namespace ondelis {
 namespace {
 
 /// pF/m from pF per foot, truncated to two decimals.
-std::string pFParMetre(Double parPied)
+std::string pFParMetre(Double pFParPied)
 {
-    return Str(Truncate(parPied / 0.3048, 100));
+    return Str(Truncate(pFParPied / 0.3048, 100));
 }
 
 /// mm from inches, truncated to two decimals.
@@ -72,10 +72,10 @@ void RVListeCoaxiaux::OptVmax_Click()
 }
 
 void RVListeCoaxiaux::ProposerCriteres(
-    Integer colonne, const std::vector<std::string>& criteres, const std::string& titre)
+    Integer column, const std::vector<std::string>& criteres, const std::string& titre)
 {
     LstCritere.Clear();
-    ColonneCritere = colonne;
+    ColonneCritere = column;
     for (const std::string& critere : criteres)
         LstCritere.AddItem(critere);
     LblCriteres.Caption = titre;
@@ -84,18 +84,18 @@ void RVListeCoaxiaux::ProposerCriteres(
 
 void RVListeCoaxiaux::LstCritere_Click()
 {
-    const auto colonne = static_cast<std::size_t>(ColonneCritere.value());
+    const auto column = static_cast<std::size_t>(ColonneCritere.value());
     LstResultat.Clear();
-    for (std::size_t ligne = 1; ligne <= lignes; ++ligne)
-        if (LstCritere.List(LstCritere.ListIndex) == TableCoaxiaux[ligne][colonne])
-            LstResultat.AddItem(TableCoaxiaux[ligne][1]);
+    for (std::size_t row = 1; row <= rows; ++row)
+        if (LstCritere.List(LstCritere.ListIndex) == TableCoaxiaux[row][column])
+            LstResultat.AddItem(TableCoaxiaux[row][1]);
     LstResultat.Visible = true;
 }
 
 void RVListeCoaxiaux::LstResultat_Click()
 {
-    for (std::size_t ligne = 1; ligne <= lignes; ++ligne) {
-        const auto& coaxial = TableCoaxiaux[ligne];
+    for (std::size_t row = 1; row <= rows; ++row) {
+        const auto& coaxial = TableCoaxiaux[row];
         if (LstResultat.List(LstResultat.ListIndex) == coaxial[1]) {
             TxtRef.Text = coaxial[1];
             TxtZ.Text = coaxial[2];
@@ -130,7 +130,7 @@ void RVListeCoaxiaux::LstResultat_GotFocus()
 void RVListeCoaxiaux::RemplirTable()
 {
     // clang-format off
-    const std::array<std::array<std::string, colonnes>, lignes> catalogue{{
+    const std::array<std::array<std::string, columns>, rows> catalogue{{
         {"KX3 B", "50", "0.66", Str(100), Str(5), "PE", "1100"},
         {"RG-6", "75", "0.75", pFParMetre(18.6), millimetres(0.266), "Foam PE", ""},
         {"RG-8X", "52", "0.75", pFParMetre(26.0), millimetres(0.242), "Foam PE", ""},
@@ -177,9 +177,9 @@ void RVListeCoaxiaux::RemplirTable()
         {"Twin lead 300", "300", "0.82", pFParMetre(5.8), "", "", ""},
     }};
     // clang-format on
-    for (std::size_t ligne = 1; ligne <= lignes; ++ligne)
-        for (std::size_t colonne = 1; colonne <= colonnes; ++colonne)
-            TableCoaxiaux[ligne][colonne] = catalogue[ligne - 1][colonne - 1];
+    for (std::size_t row = 1; row <= rows; ++row)
+        for (std::size_t column = 1; column <= columns; ++column)
+            TableCoaxiaux[row][column] = catalogue[row - 1][column - 1];
 }
 
 } // namespace ondelis

@@ -41,25 +41,25 @@ public:
     PictureBox Picture1{this, "Picture1", {.picture = "coaxial-icone", .at = {7200, 240, 960, 960}}};
 
     Label LblResultat{this, "LblResultat", listeReferences.caption(0, "Références coaxiaux")};
-    ListBox LstResultat{this, "LstResultat", {.at = liste(LblResultat), .Visible = false, .label = &LblResultat},
+    ListBox LstResultat{this, "LstResultat", {.at = sous(LblResultat), .Visible = false, .label = &LblResultat},
         &Me::LstResultat_Click, &Me::LstResultat_GotFocus};
     Label LblCriteres{this, "LblCriteres", listeCriteres.caption(0, "Label11")};
-    ListBox LstCritere{this, "LstCritere", {.at = liste(LblCriteres), .label = &LblCriteres}, &Me::LstCritere_Click};
+    ListBox LstCritere{this, "LstCritere", {.at = sous(LblCriteres), .label = &LblCriteres}, &Me::LstCritere_Click};
 
     Label Label1{this, "Label1", fiche.caption(0, "Référence")};
-    TextBox TxtRef{this, "TxtRef", valeur(Label1)};
+    TextBox TxtRef{this, "TxtRef", resultat(Label1)};
     Label Label2{this, "Label2", fiche.caption(1, "Impédance")};
-    TextBox TxtZ{this, "TxtZ", valeur(Label2)};
+    TextBox TxtZ{this, "TxtZ", resultat(Label2)};
     Label Label3{this, "Label3", fiche.caption(2, "Coeff Vélocité")};
-    TextBox TxtVF{this, "TxtVF", valeur(Label3)};
+    TextBox TxtVF{this, "TxtVF", resultat(Label3)};
     Label Label4{this, "Label4", fiche.caption(3, "pF/m")};
-    TextBox TxtpF{this, "TxtpF", valeur(Label4)};
+    TextBox TxtpF{this, "TxtpF", resultat(Label4)};
     Label Label5{this, "Label5", fiche.caption(4, "Diamètre")};
-    TextBox TxtDiam{this, "TxtDiam", valeur(Label5)};
+    TextBox TxtDiam{this, "TxtDiam", resultat(Label5)};
     Label Label6{this, "Label6", fiche.caption(5, "Diélectrique")};
-    TextBox TxtDiel{this, "TxtDiel", valeur(Label6)};
+    TextBox TxtDiel{this, "TxtDiel", resultat(Label6)};
     Label Label7{this, "Label7", fiche.caption(6, "Umax RMS")};
-    TextBox TxtRMS{this, "TxtRMS", valeur(Label7)};
+    TextBox TxtRMS{this, "TxtRMS", resultat(Label7)};
 
     // One note at a time, all at the same place.
     static constexpr Box note{5040, 4500, 3120, 765};
@@ -68,8 +68,8 @@ public:
     Label Label10{this, "Label10", {.Caption = "PTFE : Polytétrafluoroéthylène (Teflon) (-250° à +250°)", .at = note}};
 
 private:
-    static Box liste(const Label& legende) { return under(legende, 2040, listHeight(18), 45); }
-    static TextBox::Design valeur(Label& legende)
+    static Box sous(const Label& legende) { return under(legende, 2040, listHeight(18), 45); }
+    static TextBox::Design resultat(Label& legende)
     {
         TextBox::Design design = fiche.openResult(legende);
         design.align = Align::Center;
@@ -88,14 +88,14 @@ private:
     void LstResultat_GotFocus();
 
     void RemplirTable();
-    void ProposerCriteres(Integer colonne, const std::vector<std::string>& criteres, const std::string& titre);
+    void ProposerCriteres(Integer column, const std::vector<std::string>& criteres, const std::string& titre);
 
-    static constexpr std::size_t lignes = 44;
-    static constexpr std::size_t colonnes = 7;
+    static constexpr std::size_t rows = 44;
+    static constexpr std::size_t columns = 7;
 
     /// Rows and columns count from 1: reference, impedance in ohms, velocity factor, pF/m, outer diameter in mm,
     /// dielectric, maximum RMS voltage.
-    std::array<std::array<std::string, colonnes + 1>, lignes + 1> TableCoaxiaux;
+    std::array<std::array<std::string, columns + 1>, rows + 1> TableCoaxiaux;
     Integer ColonneCritere; ///< the column that is searched, 2 to 7
 };
 
