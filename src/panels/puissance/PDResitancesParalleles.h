@@ -48,9 +48,9 @@ public:
     MaskEdBox MebUs{this, "MebUs", mesure(8700, 2580, Label2)};
     Label Label2{this, "Label2", unitOf(MebUs, "Volts", 540)};
 
-    Label LblRvrai{this, "LblRvrai", deuxLignes(2400, "Résitance vue de l'alimentation")};
+    Label LblRvrai{this, "LblRvrai", legendeSurDeuxLignes(2400, "Résitance vue de l'alimentation")};
     TextBox TxtRAlim{this, "TxtRAlim", resultat(LblRvrai)};
-    Label Label4{this, "Label4", deuxLignes(3000, "R équivalente Pot-R2-Rc")};
+    Label Label4{this, "Label4", legendeSurDeuxLignes(3000, "R équivalente Pot-R2-Rc")};
     TextBox TxtPotR2Rc{this, "TxtPotR2Rc", resultat(Label4)};
 
 private:
@@ -58,9 +58,9 @@ private:
     {
         return {.at = {left, top, 1260, 315}, .BackColor = resultColor, .label = &unite};
     }
-    static Label::Design deuxLignes(double top, const char* legende)
+    static Label::Design legendeSurDeuxLignes(double top, const char* text)
     {
-        return {.Caption = legende, .at = {240, top, 1590, 510}};
+        return {.Caption = text, .at = {240, top, 1590, 510}};
     }
     /// Level with the middle of the two lines, under the inputs.
     static TextBox::Design resultat(Label& legende)

@@ -29,7 +29,7 @@ public:
     TextBox TxtDevTot{this, "TxtDevTot", deviation.input(LblDevTot), &Me::TxtDevTot_Change};
 
     Shape Cadre2{this, "Cadre2", {.at = {240, 1440, 9660, 1980}}};
-    OptionButton OptCourant{this, "OptCourant", mode(Cadre2, "Calcul Résitance Parallèle"), &Me::OptCourant_Click};
+    OptionButton OptCourant{this, "OptCourant", option(Cadre2, "Calcul Résitance Parallèle"), &Me::OptCourant_Click};
     Label LblImax{this, "LblImax", amperemetre.caption(0, "Courant max à mesurer (A)")};
     TextBox TxtImax{this, "TxtImax", amperemetre.input(LblImax), &Me::TxtImax_Change};
     Label LblIShunt{this, "LblIShunt", amperemetre.caption(1, "Valeur du shunt")};
@@ -40,7 +40,7 @@ public:
     Label LblACourant{this, "LblACourant", letter("A", SchemaCourant.at(), 0.500, 0.250)};
 
     Shape Cadre3{this, "Cadre3", {.at = {240, 3540, 9660, 1560}}};
-    OptionButton OptTension{this, "OptTension", mode(Cadre3, "Calcul  Résitance Série"), &Me::OptTension_Click};
+    OptionButton OptTension{this, "OptTension", option(Cadre3, "Calcul  Résitance Série"), &Me::OptTension_Click};
     Label LblTensionMax{this, "LblTensionMax", voltmetre.caption(0, "Tension max à mesurer (V)")};
     TextBox TxtUmax{this, "TxtUmax", voltmetre.input(LblTensionMax), &Me::TxtUmax_Change};
     Label LblVShunt{this, "LblVShunt", voltmetre.caption(1, "Valeur du shunt")};
@@ -50,9 +50,9 @@ public:
     Label LblATension{this, "LblATension", letter("A", SchemaTension.at(), 0.683, 0.618)};
 
 private:
-    static OptionButton::Design mode(const Shape& cadre, const char* texte)
+    static OptionButton::Design option(const Shape& cadre, const char* text)
     {
-        return {.Caption = texte, .at = {420, cadre.at().Top + 105, 2940, 300}};
+        return {.Caption = text, .at = {420, cadre.at().Top + 105, 2940, 300}};
     }
     static TextBox::Design shunt(Label& legende)
     {
@@ -62,9 +62,9 @@ private:
         return design;
     }
     /// Over the drawing that it names.
-    static Label::Design titre(const Shape& cadre, const char* texte)
+    static Label::Design titre(const Shape& cadre, const char* text)
     {
-        return {.Caption = texte,
+        return {.Caption = text,
             .at = {6120, cadre.at().Top + 90, 3600, 315},
             .align = Align::Center,
             .font = {.bold = true}};

@@ -20,11 +20,11 @@ struct Tole {
 };
 constexpr Table<Tole, 2> toles{{{{"3.6 W/Kg", 1.2}, {"1.1 à 1.6 W/Kg", 1}, {"0.6 W/Kg", 0.8}}}};
 
-/// The straight line between two rows of a table, as a fraction of 1.
-Double interpole(Double P, const Table<Double, 8>& puissances, const Table<Double, 8>& pourcents, int i)
+/// Linear interpolation between the rows i and i + 1 of a table of percentages, as a fraction of 1.
+Double interpolation(Double P, const Table<Double, 8>& puissances, const Table<Double, 8>& pourcentages, int i)
 {
-    return (pourcents(i)
-               + ((P - puissances(i)) / (puissances(i + 1) - puissances(i))) * (pourcents(i + 1) - pourcents(i)))
+    return (pourcentages(i)
+               + ((P - puissances(i)) / (puissances(i + 1) - puissances(i))) * (pourcentages(i + 1) - pourcentages(i)))
         / 100;
 }
 
@@ -141,7 +141,7 @@ Double Transformateur::NetaTransfo(Double P)
         const bool above = P > PuissRendement(i);
         const bool within = P <= PuissRendement(i + 1); // read in any case
         if (above && within)
-            return interpole(P, PuissRendement, Rendement, i);
+            return interpolation(P, PuissRendement, Rendement, i);
     }
 }
 
@@ -150,7 +150,7 @@ Double Transformateur::PerteFil(Double P)
 {
     for (int i = 0; i <= 7; ++i)
         if (P >= PuissPerteFil(i) && P <= PuissPerteFil(i + 1))
-            return interpole(P, PuissPerteFil, PerteFilPourcent, i);
+            return interpolation(P, PuissPerteFil, PerteFilPourcent, i);
     return 0;
 }
 

@@ -22,15 +22,15 @@ public:
     static constexpr Color cyan = 0xFFFF00;
     static constexpr Column enroulements{.left = 240, .captions = 4560, .inputs = 480};
     // The table of the secondaries.
-    static constexpr double secondaires = 780;
-    static constexpr Column tensions{.left = 240, .captions = 720, .inputs = 1080, .top = secondaires};
-    static constexpr Column courants{.left = 2310, .captions = 720, .inputs = 1080, .top = secondaires};
+    static constexpr double tableTop = 780;
+    static constexpr Column tensions{.left = 240, .captions = 720, .inputs = 1080, .top = tableTop};
+    static constexpr Column courants{.left = 2310, .captions = 720, .inputs = 1080, .top = tableTop};
     static constexpr Column puissances{
-        .left = 4380, .captions = 720, .results = 1080, .top = secondaires, .resultBackground = cyan};
+        .left = 4380, .captions = 720, .results = 1080, .top = tableTop, .resultBackground = cyan};
     static constexpr Column spires{
-        .left = 6450, .captions = 720, .results = 1080, .top = secondaires, .resultBackground = cyan};
+        .left = 6450, .captions = 720, .results = 1080, .top = tableTop, .resultBackground = cyan};
     static constexpr Column fils{
-        .left = 8520, .captions = 1260, .results = 1080, .top = secondaires, .resultBackground = cyan};
+        .left = 8520, .captions = 1260, .results = 1080, .top = tableTop, .resultBackground = cyan};
     static constexpr Column totaux{
         .left = 240, .captions = 2280, .inputs = 1620, .results = 1620, .top = 2460, .resultBackground = cyan};
     static constexpr Column noyau = totaux.from(3240);
@@ -43,7 +43,7 @@ public:
 
     /// A row of the table of the secondaries: the Tab key goes along it.
     struct Secondaire {
-        Secondaire(Me* panel, int row) : feuille{panel}, i{row} { }
+        Secondaire(Me* panel, int index) : feuille{panel}, i{index} { }
 
         Me* feuille;
         int i;
