@@ -7,13 +7,13 @@ namespace ondelis {
 FiltreEliminationBande::FiltreEliminationBande(Runtime& runtime)
     : SectionBande{runtime, "FiltreEliminationBande", "Filtre à élimination de bande",
         {.picture = "elimination-bande",
-            .captionF1 = "Fréquence de début en Hz",
-            .captionF2 = "Fréquence de fin en Hz",
-            .letterL1 = letter("L1", drawing, 0.632, 0.459),
-            .letterC1 = letter("C1", drawing, 0.649, 0.767),
-            .letterL2 = letter("L2", drawing, 0.333, 0.108),
-            .letterC2 = letter("C2", drawing, 0.333, 0.526),
-            .letterZ = letter("Z", drawing, 0.934, 0.610)}}
+            .legendeF1 = "Fréquence de début en Hz",
+            .legendeF2 = "Fréquence de fin en Hz",
+            .lettreL1 = letter("L1", drawing, 0.632, 0.459),
+            .lettreC1 = letter("C1", drawing, 0.649, 0.767),
+            .lettreL2 = letter("L2", drawing, 0.333, 0.108),
+            .lettreC2 = letter("C2", drawing, 0.333, 0.526),
+            .lettreZ = letter("Z", drawing, 0.934, 0.610)}}
 {
 }
 

@@ -12,7 +12,7 @@ namespace ondelis {
 void FiltreEnDoublePi::Form_Load()
 {
     resumeNext({
-        [&] { Echelle = 1000000; },
+        [&] { FacteurMHz = 1000000; },
         [&] { TxtF0.Text = CStr(7.1); },
         [&] { TxtBP.Text = "1"; },
         [&] { TxtZin.Text = "50"; },
@@ -42,10 +42,10 @@ void FiltreEnDoublePi::TxtZout_Change()
 
 void FiltreEnDoublePi::CalculerDoublePi()
 {
-    const Double F0 = Controler(Val(TxtF0.Text) * Echelle);
+    const Double F0 = Controler(Val(TxtF0.Text) * FacteurMHz);
     if (F0 == 0)
         return;
-    const Double BP = Controler(Val(TxtBP.Text) * Echelle);
+    const Double BP = Controler(Val(TxtBP.Text) * FacteurMHz);
     if (BP == 0)
         return;
     const Double Zi = Controler(Val(TxtZin.Text));
@@ -78,15 +78,15 @@ void FiltreEnDoublePi::CalculerDoublePi()
     TxtC3.Text = TraitementMultiplicateur(Cb + Cd);
     TxtL2.Text = TraitementMultiplicateur(Ld + Le);
     TxtC4.Text = TraitementMultiplicateur(C4);
-    Bobiner();
+    RemplirNombreSpires();
 }
 
-Double FiltreEnDoublePi::Controler(Double v)
+Double FiltreEnDoublePi::Controler(Double valeur)
 {
-    return ControleSigne(v, [this](const std::string& prompt) { MsgBox(prompt); });
+    return ControleSigne(valeur, [this](const std::string& prompt) { MsgBox(prompt); });
 }
 
-void FiltreEnDoublePi::Bobiner()
+void FiltreEnDoublePi::RemplirNombreSpires()
 {
     auto& spires = runtime().get<CalculNombreSpires>();
     spires.TxtS.Text = CStr(Val(TxtL1.Text)); // the figure without its multiplier word

@@ -22,15 +22,15 @@ public:
     Label Label19{this, "Label19",
         {.Caption = "Entrer vos valeurs dans les champs sur fond vert", .at = {240, saisies.at(0).Top, 5040, 255}}};
     Label Label8{this, "Label8", saisies.caption(2, "Fréquence centrale")};
-    TextBox TxtF0{this, "TxtF0", champ(Label8), &Me::TxtF0_Change};
+    TextBox TxtF0{this, "TxtF0", saisie(Label8), &Me::TxtF0_Change};
     Label Label10{this, "Label10", unitOf(TxtF0, "MHz", 540)};
     Label Label9{this, "Label9", saisies.caption(3, "Bande passante")};
-    TextBox TxtBP{this, "TxtBP", champ(Label9), &Me::TxtBP_Change};
+    TextBox TxtBP{this, "TxtBP", saisie(Label9), &Me::TxtBP_Change};
     Label Label11{this, "Label11", unitOf(TxtBP, "MHz", 540)};
     Label Label1{this, "Label1", saisies.caption(4, "Z in en Ohms")};
-    TextBox TxtZin{this, "TxtZin", champ(Label1), &Me::TxtZin_Change};
+    TextBox TxtZin{this, "TxtZin", saisie(Label1), &Me::TxtZin_Change};
     Label Label7{this, "Label7", saisies.caption(5, "Z out en Ohms")};
-    TextBox TxtZout{this, "TxtZout", champ(Label7), &Me::TxtZout_Change};
+    TextBox TxtZout{this, "TxtZout", saisie(Label7), &Me::TxtZout_Change};
 
     Image Schema{this, "Schema", {.picture = "double-pi", .at = drawing}};
     Label Label2{this, "Label2", letter("C1", drawing, 0.159, 0.567)};
@@ -52,7 +52,7 @@ private:
     static constexpr double dessus = 240; ///< the top of the results over the drawing
     static constexpr double dessous = drawing.Top + drawing.Height + 60; ///< of those under it
 
-    static TextBox::Design champ(Label& legende)
+    static TextBox::Design saisie(Label& legende)
     {
         TextBox::Design design = saisies.input(legende);
         design.BackColor = givenColor;
@@ -72,10 +72,10 @@ private:
     void TxtZin_Change();
     void TxtZout_Change();
     void CalculerDoublePi();
-    Double Controler(Double v);
-    void Bobiner();
+    Double Controler(Double valeur);
+    void RemplirNombreSpires();
 
-    Double Echelle; ///< hertz in a megahertz
+    Double FacteurMHz; ///< hertz in a megahertz
 };
 
 } // namespace ondelis

@@ -7,13 +7,13 @@ namespace ondelis {
 FiltrePasseBande::FiltrePasseBande(Runtime& runtime)
     : SectionBande{runtime, "FiltrePasseBande", "Filtre passe-bande",
         {.picture = "passe-bande",
-            .captionF1 = "Fréquence d'ouverture en Hz",
-            .captionF2 = "Fréquence de coupure en Hz",
-            .letterL1 = letter("L1", drawing, 0.512, 0.587),
-            .letterC1 = letter("C1", drawing, 0.735, 0.587),
-            .letterL2 = letter("L2", drawing, 0.200, 0.166),
-            .letterC2 = letter("C2", drawing, 0.407, 0.137),
-            .letterZ = letter("Z", drawing, 0.934, 0.587)}}
+            .legendeF1 = "Fréquence d'ouverture en Hz",
+            .legendeF2 = "Fréquence de coupure en Hz",
+            .lettreL1 = letter("L1", drawing, 0.512, 0.587),
+            .lettreC1 = letter("C1", drawing, 0.735, 0.587),
+            .lettreL2 = letter("L2", drawing, 0.200, 0.166),
+            .lettreC2 = letter("C2", drawing, 0.407, 0.137),
+            .lettreZ = letter("Z", drawing, 0.934, 0.587)}}
 {
 }
 
@@ -48,7 +48,7 @@ Double FiltrePasseBande::Capa1(Double d) const
 
 Double FiltrePasseBande::Capa2(Double d) const
 {
-    return d / (Pi() * 4 * Z * d); // the band stands above and below: its width does not count
+    return d / (Pi() * 4 * Z * d); // d cancels out: the bandwidth does not matter
 }
 
 } // namespace ondelis

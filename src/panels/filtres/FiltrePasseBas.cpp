@@ -8,10 +8,10 @@ namespace ondelis {
 FiltrePasseBas::FiltrePasseBas(Runtime& runtime)
     : SectionPasse{runtime, "FiltrePasseBas", "Filtre passe-bas",
         {.picture = "passe-bas",
-            .formulaL = "L = Z / ( Pi * F )",
-            .formulaC = "C = 1 / ( Pi *Z * F )",
-            .letterL = letter("L", drawing, 0.330, 0.193),
-            .letterC = letter("C", drawing, 0.641, 0.601)}}
+            .formuleL = "L = Z / ( Pi * F )",
+            .formuleC = "C = 1 / ( Pi *Z * F )",
+            .lettreL = letter("L", drawing, 0.330, 0.193),
+            .lettreC = letter("C", drawing, 0.641, 0.601)}}
 {
 }
 
@@ -33,7 +33,7 @@ Double FiltrePasseBas::C() const
     return 1 / (Pi() * Z * F);
 }
 
-void FiltrePasseBas::Bobiner(CalculNombreSpires& spires)
+void FiltrePasseBas::CompleterNombreSpires(CalculNombreSpires& spires)
 {
     spires.TxtD.Text = "1";
 }

@@ -13,7 +13,7 @@ private:
     void Form_Load() override;
     [[nodiscard]] Double L() const override;
     [[nodiscard]] Double C() const override;
-    void Bobiner(CalculNombreSpires& spires) override;
+    void CompleterNombreSpires(CalculNombreSpires& spires) override;
 };
 
 } // namespace ondelis

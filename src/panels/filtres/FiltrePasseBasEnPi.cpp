@@ -7,7 +7,7 @@
 namespace ondelis {
 namespace {
 
-constexpr int ouiNon = 4;
+constexpr int yesNo = 4; // the buttons of a box
 
 const std::string promptPi = "La valeur du déphasage défini le type de filtre :\n\n"
                              "\tP > Pm ==> Pi conventionnel\n"
@@ -23,16 +23,16 @@ const std::string promptL = "Un filtre en L nécessite que P = Pm et Q = Qm.\n\n
                             "Vous ne pourrez modifier ni le déphasage ni la qualité\n\n"
                             "Voulez vous continuer ?";
 
-/// Shows a number with three decimals, cut.
-void Afficher(TextBox& champ, Double x)
+/// Shows a number, truncated to three decimals.
+void Afficher(TextBox& champ, Double valeur)
 {
-    champ.Text = CStr(Truncate(x, 1000));
+    champ.Text = CStr(Truncate(valeur, 1000));
 }
 
 /// Shows a component; its value goes once through its 15-digit text.
-void Afficher(Label& label, const char* legende, TextBox& champ, Double valeur)
+void Afficher(Label& legende, const char* text, TextBox& champ, Double valeur)
 {
-    label.Caption = legende;
+    legende.Caption = text;
     champ.Text = CStr(valeur);
     Afficher(champ, CDbl(champ.Text));
 }
@@ -67,17 +67,17 @@ void FiltrePasseBasEnPi::TxtRin_Change()
 {
     R = CDbl(TxtRin.Text);
     if (R > r && TxtRout.Text != "")
-        GrandeursDeBase();
+        CalculerDepuisResistances();
 }
 
 void FiltrePasseBasEnPi::TxtRout_Change()
 {
     r = CDbl(TxtRout.Text);
     if (R > r && TxtRin.Text != "")
-        GrandeursDeBase();
+        CalculerDepuisResistances();
 }
 
-void FiltrePasseBasEnPi::GrandeursDeBase()
+void FiltrePasseBasEnPi::CalculerDepuisResistances()
 {
     N = Sqr(r * R);
     TxtN.Text = CStr(N);
@@ -93,27 +93,27 @@ void FiltrePasseBasEnPi::GrandeursDeBase()
 void FiltrePasseBasEnPi::LstType_Click()
 {
     if (LstType.ListIndex == 0) {
-        if (MsgBox(promptPi, ouiNon, "Filtre en Pi") != Answer::Yes)
+        if (MsgBox(promptPi, yesNo, "Filtre en Pi") != Answer::Yes)
             return;
-        Choisir(ConvPi);
+        ChoisirSchema(ConvPi);
         Qscroll.Visible = true;
         Pscroll.Visible = true;
         Calculer();
         ZComplexes(P);
         PiNetwork();
     } else if (LstType.ListIndex == 1) {
-        if (MsgBox(promptT, ouiNon, "Filtre en T") != Answer::Yes)
+        if (MsgBox(promptT, yesNo, "Filtre en T") != Answer::Yes)
             return;
-        Choisir(ConvT);
+        ChoisirSchema(ConvT);
         Qscroll.Visible = true;
         Pscroll.Visible = true;
         Calculer();
         ZComplexes(P);
         TNetwork();
     } else if (LstType.ListIndex == 2) {
-        if (MsgBox(promptL, ouiNon, "Filtre en L") != Answer::Yes)
+        if (MsgBox(promptL, yesNo, "Filtre en L") != Answer::Yes)
             return;
-        Choisir(Lnet);
+        ChoisirSchema(Lnet);
         Qscroll.Value = CInt(Qm * 10);
         Qscroll.Visible = false;
         Pscroll.Value = CInt(Pc * 100 / D); // Pc of the last pass, and not Pm
@@ -176,8 +176,8 @@ void FiltrePasseBasEnPi::QCompute()
         Pscroll.Value = CInt(Pc * 100 / D);
     else
         Pscroll.Value = CInt(Pu * 100 / D);
-    ZComplexes(P); // as the last place of the bar has left them
-    Reseau();
+    ZComplexes(P); // P as the last store into the bar has left it
+    AfficherReseau();
 }
 
 void FiltrePasseBasEnPi::PCompute()
@@ -189,18 +189,18 @@ void FiltrePasseBasEnPi::PCompute()
     Resoudre();
     P = (Pscroll.Value / 100) * D;
     ZComplexes(P);
-    Reseau();
+    AfficherReseau();
 }
 
 /// Takes the network of the last pass off the screen; the component values stay.
 void FiltrePasseBasEnPi::Effacer()
 {
-    for (Label* label : {&LblXa, &LblXb, &LblXc, &LblX1, &LblX2, &LblX3, &LblInfo})
-        label->Visible = false;
+    for (Label* legende : {&LblXa, &LblXb, &LblXc, &LblX1, &LblX2, &LblX3, &LblInfo})
+        legende->Visible = false;
     for (TextBox* champ : {&TxtXa, &TxtXb, &TxtXc, &TxtX1, &TxtX2, &TxtX3})
         champ->Visible = false;
-    for (PictureBox* dessin : {&Lnet, &ConvPi, &UnconvPi, &ConvT, &UnconvT})
-        dessin->Visible = false;
+    for (PictureBox* schema : {&Lnet, &ConvPi, &UnconvPi, &ConvT, &UnconvT})
+        schema->Visible = false;
     TxtQc.Text = "";
     TxtQu.Text = "";
 }
@@ -272,13 +272,13 @@ Double FiltrePasseBasEnPi::DephasageConv() const
     return ArcCos((2 * (Sqr(T) + Sqr(1 / T)) - Q * Sqr(A())) / (Pow(Q, 2) + 4));
 }
 
-void FiltrePasseBasEnPi::ZComplexes(Double phase)
+void FiltrePasseBasEnPi::ZComplexes(Double dephasage)
 {
-    Xa = N * Sin(phase) / (Cos(phase) * Sqr(1 / T) - 1);
+    Xa = N * Sin(dephasage) / (Cos(dephasage) * Sqr(1 / T) - 1);
     Afficher(TxtXa, Xa);
-    Xb = N * Sin(phase);
+    Xb = N * Sin(dephasage);
     Afficher(TxtXb, Xb);
-    Xc = N * Sin(phase) / (Cos(phase) * Sqr(T) - 1);
+    Xc = N * Sin(dephasage) / (Cos(dephasage) * Sqr(T) - 1);
     Afficher(TxtXc, Xc);
     X1 = -Pow(N, 2) / Xc;
     Afficher(TxtX1, X1);
@@ -288,7 +288,7 @@ void FiltrePasseBasEnPi::ZComplexes(Double phase)
     Afficher(TxtX3, X3);
 }
 
-void FiltrePasseBasEnPi::Reseau()
+void FiltrePasseBasEnPi::AfficherReseau()
 {
     if (LstType.ListIndex == 0)
         PiNetwork();
@@ -357,28 +357,28 @@ void FiltrePasseBasEnPi::LNetwork()
     Afficher(LblL1, "L1 µH", TxtL1, Ind(Xb));
 }
 
-void FiltrePasseBasEnPi::MontrerPi(PictureBox& dessin)
+void FiltrePasseBasEnPi::MontrerPi(PictureBox& schema)
 {
-    dessin.Visible = true;
-    for (Label* label : {&LblXa, &LblXb, &LblXc, &LblC2})
-        label->Visible = true;
+    schema.Visible = true;
+    for (Label* legende : {&LblXa, &LblXb, &LblXc, &LblC2})
+        legende->Visible = true;
     for (TextBox* champ : {&TxtXa, &TxtXb, &TxtXc, &TxtC2})
         champ->Visible = true;
 }
 
-void FiltrePasseBasEnPi::MontrerT(PictureBox& dessin)
+void FiltrePasseBasEnPi::MontrerT(PictureBox& schema)
 {
-    dessin.Visible = true;
-    for (Label* label : {&LblX1, &LblX2, &LblX3, &LblC2})
-        label->Visible = true;
+    schema.Visible = true;
+    for (Label* legende : {&LblX1, &LblX2, &LblX3, &LblC2})
+        legende->Visible = true;
     for (TextBox* champ : {&TxtX1, &TxtX2, &TxtX3, &TxtC2})
         champ->Visible = true;
 }
 
-void FiltrePasseBasEnPi::Choisir(PictureBox& dessin)
+void FiltrePasseBasEnPi::ChoisirSchema(PictureBox& schema)
 {
     for (PictureBox* autre : {&ConvPi, &UnconvPi, &ConvT, &UnconvT, &Lnet})
-        autre->Visible = autre == &dessin;
+        autre->Visible = autre == &schema;
 }
 
 Double FiltrePasseBasEnPi::Cap(Double x) const

@@ -26,11 +26,11 @@ public:
     static constexpr Column composants = droite.from(reactances.top);
 
     Label LblFreq{this, "LblFreq", {.Caption = "Frequence MHz", .at = {240, 270, 1500, 255}}};
-    TextBox TxtFreq{this, "TxtFreq", champ(LblFreq), &Me::TxtFreq_Change};
+    TextBox TxtFreq{this, "TxtFreq", saisie(LblFreq), &Me::TxtFreq_Change};
     Label LblRin{this, "LblRin", resistances.caption(0, "R entree")};
-    TextBox TxtRin{this, "TxtRin", champ(LblRin), &Me::TxtRin_Change};
+    TextBox TxtRin{this, "TxtRin", saisie(LblRin), &Me::TxtRin_Change};
     Label LblRout{this, "LblRout", resistances.caption(1, "r sortie")};
-    TextBox TxtRout{this, "TxtRout", champ(LblRout), &Me::TxtRout_Change};
+    TextBox TxtRout{this, "TxtRout", saisie(LblRout), &Me::TxtRout_Change};
     Label Label21{this, "Label21",
         {.Caption = "R > r", .at = {1140, LblRout.at().Top, 600, 255}, .ForeColor = red, .align = Align::Center}};
 
@@ -51,13 +51,13 @@ public:
 
     Label LblQQ{this, "LblQQ", reglages.caption(0, "Q")};
     HScrollBar Qscroll{this, "Qscroll",
-        {.Min = 10, .Max = 1000, .Value = 10, .LargeChange = 10, .at = barre(LblQQ), .label = &LblQQ},
+        {.Min = 10, .Max = 1000, .Value = 10, .LargeChange = 10, .at = placeDeLaBarre(LblQQ), .label = &LblQQ},
         &Me::Qscroll_Change};
     Label LblQ{this, "LblQ", qualite.caption(0, "Q")};
     TextBox TxtQ{this, "TxtQ", qualite.result(LblQ)};
     Label LblP{this, "LblP", reglages.caption(1, "P désiré")};
     HScrollBar Pscroll{this, "Pscroll",
-        {.Min = 1, .Max = 17999, .Value = 100, .LargeChange = 100, .at = barre(LblP), .label = &LblP},
+        {.Min = 1, .Max = 17999, .Value = 100, .LargeChange = 100, .at = placeDeLaBarre(LblP), .label = &LblP},
         &Me::Pscroll_Change};
 
     Label LblN{this, "LblN", gauche.caption(0, "N")};
@@ -100,18 +100,18 @@ public:
     Label Label23{this, "Label23", {.at = {240, reactances.at(3.25).Top, 6900, 255}}};
 
 private:
-    /// The cases that the signs of the reactances of the Pi make.
+    /// The signs of the reactances of the Pi tell these cases apart.
     enum class Cas { Conventionnel, NonConventionnel, Aucun };
 
-    static TextBox::Design champ(Label& legende)
+    static TextBox::Design saisie(Label& legende)
     {
         return {.at = {1800, legende.at().Top - 30, 1080, 315}, .BackColor = givenColor, .label = &legende};
     }
-    static Picture::Design schema(const char* dessin)
+    static Picture::Design schema(const char* picture)
     {
-        return {.picture = dessin, .at = {3060, 240, 4020, 2145}, .Visible = false};
+        return {.picture = picture, .at = {3060, 240, 4020, 2145}, .Visible = false};
     }
-    static Box barre(const Label& legende) { return {1320, legende.at().Top, 4440, 255}; }
+    static Box placeDeLaBarre(const Label& legende) { return {1320, legende.at().Top, 4440, 255}; }
 
     void Form_Load() override;
     void TxtFreq_Change();
@@ -121,7 +121,7 @@ private:
     void Qscroll_Change();
     void Pscroll_Change();
 
-    void GrandeursDeBase();
+    void CalculerDepuisResistances();
 
     // The solver in three passes, made of the steps below them. A store into a bar may run a whole pass inside the
     // present one, which then continues with the variables as that left them.
@@ -137,15 +137,15 @@ private:
     [[nodiscard]] Double DephasageNonConv() const;
     [[nodiscard]] Double DephasageConv() const;
 
-    void ZComplexes(Double phase);
-    void Reseau();
+    void ZComplexes(Double dephasage);
+    void AfficherReseau();
     void PiNetwork();
     void TNetwork();
     void LNetwork();
     [[nodiscard]] Cas CasDuReseau() const;
-    void MontrerPi(PictureBox& dessin);
-    void MontrerT(PictureBox& dessin);
-    void Choisir(PictureBox& dessin);
+    void MontrerPi(PictureBox& schema);
+    void MontrerT(PictureBox& schema);
+    void ChoisirSchema(PictureBox& schema);
     [[nodiscard]] Double Cap(Double x) const;
     [[nodiscard]] Double Ind(Double x) const;
 

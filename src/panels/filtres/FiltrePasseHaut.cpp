@@ -8,10 +8,10 @@ namespace ondelis {
 FiltrePasseHaut::FiltrePasseHaut(Runtime& runtime)
     : SectionPasse{runtime, "FiltrePasseHaut", "Filtre passe haut",
         {.picture = "passe-haut",
-            .formulaL = "L = Z / ( 4 * Pi * F )",
-            .formulaC = "C = 1 / (4 * Pi *Z * F )",
-            .letterL = letter("L", drawing, 0.624, 0.601),
-            .letterC = letter("C", drawing, 0.330, 0.159)}}
+            .formuleL = "L = Z / ( 4 * Pi * F )",
+            .formuleC = "C = 1 / (4 * Pi *Z * F )",
+            .lettreL = letter("L", drawing, 0.624, 0.601),
+            .lettreC = letter("C", drawing, 0.330, 0.159)}}
 {
 }
 
@@ -33,7 +33,7 @@ Double FiltrePasseHaut::C() const
     return 1 / (4 * Pi() * Z * F);
 }
 
-void FiltrePasseHaut::Bobiner(CalculNombreSpires& spires)
+void FiltrePasseHaut::CompleterNombreSpires(CalculNombreSpires& spires)
 {
     spires.TxtF.Text = "1";
     spires.TxtD.Text = "50";

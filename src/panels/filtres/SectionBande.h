@@ -14,43 +14,43 @@ namespace ondelis {
 class SectionBande : public FeuilleCalcul {
 public:
     /// Where the two forms differ.
-    struct Texts {
+    struct Variante {
         const char* picture;
-        const char* captionF1;
-        const char* captionF2;
-        Label::Design letterL1; ///< on the drawing, as the four below
-        Label::Design letterC1;
-        Label::Design letterL2;
-        Label::Design letterC2;
-        Label::Design letterZ;
+        const char* legendeF1;
+        const char* legendeF2;
+        Label::Design lettreL1; ///< on the drawing, as the four below
+        Label::Design lettreC1;
+        Label::Design lettreL2;
+        Label::Design lettreC2;
+        Label::Design lettreZ;
     };
 
     static constexpr Box drawing{675, 150, 4500, 2580};
 
-    SectionBande(Runtime& runtime, std::string name, std::string caption, const Texts& texts)
+    SectionBande(Runtime& runtime, std::string name, std::string caption, const Variante& variante)
         : FeuilleCalcul{runtime,
             {.name = std::move(name), .Caption = std::move(caption), .Width = 5970, .Height = 6255}},
-          texts_{texts}
+          variante_{variante}
     {
     }
 
 private:
-    const Texts texts_;
+    const Variante variante_;
 
 public:
     using Me = SectionBande;
     static constexpr Column valeurs{.left = 240, .captions = 2880, .top = 2940, .resultBackground = mainResultColor};
 
-    Image Schema{this, "Schema", {.picture = texts_.picture, .at = drawing}};
-    Label Label1{this, "Label1", texts_.letterL1};
-    Label Label5{this, "Label5", texts_.letterC1};
-    Label Label10{this, "Label10", texts_.letterL2};
-    Label Label11{this, "Label11", texts_.letterC2};
-    Label Label4{this, "Label4", texts_.letterZ};
+    Image Schema{this, "Schema", {.picture = variante_.picture, .at = drawing}};
+    Label Label1{this, "Label1", variante_.lettreL1};
+    Label Label5{this, "Label5", variante_.lettreC1};
+    Label Label10{this, "Label10", variante_.lettreL2};
+    Label Label11{this, "Label11", variante_.lettreC2};
+    Label Label4{this, "Label4", variante_.lettreZ};
 
-    Label Label6{this, "Label6", valeurs.caption(0, texts_.captionF1)};
+    Label Label6{this, "Label6", valeurs.caption(0, variante_.legendeF1)};
     TextBox TxtFreq1{this, "TxtFreq1", valeurs.input(Label6), &Me::TxtFreq1_Change};
-    Label Label2{this, "Label2", valeurs.caption(1, texts_.captionF2)};
+    Label Label2{this, "Label2", valeurs.caption(1, variante_.legendeF2)};
     TextBox TxtFreq2{this, "TxtFreq2", valeurs.input(Label2), &Me::TxtFreq2_Change};
     Label Label7{this, "Label7", valeurs.caption(2, "Impédance de charge")};
     TextBox TxtZCharge{this, "TxtZCharge", valeurs.input(Label7), &Me::TxtZCharge_Change};

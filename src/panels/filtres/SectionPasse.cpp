@@ -26,7 +26,7 @@ void SectionPasse::Calculer()
         TxtCapa.Text = TraitementMultiplicateur(C());
         auto& spires = runtime().get<CalculNombreSpires>();
         spires.TxtS.Text = CStr(Val(TxtSelf.Text)); // the figure without its multiplier word
-        Bobiner(spires);
+        CompleterNombreSpires(spires);
     }
 }
 

@@ -16,37 +16,37 @@ class CalculNombreSpires;
 class SectionPasse : public FeuilleCalcul {
 public:
     /// Where the two forms differ.
-    struct Texts {
+    struct Variante {
         const char* picture;
-        const char* formulaL;
-        const char* formulaC;
-        Label::Design letterL; ///< on the drawing
-        Label::Design letterC;
+        const char* formuleL;
+        const char* formuleC;
+        Label::Design lettreL; ///< on the drawing
+        Label::Design lettreC;
     };
 
     static constexpr Box drawing{675, 150, 4500, 2220};
 
-    SectionPasse(Runtime& runtime, std::string name, std::string caption, const Texts& texts)
+    SectionPasse(Runtime& runtime, std::string name, std::string caption, const Variante& variante)
         : FeuilleCalcul{runtime,
             {.name = std::move(name), .Caption = std::move(caption), .Width = 5970, .Height = 4980}},
-          texts_{texts}
+          variante_{variante}
     {
     }
 
 private:
-    const Texts texts_;
+    const Variante variante_;
 
 public:
     using Me = SectionPasse;
     static constexpr Column valeurs{.left = 240, .captions = 2880, .top = 2400, .resultBackground = mainResultColor};
 
-    Image Schema{this, "Schema", {.picture = texts_.picture, .at = drawing}};
-    Label Label1{this, "Label1", texts_.letterL};
-    Label Label5{this, "Label5", texts_.letterC};
+    Image Schema{this, "Schema", {.picture = variante_.picture, .at = drawing}};
+    Label Label1{this, "Label1", variante_.lettreL};
+    Label Label5{this, "Label5", variante_.lettreC};
     Label Label4{this, "Label4", letter("Z", drawing, 0.934, 0.601)};
 
-    Label Label2{this, "Label2", valeurs.caption(0, texts_.formulaL)};
-    Label Label3{this, "Label3", {.Caption = texts_.formulaC, .at = rightOf(Label2, 2430)}};
+    Label Label2{this, "Label2", valeurs.caption(0, variante_.formuleL)};
+    Label Label3{this, "Label3", {.Caption = variante_.formuleC, .at = rightOf(Label2, 2430)}};
     Label Label6{this, "Label6", valeurs.caption(1, "Fréquence de coupure en Hz")};
     TextBox TxtFreq{this, "TxtFreq", valeurs.input(Label6), &Me::TxtFreq_Change};
     Label Label7{this, "Label7", valeurs.caption(2, "Impédance de charge en Ohms")};
@@ -67,7 +67,7 @@ private:
     /// Farads.
     [[nodiscard]] virtual Double C() const = 0;
     /// Gives the panel of the number of turns, which has the inductor already, the rest of the coil.
-    virtual void Bobiner(CalculNombreSpires& spires) = 0;
+    virtual void CompleterNombreSpires(CalculNombreSpires& spires) = 0;
 
     void TxtFreq_Change();
     void TxtZCharge_Change();
