@@ -56,6 +56,10 @@ def lines_of(name):
     return {line.strip() for line in (SOURCES / name).read_text(encoding="utf-8").splitlines()}
 
 
+def floor_of(path):
+    return path.relative_to(SOURCES).parts[0]
+
+
 class Equivalents:
     """The changes that nobody can see, and why."""
 
@@ -83,7 +87,8 @@ class Trial:
 
     def __init__(self, build, paths, units):
         self.build, self.paths, self.units = build, paths, units  # units: by program, what is compiled for it
-        self.shared = all("panels" in path.parts for path in paths)
+        self.floor = floor_of(paths[0])
+        self.shared = self.floor == "panels"
         self.texts = {path: path.read_text(encoding="utf-8") for path in paths}
         self.result = Result("/".join(paths[0].relative_to(SOURCES).with_suffix("").parts), survivors=[])
         self.builder = Builder(build)
@@ -96,7 +101,7 @@ class Trial:
         found = []
         for path in self.paths:
             lines = self.texts[path].split("\n")
-            for change in sites.changes(self.texts[path], path.suffix == ".h" and "kit" not in path.parts):
+            for change in sites.changes(self.texts[path], path.suffix == ".h" and self.floor != "kit"):
                 if equivalents.has(path, lines[change.line - 1].strip(), change):
                     self.result.listed += 1
                 else:
@@ -221,7 +226,7 @@ def fails(command, number):
 
 
 def trial(build, paths):
-    floor = paths[0].relative_to(SOURCES).parts[0]
+    floor = floor_of(paths[0])
     test = f"test_{floor}"
     source = next((path for path in paths if path.suffix == ".cpp"), None)
     header = next((path for path in paths if path.suffix == ".h"), None)
@@ -245,10 +250,10 @@ def all_files():
     together = []
     for path in files:
         source = path.with_suffix(".cpp")
-        if path.suffix == ".h" and "panels" in path.parts and source in files:
+        if path.suffix == ".h" and floor_of(path) == "panels" and source in files:
             continue
         header = path.with_suffix(".h")
-        both = "panels" in path.parts and path.suffix == ".cpp" and header in files
+        both = floor_of(path) == "panels" and path.suffix == ".cpp" and header in files
         together.append([path, header] if both else [path])
     return together
 
