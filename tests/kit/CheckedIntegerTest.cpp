@@ -10,6 +10,12 @@
 namespace ondelis {
 namespace {
 
+TEST(CheckedInteger, startsAtZero)
+{
+    EXPECT_EQ(Integer{}.value(), 0);
+    EXPECT_EQ(Long{}.value(), 0);
+}
+
 TEST(CheckedInteger, integerHas16Bits)
 {
     EXPECT_EQ(Integer{-32768}.value(), -32768);
