@@ -17,12 +17,17 @@ namespace ondelis_mutants {
 #define ONDELIS_CONSTEXPR inline
 #endif
 
+/// The number of the change that is on; read once, as each operation on a number may ask.
+[[nodiscard]] inline int chosen()
+{
+    static const char* const words = std::getenv("ONDELIS_MUTANT");
+    static const int number = words == nullptr ? 0 : std::atoi(words);
+    return number;
+}
+
 [[nodiscard]] ONDELIS_CONSTEXPR bool on(int number)
 {
-    if (std::is_constant_evaluated())
-        return false;
-    const char* const chosen = std::getenv("ONDELIS_MUTANT");
-    return chosen != nullptr && std::atoi(chosen) == number;
+    return !std::is_constant_evaluated() && chosen() == number;
 }
 
 /// A literal that is another one while the change is on. Not a conditional: compilers take forever on lists of these.
