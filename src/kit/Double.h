@@ -113,7 +113,7 @@ private:
 
     [[noreturn]] static void throwFault(FaultKind kind);
 
-    double value_ = 0;
+    double value_ = 0; ///< never read beside a fault
     FaultKind fault_ = none;
 };
 

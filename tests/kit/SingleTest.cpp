@@ -9,6 +9,11 @@
 namespace ondelis {
 namespace {
 
+TEST(Single, startsAtZero)
+{
+    EXPECT_EQ(Double{Single{}}, 0);
+}
+
 TEST(Single, roundsWhenItIsStored)
 {
     EXPECT_EQ(Double{Single{Double{0.1}}}, 0.10000000149011612);

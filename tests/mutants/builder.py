@@ -132,11 +132,12 @@ class Builder:
         return wrapper
 
     def link(self, compiler, program, objects):
-        """Links a program of the build; the objects, by source, come in place of its own and before all libraries."""
+        """Links a program of the build; the objects, by source, come in place of its own, and before the others: of
+        what is inline, the first one counts."""
         path = self.folder / program
-        linked = {**self.build.own(program), **objects}
+        others = [obj for source, obj in self.build.own(program).items() if source not in objects]
         extra = [] if program == "pilote" else ["-lgtest_main", "-lgtest"]
-        done = subprocess.run([compiler, "-o", str(path), *map(str, linked.values()),
+        done = subprocess.run([compiler, "-o", str(path), *map(str, objects.values()), *map(str, others),
                                *map(str, self.build.libraries()), *extra], capture_output=True, text=True, check=False)
         if done.returncode:
             raise CompileError(done.stderr)

@@ -104,7 +104,7 @@ def one_token(text, code, index, header):
         return []
     if old == "!" and behind != "=":
         return [Change(start, end, old, "")]
-    if text[start - 1] != " " or text[end:end + 1] != " ":
+    if text[start - 1] != " " or text[end:end + 1] != " " or old in "+-" and in_template_argument(text, start, end):
         return []
     if old in LOGIC:
         return [Change(start, end, old, LOGIC[old])]
@@ -128,14 +128,19 @@ def numbers(text, code, index, header):
     old = token.group()
     before = code[index - 1].group() if index else ""
     earlier = text[text.rfind("\n", 0, start) + 1:start]
-    if re.search(r"<[^<>=;]*$", earlier) and re.match(r"[^<>=;()]*>", text[end:]):
-        return []  # a template's argument: the size of a table
+    if in_template_argument(text, start, end):
+        return []  # the size of a table
     if before == "case" or header and is_place(text, start, earlier) or re.match(r"\s*virtual .*= $", earlier):
         return []  # beside another label, or layout, or of a function that is left to others
     sign = ""
     if before == "-" and code[index - 1].end() == start and code[index - 2].group() in "(,={?:<>==!=return+-*/":
         start, sign = start - 1, "-"
     return [either(start, end, sign + old, new) for new in other_numbers(sign, old)]
+
+
+def in_template_argument(text, start, end):
+    earlier = text[text.rfind("\n", 0, start) + 1:start]
+    return re.search(r"<[^<>=;]*$", earlier) and re.match(r"[^<>=;()]*>", text[end:])
 
 
 def is_place(text, start, earlier):
